@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/values/Errors.h"
+
+namespace ado {
+
+/// A statement that the engine refused, or a file that cannot be opened. `text()` is the engine's text.
+class DatabaseError : public OperatorError
+{
+public:
+    explicit DatabaseError(const QString& text, bool lostWrites = false)
+        : OperatorError(text), m_lostWrites(lostWrites)
+    {
+    }
+
+    /// True when writes of the surrounding batch that had already succeeded are gone from the file.
+    bool lostWrites() const { return m_lostWrites; }
+
+private:
+    bool m_lostWrites;
+};
+
+/// A field was asked for, or a row was to be written, where no row stands.
+class NoCurrentRecordError : public DatabaseError
+{
+public:
+    NoCurrentRecordError()
+        : DatabaseError(QStringLiteral("Either BOF or EOF is True, or the current record has been deleted. "
+                                       "Requested operation requires a current record."))
+    {
+    }
+};
+
+} // namespace ado

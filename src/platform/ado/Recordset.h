@@ -1,0 +1,103 @@
+#pragma once
+
+#include "platform/ado/Connection.h"
+#include "platform/values/Currency.h"
+
+#include <QDate>
+#include <QString>
+#include <QVariant>
+#include <memory>
+
+namespace ado {
+
+/// What a field holds when it holds nothing.
+inline const QVariant Null;
+
+class Recordset;
+
+/// One field of the current row of a recordset: read it, or set it before the row is written.
+class Field
+{
+public:
+    /// Null reads as empty text, 0 or an invalid date; ask isNull() where the difference counts.
+    bool isNull() const;
+    QVariant value() const;
+    QString text() const;
+    /// Throws OverflowError above 32 bits.
+    qint32 integer() const;
+    double number() const;
+    Currency money() const;
+    QDate date() const;
+
+    /// Sets the field of the current (or new) row; written by Update or UpdateBatch. Takes QString, int, double, bool, QDate,
+    /// Currency (through its QVariant) and Null.
+    Field& operator=(const QVariant& value);
+    Field& operator=(Currency value);
+    Field(const Field&) = default;
+    Field& operator=(const Field&) = delete;
+
+private:
+    friend class Recordset;
+    Field(Recordset& owner, int column) : m_owner(owner), m_column(column) {}
+    Recordset& m_owner;
+    int m_column;
+};
+
+/// Rows of a query, with a cursor. Rows are read as the cursor reaches them; "the last row" is fetched directly.
+///
+/// - A query without an order comes in order of insertion.
+/// - Field names match in any case; an unknown name throws DatabaseError.
+/// - Rows of "Select * from <one table> ..." can be written. Values are brought to their column's form on the way in: money
+///   to four decimals (half to even), dates to ISO text, integers checked for 32 bits. A required field left out is refused.
+class Recordset
+{
+public:
+    /// `command` is the default source: a table name or a statement.
+    explicit Recordset(Connection& connection, const QString& command = {});
+    ~Recordset();
+    Recordset(const Recordset&) = delete;
+    Recordset& operator=(const Recordset&) = delete;
+
+    /// Runs the statement (closing first if open) and stands on the first row, if there is one. Throws DatabaseError.
+    void Open(const QString& sql);
+    /// The same with the default source.
+    void Open();
+    void Close();
+    /// True while open.
+    bool State() const;
+
+    /// The number of rows, rows added since included.
+    int RecordCount();
+    /// True behind the last row, and on an empty result.
+    bool AtEOF();
+    void MoveFirst();
+    void MoveNext();
+    void MoveLast();
+
+    /// Number, names of the columns.
+    int FieldCount() const;
+    QString FieldName(int column) const;
+    bool HasField(const QString& name) const;
+    /// Throws NoCurrentRecordError when there is no current row.
+    Field operator[](const QString& name);
+    Field operator[](const char* name) { return (*this)[QString::fromLatin1(name)]; }
+    Field operator[](int column);
+
+    /// Begins a new row; it becomes the current one.
+    void AddNew();
+    /// Writes the current row's changes. After it an autonumber of a new row can be read. Throws DatabaseError.
+    void Update();
+    /// Writes all rows changed or added since the last write, as one commit.
+    void UpdateBatch();
+
+    /// The child rows (chapter) of the current row of a SHAPE ... APPEND ({...} RELATE a TO b) AS name query.
+    Recordset& Chapter(const QString& name);
+
+private:
+    friend class Field;
+    friend class Connection;
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace ado

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <stdexcept>
+
+/// An error whose text is meant for the operator's eyes: whoever catches it shows `text()` as it stands.
+class OperatorError : public std::runtime_error
+{
+public:
+    explicit OperatorError(const QString& text) : std::runtime_error(text.toStdString()), m_text(text) {}
+
+    const QString& text() const { return m_text; }
+
+private:
+    QString m_text;
+};
+
+/// A number does not fit the place it is meant for (a 16-bit id above 32767, say).
+class OverflowError : public OperatorError
+{
+public:
+    OverflowError() : OperatorError(QStringLiteral("Overflow")) {}
+};
+
+/// A text cannot be read as the number or date that is asked for.
+class TypeMismatchError : public OperatorError
+{
+public:
+    TypeMismatchError() : OperatorError(QStringLiteral("Type mismatch")) {}
+};
+
+/// A row number lies outside its array.
+class SubscriptError : public OperatorError
+{
+public:
+    SubscriptError() : OperatorError(QStringLiteral("Subscript out of range")) {}
+};
