@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QKeyEvent>
+
+/// Keys as the screens know them. A key press is a character code (a letter's code, 13, 27, 8, 1 for Ctrl+A ...); a
+/// key-down is a key number (the page keys, arrows, F2 ...). In both 0 means: swallowed.
+namespace forms {
+
+namespace key {
+inline constexpr int Backspace = 8;
+inline constexpr int Tab = 9;
+inline constexpr int Enter = 13;
+inline constexpr int Escape = 27;
+inline constexpr int CtrlA = 1;
+inline constexpr int CtrlP = 16;
+inline constexpr int CtrlS = 19;
+// key-down numbers
+inline constexpr int PageUp = 33;
+inline constexpr int PageDown = 34;
+inline constexpr int End = 35;
+inline constexpr int Home = 36;
+inline constexpr int Left = 37;
+inline constexpr int Up = 38;
+inline constexpr int Right = 39;
+inline constexpr int Down = 40;
+inline constexpr int Delete = 46;
+inline constexpr int F1 = 112; // F2 is 113, and so on
+} // namespace key
+
+/// The character code of a key event; 0 when the key makes no character.
+int charCode(const QKeyEvent& event);
+/// The key number of a key event; 0 for a key that has none.
+int keyNumber(const QKeyEvent& event);
+
+} // namespace forms
