@@ -1,0 +1,238 @@
+#include "jobcards/clsJobCardData.h"
+
+#include "platform/values/Errors.h"
+#include "platform/values/Notice.h"
+
+#include <QTest>
+
+namespace {
+
+/// Adds a row whose fields all differ, told apart from other rows by `n`.
+void addFullRow(clsJobCardData& rows, int n)
+{
+    const auto text = [n](const char* field) {
+        return QStringLiteral("%1 %2").arg(QLatin1String(field)).arg(n);
+    };
+    rows.AddNewRow(n, text("name"), n + 100, n + 200, n + 0.25, n + 0.5, text("remarks"), text("details"),
+                   text("values"), n + 300, text("worker"), QDate(2024, 1, n), QDate(2024, 2, n),
+                   QDate(2024, 3, n), QDate(2024, 4, n), n + 400, n + 0.75, n + 500, text("loc"),
+                   text("img1"), text("img2"), text("color"), n + 600, text("feedback"), text("note"));
+}
+
+void addNamedRow(clsJobCardData& rows, const QString& name, qint64 sr = 0)
+{
+    rows.AddNewRow(sr, name, 1, 1, 10, 10, {}, {}, {}, 0, {}, {}, {}, {}, {}, 0, 0, 0, {}, {}, {}, {}, 0, {},
+                   {});
+}
+
+QStringList names(const clsJobCardData& rows)
+{
+    QStringList all;
+    for (qint16 i = 1; i <= rows.RowCount(); ++i)
+        all << rows.ItemName(i);
+    return all;
+}
+
+/// Every field of a row, as the getters give them.
+QVariantList fields(const clsJobCardData& rows, int i)
+{
+    return {rows.Sr(i),
+            rows.ItemName(i),
+            rows.ItemID(i),
+            rows.Qty(i),
+            rows.Fees(i),
+            rows.Amount(i),
+            rows.Remarks(i),
+            rows.ItemDetails(i),
+            rows.ItemDetailsValue(i),
+            rows.WorkerID(i),
+            rows.WorkerName(i),
+            rows.JobDelDate(i),
+            rows.CompletedDate(i),
+            rows.AltDate(i),
+            rows.DelToCustDate(i),
+            rows.DoneByWorker(i),
+            rows.WorkerWagesDue(i),
+            rows.MarkAsPaid(i),
+            rows.Loc(i),
+            rows.img1(i),
+            rows.img2(i),
+            rows.Color(i),
+            rows.Score(i),
+            rows.ClientFeedBack(i),
+            rows.ClientRemarks(i)};
+}
+
+} // namespace
+
+class tst_clsJobCardData : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void aRowKeepsEveryField();
+    void everySetterReachesItsOwnField();
+    void rowNumbersOutsideTheCard();
+    void removeMovesTheRowsUp();
+    void copyTakesEveryField();
+    void numbersPast16BitsChangeNothing();
+    void aCardHolds32767Rows();
+
+private:
+    QStringList m_notices;
+};
+
+void tst_clsJobCardData::init()
+{
+    m_notices.clear();
+    values::setCriticalNotice([this](const QString& text) { m_notices << text; });
+}
+
+void tst_clsJobCardData::cleanup() { values::setCriticalNotice({}); }
+
+void tst_clsJobCardData::aRowKeepsEveryField()
+{
+    clsJobCardData rows;
+    addFullRow(rows, 1);
+    addFullRow(rows, 2);
+    QCOMPARE(rows.RowCount(), 2);
+    const QVariantList second{
+        qint16(2),         "name 2",          qint16(102),       qint16(202), 2.25,        2.5,
+        "remarks 2",       "details 2",       "values 2",        qint16(302), "worker 2",  QDate(2024, 1, 2),
+        QDate(2024, 2, 2), QDate(2024, 3, 2), QDate(2024, 4, 2), qint16(402), 2.75,        qint16(502),
+        "loc 2",           "img1 2",          "img2 2",          "color 2",   qint16(602), "feedback 2",
+        "note 2"};
+    QCOMPARE(fields(rows, 2), second);
+    QVERIFY(m_notices.isEmpty());
+}
+
+void tst_clsJobCardData::everySetterReachesItsOwnField()
+{
+    clsJobCardData wanted;
+    addFullRow(wanted, 3);
+    clsJobCardData rows;
+    addNamedRow(rows, "first");
+    addNamedRow(rows, "second");
+    const QVariantList first = fields(rows, 1);
+
+    rows.SetSr(2, wanted.Sr(1));
+    rows.SetItemName(2, wanted.ItemName(1));
+    rows.SetItemID(2, wanted.ItemID(1));
+    rows.SetQty(2, wanted.Qty(1));
+    rows.SetFees(2, wanted.Fees(1));
+    rows.SetAmount(2, wanted.Amount(1));
+    rows.SetRemarks(2, wanted.Remarks(1));
+    rows.SetItemDetails(2, wanted.ItemDetails(1));
+    rows.SetItemDetailsValue(2, wanted.ItemDetailsValue(1));
+    rows.SetWorkerID(2, wanted.WorkerID(1));
+    rows.SetWorkerName(2, wanted.WorkerName(1));
+    rows.SetJobDelDate(2, wanted.JobDelDate(1));
+    rows.SetCompletedDate(2, wanted.CompletedDate(1));
+    rows.SetAltDate(2, wanted.AltDate(1));
+    rows.SetDelToCustDate(2, wanted.DelToCustDate(1));
+    rows.SetDoneByWorker(2, wanted.DoneByWorker(1));
+    rows.SetWorkerWagesDue(2, wanted.WorkerWagesDue(1));
+    rows.setMarkAsPaid(2, wanted.MarkAsPaid(1));
+    rows.SetLoc(2, wanted.Loc(1));
+    rows.SetImg1(2, wanted.img1(1));
+    rows.SetImg2(2, wanted.img2(1));
+    rows.SetColor(2, wanted.Color(1));
+    rows.SetScore(2, wanted.Score(1));
+    rows.SetClientFeedBack(2, wanted.ClientFeedBack(1));
+    rows.SetClientRemarks(2, wanted.ClientRemarks(1));
+
+    QCOMPARE(fields(rows, 2), fields(wanted, 1));
+    QCOMPARE(fields(rows, 1), first);
+}
+
+void tst_clsJobCardData::rowNumbersOutsideTheCard()
+{
+    clsJobCardData rows;
+    const QVariantList nothing = fields(rows, 0);
+    QVERIFY2(m_notices.isEmpty(), "row 0 is there, and empty");
+    QCOMPARE(rows.Score(0), 0);
+
+    QCOMPARE(fields(rows, 1), nothing);
+    QCOMPARE(m_notices, QStringList(25, "Index Out of Bound!"));
+
+    addNamedRow(rows, "only");
+    m_notices.clear();
+    rows.SetItemName(2, "beyond");
+    rows.SetFees(2, 9);
+    QCOMPARE(m_notices, QStringList(2, "Index Out of Bound!"));
+    QCOMPARE(names(rows), QStringList{"only"});
+
+    QVERIFY_EXCEPTION_THROWN(rows.ItemName(-1), SubscriptError);
+    QVERIFY_EXCEPTION_THROWN(rows.SetItemName(-1, "x"), SubscriptError);
+    QVERIFY_EXCEPTION_THROWN(rows.Copy(2), SubscriptError);
+    QVERIFY_EXCEPTION_THROWN(rows.Copy(-1), SubscriptError);
+    rows.SetRowCount(5);
+    QVERIFY_EXCEPTION_THROWN(rows.ItemName(4), SubscriptError);
+}
+
+void tst_clsJobCardData::removeMovesTheRowsUp()
+{
+    clsJobCardData rows;
+    for (const char* name : {"a", "b", "c", "d"})
+        addNamedRow(rows, QLatin1String(name));
+    rows.RemoveRow(2);
+    QCOMPARE(names(rows), QStringList({"a", "c", "d"}));
+    rows.RemoveRow(3);
+    QCOMPARE(names(rows), QStringList({"a", "c"}));
+    rows.RemoveRow(3);
+    rows.RemoveRow(100'000);
+    QCOMPARE(names(rows), QStringList({"a", "c"}));
+    QVERIFY(m_notices.isEmpty());
+
+    QVERIFY_EXCEPTION_THROWN(rows.RemoveRow(0), SubscriptError);
+    QVERIFY_EXCEPTION_THROWN(rows.RemoveRow(-1), SubscriptError);
+    QCOMPARE(names(rows), QStringList({"a", "c"}));
+
+    rows.RemoveRow(1);
+    rows.RemoveRow(1);
+    QCOMPARE(rows.RowCount(), 0);
+    QCOMPARE(rows.ItemName(0), QString());
+}
+
+void tst_clsJobCardData::copyTakesEveryField()
+{
+    clsJobCardData rows;
+    for (int n = 1; n <= 3; ++n)
+        addFullRow(rows, n);
+    rows.Copy(2);
+    QCOMPARE(rows.RowCount(), 4);
+    QCOMPARE(fields(rows, 4), fields(rows, 2));
+
+    rows.SetItemName(4, "changed");
+    QCOMPARE(rows.ItemName(2), "name 2");
+}
+
+void tst_clsJobCardData::numbersPast16BitsChangeNothing()
+{
+    clsJobCardData rows;
+    addNamedRow(rows, "stored", 32767);
+    QVERIFY_EXCEPTION_THROWN(addNamedRow(rows, "too high", 32768), OverflowError);
+    QCOMPARE(names(rows), QStringList{"stored"});
+
+    const QVariantList before = fields(rows, 1);
+    QVERIFY_EXCEPTION_THROWN(rows.SetSr(1, 32768), OverflowError);
+    QVERIFY_EXCEPTION_THROWN(rows.SetQty(1, -32769), OverflowError);
+    QVERIFY_EXCEPTION_THROWN(rows.SetScore(1, 100'000), OverflowError);
+    QVERIFY_EXCEPTION_THROWN(rows.ItemName(65'537), OverflowError);
+    QCOMPARE(fields(rows, 1), before);
+}
+
+void tst_clsJobCardData::aCardHolds32767Rows()
+{
+    clsJobCardData rows;
+    for (int n = 1; n <= 32'767; ++n)
+        addNamedRow(rows, {}, n);
+    QVERIFY_EXCEPTION_THROWN(addNamedRow(rows, "one more"), OverflowError);
+    QVERIFY_EXCEPTION_THROWN(rows.Copy(1), OverflowError);
+    QCOMPARE(rows.RowCount(), 32'767);
+    QCOMPARE(rows.Sr(32'767), 32'767);
+}
+
+QTEST_APPLESS_MAIN(tst_clsJobCardData)
+#include "tst_clsJobCardData.moc"
