@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QString>
-#include <compare>
 #include <QtGlobal>
+#include <compare>
 
 /// An amount of money: exact, four decimals, 64 bits wide (up to about 922 million million).
 /// Arithmetic that leaves the range throws OverflowError.

@@ -7,7 +7,11 @@
 class OperatorError : public std::runtime_error
 {
 public:
-    explicit OperatorError(const QString& text) : std::runtime_error(text.toStdString()), m_text(text) {}
+    explicit OperatorError(const QString& text)
+        : std::runtime_error(text.toStdString())
+        , m_text(text)
+    {
+    }
 
     const QString& text() const { return m_text; }
 
@@ -19,19 +23,28 @@ private:
 class OverflowError : public OperatorError
 {
 public:
-    OverflowError() : OperatorError(QStringLiteral("Overflow")) {}
+    OverflowError()
+        : OperatorError(QStringLiteral("Overflow"))
+    {
+    }
 };
 
 /// A text cannot be read as the number or date that is asked for.
 class TypeMismatchError : public OperatorError
 {
 public:
-    TypeMismatchError() : OperatorError(QStringLiteral("Type mismatch")) {}
+    TypeMismatchError()
+        : OperatorError(QStringLiteral("Type mismatch"))
+    {
+    }
 };
 
 /// A row number lies outside its array.
 class SubscriptError : public OperatorError
 {
 public:
-    SubscriptError() : OperatorError(QStringLiteral("Subscript out of range")) {}
+    SubscriptError()
+        : OperatorError(QStringLiteral("Subscript out of range"))
+    {
+    }
 };
