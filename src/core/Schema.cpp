@@ -1,0 +1,246 @@
+#include "core/Schema.h"
+
+#include "core/DE.h"
+#include "core/Session.h"
+#include "core/Settings.h"
+
+#include <QFile>
+
+namespace {
+
+enum class Rule { Required, Nullable, Autonumber };
+
+struct Column
+{
+    const char* name;
+    const char* type;
+    Rule rule = Rule::Required;
+    const char* defaultValue = nullptr;
+};
+
+struct Table
+{
+    const char* name;
+    std::vector<Column> columns;
+};
+
+constexpr const char* LongText = "LONGTEXT";
+constexpr const char* Integer = "INTEGER";
+constexpr const char* Money = "MONEY";
+constexpr const char* Double = "DOUBLE";
+constexpr const char* Date = "DATE";
+constexpr Column Id{"Id", Integer, Rule::Autonumber};
+
+const std::vector<Table>& tables()
+{
+    static const std::vector<Table> all = {
+        {"SHOP",
+         {Id,
+          {"NAME", LongText},
+          {"ADDRESS1", LongText, Rule::Nullable},
+          {"ADDRESS2", LongText, Rule::Nullable},
+          {"ADDRESS3", LongText, Rule::Nullable},
+          {"CONTACTS", LongText, Rule::Nullable}}},
+        {"ITEMS",
+         {Id,
+          {"NAME", LongText},
+          {"NAMEHindi", LongText, Rule::Nullable},
+          {"ItemDetails", LongText},
+          {"ItemDetailsHindi", LongText, Rule::Nullable},
+          {"FEES", Money},
+          {"WorkerFees", Money, Rule::Required, "0"},
+          {"OpPendingOrders", LongText, Rule::Nullable},
+          {"ProdcutionCap", LongText, Rule::Nullable},
+          {"PendingOrders", LongText, Rule::Nullable}}},
+        {"Accounts",
+         {Id,
+          {"Title", LongText},
+          {"Type", Integer},
+          {"Nature", Integer, Rule::Required, "0"},
+          {"ADDRESS", LongText, Rule::Nullable},
+          {"CITY", LongText, Rule::Nullable},
+          {"STATE", LongText, Rule::Nullable},
+          {"MOBILE", LongText, Rule::Nullable},
+          {"DOB", Date, Rule::Nullable},
+          {"readonly", Integer, Rule::Required, "0"}}},
+        // The number of a card is the program's choice: no autonumber here.
+        {"JOBS",
+         {{"Id", Integer, Rule::Required, "1"},
+          {"DATE", Date},
+          {"ClintID", Integer},
+          {"ClintName", LongText},
+          {"DeliveryDate", Date},
+          {"ClientDeliveryDate", Date, Rule::Nullable},
+          {"TrialDate", Date},
+          {"appeared", Integer, Rule::Required, "0"},
+          {"appearedDate", Date, Rule::Nullable},
+          {"AmountDue", Money},
+          {"AmountPaid", Money},
+          {"JobFinished", Integer},
+          {"Remark", LongText},
+          {"CashAccID", Integer, Rule::Required, "0"},
+          {"Status", Integer},
+          {"CancelReason", LongText}}},
+        {"JOBS_DETAIL",
+         {Id,
+          {"DATE", Date},
+          {"JobID", Integer},
+          {"ItemSr", Integer, Rule::Required, "0"},
+          {"ClintID", Integer},
+          {"ClintName", LongText},
+          {"ItemID", Integer},
+          {"ItemName", LongText},
+          {"QNT", Integer},
+          {"FEES", Money},
+          {"Amount", Money},
+          {"Remarks", LongText},
+          {"ItemDetails", LongText},
+          {"ItemDetailsValue", LongText},
+          {"WorkerID", Integer, Rule::Required, "0"},
+          {"WorkerName", LongText, Rule::Nullable},
+          {"JobDelDate", Date},
+          {"CompletedDate", Date, Rule::Nullable},
+          {"AltDate", Date, Rule::Nullable},
+          {"DelToCustDate", Date, Rule::Nullable},
+          {"DoneByWorker", Integer, Rule::Required, "0"},
+          {"WorkerWagesDue", Money, Rule::Required, "0"},
+          {"MarkAsPaid", Integer, Rule::Required, "0"},
+          {"PayrollID", Integer, Rule::Required, "0"},
+          {"Loc", LongText, Rule::Nullable},
+          {"Img1", LongText, Rule::Nullable},
+          {"Img2", LongText, Rule::Nullable},
+          {"color", Double, Rule::Nullable},
+          {"Score", Integer, Rule::Required, "0"},
+          {"ClientFeedback", LongText, Rule::Required, "''"},
+          {"ClientRemarks", LongText, Rule::Required, "''"},
+          {"CuttingDate", Date},
+          {"CuttingStatus", Integer, Rule::Nullable}}},
+        {"Settings", {Id, {"SETTING", LongText}, {"VALUE", LongText}}},
+        {"tmpHead",
+         {Id,
+          {"Date", LongText},
+          {"JOBID", Integer},
+          {"NAME", LongText},
+          {"DELDATE", LongText},
+          {"TrialDate", LongText},
+          {"AMOUNTDUE", LongText},
+          {"AMOUNTPAID", LongText},
+          {"AMOUNT", LongText}}},
+        {"tmpBody",
+         {Id,
+          {"JOBID", Integer},
+          {"QNT", Integer},
+          {"ItemNAME", LongText},
+          {"Remarks", LongText},
+          {"FESS", LongText},
+          {"AMOUNT", LongText}}},
+        {"postings",
+         {Id,
+          {"VID", Integer, Rule::Required, "0"},
+          {"Vtype", Integer},
+          {"sr", Integer, Rule::Required, "0"},
+          {"Date", Date},
+          {"AccID", Integer},
+          {"RefID", Integer, Rule::Required, "0"},
+          {"particulars", LongText},
+          {"Remark", LongText},
+          {"Amount", Money},
+          {"Status", Integer, Rule::Required, "0"},
+          {"isPayroll", Integer, Rule::Required, "0"}}},
+        {"rank", {Id, {"NAME", LongText}, {"Score", Double}, {"Rating", Double}}},
+        {"wagesregister",
+         {Id,
+          {"date", Date},
+          {"Jobid", LongText},
+          {"client", LongText},
+          {"item", LongText},
+          {"wages", Double},
+          {"balance", Double},
+          {"completed", LongText},
+          {"status", LongText}}},
+        {"accountbook",
+         {Id,
+          {"vid", LongText},
+          {"date", Date},
+          {"vaucher", LongText},
+          {"particulars", LongText},
+          {"debit", Double},
+          {"credit", Double},
+          {"remark", LongText}}},
+    };
+    return all;
+}
+
+QString declaration(const Column& column)
+{
+    QString text = QLatin1String(column.name) + u' ' + QLatin1String(column.type);
+    if (column.rule == Rule::Autonumber)
+        return text + QLatin1String(" PRIMARY KEY AUTOINCREMENT");
+    if (column.rule == Rule::Required)
+        text += QLatin1String(" NOT NULL");
+    if (column.defaultValue)
+        text += QLatin1String(" DEFAULT ") + QLatin1String(column.defaultValue);
+    if (column.type == LongText)
+        text += QLatin1String(" COLLATE NOCASE");
+    return text;
+}
+
+void createTable(const Table& table)
+{
+    QStringList declarations;
+    for (const Column& column : table.columns)
+        declarations << declaration(column);
+    DE.connection().Execute(QStringLiteral("CREATE TABLE %1 (%2)")
+                                .arg(QLatin1String(table.name), declarations.join(QLatin1String(", "))));
+}
+
+void addBuiltInAccounts()
+{
+    struct Account
+    {
+        const char* title;
+        int nature;
+    };
+    ado::Recordset& accounts = DE.rsaccounts;
+    accounts.Open(QStringLiteral("Select * from accounts order by id"));
+    for (const Account& account : {Account{"Wages", 1}, Account{"Sales", 0}, Account{"Purchase", 1}, Account{"Cash", 0}}) {
+        accounts.AddNew();
+        accounts["Title"] = QString::fromLatin1(account.title);
+        accounts["Type"] = 2;
+        accounts["Nature"] = account.nature;
+        accounts["readonly"] = 1;
+    }
+    accounts.UpdateBatch();
+    accounts.Close();
+}
+
+} // namespace
+
+QString databasePassword()
+{
+    return QStringLiteral("measuretwicecut");
+}
+
+void CreateDatabase()
+{
+    // Built under another name: a power cut on the way leaves no half-made shop under the real one.
+    const QString building = session.databasePath() + QStringLiteral(".new");
+    QFile::remove(building);
+    DE.connection().create(building, databasePassword());
+    try {
+        DE.connection().writeBatch([] {
+            for (const Table& table : tables())
+                createTable(table);
+            SetSetting(16, QString::number(DatabaseVersion));
+            addBuiltInAccounts();
+        });
+    } catch (...) {
+        DE.close();
+        QFile::remove(building);
+        throw;
+    }
+    DE.close();
+    QFile file(building);
+    if (!file.rename(session.databasePath()))
+        throw ado::DatabaseError(session.databasePath() + QStringLiteral(": ") + file.errorString());
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+/// What holds for the whole session and is read by every screen: who the shop is and what day it works on.
+struct Session
+{
+    QString Language = QStringLiteral("English"); ///< "English" or "Hindi"; setting 0
+    QDate WorkingDate;                            ///< the shop's current day; records are stamped with it, never with the clock
+    bool RefreshLists = false;                    ///< a list brought back to the front may be out of date
+
+    // The shop's printed lines, copies of the one row of `SHOP`.
+    QString ShopName;
+    QString ShopAddress1;
+    QString ShopAddress2;
+    QString ShopAddress3;
+    QString ShopContacts;
+
+    /// The folder of the executable, without a slash at its end: the database, the Hindi texts and the pictures lie in it.
+    QString appFolder;
+
+    QString databasePath() const { return appFolder + QStringLiteral("/data.mdb"); }
+    QString imagesFolder() const { return appFolder + QStringLiteral("/images"); }
+    QString languageDatabasePath() const { return appFolder + QStringLiteral("/Lang.mdb"); }
+};
+
+inline Session session;
