@@ -4,15 +4,9 @@
 
 DataEnvironment DE;
 
-void DataEnvironment::open(const QString& path)
-{
-    m_connection.open(path, databasePassword());
-}
+void DataEnvironment::open(const QString& path) { m_connection.open(path, databasePassword()); }
 
-void DataEnvironment::close()
-{
-    m_connection.close();
-}
+void DataEnvironment::close() { m_connection.close(); }
 
 void DataEnvironment::ensureIndexes()
 {

@@ -5,10 +5,7 @@
 
 namespace {
 
-QString quoted(const QString& text)
-{
-    return QString(text).replace(u'\'', QLatin1String("''"));
-}
+QString quoted(const QString& text) { return QString(text).replace(u'\'', QLatin1String("''")); }
 
 /// Reads with `read` from the first row of the query.
 template <typename Read>
@@ -85,11 +82,11 @@ QString GetItemName(qint32 id)
     return textOfFirst(QStringLiteral("Select * from Items where ID=") + QString::number(id), "Name");
 }
 
-QVariant FieldValueExists(const QString& value, const QString& keyField, const QString& resultField, const QString& table,
-                          ado::Recordset& recordset)
+QVariant FieldValueExists(const QString& value, const QString& keyField, const QString& resultField,
+                          const QString& table, ado::Recordset& recordset)
 {
-    recordset.Open(QStringLiteral("Select ") + resultField + QStringLiteral(" from ") + table + QStringLiteral(" where ") +
-                   keyField + QStringLiteral("='") + quoted(value) + u'\'');
+    recordset.Open(QStringLiteral("Select ") + resultField + QStringLiteral(" from ") + table +
+                   QStringLiteral(" where ") + keyField + QStringLiteral("='") + quoted(value) + u'\'');
     if (recordset.AtEOF()) {
         recordset.Close();
         return -1;
@@ -100,33 +97,36 @@ QVariant FieldValueExists(const QString& value, const QString& keyField, const Q
 
 void FillCombo(const QString& field, const QString& table, ListTarget& control, ado::Recordset& recordset)
 {
-    fill(QStringLiteral("Select ") + field + QStringLiteral(" from ") + table + QStringLiteral(" order by ") + field, control,
-         recordset);
+    fill(QStringLiteral("Select ") + field + QStringLiteral(" from ") + table + QStringLiteral(" order by ") +
+             field,
+         control, recordset);
 }
 
 void FillList(const QString& field, const QString& table, const QString& condition, ListTarget& control,
               ado::Recordset& recordset)
 {
-    fill(QStringLiteral("Select ") + field + QStringLiteral(" from ") + table + condition + QStringLiteral(" order by ") + field,
+    fill(QStringLiteral("Select ") + field + QStringLiteral(" from ") + table + condition +
+             QStringLiteral(" order by ") + field,
          control, recordset);
 }
 
 double GetBalance(qint16 account, const QDate& date)
 {
-    return sum(QStringLiteral("Select sum(Amount) from Postings where status=0 and  AccID=") + QString::number(account) +
-               QStringLiteral(" and date between #17-11-1985# and #") + values::CStr(date) + u'#');
+    return sum(QStringLiteral("Select sum(Amount) from Postings where status=0 and  AccID=") +
+               QString::number(account) + QStringLiteral(" and date between #17-11-1985# and #") +
+               values::CStr(date) + u'#');
 }
 
 double GetPositiveTotal(qint16 account, const QDate& from, const QDate& to)
 {
     return sum(QStringLiteral("Select sum(Amount) from Postings where amount>0 and status=0 and  AccID=") +
-               QString::number(account) + QStringLiteral(" and date between #") + values::CStr(from) + QStringLiteral("# and #") +
-               values::CStr(to) + u'#');
+               QString::number(account) + QStringLiteral(" and date between #") + values::CStr(from) +
+               QStringLiteral("# and #") + values::CStr(to) + u'#');
 }
 
 double GetNegativeTotal(qint16 account, const QDate& from, const QDate& to)
 {
     return sum(QStringLiteral("Select sum(Amount) from Postings where amount<0 and status=0 and  AccID=") +
-               QString::number(account) + QStringLiteral(" and date between #") + values::CStr(from) + QStringLiteral("# and #") +
-               values::CStr(to) + u'#');
+               QString::number(account) + QStringLiteral(" and date between #") + values::CStr(from) +
+               QStringLiteral("# and #") + values::CStr(to) + u'#');
 }

@@ -7,11 +7,11 @@
 #include <QString>
 #include <QVariant>
 
-/// Names into numbers, numbers into names, lists, balances. All work on the shared recordset `DE.rsaccounts` (or the one
-/// handed over), whatever table they read, and close it when done.
+/// Names into numbers, numbers into names, lists, balances. All work on the shared recordset `DE.rsaccounts`
+/// (or the one handed over), whatever table they read, and close it when done.
 
-/// Look-ups of one row. Where no row matches they throw ado::NoCurrentRecordError: ask only for what exists. Only
-/// GetItemID takes names with an apostrophe; the engine refuses the others' statements then.
+/// Look-ups of one row. Where no row matches they throw ado::NoCurrentRecordError: ask only for what exists.
+/// Only GetItemID takes names with an apostrophe; the engine refuses the others' statements then.
 qint32 GetAccountID(const QString& title);
 QString GetAccountTitle(qint32 id);
 double GetItemFees(qint32 id);
@@ -19,19 +19,22 @@ double GetItemWorkerFees(const QString& name);
 qint32 GetItemID(const QString& name);
 QString GetItemName(qint32 id);
 
-/// The value of `resultField` in the first row of `table` whose `keyField` is `value`, without regard to case; -1 where there
-/// is no such row or the field is null. "Found" is a result above 0. After a hit the recordset stays open.
-QVariant FieldValueExists(const QString& value, const QString& keyField, const QString& resultField, const QString& table,
-                          ado::Recordset& recordset);
+/// The value of `resultField` in the first row of `table` whose `keyField` is `value`, without regard to
+/// case; -1 where there is no such row or the field is null. "Found" is a result above 0. After a hit the
+/// recordset stays open.
+QVariant FieldValueExists(const QString& value, const QString& keyField, const QString& resultField,
+                          const QString& table, ado::Recordset& recordset);
 
-/// Fill a list or combo with one field of a table, in its order. `condition` is given whole with its leading blank.
+/// Fill a list or combo with one field of a table, in its order. `condition` is given whole with its leading
+/// blank.
 void FillCombo(const QString& field, const QString& table, ListTarget& control, ado::Recordset& recordset);
 void FillList(const QString& field, const QString& table, const QString& condition, ListTarget& control,
               ado::Recordset& recordset);
 
-/// The sum of an account's valid postings up to `date`; 0 without postings. Negative: the account owes. Postings before
-/// 17 November 1985 count for nothing.
+/// The sum of an account's valid postings up to `date`; 0 without postings. Negative: the account owes.
+/// Postings before 17 November 1985 count for nothing.
 double GetBalance(qint16 account, const QDate& date);
-/// The sum of the credits (amounts above 0) and of the debits (below 0) of a span of days, both ends included.
+/// The sum of the credits (amounts above 0) and of the debits (below 0) of a span of days, both ends
+/// included.
 double GetPositiveTotal(qint16 account, const QDate& from, const QDate& to);
 double GetNegativeTotal(qint16 account, const QDate& from, const QDate& to);

@@ -203,7 +203,8 @@ void addBuiltInAccounts()
     };
     ado::Recordset& accounts = DE.rsaccounts;
     accounts.Open(QStringLiteral("Select * from accounts order by id"));
-    for (const Account& account : {Account{"Wages", 1}, Account{"Sales", 0}, Account{"Purchase", 1}, Account{"Cash", 0}}) {
+    for (const Account& account :
+         {Account{"Wages", 1}, Account{"Sales", 0}, Account{"Purchase", 1}, Account{"Cash", 0}}) {
         accounts.AddNew();
         accounts["Title"] = QString::fromLatin1(account.title);
         accounts["Type"] = 2;
@@ -216,10 +217,7 @@ void addBuiltInAccounts()
 
 } // namespace
 
-QString databasePassword()
-{
-    return QStringLiteral("measuretwicecut");
-}
+QString databasePassword() { return QStringLiteral("measuretwicecut"); }
 
 void CreateDatabase()
 {

@@ -8,6 +8,6 @@ inline constexpr int DatabaseVersion = 12;
 /// The password of the database file; a constant of the program, never seen by the operator.
 QString databasePassword();
 
-/// Makes the shop's database, with its default rows, beside the executable; called on a first run only. The file appears
-/// whole under its name or not at all. Throws ado::DatabaseError.
+/// Makes the shop's database, with its default rows, beside the executable; called on a first run only. The
+/// file appears whole under its name or not at all. Throws ado::DatabaseError.
 void CreateDatabase();

@@ -7,8 +7,8 @@
 struct Session
 {
     QString Language = QStringLiteral("English"); ///< "English" or "Hindi"; setting 0
-    QDate WorkingDate;                            ///< the shop's current day; records are stamped with it, never with the clock
-    bool RefreshLists = false;                    ///< a list brought back to the front may be out of date
+    QDate WorkingDate;         ///< the shop's current day; records are stamped with it, never with the clock
+    bool RefreshLists = false; ///< a list brought back to the front may be out of date
 
     // The shop's printed lines, copies of the one row of `SHOP`.
     QString ShopName;
@@ -17,7 +17,8 @@ struct Session
     QString ShopAddress3;
     QString ShopContacts;
 
-    /// The folder of the executable, without a slash at its end: the database, the Hindi texts and the pictures lie in it.
+    /// The folder of the executable, without a slash at its end: the database, the Hindi texts and the
+    /// pictures lie in it.
     QString appFolder;
 
     QString databasePath() const { return appFolder + QStringLiteral("/data.mdb"); }

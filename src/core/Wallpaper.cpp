@@ -1,0 +1,56 @@
+#include "core/Wallpaper.h"
+
+#include <QEvent>
+#include <QImageReader>
+#include <QPainter>
+#include <QSvgRenderer>
+
+Wallpaper::Wallpaper(QWidget* desktop)
+    : QWidget(desktop)
+{
+    setObjectName(QStringLiteral("MyWall"));
+    desktop->installEventFilter(this);
+    resize(desktop->size());
+}
+
+void Wallpaper::loadPicture(const QString& path)
+{
+    QImageReader reader(path);
+    reader.setAutoTransform(true);
+    const QImage picture = reader.read();
+    if (picture.isNull())
+        return;
+    m_picture = QPixmap::fromImage(picture);
+    update();
+}
+
+bool Wallpaper::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize)
+        resize(parentWidget()->size());
+    return QWidget::eventFilter(watched, event);
+}
+
+void Wallpaper::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    if (!m_picture.isNull()) {
+        painter.drawPixmap((width() - m_picture.width()) / 2, (height() - m_picture.height()) / 2, m_picture);
+        return;
+    }
+    if (m_builtIn.isNull() || m_builtIn.deviceIndependentSize().toSize() != size())
+        drawBuiltIn();
+    painter.drawPixmap(0, 0, m_builtIn);
+}
+
+void Wallpaper::drawBuiltIn()
+{
+    const qreal ratio = devicePixelRatioF();
+    m_builtIn = QPixmap(size() * ratio);
+    m_builtIn.setDevicePixelRatio(ratio);
+    m_builtIn.fill(palette().color(QPalette::Window));
+    QSvgRenderer drawing(QStringLiteral(":/wallpaper.svg"));
+    drawing.setAspectRatioMode(Qt::KeepAspectRatioByExpanding);
+    QPainter painter(&m_builtIn);
+    drawing.render(&painter, QRectF(QPointF(), QSizeF(size())));
+}

@@ -1,0 +1,57 @@
+#include "core/frmLogin.h"
+
+#include "core/Settings.h"
+#include "ui/ModOtherFUN.h"
+#include "ui_frmLogin.h"
+
+frmLogin::frmLogin()
+    : ui(std::make_unique<Ui::frmLogin>())
+{
+    ui->setupUi(this);
+    ui->Image1->setPixmap(QIcon(QStringLiteral(":/icons/app.svg")).pixmap(104, 104));
+    on(ui->Command1, &QPushButton::clicked, &frmLogin::Command1_Click);
+}
+
+frmLogin::~frmLogin() = default;
+
+bool frmLogin::Login()
+{
+    m_loggedIn = false;
+    showModal();
+    return m_loggedIn;
+}
+
+void frmLogin::Form_KeyPress(int& key)
+{
+    if (key == forms::key::Escape) {
+        key = 0;
+        unload();
+        return;
+    }
+    key = EnterAsTab(key);
+}
+
+void frmLogin::Command1_Click()
+{
+    if (ui->txtUserName->text().isEmpty()) {
+        ShowMsg(QStringLiteral("Please enter user name!"));
+        ui->txtUserName->setFocus();
+        return;
+    }
+    if (ui->txtPassword->text().isEmpty()) {
+        ShowMsg(QStringLiteral("Please enter password!"));
+        ui->txtPassword->setFocus();
+        return;
+    }
+    const QString userName = GetSetting(8, QString());
+    const QString password = GetSetting(9, QString());
+    if (ui->txtPassword->text() != password || ui->txtUserName->text() != userName) {
+        ShowMsg(QStringLiteral("Invalid user name or password!"));
+        ui->txtUserName->clear();
+        ui->txtPassword->clear();
+        ui->txtUserName->setFocus();
+        return;
+    }
+    m_loggedIn = true;
+    unload();
+}

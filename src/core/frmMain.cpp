@@ -1,0 +1,124 @@
+#include "core/frmMain.h"
+
+#include "core/DE.h"
+#include "core/Session.h"
+#include "core/Settings.h"
+#include "core/Wallpaper.h"
+#include "core/frmAbout.h"
+#include "core/frmLogin.h"
+#include "core/frmMasters.h"
+#include "core/frmMenu.h"
+#include "core/frmShopINFO.h"
+#include "jobcards/frmEditJOB.h"
+#include "platform/forms/Icons.h"
+#include "platform/values/Dates.h"
+#include "platform/values/Numbers.h"
+#include "ui/ModOtherFUN.h"
+#include "ui_frmMain.h"
+
+#include <QSignalBlocker>
+
+bool frmMain::start()
+{
+    if (values::Val(GetSetting(7, QStringLiteral("0"))) == 1 && !frmLogin().Login())
+        return false;
+    // Lives as long as the program: it ends with this screen.
+    static std::unique_ptr<frmMain> screen;
+    screen = std::make_unique<frmMain>();
+    connect(qApp, &QCoreApplication::aboutToQuit, [] { screen.reset(); });
+    screen->showModeless();
+    return true;
+}
+
+frmMain::frmMain()
+    : ui(std::make_unique<Ui::frmMain>())
+{
+    ui->setupUi(this);
+    setWindowFlags(Qt::Window);
+    forms::applyIcons(*this, "-light");
+    ui->Image2->setPixmap(QIcon(QStringLiteral(":/icons/app.svg")).pixmap(48, 48));
+    MyWall = new Wallpaper(ui->Picture1);
+
+    on(ui->cmdCreateJOB, &QPushButton::clicked, [] { frmEditJOB().ShowAddNew(); });
+    on(ui->cmdCreateNewClint, &QPushButton::clicked, [] { frmMasters().showModal(); });
+    on(ui->Command8, &QPushButton::clicked, [] { frmMenu().showModal(); });
+    on(ui->Command5, &QPushButton::clicked, [] { frmShopINFO().showModal(); });
+    on(ui->Command4, &QPushButton::clicked, [] { frmAbout().showModal(); });
+    on(ui->TodayDate, &forms::DatePicker::changed, &frmMain::TodayDate_Change);
+    on(ui->TodayDate, &forms::DatePicker::calendarClosed, &frmMain::TodayDate_Change);
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::Form_Load()
+{
+    SetWall();
+    setWindowState(Qt::WindowMaximized);
+}
+
+void frmMain::Form_Activate()
+{
+    RefershINFO();
+    session.Language = GetSetting(0, QStringLiteral("English"));
+}
+
+/// Called only at load: a wallpaper changed meanwhile shows at the next start.
+void frmMain::SetWall()
+{
+    const QString path = GetSetting(11, QString());
+    if (!path.isEmpty())
+        MyWall->loadPicture(path);
+}
+
+void frmMain::RefershINFO()
+{
+    ado::Recordset& shop = DE.rsSHOP;
+    shop.Open(QStringLiteral("Select * from Shop"));
+    if (shop.RecordCount() < 1) {
+        shop.AddNew();
+        shop["Name"] = QStringLiteral("KORVANE");
+        shop.UpdateBatch();
+        ui->lblShopName->setText(QStringLiteral("KORVANE"));
+    } else {
+        const auto copy = [&shop](const char* field, QString& line) {
+            if (!shop[field].isNull())
+                line = shop[field].text();
+        };
+        session.ShopName = shop["Name"].text();
+        copy("Contacts", session.ShopContacts);
+        copy("Address1", session.ShopAddress1);
+        copy("Address2", session.ShopAddress2);
+        copy("Address3", session.ShopAddress3);
+        ui->lblShopName->setText(session.ShopName);
+    }
+    shop.Close();
+    const QSignalBlocker quiet(ui->TodayDate);
+    ui->TodayDate->setValue(session.WorkingDate);
+}
+
+void frmMain::Form_KeyPress(int& key)
+{
+    if (key != forms::key::Escape)
+        return;
+    key = 0;
+    if (ShowMsg(QStringLiteral("Are you sure to exit?"), 2))
+        unload();
+}
+
+void frmMain::Form_KeyDown(int& key, Qt::KeyboardModifiers)
+{
+    constexpr int F2 = forms::key::F1 + 1;
+    if (key != F2)
+        return;
+    key = 0;
+    ui->TodayDate->setFocus();
+}
+
+/// The shop can be back-dated for a session; the next start remembers the day.
+void frmMain::TodayDate_Change()
+{
+    session.WorkingDate = ui->TodayDate->value();
+    SetSetting(1, values::CStr(session.WorkingDate));
+}
+
+void frmMain::Form_Unload() { QCoreApplication::quit(); }

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/forms/Screen.h"
+
+#include <memory>
+
+class Wallpaper;
+
+namespace Ui {
+class frmMain;
+}
+
+/// The main screen: the shop's commands, its working date and its wall. The program ends with it.
+class frmMain : public forms::Screen
+{
+public:
+    frmMain();
+    ~frmMain() override;
+
+    /// Asks for the login where one is set, then shows the main screen. False when no login was made.
+    static bool start();
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_KeyPress(int& key) override;
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
+    void Form_Unload() override;
+
+private:
+    void SetWall();
+    void RefershINFO();
+    void TodayDate_Change();
+
+    std::unique_ptr<Ui::frmMain> ui;
+    Wallpaper* MyWall;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "core/MenuScreen.h"
+
+#include <memory>
+
+namespace Ui {
+class frmMasters;
+}
+
+/// The way to the shop's lists: clients, workers, ledger accounts, items.
+class frmMasters : public MenuScreen
+{
+public:
+    frmMasters();
+    ~frmMasters() override;
+
+private:
+    std::unique_ptr<Ui::frmMasters> ui;
+};

@@ -1,0 +1,14 @@
+#include "core/frmMenu.h"
+
+#include "platform/forms/Icons.h"
+#include "ui_frmMenu.h"
+
+frmMenu::frmMenu()
+    : ui(std::make_unique<Ui::frmMenu>())
+{
+    ui->setupUi(this);
+    forms::applyIcons(*this);
+    on(ui->Command8, &QPushButton::clicked, &frmMenu::unload);
+}
+
+frmMenu::~frmMenu() = default;

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "core/MenuScreen.h"
+
+#include <memory>
+
+namespace Ui {
+class frmMenu;
+}
+
+/// The way to the reports. A report's command is alive once its screen is there.
+class frmMenu : public MenuScreen
+{
+public:
+    frmMenu();
+    ~frmMenu() override;
+
+private:
+    std::unique_ptr<Ui::frmMenu> ui;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/forms/Screen.h"
+
+#include <memory>
+
+namespace Ui {
+class frmShopINFO;
+}
+
+/// The shop's profile, printed on every paper, and its one login account.
+class frmShopINFO : public forms::Screen
+{
+public:
+    frmShopINFO();
+    ~frmShopINFO() override;
+
+protected:
+    void Form_Load() override;
+    void Form_KeyPress(int& key) override;
+
+private:
+    void Check1_Click();
+    void Command1_Click();
+
+    std::unique_ptr<Ui::frmShopINFO> ui;
+};
