@@ -50,7 +50,9 @@ void Wallpaper::drawBuiltIn()
     m_builtIn.setDevicePixelRatio(ratio);
     m_builtIn.fill(palette().color(QPalette::Window));
     QSvgRenderer drawing(QStringLiteral(":/wallpaper.svg"));
-    drawing.setAspectRatioMode(Qt::KeepAspectRatioByExpanding);
+    const QSizeF covering = QSizeF(drawing.defaultSize()).scaled(size(), Qt::KeepAspectRatioByExpanding);
+    QRectF target(QPointF(), covering);
+    target.moveCenter(QRectF(rect()).center());
     QPainter painter(&m_builtIn);
-    drawing.render(&painter, QRectF(QPointF(), QSizeF(size())));
+    drawing.render(&painter, target);
 }
