@@ -8,7 +8,7 @@ frmLogin::frmLogin()
     : ui(std::make_unique<Ui::frmLogin>())
 {
     ui->setupUi(this);
-    ui->Image1->setPixmap(QIcon(QStringLiteral(":/icons/app.svg")).pixmap(104, 104));
+    ui->Image1->setPixmap(QIcon(QStringLiteral(":/icons/login.svg")).pixmap(104, 104));
     on(ui->Command1, &QPushButton::clicked, &frmLogin::Command1_Click);
 }
 

@@ -35,7 +35,7 @@ frmMain::frmMain()
 {
     ui->setupUi(this);
     setWindowFlags(Qt::Window);
-    forms::applyIcons(*this, "-light");
+    forms::applyIcons(*this, forms::iconLight);
     ui->Image2->setPixmap(QIcon(QStringLiteral(":/icons/app.svg")).pixmap(48, 48));
     MyWall = new Wallpaper(ui->Picture1);
 

@@ -7,7 +7,7 @@ frmMenu::frmMenu()
     : ui(std::make_unique<Ui::frmMenu>())
 {
     ui->setupUi(this);
-    forms::applyIcons(*this);
+    forms::applyIcons(*this, forms::iconInk);
     on(ui->Command8, &QPushButton::clicked, &frmMenu::unload);
 }
 

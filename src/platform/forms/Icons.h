@@ -1,11 +1,21 @@
 #pragma once
 
+#include <QColor>
+
+class QIcon;
+class QString;
 class QWidget;
 
 namespace forms {
 
-/// Gives each button of the screen the picture that its property `iconName` names (":/icons/<name>.svg"; on
-/// the dark panel of the main screen ":/icons/<name>-light.svg", by `suffix`).
-void applyIcons(QWidget& screen, const char* suffix = "");
+/// One of the line icons of the resources (":/icons/<name>.svg"), its lines drawn in `colour`.
+QIcon lineIcon(const QString& name, const QColor& colour);
+
+/// Gives each button of `screen` the icon that its property `iconName` names.
+void applyIcons(QWidget& screen, const QColor& colour);
+
+/// Colour of the icons on light and on dark ground.
+inline constexpr QColor iconInk{0x33, 0x41, 0x55};
+inline constexpr QColor iconLight{0xFF, 0xFF, 0xFF};
 
 } // namespace forms

@@ -1,0 +1,220 @@
+#include "core/DE.h"
+#include "core/Lookups.h"
+#include "core/Schema.h"
+#include "core/Session.h"
+#include "core/Settings.h"
+#include "core/Startup.h"
+#include "support/Shop.h"
+
+#include <QTest>
+
+namespace {
+
+/// A list that remembers what it was filled with.
+struct Texts : ListTarget
+{
+    QStringList all{QStringLiteral("left over")};
+
+    void Clear() override { all.clear(); }
+    void AddItems(const QStringList& texts) override { all += texts; }
+};
+
+void post(qint32 account, const QDate& date, double amount, int status = 0)
+{
+    ado::Recordset rows(DE.connection());
+    rows.Open(QStringLiteral("Select * from Postings order by ID"));
+    rows.AddNew();
+    rows["Vtype"] = 2;
+    rows["Date"] = date;
+    rows["AccID"] = account;
+    rows["particulars"] = QString();
+    rows["Remark"] = QString();
+    rows["Amount"] = amount;
+    rows["Status"] = status;
+    rows.Update();
+}
+
+} // namespace
+
+/// The shop's file and the small operations that all screens work through.
+class tst_store : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void firstRun();
+    void requiredColumns();
+    void versionIsChecked();
+    void settings();
+    void sessionDefaults();
+    void namesAndNumbers();
+    void fieldValueExists();
+    void lists();
+    void balances();
+};
+
+void tst_store::firstRun()
+{
+    Shop shop;
+    for (const char* table : {"SHOP", "ITEMS", "JOBS", "JOBS_DETAIL", "tmpHead", "tmpBody", "postings",
+                              "rank", "wagesregister", "accountbook"})
+        QCOMPARE(Shop::count(QStringLiteral("Select * from ") + QLatin1String(table)), 0);
+    QCOMPARE(Shop::count(QStringLiteral("Select * from Settings")), 1);
+    QCOMPARE(GetSetting(16, QString()), QStringLiteral("12"));
+
+    ado::Recordset accounts(DE.connection());
+    accounts.Open(QStringLiteral("Select * from accounts order by id"));
+    const QStringList titles{QStringLiteral("Wages"), QStringLiteral("Sales"), QStringLiteral("Purchase"),
+                             QStringLiteral("Cash")};
+    for (int i = 0; i < 4; ++i, accounts.MoveNext()) {
+        QCOMPARE(accounts["Id"].integer(), i + 1);
+        QCOMPARE(accounts["Title"].text(), titles[i]);
+        QCOMPARE(accounts["Type"].integer(), 2);
+        QCOMPARE(accounts["Nature"].integer(), i % 2 == 0 ? 1 : 0);
+        QCOMPARE(accounts["ReadOnly"].integer(), 1);
+    }
+    QVERIFY(accounts.AtEOF());
+}
+
+void tst_store::requiredColumns()
+{
+    Shop shop;
+    ado::Recordset jobs(DE.connection());
+    const auto add = [&jobs](bool withRemark) {
+        jobs.Open(QStringLiteral("Select * from JOBS"));
+        jobs.AddNew();
+        for (const char* date : {"DATE", "DeliveryDate", "trialdate"})
+            jobs[date] = QDate(2024, 2, 10);
+        for (const char* number : {"ClintID", "AmountDue", "AmountPaid", "JOBFINISHED", "Status"})
+            jobs[number] = 0;
+        jobs["ClintName"] = QString();
+        jobs["CancelReason"] = QString();
+        if (withRemark)
+            jobs["Remark"] = QString();
+        jobs.Update();
+    };
+    QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, add(false));
+    add(true);
+    add(true);
+    // Without a number of the program's own choice each card would get number 1: nothing in the file forbids
+    // it.
+    QCOMPARE(Shop::count(QStringLiteral("Select * from jobs where id=1")), 2);
+}
+
+void tst_store::versionIsChecked()
+{
+    Shop shop;
+    QVERIFY(CheckDatabaseVersion());
+    for (const char* version : {"11", "13", "", "twelve"}) {
+        SetSetting(16, QString::fromLatin1(version));
+        QVERIFY(!CheckDatabaseVersion());
+    }
+    DE.connection().Execute(QStringLiteral("Delete * from Settings"));
+    QVERIFY(!CheckDatabaseVersion());
+}
+
+void tst_store::settings()
+{
+    Shop shop;
+    QCOMPARE(GetSetting(6, QStringLiteral("as the reader says")), QStringLiteral("as the reader says"));
+    QCOMPARE(Shop::count(QStringLiteral("Select * from settings")), 1);
+    const QString tagLine = QStringLiteral("The tailor's 100% choice \u2702 'since' 1985\r\nविशेष");
+    SetSetting(6, QStringLiteral("first"));
+    SetSetting(6, tagLine);
+    shop.reopen();
+    QCOMPARE(GetSetting(6, QString()), tagLine);
+    QCOMPARE(Shop::count(QStringLiteral("Select * from settings where SETTING='6'")), 1);
+    SetSetting(6, QString());
+    QCOMPARE(GetSetting(6, QStringLiteral("default")), QString());
+}
+
+void tst_store::sessionDefaults()
+{
+    Shop shop;
+    LoadSessionDefaults();
+    QCOMPARE(session.WorkingDate, QDate(2011, 4, 1));
+    QCOMPARE(session.Language, QStringLiteral("English"));
+
+    SetSetting(0, QStringLiteral("Hindi"));
+    SetSetting(1, QStringLiteral("2023-12-31"));
+    LoadSessionDefaults();
+    QCOMPARE(session.WorkingDate, QDate(2023, 12, 31));
+    QCOMPARE(session.Language, QStringLiteral("Hindi"));
+
+    SetSetting(1, QStringLiteral("no date at all"));
+    LoadSessionDefaults();
+    QCOMPARE(session.WorkingDate, QDate(2011, 4, 1));
+
+    SetSetting(22, QStringLiteral("1"));
+    LoadSessionDefaults();
+    QCOMPARE(session.WorkingDate, QDate::currentDate());
+    QCOMPARE(GetSetting(1, QString()), QStringLiteral("no date at all"));
+}
+
+void tst_store::namesAndNumbers()
+{
+    Shop shop;
+    const qint32 client = shop.addClient(QStringLiteral("Asha Rao"));
+    const qint32 shirt = shop.addItem(QStringLiteral("Men's Shirt"), 450.5, 120);
+    QCOMPARE(GetAccountID(QStringLiteral("asha rao")), client);
+    QCOMPARE(GetAccountTitle(client), QStringLiteral("Asha Rao"));
+    QCOMPARE(GetItemFees(shirt), 450.5);
+    QCOMPARE(GetItemName(shirt), QStringLiteral("Men's Shirt"));
+    QCOMPARE(GetItemID(QStringLiteral("Men's Shirt")), shirt);
+    QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, GetItemWorkerFees(QStringLiteral("Men's Shirt")));
+    QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, GetAccountID(QStringLiteral("D'Souza")));
+    QVERIFY_THROWS_EXCEPTION(ado::NoCurrentRecordError, GetAccountID(QStringLiteral("Nobody")));
+    QVERIFY_THROWS_EXCEPTION(ado::NoCurrentRecordError, GetItemName(999));
+}
+
+void tst_store::fieldValueExists()
+{
+    Shop shop;
+    const qint32 client = shop.addClient(QStringLiteral("D'Souza"));
+    const auto find = [](const char* title, const char* field) {
+        return FieldValueExists(QString::fromUtf8(title), QStringLiteral("Title"), QString::fromLatin1(field),
+                                QStringLiteral("Accounts"), DE.rsaccounts);
+    };
+    QCOMPARE(find("d'souza", "ID").toInt(), client);
+    QVERIFY(DE.rsaccounts.State());
+    QCOMPARE(find("D'Souza", "DOB").toInt(), -1);
+    QCOMPARE(find("D_Souza", "ID").toInt(), -1);
+    QVERIFY(!DE.rsaccounts.State());
+}
+
+void tst_store::lists()
+{
+    Shop shop;
+    for (const char* name : {"ravi", "Anil", "zoya"})
+        shop.addClient(QString::fromLatin1(name));
+    shop.addWorker(QStringLiteral("Mohan"));
+    Texts list;
+    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where Type=0"), list,
+             DE.rsaccounts);
+    QCOMPARE(list.all, QStringList({QStringLiteral("Anil"), QStringLiteral("ravi"), QStringLiteral("zoya")}));
+    FillCombo(QStringLiteral("Name"), QStringLiteral("Items"), list, DE.rsITEMS);
+    QVERIFY(list.all.isEmpty());
+    QVERIFY(!DE.rsaccounts.State());
+}
+
+void tst_store::balances()
+{
+    Shop shop;
+    const QDate day = session.WorkingDate;
+    const qint16 account = static_cast<qint16>(shop.addClient(QStringLiteral("Asha")));
+    QCOMPARE(GetBalance(account, day), 0.0);
+    post(account, day, 0.10);
+    post(account, day, 0.20);
+    post(account, day, -0.30);
+    QCOMPARE(GetBalance(account, day), 0.0);
+    post(account, day, -500);
+    post(account, day, -9999, 1);              // a cancelled card's
+    post(account, day.addDays(1), -1);         // of tomorrow
+    post(account, QDate(1985, 11, 16), -7777); // older than all time
+    QCOMPARE(GetBalance(account, day), -500.0);
+    QCOMPARE(GetPositiveTotal(account, day, day), 0.3);
+    QCOMPARE(GetNegativeTotal(account, day, day.addDays(1)), -501.3);
+    QCOMPARE(GetNegativeTotal(account, day.addDays(2), day.addDays(3)), 0.0);
+}
+
+QTEST_GUILESS_MAIN(tst_store)
+#include "tst_store.moc"

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <QTemporaryDir>
+
+/// A fresh shop in a temporary folder of its own, opened as the program opens it: real encrypted file,
+/// working date 10 February 2024. One at a time; gone with the object.
+class Shop
+{
+public:
+    Shop();
+    ~Shop();
+    Shop(const Shop&) = delete;
+    Shop& operator=(const Shop&) = delete;
+
+    QString folder() const { return m_folder.path(); }
+    /// Closes and opens the file anew, as a restart of the program does.
+    void reopen();
+
+    /// Lay a record and give back its Id.
+    qint32 addClient(const QString& title, const QString& mobile = {});
+    qint32 addWorker(const QString& title);
+    qint32 addItem(const QString& name, double fees = 100, double workerFees = 40,
+                   const QString& details = QStringLiteral("Length\r\nChest=40"));
+
+    /// The first value of a query, and the number of its rows.
+    static QVariant value(const QString& sql);
+    static int count(const QString& sql);
+
+private:
+    QTemporaryDir m_folder;
+};
