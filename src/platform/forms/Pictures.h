@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QPixmap>
+#include <QString>
+
+namespace forms {
+
+/// Whether a file holds a picture of a kind that can be read, whatever its name ends with.
+bool isPicture(const QString& path);
+
+/// A picture from a file, scaled down as it is read to fit `within` (in device pixels); a smaller one keeps
+/// its size. Null when the file cannot be read, or would take more memory than a picture may.
+QPixmap loadPicture(const QString& path, const QSize& within);
+
+} // namespace forms
