@@ -2,8 +2,8 @@
 
 #include <QKeyEvent>
 
-/// Keys as the screens know them. A key press is a character code (a letter's code, 13, 27, 8, 1 for Ctrl+A ...); a
-/// key-down is a key number (the page keys, arrows, F2 ...). In both 0 means: swallowed.
+/// Keys as the screens know them. A key press is a character code (a letter's code, 13, 27, 8, 1 for Ctrl+A
+/// ...); a key-down is a key number (the page keys, arrows, F2 ...). In both 0 means: swallowed.
 namespace forms {
 
 namespace key {
@@ -14,6 +14,7 @@ inline constexpr int Escape = 27;
 inline constexpr int CtrlA = 1;
 inline constexpr int CtrlP = 16;
 inline constexpr int CtrlS = 19;
+inline constexpr int Blank = 32;
 // key-down numbers
 inline constexpr int PageUp = 33;
 inline constexpr int PageDown = 34;
@@ -27,9 +28,12 @@ inline constexpr int Delete = 46;
 inline constexpr int F1 = 112; // F2 is 113, and so on
 } // namespace key
 
-/// The character code of a key event; 0 when the key makes no character.
+/// The character code of a key event (Unicode beyond the control codes); 0 when the key makes no character.
+/// Alt with a letter makes none, nor does the Delete key.
 int charCode(const QKeyEvent& event);
 /// The key number of a key event; 0 for a key that has none.
 int keyNumber(const QKeyEvent& event);
+/// The key event that types another character instead.
+QKeyEvent withCharCode(const QKeyEvent& event, int code);
 
 } // namespace forms

@@ -3,28 +3,72 @@
 #include "platform/forms/Keys.h"
 
 #include <QDialog>
+#include <QPointer>
 #include <functional>
+#include <tuple>
+#include <type_traits>
 #include <utility>
+#include <vector>
+
+class QEventLoop;
 
 namespace forms {
 
-/// Shows the text of an error in a plain message box over `parent`. Long texts are cut to what a screen can hold.
+/// Shows the text of an error in a plain message box over `parent`. Long texts are cut to what a screen can
+/// hold.
 void showError(QWidget* parent, const QString& text);
 
-/// Runs an event procedure. An exception ends it there; its text reaches the operator in a plain message box over
-/// `parent`. Returns false then.
+/// Runs an event procedure. An exception ends it there; its text reaches the operator in a plain message box
+/// over `parent`. Returns false then.
 bool guarded(QWidget* parent, const std::function<void()>& procedure);
+
+/// Moves the focus to the next (or previous) field of the screen that has it, as the Tab key does. An open
+/// drop-down list is closed first.
+void sendTab(bool backwards = false);
+
+namespace detail {
+
+template <typename Member>
+struct MemberClass;
+template <typename Type, typename Class>
+struct MemberClass<Type Class::*>
+{
+    using type = Class;
+};
+
+template <std::size_t Count, typename Procedure, typename Arguments>
+void callLeading(Procedure& procedure, Arguments arguments)
+{
+    [&]<std::size_t... I>(std::index_sequence<I...>)
+    {
+        if constexpr (std::is_invocable_v<Procedure&, std::tuple_element_t<I, Arguments>...>)
+            std::invoke(procedure, std::get<I>(arguments)...);
+        else
+            callLeading<Count - 1>(procedure, arguments);
+    }
+    (std::make_index_sequence<Count>());
+}
+
+/// Calls `procedure` with as many of the arguments, from the left, as it takes.
+template <typename Procedure, typename... Args>
+void call(Procedure& procedure, Args&... args)
+{
+    callLeading<sizeof...(Args)>(procedure, std::tuple<Args&...>(args...));
+}
+
+} // namespace detail
 
 /// Base of all screens: the chain of modal screens, loading and activation, the preview of keys.
 ///
-/// A screen is shown with showModal() and leaves with unload(). Form_Load runs once, before the first show; Form_Activate
-/// runs when the screen comes to the front: on the first show, and each time the screen above it has closed (not after a
-/// plain message box). Form_Unload runs once when it goes.
+/// A screen is shown with showModal() and leaves with unload(). Form_Load runs once, before the first show;
+/// Form_Activate runs when the screen comes to the front: on the first show, and each time the screen above
+/// it has closed (not after a plain message box or a notice). Form_Unload runs once when it goes. An unloaded
+/// screen can be shown again; it is then loaded anew.
 ///
-/// A key reaches Form_KeyDown, then the focused control's onKeyDown; then, if it makes a character, Form_KeyPress and the
-/// control's onKeyPress; then the control itself. Each can change a character code, or set 0 to swallow the key.
-/// Enter on a focused push button presses it; the default button of QDialog is not used, but for setDefault() on a screen
-/// that calls useDefaultButton().
+/// A key reaches Form_KeyDown, then the focused control's onKeyDown; then, if it makes a character,
+/// Form_KeyPress and the control's onKeyPress; then the control itself. Each can change a character code, or
+/// set 0 to swallow the key. Keys typed while a combo's list is open take the same way to the combo; Esc then
+/// closes the list only. Enter on a focused push button presses it, and is no key press for the screen.
 class Screen : public QDialog
 {
     Q_OBJECT
@@ -32,10 +76,14 @@ public:
     explicit Screen(QWidget* parent = nullptr);
     ~Screen() override;
 
-    /// Shows the screen modally over the screen that is in front and returns when it has been unloaded.
+    /// Shows the screen modally over the screen that is in front and returns when it has been unloaded. An
+    /// error of Form_Load goes on to the caller, and the screen isn't shown.
     void showModal();
     /// The same without waiting: for the main screen. Loads and activates.
     void showModeless();
+    /// Runs Form_Load now if the screen isn't loaded yet: for operations that fill the controls before the
+    /// screen shows.
+    void load();
     /// Closes the screen. Safe to call from its own event procedures.
     void unload();
     bool isLoaded() const { return m_loaded; }
@@ -48,22 +96,31 @@ protected:
     virtual void Form_Activate() {}
     virtual void Form_Unload() {}
     virtual void Form_KeyPress(int& key) { Q_UNUSED(key) }
-    virtual void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) { Q_UNUSED(key) Q_UNUSED(modifiers) }
+    virtual void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers)
+    {
+        Q_UNUSED(key)
+        Q_UNUSED(modifiers)
+    }
 
-    /// Connects a signal to an event procedure (a member or a lambda taking what the signal gives), guarded.
+    /// Connects a signal to an event procedure (a member or a lambda that takes what the signal gives, or
+    /// less), guarded.
     template <typename Sender, typename Signal, typename Procedure>
     void on(Sender* sender, Signal signal, Procedure procedure)
     {
-        connect(sender, signal, this, [this, procedure](auto&&... args) {
+        connect(sender, signal, this, [this, procedure](auto&&... args) mutable {
             guarded(this, [&] {
-                if constexpr (std::is_member_function_pointer_v<Procedure>)
-                    callMember(procedure, std::forward<decltype(args)>(args)...);
-                else
-                    callFree(procedure, std::forward<decltype(args)>(args)...);
+                if constexpr (std::is_member_function_pointer_v<Procedure>) {
+                    auto* self = static_cast<typename detail::MemberClass<Procedure>::type*>(this);
+                    detail::call(procedure, self, args...);
+                } else {
+                    detail::call(procedure, args...);
+                }
             });
         });
     }
     /// Event procedures of one control. A composite control (a combo, a picker) counts with its inner boxes.
+    /// Focus that comes back to the same control (from an open list, a message, another window) is no new
+    /// focus.
     void onKeyPress(QWidget* control, std::function<void(int& key)> procedure);
     void onKeyDown(QWidget* control, std::function<void(int& key)> procedure);
     void onGotFocus(QWidget* control, std::function<void()> procedure);
@@ -71,6 +128,44 @@ protected:
 
     /// Gives the screen the share of the available screen's height, and a width to go with it.
     void useScreenHeight(double share);
+    /// Makes the screen a notice: when it closes, the screen below isn't activated, as after a plain message
+    /// box.
+    void setNotice(bool notice) { m_notice = notice; }
+
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    friend class KeyPreview;
+    friend void sendTab(bool backwards);
+
+    struct ControlEvents
+    {
+        QPointer<QWidget> control;
+        std::vector<std::function<void(int&)>> keyPress;
+        std::vector<std::function<void(int&)>> keyDown;
+        std::vector<std::function<void()>> gotFocus;
+        std::vector<std::function<void()>> lostFocus;
+    };
+
+    void present();
+    void activate();
+    void leaveChain();
+    ControlEvents& eventsOf(QWidget* control);
+    /// All procedures of one kind that apply to `target` or to a control around it.
+    template <typename Procedure>
+    std::vector<Procedure> proceduresFor(QWidget* target, std::vector<Procedure> ControlEvents::*kind) const;
+    /// True when the key was swallowed.
+    bool previewKeyDown(QWidget* target, int& key, Qt::KeyboardModifiers modifiers);
+    bool previewKeyPress(QWidget* target, int& key);
+    void focusArrived(QWidget* target);
+
+    bool m_loaded = false;
+    bool m_notice = false;
+    QPointer<QEventLoop> m_loop;
+    QPointer<QWidget> m_focused;
+    std::vector<ControlEvents> m_events;
 };
 
 } // namespace forms

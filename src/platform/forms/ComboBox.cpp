@@ -1,0 +1,193 @@
+#include "platform/forms/ComboBox.h"
+
+#include "platform/forms/ListBox.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListView>
+#include <QSignalBlocker>
+#include <QStringListModel>
+#include <QWheelEvent>
+
+namespace forms {
+
+ComboBox::ComboBox(QWidget* parent)
+    : QComboBox(parent)
+    , m_texts(new QStringListModel(this))
+{
+    setEditable(true);
+    setInsertPolicy(NoInsert);
+    setCompleter(nullptr);
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(12);
+    setMaxVisibleItems(12);
+    setModel(m_texts);
+    if (auto* list = qobject_cast<QListView*>(view()))
+        list->setUniformItemSizes(true);
+    // The focus stays with the box while the list is open.
+    view()->setFocusProxy(this);
+    // A typed text that happens to be an entry is no choice of that entry.
+    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+    lineEdit()->installEventFilter(this);
+    connect(this, &QComboBox::activated, this, &ComboBox::clicked);
+    connect(this, &QComboBox::editTextChanged, this, &ComboBox::changed);
+}
+
+void ComboBox::Clear()
+{
+    closeUp();
+    m_texts->setStringList({});
+    setText({});
+}
+
+void ComboBox::AddItems(const QStringList& texts)
+{
+    const QString shown = text();
+    const int chosen = ListIndex();
+    {
+        const QSignalBlocker quiet(this);
+        m_texts->setStringList(m_texts->stringList() + texts);
+        setCurrentIndex(chosen);
+        if (isEditable())
+            lineEdit()->setText(shown);
+    }
+}
+
+void ComboBox::AddItem(const QString& text) { AddItems({text}); }
+
+int ComboBox::ListIndex() const { return itemText(currentIndex()) == currentText() ? currentIndex() : -1; }
+
+void ComboBox::setListIndex(int index)
+{
+    const int entry = index < count() ? qMax(index, -1) : -1;
+    setCurrentIndex(entry);
+    if (isEditable())
+        setText(itemText(entry)); // also when that entry is the current one, but the box has another text
+    if (isDroppedDown())
+        view()->setCurrentIndex(m_texts->index(entry));
+}
+
+int ComboBox::findString(const QString& prefix, int startAfter) const
+{
+    return findPrefix(m_texts->stringList(), prefix, startAfter);
+}
+
+void ComboBox::setText(const QString& text)
+{
+    if (isEditable())
+        setEditText(text);
+    else
+        setCurrentIndex(findText(text, Qt::MatchFixedString));
+}
+
+int ComboBox::selStart() const
+{
+    if (!isEditable())
+        return 0;
+    return lineEdit()->hasSelectedText() ? lineEdit()->selectionStart() : lineEdit()->cursorPosition();
+}
+
+int ComboBox::selLength() const { return isEditable() ? lineEdit()->selectionLength() : 0; }
+
+void ComboBox::select(int start, int length)
+{
+    if (!isEditable())
+        return;
+    lineEdit()->deselect();
+    lineEdit()->setCursorPosition(start);
+    if (length > 0)
+        lineEdit()->setSelection(start, length);
+}
+
+void ComboBox::dropDown()
+{
+    if (QGuiApplication::mouseButtons() != Qt::NoButton)
+        m_dropOnRelease = true; // a list opened now would take the release for a click beside it, and close
+    else if (!isDroppedDown() && isVisible())
+        showPopup();
+}
+
+void ComboBox::closeUp()
+{
+    m_dropOnRelease = false;
+    if (isDroppedDown())
+        hidePopup();
+}
+
+bool ComboBox::isDroppedDown() const { return view()->isVisible(); }
+
+void ComboBox::showPopup()
+{
+    QComboBox::showPopup();
+    if (!isEditable() || !isDroppedDown())
+        return;
+    if (ListIndex() < 0)
+        view()->setCurrentIndex({});
+    QFocusEvent stillTyping(QEvent::FocusIn, Qt::PopupFocusReason); // keeps the caret in sight
+    QCoreApplication::sendEvent(lineEdit(), &stillTyping);
+}
+
+bool ComboBox::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool released = watched == lineEdit() && event->type() == QEvent::MouseButtonRelease;
+    const bool handled = QComboBox::eventFilter(watched, event);
+    if (released && m_dropOnRelease) {
+        m_dropOnRelease = false;
+        QMetaObject::invokeMethod(this, &ComboBox::dropDown, Qt::QueuedConnection);
+    }
+    return handled;
+}
+
+void ComboBox::focusOutEvent(QFocusEvent* event)
+{
+    if (event->reason() != Qt::PopupFocusReason)
+        closeUp();
+    QComboBox::focusOutEvent(event);
+}
+
+void ComboBox::keyPressEvent(QKeyEvent* event)
+{
+    const int page = maxVisibleItems() - 1;
+    const int current = ListIndex();
+    if (event->modifiers() & Qt::AltModifier) {
+        if (event->key() == Qt::Key_Down)
+            return dropDown();
+        if (event->key() == Qt::Key_Up)
+            return closeUp();
+    }
+    switch (event->key()) {
+    case Qt::Key_Up:
+        return walk(current - 1);
+    case Qt::Key_Down:
+        return walk(current + 1);
+    case Qt::Key_PageUp:
+        return walk(current - page);
+    case Qt::Key_PageDown:
+        return walk(current + page);
+    case Qt::Key_F4:
+        return isDroppedDown() ? closeUp() : dropDown();
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Escape:
+        return event->ignore();
+    default:
+        QComboBox::keyPressEvent(event);
+    }
+}
+
+/// The wheel of a mouse that passes over must not change a closed box.
+void ComboBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+/// Takes an entry as the operator's choice, as near to `index` as the list has one.
+void ComboBox::walk(int index)
+{
+    const int entry = qBound(0, index, count() - 1);
+    if (count() == 0 || entry == ListIndex())
+        return;
+    setListIndex(entry);
+    select(0, int(text().size()));
+    Q_EMIT clicked();
+}
+
+} // namespace forms

@@ -1,0 +1,90 @@
+#include "platform/forms/ListBox.h"
+
+#include <QStringListModel>
+
+namespace forms {
+
+int findPrefix(const QStringList& texts, const QString& prefix, int startAfter)
+{
+    const int count = int(texts.size());
+    const int start = startAfter >= 0 && startAfter < count ? startAfter : -1;
+    for (int step = 1; step <= count; ++step) {
+        const int index = (start + step) % count;
+        if (texts.at(index).startsWith(prefix, Qt::CaseInsensitive))
+            return index;
+    }
+    return -1;
+}
+
+ListBox::ListBox(QWidget* parent)
+    : QListView(parent)
+    , m_texts(new QStringListModel(this))
+{
+    setModel(m_texts);
+    setUniformItemSizes(true);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    connect(this, &QAbstractItemView::doubleClicked, this, &ListBox::dblClicked);
+    connect(this, &QAbstractItemView::clicked, this, &ListBox::clickedEntry);
+}
+
+void ListBox::Clear()
+{
+    const bool hadSelection = ListIndex() >= 0;
+    m_texts->setStringList({});
+    if (hadSelection)
+        Q_EMIT indexChanged();
+}
+
+void ListBox::AddItems(const QStringList& texts)
+{
+    const int first = ListCount();
+    if (texts.isEmpty())
+        return;
+    if (first == 0) {
+        m_texts->setStringList(texts);
+        return;
+    }
+    m_texts->insertRows(first, int(texts.size()));
+    for (int i = 0; i < texts.size(); ++i)
+        m_texts->setData(m_texts->index(first + i), texts.at(i));
+}
+
+void ListBox::AddItem(const QString& text) { AddItems({text}); }
+
+int ListBox::ListCount() const { return m_texts->rowCount(); }
+
+int ListBox::ListIndex() const
+{
+    // The current entry may be unselected: the view makes one current by itself when it gets the focus.
+    const QModelIndexList selected = selectedIndexes();
+    return selected.isEmpty() ? -1 : selected.first().row();
+}
+
+void ListBox::setListIndex(int index)
+{
+    if (index >= 0 && index < ListCount())
+        setCurrentIndex(m_texts->index(index));
+    else
+        selectionModel()->clear();
+}
+
+QString ListBox::List(int index) const
+{
+    return m_texts->data(m_texts->index(index), Qt::DisplayRole).toString();
+}
+
+QString ListBox::Text() const { return List(ListIndex()); }
+
+int ListBox::findString(const QString& prefix, int startAfter) const
+{
+    return findPrefix(m_texts->stringList(), prefix, startAfter);
+}
+
+void ListBox::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QListView::selectionChanged(selected, deselected);
+    Q_EMIT indexChanged();
+}
+
+} // namespace forms

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+/// Plain system message boxes. They are always in English; the shop's notices go through the message dialog
+/// instead.
+namespace forms {
+
+void plainMessage(QWidget* parent, const QString& text);
+void criticalMessage(QWidget* parent, const QString& text);
+/// A question with Yes and No; true for Yes. Esc is No.
+bool askPlain(QWidget* parent, const QString& text);
+
+} // namespace forms

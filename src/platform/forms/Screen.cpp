@@ -1,0 +1,280 @@
+#include "platform/forms/Screen.h"
+
+#include "platform/forms/ComboBox.h"
+#include "platform/forms/KeyPreview.h"
+#include "platform/forms/MessageBox.h"
+#include "platform/values/Errors.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QPushButton>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+
+namespace forms {
+
+namespace {
+
+/// The screens that stand on each other, the one in front last.
+std::vector<Screen*>& chain()
+{
+    static std::vector<Screen*> screens;
+    return screens;
+}
+
+void closePopups()
+{
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        popup->close();
+        if (QApplication::activePopupWidget() == popup)
+            return;
+    }
+}
+
+} // namespace
+
+void showError(QWidget* parent, const QString& text) { criticalMessage(parent, text); }
+
+bool guarded(QWidget* parent, const std::function<void()>& procedure)
+{
+    const QPointer<QWidget> over = parent;
+    QString text;
+    try {
+        procedure();
+        return true;
+    } catch (const OperatorError& error) {
+        text = error.text();
+    } catch (const std::exception& error) {
+        text = QString::fromLocal8Bit(error.what());
+    } catch (...) {
+        text = QStringLiteral("Unknown error");
+    }
+    QWidget* front = Screen::front();
+    showError(over && over->isVisible() ? over.data() : front, text);
+    return false;
+}
+
+void sendTab(bool backwards)
+{
+    closePopups();
+    QWidget* focused = QApplication::focusWidget();
+    auto* screen = focused ? qobject_cast<Screen*>(focused->window()) : Screen::front();
+    if (screen)
+        screen->focusNextPrevChild(!backwards);
+}
+
+Screen::Screen(QWidget* parent)
+    : QDialog(parent)
+{
+    KeyPreview::install();
+}
+
+Screen::~Screen()
+{
+    leaveChain();
+    if (m_loop)
+        m_loop->quit();
+}
+
+void Screen::showModal()
+{
+    const QPointer<Screen> self = this;
+    load();
+    if (!self || !m_loaded)
+        return;
+    setWindowModality(Qt::ApplicationModal);
+    present();
+    if (!self || !m_loaded)
+        return;
+    QEventLoop loop;
+    m_loop = &loop;
+    loop.exec(QEventLoop::DialogExec);
+    if (self && m_loaded) // the application is being quit
+        unload();
+}
+
+void Screen::showModeless()
+{
+    const QPointer<Screen> self = this;
+    load();
+    if (self && m_loaded)
+        present();
+}
+
+void Screen::load()
+{
+    if (m_loaded)
+        return;
+    m_loaded = true;
+    m_focused = nullptr;
+    for (QPushButton* button : findChildren<QPushButton*>()) {
+        button->setAutoDefault(false);
+        button->setDefault(false);
+    }
+    try {
+        Form_Load();
+    } catch (...) {
+        m_loaded = false;
+        throw;
+    }
+}
+
+/// Shows the loaded screen on top of the chain.
+void Screen::present()
+{
+    closePopups();
+    const Screen* below = front();
+    chain().push_back(this);
+    if (below && below->windowHandle()) {
+        winId();
+        windowHandle()->setTransientParent(below->windowHandle());
+    }
+    if (!focusWidget())
+        focusNextPrevChild(true);
+    show();
+    raise();
+    activateWindow();
+    activate();
+}
+
+void Screen::activate()
+{
+    guarded(this, [this] { Form_Activate(); });
+}
+
+void Screen::unload()
+{
+    if (!m_loaded)
+        return;
+    m_loaded = false;
+    const QPointer<Screen> self = this;
+    guarded(this, [this] { Form_Unload(); });
+    if (!self)
+        return;
+    const bool wasFront = front() == this;
+    leaveChain();
+    closePopups();
+    hide();
+    if (m_loop)
+        m_loop->quit();
+    if (wasFront && !m_notice && front()) {
+        front()->activateWindow();
+        front()->activate();
+    }
+}
+
+void Screen::leaveChain() { std::erase(chain(), this); }
+
+Screen* Screen::front() { return chain().empty() ? nullptr : chain().back(); }
+
+void Screen::onKeyPress(QWidget* control, std::function<void(int& key)> procedure)
+{
+    eventsOf(control).keyPress.push_back(std::move(procedure));
+}
+
+void Screen::onKeyDown(QWidget* control, std::function<void(int& key)> procedure)
+{
+    eventsOf(control).keyDown.push_back(std::move(procedure));
+}
+
+void Screen::onGotFocus(QWidget* control, std::function<void()> procedure)
+{
+    eventsOf(control).gotFocus.push_back(std::move(procedure));
+}
+
+void Screen::onLostFocus(QWidget* control, std::function<void()> procedure)
+{
+    eventsOf(control).lostFocus.push_back(std::move(procedure));
+}
+
+Screen::ControlEvents& Screen::eventsOf(QWidget* control)
+{
+    std::erase_if(m_events, [](const ControlEvents& events) { return !events.control; });
+    for (ControlEvents& events : m_events)
+        if (events.control == control)
+            return events;
+    m_events.push_back({});
+    m_events.back().control = control;
+    return m_events.back();
+}
+
+template <typename Procedure>
+std::vector<Procedure> Screen::proceduresFor(QWidget* target,
+                                             std::vector<Procedure> ControlEvents::*kind) const
+{
+    // A copy: the procedures may add others, or end the screen.
+    std::vector<Procedure> found;
+    for (const ControlEvents& events : m_events)
+        if (events.control && (events.control == target || events.control->isAncestorOf(target)))
+            found.insert(found.end(), (events.*kind).begin(), (events.*kind).end());
+    return found;
+}
+
+bool Screen::previewKeyDown(QWidget* target, int& key, Qt::KeyboardModifiers modifiers)
+{
+    const QPointer<Screen> self = this;
+    if (!guarded(this, [&] { Form_KeyDown(key, modifiers); }) || !self || key == 0)
+        return true;
+    for (const auto& procedure : proceduresFor(target, &ControlEvents::keyDown))
+        if (!guarded(this, [&] { procedure(key); }) || !self || key == 0)
+            return true;
+    return false;
+}
+
+bool Screen::previewKeyPress(QWidget* target, int& key)
+{
+    const QPointer<Screen> self = this;
+    if (!guarded(this, [&] { Form_KeyPress(key); }) || !self || key == 0)
+        return true;
+    for (const auto& procedure : proceduresFor(target, &ControlEvents::keyPress))
+        if (!guarded(this, [&] { procedure(key); }) || !self || key == 0)
+            return true;
+    return false;
+}
+
+void Screen::focusArrived(QWidget* target)
+{
+    if (m_focused == target)
+        return;
+    const QPointer<Screen> self = this;
+    const QPointer<QWidget> left = std::exchange(m_focused, target);
+    if (left)
+        for (const auto& procedure : proceduresFor(left, &ControlEvents::lostFocus))
+            if (guarded(this, procedure); !self)
+                return;
+    if (m_focused != target) // a procedure has moved the focus on
+        return;
+    for (const auto& procedure : proceduresFor(target, &ControlEvents::gotFocus))
+        if (guarded(this, procedure); !self)
+            return;
+}
+
+void Screen::useScreenHeight(double share)
+{
+    const QSize available = screen()->availableSize();
+    resize(qMin(available.width(), qMax(width(), available.width() * 9 / 10)),
+           int(available.height() * share));
+}
+
+void Screen::closeEvent(QCloseEvent* event)
+{
+    unload();
+    event->accept();
+}
+
+/// QDialog's own Enter and Esc are off: what a key means is the screen's to say.
+void Screen::keyPressEvent(QKeyEvent* event) { event->ignore(); }
+
+/// Stands over the middle of the screen below.
+void Screen::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    const auto& screens = chain();
+    const auto self = std::find(screens.begin(), screens.end(), this);
+    if (!event->spontaneous() && self != screens.begin() && self != screens.end())
+        adjustPosition(*std::prev(self));
+}
+
+} // namespace forms

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+/// The field for notes of several lines. Enter is a line break, the Tab key leaves the field. Its text has a
+/// carriage return and a line feed between lines, as the shop's tables keep it.
+class swTextBoxMultiLine : public QPlainTextEdit
+{
+    Q_OBJECT
+    Q_PROPERTY(QString Text READ Text WRITE setText)
+    Q_PROPERTY(int BoxType READ BoxType WRITE setBoxType)
+public:
+    explicit swTextBoxMultiLine(QWidget* parent = nullptr);
+
+    QString Text() const;
+    /// Takes any kind of line break. A money field (BoxType 1) formats the text; empty text stays empty.
+    void setText(const QString& text);
+    int BoxType() const { return m_boxType; }
+    void setBoxType(int boxType);
+
+Q_SIGNALS:
+    void Change();
+    void GotFocus();
+    void LostFocus();
+    /// A character key; the receiver can change it, or set 0 to swallow it.
+    void KeyPress(int& key);
+    /// A key-down by number, with 1 for Shift, 2 for Ctrl and 4 for Alt; the receiver can set 0 to swallow
+    /// it.
+    void KeyDown(int& key, int shift);
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    int m_boxType = 0;
+};
