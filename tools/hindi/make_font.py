@@ -1,6 +1,6 @@
 """Makes the font that shows the encoding of "Kruti Dev 010" out of an open Devanagari font.
 
-    make_font.py <source font> <target font> <family>
+    make_font.py <hb-shape> <source font> <target font> <family>
 
 Each code gets the glyph of its shape; codes that make one letter together (a half form and its stem, a letter and its
 dot) join into the glyph of that letter, so that it looks as its designer drew it. The source's own tables for composing
@@ -39,14 +39,12 @@ DRAWN_SPACES = {"space", "zerowidthjoiner", "zerowidthnonjoiner"}
 class Shaper:
     """Asks the shaping engine which glyphs of the source font show a text."""
 
-    def __init__(self, path):
-        self.path = path
+    def __init__(self, program, path):
+        self.command = [program, "--no-positions", "--no-clusters", path]
 
     def glyphs(self, text):
         """The names of the glyphs of a text, from left to right."""
-        shaped = subprocess.run(
-            ["hb-shape", "--no-positions", "--no-clusters", self.path, text], check=True, capture_output=True, text=True
-        ).stdout.strip()
+        shaped = subprocess.run(self.command + [text], check=True, capture_output=True, encoding="utf-8").stdout.strip()
         return [name for name in shaped.strip("[]").split("|") if name not in DRAWN_SPACES]
 
 
@@ -167,9 +165,9 @@ def name_anew(font, family):
         names.setName(text, name_id, 1, 0, 0)
 
 
-def main(source, target, family):
+def main(program, source, target, family):
     font = TTFont(source)
-    shaper = Shaper(source)
+    shaper = Shaper(program, source)
     source_cmap = font.getBestCmap()
     shapes = single_codes(shaper, source_cmap)
     joined = joined_codes(shaper)
@@ -201,6 +199,6 @@ def main(source, target, family):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) != 4:
+    if len(sys.argv) != 5:
         sys.exit(__doc__)
     main(*sys.argv[1:])
