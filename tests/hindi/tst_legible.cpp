@@ -12,7 +12,8 @@
 
 namespace {
 
-struct Message {
+struct Message
+{
     QString english;
     QString hindi; // Unicode
 };
@@ -41,7 +42,8 @@ QHash<QString, QString> readTable()
     sqlite3_open_v2(PROGRAM_FOLDER "/Lang.mdb", &database, SQLITE_OPEN_READONLY, nullptr);
     QHash<QString, QString> table;
     const auto addRow = [](void* rows, int, char** values, char**) {
-        static_cast<QHash<QString, QString>*>(rows)->insert(QString::fromUtf8(values[0]), QString::fromUtf8(values[1]));
+        static_cast<QHash<QString, QString>*>(rows)->insert(QString::fromUtf8(values[0]),
+                                                            QString::fromUtf8(values[1]));
         return 0;
     };
     sqlite3_exec(database, "Select EngMessage, HindiMessage from messages", addRow, &table, nullptr);
@@ -130,15 +132,13 @@ private Q_SLOTS:
     void ownFontStandsIn();
 };
 
-void TestLegible::initTestCase()
-{
-    forms::applyTheme(*qApp, QStringLiteral(PROGRAM_FOLDER "/fonts"));
-}
+void TestLegible::initTestCase() { forms::applyTheme(*qApp, QStringLiteral(PROGRAM_FOLDER "/fonts")); }
 
 void TestLegible::ownFontStandsIn()
 {
     const QFontInfo used(QFont(QStringLiteral("Kruti Dev 010")));
-    QVERIFY2(used.family() == u"Kruti Dev 010" || used.family() == u"Seamwise Devanagari", qPrintable(used.family()));
+    QVERIFY2(used.family() == u"Kruti Dev 010" || used.family() == u"Seamwise Devanagari",
+             qPrintable(used.family()));
 }
 
 void TestLegible::textsOfTheDialog()
@@ -169,12 +169,15 @@ void TestLegible::everyMessage()
     for (qsizetype i = 0; i < messages.size(); ++i) {
         const double alike = similarity(letters(messages[i].hindi), letters(read[i]));
         sum += alike;
-        QVERIFY2(alike >= 0.85,
-                 qPrintable(QStringLiteral("%1: %2 reads as %3").arg(messages[i].english, messages[i].hindi, read[i])));
+        QVERIFY2(
+            alike >= 0.85,
+            qPrintable(
+                QStringLiteral("%1: %2 reads as %3").arg(messages[i].english, messages[i].hindi, read[i])));
     }
     const double average = sum / double(messages.size());
     QVERIFY2(average >= 0.97, qPrintable(QString::number(average)));
-    qInfo("%lld messages, read back with a likeness of %.3f on average", static_cast<long long>(messages.size()), average);
+    qInfo("%lld messages, read back with a likeness of %.3f on average",
+          static_cast<long long>(messages.size()), average);
 }
 
 QTEST_MAIN(TestLegible)
