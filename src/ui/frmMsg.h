@@ -29,6 +29,7 @@ protected:
 private:
     /// Puts the Hindi of a text on the dialog; a sentence that Lang.mdb lacks shows in English.
     void LoadHindiText(const QString& text, qint32 kind);
+    /// Sizes the dialog to the text, and puts the buttons under it.
     void layOut();
     void answer(qint16 result);
 

@@ -1,0 +1,48 @@
+#include "ui/boxes.h"
+
+#include "platform/forms/Keys.h"
+#include "platform/values/Numbers.h"
+
+namespace boxes {
+
+QString shown(const QString& text, int boxType)
+{
+    return boxType == Money && !text.isEmpty() ? values::formatMoneyText(text) : text;
+}
+
+bool isRealFocus(const QFocusEvent& event)
+{
+    switch (event.reason()) {
+    case Qt::PopupFocusReason:
+    case Qt::MenuBarFocusReason:
+        return false;
+    default:
+        return true;
+    }
+}
+
+bool keyDownSwallowed(const QKeyEvent& event, const std::function<void(int& key, int shift)>& raise)
+{
+    int key = forms::keyNumber(event);
+    if (key == 0)
+        return false;
+    const Qt::KeyboardModifiers held = event.modifiers();
+    raise(key, (held & Qt::ShiftModifier ? 1 : 0) | (held & Qt::ControlModifier ? 2 : 0) |
+                   (held & Qt::AltModifier ? 4 : 0));
+    return key == 0;
+}
+
+void withFilteredKey(QKeyEvent& event, const std::function<int(int key)>& filter,
+                     const std::function<void(QKeyEvent*)>& type)
+{
+    const int code = forms::charCode(event);
+    const int key = code == 0 ? 0 : filter(code);
+    if (code == key)
+        return type(&event);
+    if (key == 0)
+        return event.accept();
+    QKeyEvent changed = forms::withCharCode(event, key);
+    type(&changed);
+}
+
+} // namespace boxes

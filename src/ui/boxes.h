@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <functional>
+
+/// What the input controls of the screens share.
+namespace boxes {
+
+/// The BoxType of a money box.
+inline constexpr int Money = 1;
+
+/// The text as a box of that type shows it.
+QString shown(const QString& text, int boxType);
+
+/// Focus that comes from, or goes to, another control: not an open list, a menu or another window.
+bool isRealFocus(const QFocusEvent& event);
+
+/// Offers a key-down by number and shift state; true when it was set to 0.
+bool keyDownSwallowed(const QKeyEvent& event, const std::function<void(int& key, int shift)>& raise);
+
+/// Passes a character key through `filter` and gives what is left of it to `type`; other keys go to `type` as
+/// they are.
+void withFilteredKey(QKeyEvent& event, const std::function<int(int key)>& filter,
+                     const std::function<void(QKeyEvent*)>& type);
+
+} // namespace boxes

@@ -1,0 +1,245 @@
+#include "ui/cSendKeys.h"
+
+#include "platform/forms/Screen.h"
+
+#include <QApplication>
+#include <QHash>
+#include <QKeyEvent>
+
+namespace {
+
+const QHash<QString, int>& namedKeys()
+{
+    static const QHash<QString, int> keys = [] {
+        QHash<QString, int> named{{QStringLiteral("BACKSPACE"), Qt::Key_Backspace},
+                                  {QStringLiteral("BS"), Qt::Key_Backspace},
+                                  {QStringLiteral("BKSP"), Qt::Key_Backspace},
+                                  {QStringLiteral("BREAK"), Qt::Key_Cancel},
+                                  {QStringLiteral("CAPSLOCK"), Qt::Key_CapsLock},
+                                  {QStringLiteral("DELETE"), Qt::Key_Delete},
+                                  {QStringLiteral("DEL"), Qt::Key_Delete},
+                                  {QStringLiteral("DOWN"), Qt::Key_Down},
+                                  {QStringLiteral("END"), Qt::Key_End},
+                                  {QStringLiteral("ENTER"), Qt::Key_Return},
+                                  {QStringLiteral("ESC"), Qt::Key_Escape},
+                                  {QStringLiteral("HELP"), Qt::Key_Help},
+                                  {QStringLiteral("HOME"), Qt::Key_Home},
+                                  {QStringLiteral("INS"), Qt::Key_Insert},
+                                  {QStringLiteral("INSERT"), Qt::Key_Insert},
+                                  {QStringLiteral("LEFT"), Qt::Key_Left},
+                                  {QStringLiteral("NUMLOCK"), Qt::Key_NumLock},
+                                  {QStringLiteral("PGDN"), Qt::Key_PageDown},
+                                  {QStringLiteral("PGUP"), Qt::Key_PageUp},
+                                  {QStringLiteral("PRTSC"), Qt::Key_Print},
+                                  {QStringLiteral("RIGHT"), Qt::Key_Right},
+                                  {QStringLiteral("SCROLLLOCK"), Qt::Key_ScrollLock},
+                                  {QStringLiteral("TAB"), Qt::Key_Tab},
+                                  {QStringLiteral("UP"), Qt::Key_Up}};
+        for (int number = 1; number <= 16; ++number)
+            named.insert(QStringLiteral("F%1").arg(number), Qt::Key_F1 + number - 1);
+        return named;
+    }();
+    return keys;
+}
+
+Qt::KeyboardModifier modifierOfKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Shift:
+        return Qt::ShiftModifier;
+    case Qt::Key_Control:
+        return Qt::ControlModifier;
+    case Qt::Key_Alt:
+        return Qt::AltModifier;
+    default:
+        return Qt::NoModifier;
+    }
+}
+
+/// What a key writes of itself; a named key other than Enter, Backspace and Esc writes nothing.
+QString textOfKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Return:
+        return QStringLiteral("\r");
+    case Qt::Key_Backspace:
+        return QStringLiteral("\b");
+    case Qt::Key_Escape:
+        return QStringLiteral("\x1b");
+    default:
+        return key < Qt::Key_Escape ? QString(QChar(key)).toLower() : QString();
+    }
+}
+
+} // namespace
+
+/// Reads a text in the notation from left to right. Positions in errors count from 1.
+class cSendKeys::Reader
+{
+public:
+    explicit Reader(const QString& keys)
+        : m_keys(keys)
+    {
+    }
+
+    std::vector<Stroke> read()
+    {
+        while (m_at < m_keys.size())
+            readOne();
+        if (!m_groups.empty())
+            throw Error(QStringLiteral("Invalid sendkeys command: more open brackets than close brackets."));
+        return std::move(m_strokes);
+    }
+
+private:
+    void readOne()
+    {
+        const QChar next = m_keys.at(m_at);
+        switch (next.unicode()) {
+        case '+':
+            m_next |= Qt::ShiftModifier;
+            break;
+        case '^':
+            m_next |= Qt::ControlModifier;
+            break;
+        case '%':
+            m_next |= Qt::AltModifier;
+            break;
+        case '~':
+            add(QStringLiteral("ENTER"), 1);
+            break;
+        case '(':
+            m_groups.push_back(std::exchange(m_next, Qt::NoModifier));
+            break;
+        case ')':
+            if (m_groups.empty())
+                throw Error(QStringLiteral("Invalid sendkeys command: unmatched ) at position ") +
+                            position());
+            m_groups.pop_back();
+            break;
+        case '{':
+            readBraces();
+            break;
+        default:
+            add(next, 1);
+        }
+        ++m_at;
+    }
+
+    void readBraces()
+    {
+        const QStringView rest = QStringView(m_keys).mid(m_at + 1);
+        // A closing bracket can itself be the key: {}} or {} 3}.
+        const bool closingIsKey =
+            rest.startsWith(QLatin1String("}}")) || rest.startsWith(QLatin1String("} "));
+        if (rest.isEmpty() || (rest.startsWith(QLatin1Char('}')) && !closingIsKey))
+            throw Error(QStringLiteral(
+                            "Invalid sendkeys command; opening { without content or closing } at position ") +
+                        position());
+        const qsizetype close = rest.indexOf(QLatin1Char('}'), 1);
+        if (close < 0)
+            throw Error(QStringLiteral("Invalid sendkeys command; opening { without closing } at position ") +
+                        position());
+        const QString content = rest.left(close).toString();
+        const qsizetype blank = content.indexOf(QLatin1Char(' '), 1);
+        int times = 1;
+        if (blank > 0) {
+            const QString count = content.mid(blank + 1);
+            bool isNumber = false;
+            times = count.toInt(&isNumber);
+            if (!isNumber || times < 0)
+                throw Error(QStringLiteral("Invalid sendkeys command; key repetitions '") + count +
+                            QStringLiteral("' is invalid near position ") + position());
+        }
+        add(blank > 0 ? content.left(blank) : content, times);
+        m_at += close + 1;
+    }
+
+    void add(const QString& name, int times)
+    {
+        const int key = KeyCode(name);
+        Qt::KeyboardModifiers held = std::exchange(m_next, Qt::NoModifier);
+        for (const Qt::KeyboardModifiers group : m_groups)
+            held |= group;
+        const bool character = name.size() == 1;
+        if (character && name.at(0).isUpper())
+            held |= Qt::ShiftModifier;
+        m_strokes.insert(m_strokes.end(), size_t(times), {key, character ? name : textOfKey(key), held});
+    }
+
+    QString position() const { return QString::number(m_at + 1); }
+
+    const QString& m_keys;
+    qsizetype m_at = 0;
+    Qt::KeyboardModifiers m_next;
+    std::vector<Qt::KeyboardModifiers> m_groups;
+    std::vector<Stroke> m_strokes;
+};
+
+void cSendKeys::SendKeys(const QString& keys, bool wait)
+{
+    const std::vector<Stroke> strokes = Reader(keys).read();
+    if (wait)
+        play(strokes);
+    else
+        QMetaObject::invokeMethod(
+            qApp, [strokes] { cSendKeys().play(strokes); }, Qt::QueuedConnection);
+}
+
+void cSendKeys::KeyPress(int key)
+{
+    KeyDown(key);
+    KeyUp(key);
+}
+
+void cSendKeys::KeyDown(int key)
+{
+    m_held |= modifierOfKey(key);
+    send(true, key, textOfKey(key));
+}
+
+void cSendKeys::KeyUp(int key)
+{
+    m_held &= ~Qt::KeyboardModifiers(modifierOfKey(key));
+    send(false, key, textOfKey(key));
+}
+
+int cSendKeys::KeyCode(const QString& name)
+{
+    if (name.size() == 1)
+        return name.at(0).toUpper().unicode();
+    const int key = namedKeys().value(name.toUpper(), 0);
+    if (key == 0)
+        throw Error(QStringLiteral("Key ") + name + QStringLiteral(" could not be interpreted."));
+    return key;
+}
+
+void cSendKeys::play(const std::vector<Stroke>& strokes)
+{
+    constexpr int modifierKeys[] = {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt};
+    for (const Stroke& stroke : strokes) {
+        for (const int key : modifierKeys)
+            if (stroke.held & modifierOfKey(key))
+                KeyDown(key);
+        send(true, stroke.key, stroke.text);
+        send(false, stroke.key, stroke.text);
+        for (const int key : modifierKeys)
+            if (stroke.held & modifierOfKey(key))
+                KeyUp(key);
+    }
+}
+
+void cSendKeys::send(bool down, int key, const QString& text)
+{
+    const bool plain = !(m_held & (Qt::ControlModifier | Qt::AltModifier));
+    if (key == Qt::Key_Tab && plain) {
+        if (down)
+            forms::sendTab(m_held & Qt::ShiftModifier);
+        return;
+    }
+    if (QWidget* focused = QApplication::focusWidget()) {
+        QKeyEvent event(down ? QEvent::KeyPress : QEvent::KeyRelease, key, m_held,
+                        m_held & Qt::ShiftModifier ? text.toUpper() : text);
+        QCoreApplication::sendEvent(focused, &event);
+    }
+}

@@ -1,0 +1,145 @@
+#include "ui/frmMsg.h"
+
+#include "core/Session.h"
+#include "core/Settings.h"
+#include "platform/ado/Recordset.h"
+#include "platform/forms/Metrics.h"
+#include "ui_frmMsg.h"
+
+#include <QScreen>
+
+using forms::twips;
+
+namespace {
+
+constexpr qint32 withOK = 1;
+constexpr qint32 withYesNo = 2;
+
+const QString hindi = QStringLiteral("Hindi");
+const QString english = QStringLiteral("English");
+const QString hindiFont = QStringLiteral("Kruti Dev 010");
+
+void setCaption(QWidget& control, const QString& family, double size, const QString& caption)
+{
+    QFont font = control.font();
+    font.setFamily(family);
+    font.setPointSizeF(forms::points(size));
+    control.setFont(font);
+    if (auto* label = qobject_cast<QLabel*>(&control))
+        label->setText(caption);
+    else if (auto* button = qobject_cast<QAbstractButton*>(&control))
+        button->setText(caption);
+}
+
+} // namespace
+
+void SetHindiFont(QWidget& control, const QString& caption) { setCaption(control, hindiFont, 12, caption); }
+
+void SetEngFont(QWidget& control, const QString& caption)
+{
+    setCaption(control, QStringLiteral("MS Sans Serif"), 8, caption);
+}
+
+frmMsg::frmMsg(QWidget* parent)
+    : Screen(parent)
+    , ui(std::make_unique<Ui::frmMsg>())
+{
+    ui->setupUi(this);
+    setNotice(true);
+    on(ui->cmdOK, &QPushButton::clicked, [this] { answer(1); });
+    on(ui->cmdYes, &QPushButton::clicked, [this] { answer(1); });
+    on(ui->cmdNo, &QPushButton::clicked, [this] { answer(0); });
+}
+
+frmMsg::~frmMsg() = default;
+
+void frmMsg::Form_Load()
+{
+    if (GetSetting(0, english) != hindi)
+        return;
+    QFont font = ui->lblTitle->font();
+    font.setFamily(hindiFont);
+    font.setPointSizeF(forms::points(14));
+    font.setBold(true);
+    ui->lblTitle->setFont(font);
+    ui->lblTitle->setText(QStringLiteral("lqpuk"));
+}
+
+void frmMsg::ShowMessage(const QString& text, qint32 kind, qint16& result)
+{
+    MsgResult = 0;
+    load();
+    if (session.Language == hindi) {
+        LoadHindiText(text, kind);
+    } else if (session.Language == english) {
+        SetEngFont(*ui->lblMsg, text);
+        SetEngFont(*ui->cmdOK, QStringLiteral("Ok"));
+    }
+    layOut();
+    if (kind == withOK || kind == withYesNo) {
+        ui->cmdOK->setVisible(kind == withOK);
+        ui->cmdYes->setVisible(kind == withYesNo);
+        ui->cmdNo->setVisible(kind == withYesNo);
+        (kind == withOK ? ui->cmdOK : ui->cmdYes)->setFocus();
+    }
+    showModal();
+    result = MsgResult;
+}
+
+void frmMsg::LoadHindiText(const QString& text, qint32)
+{
+    ado::Connection language;
+    language.open(session.languageDatabasePath(), {}, ado::Connection::Mode::ReadOnly);
+    ado::Recordset messages(language);
+    const QString quoted = QString(text).replace(QLatin1Char('\''), QLatin1String("''"));
+    messages.Open(QStringLiteral("Select * from messages where EngMessage='") + quoted + QLatin1Char('\''));
+    if (messages.AtEOF()) {
+        SetEngFont(*ui->lblMsg, text);
+        SetEngFont(*ui->cmdOK, QStringLiteral("Ok"));
+    } else {
+        SetHindiFont(*ui->lblMsg, messages["HindiMessage"].text());
+        SetHindiFont(*ui->cmdOK, QStringLiteral("Bhd gS"));
+        SetHindiFont(*ui->cmdYes, QStringLiteral("gk"));
+        SetHindiFont(*ui->cmdNo, QStringLiteral("ugh"));
+    }
+    messages.Close();
+}
+
+void frmMsg::layOut()
+{
+    // The label is as large as its text, but for lines that would leave the screen.
+    QLabel& label = *ui->lblMsg;
+    label.ensurePolished();
+    const int widest = screen()->availableSize().width() * 7 / 10;
+    const QRect natural = label.fontMetrics().boundingRect(
+        QRect(0, 0, widest, QWIDGETSIZE_MAX), Qt::TextWordWrap | Qt::TextExpandTabs, label.text());
+    label.resize(natural.width() + 2, natural.height() + 2);
+
+    QSize button(twips(1350), 0);
+    for (QPushButton* each : {ui->cmdOK, ui->cmdYes, ui->cmdNo})
+        button = button.expandedTo(each->sizeHint());
+    for (QPushButton* each : {ui->cmdOK, ui->cmdYes, ui->cmdNo})
+        each->resize(button);
+
+    const int formHeight = button.height() + label.height() + twips(1500);
+    const int formWidth = qMax(label.width() + twips(500), twips(4650));
+    const int top = label.height() + twips(900);
+    const int last = formWidth - (button.width() + twips(200));
+    setFixedSize(formWidth, formHeight);
+    ui->Shape1->resize(formWidth, ui->Shape1->height());
+    ui->cmdOK->move(last, top);
+    ui->cmdNo->move(last, top);
+    ui->cmdYes->move(last - button.width() - twips(50), top);
+}
+
+void frmMsg::answer(qint16 result)
+{
+    MsgResult = result;
+    unload();
+}
+
+void frmMsg::Form_KeyPress(int& key)
+{
+    if (key == forms::key::Escape)
+        unload();
+}
