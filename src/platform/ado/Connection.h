@@ -10,7 +10,8 @@
 
 struct sqlite3;
 
-/// Access to the shop's tables in the vocabulary of connections and recordsets, over an encrypted SQLite file.
+/// Access to the shop's tables in the vocabulary of connections and recordsets, over an encrypted SQLite
+/// file.
 namespace ado {
 
 class Recordset;
@@ -26,32 +27,38 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    /// Makes a new encrypted file (an empty password makes a plain one). Throws DatabaseError if the path exists or
-    /// cannot be written. The file itself appears with the first table.
+    /// Makes a new encrypted file (an empty password makes a plain one). Throws DatabaseError if the path
+    /// exists or cannot be written. The file stands there empty until its first table is written.
     void create(const QString& path, const QString& password);
-    /// Opens an existing file and proves the password with one read. Throws DatabaseError, whose text names the file, if
-    /// it is missing, empty, damaged or of another password; nothing is ever written to such a file.
+    /// Opens an existing file and proves the password with one read. Throws DatabaseError, whose text names
+    /// the file, if it is missing, empty, damaged or of another password; nothing is ever written to such a
+    /// file.
     void open(const QString& path, const QString& password, Mode mode = Mode::ReadWrite);
     /// Closes the handle; recordsets still open on it are closed. No fault if it is not open.
     void close();
     bool isOpen() const;
     QString path() const;
 
-    /// Runs one statement in the system's dialect and returns the number of rows it changed. Throws DatabaseError.
+    /// Runs one statement in the system's dialect and returns the number of rows it changed. Throws
+    /// DatabaseError.
     int Execute(const QString& sql);
 
-    /// Makes the writes of one operation one commit. What was written is committed when `work` ends, also when it ends by
-    /// an exception, which then goes on to the caller: nothing is taken back, but a power cut leaves all or nothing.
-    /// If the commit itself fails (a full disk), everything of the batch is rolled back and DatabaseError is thrown, with
-    /// `lostWrites()` true. A batch inside a batch is part of the outer one. No event loop may run inside.
+    /// Makes the writes of one operation one commit. What was written is committed when `work` ends, also
+    /// when it ends by an exception, which then goes on to the caller: nothing is taken back, but a power cut
+    /// leaves all or nothing. If the commit itself fails (a full disk), everything of the batch is rolled
+    /// back and DatabaseError is thrown, with `lostWrites()` true. A batch inside a batch is part of the
+    /// outer one. No event loop may run inside.
     void writeBatch(const std::function<void()>& work);
 
     /// The engine's handle, for code that knows what it does (backup, benches, tests). Null when not open.
     sqlite3* handle() const;
 
+    struct Private;
+
 private:
     friend class Recordset;
-    struct Private;
+    void openFile(const QString& path, const QString& password, int flags);
+
     std::unique_ptr<Private> d;
 };
 

@@ -9,7 +9,8 @@ class DatabaseError : public OperatorError
 {
 public:
     explicit DatabaseError(const QString& text, bool lostWrites = false)
-        : OperatorError(text), m_lostWrites(lostWrites)
+        : OperatorError(text)
+        , m_lostWrites(lostWrites)
     {
     }
 

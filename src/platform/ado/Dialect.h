@@ -9,10 +9,11 @@ namespace ado::dialect {
 /// A statement in the engine's words.
 struct Statement
 {
-    QString sql;          ///< for the engine; a select without an order gets one by insertion
-    QString reversed;     ///< the same select from its last row on; empty when it cannot be turned round
-    QString countSql;     ///< gives the number of rows; empty when it cannot be made
-    QString table;        ///< the table whose rows can be written; empty when there is none
+    QString sql;      ///< for the engine; a select without an order gets one by insertion
+    QString reversed; ///< the last row of the same select; empty when it cannot be turned round
+    QString countSql; ///< gives the number of rows; empty when the statement is no select
+    QString table; ///< the table whose rows can be written: `sql` then yields the row's key in front of the
+                   ///< columns
     bool isSelect = false;
 };
 
@@ -20,18 +21,21 @@ struct Statement
 /// Throws DatabaseError for a text that cannot be cut into words (an open quote, a date that is none).
 Statement translate(const QString& sql);
 
-/// A hierarchical query: SHAPE {parent} [AS a] APPEND ({child} [AS b] RELATE parentField TO childField) [AS chapter], or
-/// SHAPE {rows} AS a COMPUTE a, SUM(a.'field') AS name BY 'field'.
+/// A statement as it stands, or the select of all rows where the text is the mere name of a table.
+QString expandTableName(const QString& command);
+
+/// The select with one more condition on its rows.
+QString withCondition(const QString& select, const QString& condition);
+
+/// A hierarchical query: SHAPE {parent} [AS a] APPEND ({child} [AS b] RELATE parentField TO childField) [AS
+/// chapter], or SHAPE {rows} AS a COMPUTE a, SUM(a.'field') AS name BY 'field'.
 struct Shape
 {
-    QString parentSql;
+    QString parentSql; ///< the parents; for COMPUTE the select of the groups
     QString childSql;
-    QString chapter;
+    QString chapter; ///< the name under which a parent's children are found
     QString parentField;
     QString childField;
-    QString groupBy;      ///< COMPUTE ... BY this field; empty for APPEND
-    QString sumField;
-    QString sumName;
 };
 
 /// Empty when the text is no SHAPE query. Throws DatabaseError when it begins as one and cannot be read.

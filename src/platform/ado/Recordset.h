@@ -14,6 +14,7 @@ namespace ado {
 inline const QVariant Null;
 
 class Recordset;
+enum class ColumnType;
 
 /// One field of the current row of a recordset: read it, or set it before the row is written.
 class Field
@@ -29,26 +30,41 @@ public:
     Currency money() const;
     QDate date() const;
 
-    /// Sets the field of the current (or new) row; written by Update or UpdateBatch. Takes QString, int, double, bool, QDate,
-    /// Currency (through its QVariant) and Null.
+    /// Sets the field of the current (or new) row; written by Update or UpdateBatch. Takes QString, int,
+    /// double, bool, QDate, Currency (through its QVariant) and Null.
     Field& operator=(const QVariant& value);
     Field& operator=(Currency value);
+    template <typename Left, typename Right>
+    Field& operator=(const QStringBuilder<Left, Right>& text)
+    {
+        return *this = QVariant(QString(text));
+    }
     Field(const Field&) = default;
     Field& operator=(const Field&) = delete;
 
 private:
     friend class Recordset;
-    Field(Recordset& owner, int column) : m_owner(owner), m_column(column) {}
+    Field(Recordset& owner, int column)
+        : m_owner(owner)
+        , m_column(column)
+    {
+    }
+    const QVariant& stored() const;
+    ColumnType type() const;
+
     Recordset& m_owner;
     int m_column;
 };
 
-/// Rows of a query, with a cursor. Rows are read as the cursor reaches them; "the last row" is fetched directly.
+/// Rows of a query, with a cursor. Rows are read as the cursor reaches them; "the last row" is fetched
+/// directly.
 ///
 /// - A query without an order comes in order of insertion.
 /// - Field names match in any case; an unknown name throws DatabaseError.
-/// - Rows of "Select * from <one table> ..." can be written. Values are brought to their column's form on the way in: money
-///   to four decimals (half to even), dates to ISO text, integers checked for 32 bits. A required field left out is refused.
+/// - Rows of "Select * from <one table> ..." can be written. Values are brought to their column's form on the
+/// way in: money
+///   to four decimals (half to even), dates to ISO text, integers checked for 32 bits. A required field left
+///   out is refused.
 class Recordset
 {
 public:
@@ -58,7 +74,8 @@ public:
     Recordset(const Recordset&) = delete;
     Recordset& operator=(const Recordset&) = delete;
 
-    /// Runs the statement (closing first if open) and stands on the first row, if there is one. Throws DatabaseError.
+    /// Runs the statement (closing first if open) and stands on the first row, if there is one. Throws
+    /// DatabaseError.
     void Open(const QString& sql);
     /// The same with the default source.
     void Open();
@@ -70,7 +87,9 @@ public:
     int RecordCount();
     /// True behind the last row, and on an empty result.
     bool AtEOF();
+    /// On an empty result MoveFirst and MoveLast leave the cursor where it is: at the end.
     void MoveFirst();
+    /// Throws NoCurrentRecordError at the end.
     void MoveNext();
     void MoveLast();
 
@@ -80,12 +99,13 @@ public:
     bool HasField(const QString& name) const;
     /// Throws NoCurrentRecordError when there is no current row.
     Field operator[](const QString& name);
-    Field operator[](const char* name) { return (*this)[QString::fromLatin1(name)]; }
+    Field operator[](const char* name);
     Field operator[](int column);
 
     /// Begins a new row; it becomes the current one.
     void AddNew();
-    /// Writes the current row's changes. After it an autonumber of a new row can be read. Throws DatabaseError.
+    /// Writes the current row's changes. After it an autonumber of a new row can be read. Throws
+    /// DatabaseError.
     void Update();
     /// Writes all rows changed or added since the last write, as one commit.
     void UpdateBatch();
@@ -97,6 +117,8 @@ private:
     friend class Field;
     friend class Connection;
     struct Private;
+    Field fieldAt(int column, const QString& name);
+
     std::unique_ptr<Private> d;
 };
 

@@ -1,0 +1,201 @@
+#define SQLITE_HAS_CODEC
+#include "platform/ado/Connection.h"
+
+#include "platform/ado/ConnectionPrivate.h"
+#include "platform/ado/Dialect.h"
+#include "platform/ado/Functions.h"
+#include "platform/ado/RecordsetPrivate.h"
+
+#include <QFileInfo>
+#include <exception>
+#include <sqlcipher/sqlite3.h>
+
+namespace ado {
+
+namespace {
+
+constexpr int busyTimeoutMs = 5000;
+
+QString engineText(sqlite3* database) { return QString::fromUtf8(sqlite3_errmsg(database)); }
+
+/// Commits that survive a power cut; read back, as the engine goes on in silence when it cannot have its way.
+void makeDurable(Connection::Private& d)
+{
+    const bool truncate =
+        d.firstValue(QStringLiteral("PRAGMA journal_mode=TRUNCATE")).toString() == QLatin1String("truncate");
+    d.run(QStringLiteral("PRAGMA synchronous=FULL"));
+    constexpr int full = 2;
+    if (!truncate || d.firstValue(QStringLiteral("PRAGMA synchronous")).toInt() != full)
+        throw DatabaseError(QStringLiteral("The journal cannot be made safe."));
+}
+
+} // namespace
+
+sqlite3* Connection::Private::openHandle() const
+{
+    if (!database)
+        throw DatabaseError(QStringLiteral("The connection is closed."));
+    return database;
+}
+
+std::unique_ptr<Prepared> Connection::Private::prepare(const QString& sql)
+{
+    return statements.take(openHandle(), sql);
+}
+
+bool Connection::Private::step(Prepared& statement)
+{
+    const int code = sqlite3_step(statement.handle());
+    if (code == SQLITE_ROW)
+        return true;
+    if (code == SQLITE_DONE)
+        return false;
+    const QString text = engineText(database);
+    statement.reset();
+    fail(text);
+}
+
+void Connection::Private::fail(const QString& text)
+{
+    const bool open = sqlite3_get_autocommit(database) == 0;
+    if (inBatch && !open && lostBy.isEmpty())
+        lostBy = text;
+    if (!inBatch && open)
+        sqlite3_exec(database, "ROLLBACK", nullptr, nullptr, nullptr);
+    throw DatabaseError(text, !lostBy.isEmpty());
+}
+
+void Connection::Private::beforeWrite(const QString& table)
+{
+    if (!lostBy.isEmpty())
+        throw DatabaseError(lostBy, true);
+    for (Recordset* recordset : recordsets)
+        recordset->d->takeInRest(table);
+}
+
+void Connection::Private::run(const QString& sql)
+{
+    Prepared statement(openHandle(), sql);
+    while (step(statement)) {
+    }
+}
+
+QVariant Connection::Private::firstValue(const QString& sql)
+{
+    Prepared statement(openHandle(), sql);
+    return step(statement) ? statement.column(0) : QVariant();
+}
+
+Connection::Connection()
+    : d(std::make_unique<Private>())
+{
+}
+
+Connection::~Connection() { close(); }
+
+void Connection::create(const QString& path, const QString& password)
+{
+    close();
+    if (QFileInfo::exists(path))
+        throw DatabaseError(path + QStringLiteral(": the file exists already."));
+    openFile(path, password, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+}
+
+void Connection::open(const QString& path, const QString& password, Mode mode)
+{
+    close();
+    const QFileInfo file(path);
+    if (!file.exists())
+        throw DatabaseError(path + QStringLiteral(": the file does not exist."));
+    if (!file.isFile())
+        throw DatabaseError(path + QStringLiteral(": this is no file."));
+    // The engine would take an empty file for a new database.
+    if (file.size() == 0)
+        throw DatabaseError(path + QStringLiteral(": the file is empty."));
+    openFile(path, password, mode == Mode::ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
+}
+
+void Connection::openFile(const QString& path, const QString& password, int flags)
+{
+    const int code = sqlite3_open_v2(path.toUtf8().constData(), &d->database, flags, nullptr);
+    try {
+        if (code != SQLITE_OK)
+            throw DatabaseError(engineText(d->database));
+        sqlite3_busy_timeout(d->database, busyTimeoutMs);
+        if (!password.isEmpty()) {
+            const QByteArray key = password.toUtf8();
+            if (sqlite3_key(d->database, key.constData(), static_cast<int>(key.size())) != SQLITE_OK)
+                throw DatabaseError(engineText(d->database));
+            d->run(QStringLiteral("PRAGMA cipher_page_size=4096"));
+        }
+        // Only this first read proves the password.
+        d->firstValue(QStringLiteral("SELECT count(*) FROM sqlite_master"));
+        if (flags & SQLITE_OPEN_READWRITE)
+            makeDurable(*d);
+        d->run(QStringLiteral("PRAGMA cache_size=-65536"));
+        registerFunctions(d->database);
+    } catch (const DatabaseError& error) {
+        close();
+        throw DatabaseError(path + QStringLiteral(": ") + error.text());
+    }
+    d->path = path;
+}
+
+void Connection::close()
+{
+    while (!d->recordsets.empty())
+        d->recordsets.back()->Close();
+    d->statements.clear();
+    sqlite3_close(d->database);
+    d->database = nullptr;
+    d->path.clear();
+}
+
+bool Connection::isOpen() const { return d->database != nullptr; }
+
+QString Connection::path() const { return d->path; }
+
+sqlite3* Connection::handle() const { return d->database; }
+
+int Connection::Execute(const QString& sql)
+{
+    const dialect::Statement words = dialect::translate(sql);
+    Prepared statement(d->openHandle(), words.sql);
+    const bool writes = sqlite3_stmt_readonly(statement.handle()) == 0;
+    if (writes)
+        d->beforeWrite({});
+    const int before = sqlite3_total_changes(d->database);
+    while (d->step(statement)) {
+    }
+    return writes ? sqlite3_total_changes(d->database) - before : 0;
+}
+
+void Connection::writeBatch(const std::function<void()>& work)
+{
+    if (d->inBatch) {
+        work();
+        return;
+    }
+    d->run(QStringLiteral("BEGIN IMMEDIATE"));
+    d->inBatch = true;
+    d->lostBy.clear();
+    std::exception_ptr failure;
+    try {
+        work();
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    d->inBatch = false;
+    const QString lostBy = std::exchange(d->lostBy, {});
+    if (!lostBy.isEmpty())
+        throw DatabaseError(lostBy, true);
+    try {
+        d->run(QStringLiteral("COMMIT"));
+    } catch (const DatabaseError& error) {
+        throw DatabaseError(error.text(), true);
+    }
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+} // namespace ado

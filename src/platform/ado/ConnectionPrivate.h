@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/ado/Connection.h"
+#include "platform/ado/Statements.h"
+
+#include <vector>
+
+namespace ado {
+
+/// What recordsets and their connection share.
+struct Connection::Private
+{
+    sqlite3* database = nullptr;
+    QString path;
+    StatementCache statements;
+    std::vector<Recordset*> recordsets; // those open
+
+    bool inBatch = false;
+    QString lostBy; // the engine's text, when it took back the open batch on its own
+
+    /// The handle; throws DatabaseError when the connection is closed.
+    sqlite3* openHandle() const;
+    /// A compiled statement, to be given back to `statements`.
+    std::unique_ptr<Prepared> prepare(const QString& sql);
+    /// Goes to the next row. False behind the last one. Throws DatabaseError; the statement is then reset,
+    /// and outside a batch no transaction is left open.
+    bool step(Prepared& statement);
+    /// To be called before a write: throws DatabaseError if the writes of the open batch are gone already,
+    /// and lets the recordsets that are being read from the table (all, for an empty name) take in the rows
+    /// still to come.
+    void beforeWrite(const QString& table);
+    /// Runs a statement that yields no rows.
+    void run(const QString& sql);
+    /// The first value of the first row; nothing where there is no row.
+    QVariant firstValue(const QString& sql);
+
+private:
+    [[noreturn]] void fail(const QString& text);
+};
+
+} // namespace ado

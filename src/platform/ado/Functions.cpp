@@ -1,0 +1,162 @@
+#include "platform/ado/Functions.h"
+
+#include <QString>
+#include <cmath>
+#include <new>
+#include <sqlcipher/sqlite3.h>
+
+namespace ado {
+
+namespace {
+
+constexpr qint64 unitsPerWhole = 10000;
+
+/// The running total of a sum, in ten-thousandths.
+struct Total
+{
+    qint64 units;
+    bool any;
+    bool overflow;
+};
+
+void addWhole(Total& total, qint64 number)
+{
+    qint64 units = 0;
+    total.overflow = total.overflow || qMulOverflow(number, unitsPerWhole, &units) ||
+                     qAddOverflow(total.units, units, &total.units);
+}
+
+void addDouble(Total& total, double number)
+{
+    constexpr double limit = 9.2e18;
+    const double units = std::nearbyint(number * static_cast<double>(unitsPerWhole));
+    total.overflow = total.overflow || !(std::fabs(units) < limit) ||
+                     qAddOverflow(total.units, static_cast<qint64>(units), &total.units);
+}
+
+void sumStep(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    auto* total = static_cast<Total*>(sqlite3_aggregate_context(context, sizeof(Total)));
+    if (!total) {
+        sqlite3_result_error_nomem(context);
+        return;
+    }
+    const int type = sqlite3_value_numeric_type(arguments[0]);
+    if (type == SQLITE_NULL)
+        return;
+    total->any = true;
+    if (type == SQLITE_INTEGER)
+        addWhole(*total, sqlite3_value_int64(arguments[0]));
+    else
+        addDouble(*total, sqlite3_value_double(arguments[0]));
+}
+
+void sumFinal(sqlite3_context* context)
+{
+    const auto* total = static_cast<const Total*>(sqlite3_aggregate_context(context, 0));
+    if (!total || !total->any)
+        sqlite3_result_null(context);
+    else if (total->overflow)
+        sqlite3_result_error(context, "Overflow", -1);
+    else if (total->units % unitsPerWhole == 0)
+        sqlite3_result_int64(context, total->units / unitsPerWhole);
+    else
+        sqlite3_result_double(context,
+                              static_cast<double>(total->units) / static_cast<double>(unitsPerWhole));
+}
+
+/// A run of digits of an ISO date: month() and its like.
+template <int begin, int length>
+void datePart(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(arguments[0]));
+    if (!text || sqlite3_value_bytes(arguments[0]) < begin + length) {
+        sqlite3_result_null(context);
+        return;
+    }
+    sqlite3_result_int(context, QByteArray::fromRawData(text + begin, length).toInt());
+}
+
+/// Matches case-folded text with a case-folded pattern: "%" any run of characters, "_" any one.
+bool matches(QStringView pattern, QStringView text, QChar escape)
+{
+    qsizetype p = 0;
+    qsizetype t = 0;
+    qsizetype afterRun = -1;
+    qsizetype runText = 0;
+    while (t < text.size()) {
+        const bool escaped = !escape.isNull() && p + 1 < pattern.size() && pattern[p] == escape;
+        if (p < pattern.size() && !escaped && pattern[p] == u'%') {
+            afterRun = ++p;
+            runText = t;
+        } else if (p < pattern.size() && !escaped && pattern[p] == u'_') {
+            ++p;
+            t += text[t].isHighSurrogate() && t + 1 < text.size() ? 2 : 1;
+        } else if (p < pattern.size() && pattern[escaped ? p + 1 : p] == text[t]) {
+            p += escaped ? 2 : 1;
+            ++t;
+        } else if (afterRun >= 0) {
+            p = afterRun;
+            t = ++runText;
+        } else {
+            return false;
+        }
+    }
+    while (p < pattern.size() && pattern[p] == u'%')
+        ++p;
+    return p == pattern.size();
+}
+
+QString foldedText(sqlite3_value* value)
+{
+    const auto* text = static_cast<const char16_t*>(sqlite3_value_text16(value));
+    return QString::fromUtf16(text, sqlite3_value_bytes16(value) / 2).toCaseFolded();
+}
+
+/// `text LIKE pattern [ESCAPE c]` calls like(pattern, text[, c]).
+void like(sqlite3_context* context, int count, sqlite3_value** arguments)
+{
+    for (int i = 0; i < count; ++i) {
+        if (sqlite3_value_type(arguments[i]) == SQLITE_NULL) {
+            sqlite3_result_null(context);
+            return;
+        }
+    }
+    QChar escape;
+    if (count == 3) {
+        const QString text = foldedText(arguments[2]);
+        if (text.size() != 1) {
+            sqlite3_result_error(context, "ESCAPE expression must be a single character", -1);
+            return;
+        }
+        escape = text[0];
+    }
+    sqlite3_result_int(context, matches(foldedText(arguments[0]), foldedText(arguments[1]), escape) ? 1 : 0);
+}
+
+using Scalar = void (*)(sqlite3_context*, int, sqlite3_value**);
+
+void addScalar(sqlite3* database, const char* name, int arguments, Scalar function)
+{
+    const int code = sqlite3_create_function_v2(database, name, arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
+                                                nullptr, function, nullptr, nullptr, nullptr);
+    if (code != SQLITE_OK)
+        throw std::bad_alloc();
+}
+
+} // namespace
+
+void registerFunctions(sqlite3* database)
+{
+    addScalar(database, "year", 1, datePart<0, 4>);
+    addScalar(database, "month", 1, datePart<5, 2>);
+    addScalar(database, "day", 1, datePart<8, 2>);
+    addScalar(database, "like", 2, like);
+    addScalar(database, "like", 3, like);
+    const int code = sqlite3_create_function_v2(database, "sum", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
+                                                nullptr, nullptr, sumStep, sumFinal, nullptr);
+    if (code != SQLITE_OK)
+        throw std::bad_alloc();
+}
+
+} // namespace ado

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "platform/ado/ConnectionPrivate.h"
+#include "platform/ado/Dialect.h"
+#include "platform/ado/Recordset.h"
+
+#include <optional>
+#include <vector>
+
+namespace ado {
+
+/// One row: its values as they are stored, and which of them are still to be written.
+struct Row
+{
+    qint64 key = 0;      ///< the engine's row number; 0 for a row not yet written
+    bool unread = false; ///< defaults of a row just added are read when one is asked for
+    std::vector<QVariant> values;
+    std::vector<bool> changed;
+
+    bool isChanged() const;
+};
+
+using RowPtr = std::shared_ptr<Row>;
+
+struct Recordset::Private
+{
+    Private(Connection& theConnection, const QString& theCommand)
+        : connection(theConnection)
+        , command(theCommand)
+    {
+    }
+
+    /// Where the cursor stands. The rows of a result lie in `block` as far as they were read ahead; a long
+    /// result goes on in `statement`, row by row.
+    enum class At { Block, Stream, Last, Added, End };
+
+    Connection& connection;
+    QString command;
+
+    bool open = false;
+    dialect::Statement words;
+    std::optional<dialect::Shape> shape;
+    std::shared_ptr<const Columns> columns;
+    int hiddenColumns = 0;               ///< the row's key stands in front of the columns
+    std::unique_ptr<Prepared> statement; ///< while rows are still to come
+    std::vector<RowPtr> block;
+    bool blockIsWhole = false;      ///< the block runs to the last row
+    bool blockHasFirst = false;     ///< the block begins with the first row
+    std::optional<int> countInFile; ///< rows of the query, once counted
+    std::vector<RowPtr> added;      ///< since the query ran; they stand behind its rows
+    std::vector<RowPtr> unwritten;  ///< changed or new, in the order of their change
+    At at = At::End;
+    size_t index = 0; ///< in the block, or among the added rows
+    RowPtr current;
+    std::unique_ptr<Recordset> chapter;
+
+    Connection::Private& base() const { return *connection.d; }
+
+    void requireOpen() const;
+    void requireWritable() const;
+    int columnIndex(QStringView name) const;
+    int columnIndex(QLatin1StringView name) const;
+
+    /// Runs the query and reads its first rows.
+    void runQuery();
+    void close();
+    RowPtr nextFromFile();
+    RowPtr readRow(const Prepared& source) const;
+    void endStatement();
+    /// Reads all rows still to come, if they come from the table; they stay as they are now, whatever is
+    /// written next.
+    void takeInRest(const QString& table);
+
+    void standOn(At place, size_t position, RowPtr row);
+    void standOnAdded(size_t position);
+    void moveFirst();
+    void moveNext();
+    void moveLast();
+    int count();
+
+    const QVariant& value(int column);
+    void setValue(int column, const QVariant& stored);
+    void write(const RowPtr& row);
+    void insert(Row& row);
+    void update(Row& row);
+    void bindChanged(Prepared& target, const Row& row) const;
+};
+
+} // namespace ado

@@ -1,0 +1,138 @@
+#include "platform/ado/Words.h"
+
+#include "platform/ado/DatabaseError.h"
+#include "platform/ado/StoredForm.h"
+
+namespace ado::dialect {
+
+namespace {
+
+bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
+
+bool beginsName(QChar c) { return c.isLetter() || c == u'_' || c.isSurrogate(); }
+
+bool continuesName(QChar c) { return beginsName(c) || isDigit(c) || c.isMark() || c == u'$'; }
+
+/// Behind the closing mark of what opens at `begin`; a doubled mark stands for itself.
+qsizetype closing(const QString& sql, qsizetype begin, QChar mark)
+{
+    for (qsizetype i = begin + 1; i < sql.size(); ++i) {
+        if (sql[i] != mark)
+            continue;
+        if (i + 1 >= sql.size() || sql[i + 1] != mark)
+            return i + 1;
+        ++i;
+    }
+    throw DatabaseError(
+        QStringLiteral("Syntax error in the statement: %1 is not closed: %2").arg(mark).arg(sql));
+}
+
+qsizetype numberEnd(const QString& sql, qsizetype begin)
+{
+    const auto digitsEnd = [&sql](qsizetype i) {
+        while (i < sql.size() && isDigit(sql[i]))
+            ++i;
+        return i;
+    };
+    qsizetype end = digitsEnd(begin);
+    if (end < sql.size() && sql[end] == u'.')
+        end = digitsEnd(end + 1);
+    if (end < sql.size() && sql[end].toLower() == u'e') {
+        qsizetype exponent = end + 1;
+        if (exponent < sql.size() && (sql[exponent] == u'-' || sql[exponent] == u'+'))
+            ++exponent;
+        if (exponent < sql.size() && isDigit(sql[exponent]))
+            end = digitsEnd(exponent);
+    }
+    return end;
+}
+
+/// `#17-11-1985#` as the engine's text.
+QString dateText(const QString& marked)
+{
+    const auto date = storedDate(marked.mid(1, marked.size() - 2));
+    if (!date)
+        throw DatabaseError(QStringLiteral("Syntax error in date: %1").arg(marked));
+    return u'\'' + *date + u'\'';
+}
+
+Word wordAt(const QString& sql, qsizetype begin)
+{
+    const QChar first = sql[begin];
+    const auto word = [&](Word::Kind kind, qsizetype end) {
+        return Word{kind, sql.mid(begin, end - begin), false, begin, end};
+    };
+    if (beginsName(first)) {
+        qsizetype end = begin + 1;
+        while (end < sql.size() && continuesName(sql[end]))
+            ++end;
+        return word(Word::Kind::Name, end);
+    }
+    if (isDigit(first) || (first == u'.' && begin + 1 < sql.size() && isDigit(sql[begin + 1])))
+        return word(Word::Kind::Number, numberEnd(sql, begin));
+    if (first == u'\'')
+        return word(Word::Kind::Text, closing(sql, begin, first));
+    if (first == u'`' || first == u'"')
+        return word(Word::Kind::QuotedName, closing(sql, begin, first));
+    if (first == u'[')
+        return word(Word::Kind::QuotedName, closing(sql, begin, u']'));
+    if (first == u'#') {
+        Word date = word(Word::Kind::Text, closing(sql, begin, first));
+        date.text = dateText(date.text);
+        return date;
+    }
+    return word(Word::Kind::Symbol, begin + 1);
+}
+
+bool isWordLike(const Word& word) { return word.kind != Word::Kind::Symbol; }
+
+/// Would the engine read the two as something else, if nothing stood between them?
+bool mustBeApart(const Word& left, const Word& right)
+{
+    if (isWordLike(left) && isWordLike(right))
+        return true;
+    return (left.text == u"-" && right.text == u"-") || (left.text == u"/" && right.text == u"*");
+}
+
+} // namespace
+
+bool Word::is(QLatin1StringView wanted) const
+{
+    return (kind == Kind::Name || kind == Kind::Symbol) && text.compare(wanted, Qt::CaseInsensitive) == 0;
+}
+
+QString Word::unquoted() const
+{
+    return kind == Kind::QuotedName || kind == Kind::Text ? text.mid(1, text.size() - 2) : text;
+}
+
+Words split(const QString& sql)
+{
+    Words words;
+    bool spaced = false;
+    for (qsizetype i = 0; i < sql.size();) {
+        if (sql[i].isSpace()) {
+            spaced = true;
+            ++i;
+            continue;
+        }
+        words.push_back(wordAt(sql, i));
+        words.back().spaced = spaced;
+        spaced = false;
+        i = words.back().end;
+    }
+    return words;
+}
+
+QString join(const Words& words, size_t first, size_t last)
+{
+    QString text;
+    for (size_t i = first; i < last; ++i) {
+        if (i > first && (words[i].spaced || mustBeApart(words[i - 1], words[i])))
+            text += u' ';
+        text += words[i].text;
+    }
+    return text;
+}
+
+} // namespace ado::dialect
