@@ -1,0 +1,254 @@
+#include "jobcards/JobCard.h"
+
+#include "core/DE.h"
+#include "core/Lookups.h"
+#include "core/Settings.h"
+#include "platform/values/Errors.h"
+
+namespace {
+
+constexpr qint32 FirstNumberSetting = 23;
+constexpr int JobVoucher = 1;   // Postings.vType
+constexpr int CanceledLine = 4; // Jobs_Detail.DoneByWorker
+
+void refuseTakenNumber(qint32 number)
+{
+    auto& jobs = DE.rsJOBS;
+    jobs.Open(QStringLiteral("Select * from JOBS where id=") + QString::number(number));
+    const bool taken = !jobs.AtEOF();
+    jobs.Close();
+    if (taken)
+        throw OperatorError(QStringLiteral("Job ID %1 is already taken by another job card. "
+                                           "Nothing has been saved.").arg(number));
+}
+
+} // namespace
+
+qint32 JobCard::GetNewNum()
+{
+    qint32 last = values::CLng(values::Val(GetSetting(FirstNumberSetting, QStringLiteral("1"))) - 1);
+    auto& jobs = DE.rsJOBS;
+    jobs.Open(QStringLiteral("Select * from JOBS order by ID"));
+    if (!jobs.AtEOF()) {
+        jobs.MoveLast();
+        last = jobs["ID"].integer();
+    }
+    jobs.Close();
+    return values::toInt32(qint64(last) + 1);
+}
+
+void JobCard::LoadLines()
+{
+    auto& lines = DE.rsJOBS_DETAIL;
+    lines.Open(QStringLiteral("Select * from jobs_detail where JOBID=") + number() +
+               QStringLiteral(" Order by ItemSr"));
+    for (; !lines.AtEOF(); lines.MoveNext()) {
+        const qint32 itemID = lines["ItemID"].integer();
+        JobRows.AddNewRow(lines["ID"].integer(), GetItemName(itemID), itemID, lines["QNT"].integer(),
+                          lines["Fees"].number(), lines["Amount"].number(), lines["Remarks"].text(),
+                          lines["ItemDetails"].text(), lines["ItemDetailsValue"].text(), 0, {}, {}, {}, {}, {}, 0,
+                          0, 0, {}, lines["img1"].text(), lines["img2"].text(), lines["Color"].text(), 0, {},
+                          lines["ClientRemarks"].text());
+    }
+    lines.Close();
+}
+
+void JobCard::RemoveLine(int row)
+{
+    if (!RemovedLineIDs.isEmpty())
+        RemovedLineIDs += QLatin1Char(',');
+    RemovedLineIDs += QString::number(JobRows.Sr(row));
+    JobRows.RemoveRow(row);
+}
+
+void JobCard::Clear()
+{
+    JobRows = clsJobCardData();
+    RemovedLineIDs.clear();
+}
+
+void JobCard::SaveNew(const JobCardHead& head)
+{
+    write([&] {
+        refuseTakenNumber(head.Number);
+        const qint32 clientID = GetAccountID(head.Client);
+        auto& jobs = DE.rsJOBS;
+        jobs.Open(QStringLiteral("Select * from JOBS"));
+        jobs.AddNew();
+        jobs["ID"] = head.Number;
+        writeHead(head, clientID);
+        CurrentJobID = head.Number;
+        EditMode = QStringLiteral("E");
+        for (int row = 1; row <= JobRows.RowCount(); ++row)
+            JobRows.SetSr(row, addLine(row, head, clientID));
+        writeVoucher(head, clientID);
+        if (head.Cancelled)
+            cancelLines();
+    });
+    RemovedLineIDs.clear();
+}
+
+void JobCard::SaveEdit(const JobCardHead& head)
+{
+    write([&] {
+        const qint32 clientID = GetAccountID(head.Client);
+        DE.rsJOBS.Open(QStringLiteral("Select * from jobs where id=") + number());
+        writeHead(head, clientID);
+        for (int row = 1; row <= JobRows.RowCount(); ++row) {
+            // A line added to a stored card keeps Sr 0: each further save adds it again.
+            if (JobRows.Sr(row) > 0)
+                updateLine(row, head, clientID);
+            else
+                addLine(row, head, clientID);
+        }
+        if (!RemovedLineIDs.isEmpty()) {
+            DE.connection().Execute(QStringLiteral("Delete from jobs_detail where Id=") + RemovedLineIDs);
+            RemovedLineIDs.clear();
+        }
+        DE.connection().Execute(QStringLiteral("Delete from Postings where vid=") + number() +
+                                QStringLiteral("and vtype=1"));
+        writeVoucher(head, clientID);
+        if (head.Cancelled)
+            cancelLines();
+    });
+}
+
+void JobCard::Delete()
+{
+    write([&] {
+        auto& connection = DE.connection();
+        connection.Execute(QStringLiteral("Delete from Jobs where id=") + number());
+        connection.Execute(QStringLiteral("Delete from Jobs_detail where jobid=") + number());
+        connection.Execute(QStringLiteral("Delete from Postings where vid=") + number() +
+                           QStringLiteral(" and vtype=1"));
+    });
+}
+
+void JobCard::write(const std::function<void()>& work)
+{
+    const JobCard before = *this;
+    try {
+        DE.connection().writeBatch(work);
+    } catch (const ado::DatabaseError& error) {
+        if (error.lostWrites())
+            *this = before;
+        throw;
+    }
+}
+
+/// Writes the head into the row on which `DE.rsJOBS` stands.
+void JobCard::writeHead(const JobCardHead& head, qint32 clientID)
+{
+    auto& jobs = DE.rsJOBS;
+    jobs["Date"] = head.Date;
+    jobs["ClintID"] = clientID;
+    jobs["ClintName"] = head.Client;
+    jobs["DeliveryDate"] = head.DeliveryDate;
+    jobs["trialdate"] = head.TrialDate;
+    jobs["AmountDue"] = head.Total;
+    jobs["AmountPaid"] = head.Paid;
+    jobs["JOBFINISHED"] = int(head.Delivered);
+    jobs["Remark"] = head.Remark;
+    if (head.Paid > Currency())
+        jobs["CashAccID"] = GetAccountID(head.ReceiptAccount);
+    jobs["Status"] = int(head.Cancelled);
+    jobs["CancelReason"] = head.CancelReason;
+    jobs.Update();
+    jobs.Close();
+}
+
+/// Sets what a save always writes of a line, in the row on which `DE.rsJOBS_DETAIL` stands.
+void JobCard::writeLine(int row, const JobCardHead& head, qint32 clientID)
+{
+    auto& line = DE.rsJOBS_DETAIL;
+    line["Date"] = head.Date;
+    line["JobID"] = CurrentJobID;
+    line["ItemSr"] = row;
+    line["ClintID"] = clientID;
+    line["ClintName"] = head.Client;
+    line["ItemID"] = JobRows.ItemID(row);
+    line["ItemName"] = JobRows.ItemName(row);
+    line["Remarks"] = JobRows.Remarks(row);
+    line["QNT"] = JobRows.Qty(row);
+    line["Fees"] = JobRows.Fees(row);
+    line["Amount"] = JobRows.Amount(row);
+    line["img1"] = JobRows.img1(row);
+    line["img2"] = JobRows.img2(row);
+    const QString color = JobRows.Color(row);
+    line["Color"] = color.isEmpty() ? ado::Null : QVariant(values::Val(color));
+    line["ItemDetails"] = JobRows.ItemDetails(row);
+    line["ItemDetailsValue"] = JobRows.ItemDetailsValue(row);
+    line["ClientRemarks"] = JobRows.ClientRemarks(row);
+}
+
+/// Returns the number that the new line got.
+qint32 JobCard::addLine(int row, const JobCardHead& head, qint32 clientID)
+{
+    auto& line = DE.rsJOBS_DETAIL;
+    line.Open(QStringLiteral("Select * from jobs_detail"));
+    line.AddNew();
+    writeLine(row, head, clientID);
+    line["WorkerID"] = 0;
+    line["JobDelDate"] = head.DeliveryDate;
+    line["CompletedDate"] = ado::Null;
+    line["DelToCustDate"] = ado::Null;
+    line["AltDate"] = ado::Null;
+    line["DoneByWorker"] = 0;
+    // The catalogue's wage for one piece, whatever the quantity.
+    line["WorkerWagesDue"] = GetItemWorkerFees(JobRows.ItemName(row));
+    line["CuttingDate"] = head.Date;
+    line["CuttingStatus"] = 0;
+    line.Update();
+    const qint32 id = line["ID"].integer();
+    line.Close();
+    return id;
+}
+
+/// Leaves alone what became of the line since it was taken: worker, dates, state, wage and payroll, place, feedback.
+void JobCard::updateLine(int row, const JobCardHead& head, qint32 clientID)
+{
+    auto& line = DE.rsJOBS_DETAIL;
+    line.Open(QStringLiteral("Select * from jobs_detail where id=") + QString::number(JobRows.Sr(row)));
+    writeLine(row, head, clientID);
+    line.Update();
+    line.Close();
+}
+
+void JobCard::writeVoucher(const JobCardHead& head, qint32 clientID)
+{
+    auto& postings = DE.rspostings;
+    postings.Open(QStringLiteral("Select * from Postings order by ID"));
+    int sr = 0;
+    const auto post = [&](const QString& particulars, qint32 account, qint32 opposite, Currency amount) {
+        postings.AddNew();
+        postings["VID"] = CurrentJobID;
+        postings["vType"] = JobVoucher;
+        postings["Sr"] = ++sr;
+        postings["Date"] = head.Date;
+        postings["accID"] = account;
+        postings["refID"] = opposite;
+        postings["particulars"] = particulars;
+        postings["Remark"] = QString(QStringLiteral("Job Card # :") + number());
+        postings["Amount"] = amount;
+        postings["Status"] = int(head.Cancelled);
+        postings.Update();
+    };
+    const auto postPair = [&](const QString& particulars, qint32 debited, qint32 credited, Currency amount) {
+        post(particulars, debited, credited, -amount);
+        post(particulars, credited, debited, amount);
+    };
+    postPair(QStringLiteral("Sales"), clientID, GetAccountID(QStringLiteral("Sales")), head.Total);
+    if (head.Paid > Currency())
+        postPair(QStringLiteral("Receipt"), GetAccountID(head.ReceiptAccount), clientID, head.Paid);
+    postings.Close();
+}
+
+void JobCard::cancelLines()
+{
+    auto& lines = DE.rsJOBS_DETAIL;
+    lines.Open(QStringLiteral("Select * from jobs_detail where JobID=") + number());
+    for (; !lines.AtEOF(); lines.MoveNext())
+        lines["DoneByWorker"] = CanceledLine;
+    lines.UpdateBatch();
+    lines.Close();
+}

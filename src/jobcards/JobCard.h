@@ -1,0 +1,65 @@
+#pragma once
+
+#include "jobcards/clsJobCardData.h"
+#include "platform/values/Currency.h"
+
+#include <QDate>
+#include <QString>
+#include <functional>
+
+/// The head of a job card as it is to be stored.
+struct JobCardHead
+{
+    qint32 Number = 0; ///< of a new card; a stored card keeps the number that it has
+    QDate Date;
+    QString Client; ///< title of the client's account
+    QDate DeliveryDate;
+    QDate TrialDate;
+    Currency Total;
+    Currency Paid; ///< received with the card
+    bool Delivered = false;
+    QString Remark;
+    QString ReceiptAccount; ///< title of the account that took the money; only read when something was paid
+    bool Cancelled = false;
+    QString CancelReason;
+};
+
+/// The one job card that is open: its lines, and what its saves must know of them. A card is written as head, lines and
+/// voucher, in this order and as one commit. A refused statement ends the writing where it stands, with what was
+/// written before it in the file; only when the commit itself fails is everything gone, and the card as it was before.
+class JobCard
+{
+public:
+    QString EditMode = QStringLiteral("N"); ///< "N" while nothing of the card is stored, then "E"
+    qint32 CurrentJobID = 0;                ///< `Jobs.ID` of the stored card
+    clsJobCardData JobRows;
+    QString RemovedLineIDs; ///< the `Sr` of the lines removed since the card was loaded, joined by ","
+
+    /// The number for the next card: one above the highest, or the shop's first number (setting 23) on the first card.
+    static qint32 GetNewNum();
+
+    /// Reads the lines of the stored card `CurrentJobID` into JobRows, under the names that the catalogue has now. Throws
+    /// OverflowError for a line whose number is above 32767.
+    void LoadLines();
+    /// Takes out a row (from 1) and keeps its line for deletion at the next save.
+    void RemoveLine(int row);
+    /// Forgets all rows. The lines of a stored card stay in the file.
+    void Clear();
+
+    /// Stores a new card. Throws OperatorError, with nothing written, when its number is taken.
+    void SaveNew(const JobCardHead& head);
+    /// Stores the changes of a stored card and writes its voucher anew. A stored line keeps its worker, state and wage.
+    void SaveEdit(const JobCardHead& head);
+    /// Deletes the stored card with its lines and its voucher.
+    void Delete();
+
+private:
+    void write(const std::function<void()>& work);
+    void writeHead(const JobCardHead& head, qint32 clientID);
+    void writeLine(int row, const JobCardHead& head, qint32 clientID);
+    qint32 addLine(int row, const JobCardHead& head, qint32 clientID);
+    void updateLine(int row, const JobCardHead& head, qint32 clientID);
+    void writeVoucher(const JobCardHead& head, qint32 clientID);
+    void cancelLines();
+    QString number() const { return QString::number(CurrentJobID); }
+};

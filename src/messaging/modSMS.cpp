@@ -1,0 +1,106 @@
+#include "messaging/modSMS.h"
+
+#include "core/DE.h"
+#include "core/Settings.h"
+#include "platform/values/Numbers.h"
+
+namespace {
+
+constexpr qint32 SignatureSetting = 10;
+constexpr qint32 JobRegisteredSetting = 24;
+constexpr qint32 JobFinishedSetting = 25;
+constexpr qint32 DueBalanceSetting = 26;
+
+QString jobSms(qint32 setting, const QString& defaultDraft, qint32 jobId, double amount)
+{
+    QString text = GetSetting(setting, defaultDraft);
+    text.replace(QLatin1String("%eid%"), QString::number(jobId));
+    text.replace(QLatin1String("%amount%"), values::CStr(amount));
+    return text + QLatin1Char('\r') + GetSetting(SignatureSetting, QString());
+}
+
+bool allItemsInState(qint32 jobId, int state)
+{
+    const QString all = QStringLiteral("Select * from Jobs_Detail where JobID=") + QString::number(jobId);
+    auto& lines = DE.rsJOBS_DETAIL;
+    lines.Open(all);
+    const int count = lines.RecordCount();
+    lines.Open(all + QStringLiteral(" and DoneByWorker=") + QString::number(state));
+    const int inState = lines.RecordCount();
+    lines.Close();
+    return inState == count;
+}
+
+} // namespace
+
+QString DefaultJobRegisteredDraft()
+{
+    return QStringLiteral("Dear Customer\r Your Job ID # %eid%\r of Rs. %amount% has been booked. "
+                          "To track job status call us with this ID.\r\r");
+}
+
+QString DefaultJobFinishedDraft()
+{
+    return QStringLiteral("Dear Customer Your Job ID # %eid% has been completed. "
+                          "Please visit our shop to collect clothes.\r\r");
+}
+
+QString DefaultDueBalanceDraft()
+{
+    return QStringLiteral("Dear Customer\r Your Due Balance is : Rs. %amount%\r\r\r");
+}
+
+QString MakeJobRegisteredSms(qint32 jobId, double amount)
+{
+    return jobSms(JobRegisteredSetting, DefaultJobRegisteredDraft(), jobId, amount);
+}
+
+QString MakeJobFinishedSms(qint32 jobId, double amount)
+{
+    return jobSms(JobFinishedSetting, DefaultJobFinishedDraft(), jobId, amount);
+}
+
+QString MakeDueBalanceSms(const QString& amount)
+{
+    return GetSetting(DueBalanceSetting, DefaultDueBalanceDraft()).replace(QLatin1String("%amount%"), amount);
+}
+
+QString GetClientMobile(const QString& title, qint16 id)
+{
+    QString mobile;
+    auto& clients = DE.rsaccounts;
+    const auto read = [&](const QString& sql) {
+        clients.Open(sql);
+        if (!clients.AtEOF())
+            mobile = clients["Mobile"].text();
+        clients.Close();
+    };
+    if (!title.isEmpty()) {
+        read(QStringLiteral("Select * from Accounts where type=0 and  Title='") +
+             QString(title).replace(QLatin1String("'"), QLatin1String("''")) + QStringLiteral("'"));
+    }
+    if (id > 0)
+        read(QStringLiteral("Select * from Accounts where  type=0 and  ID=") + QString::number(id));
+    return mobile;
+}
+
+QString GetClientContact(qint16 id)
+{
+    if (id <= 0)
+        return {};
+    auto& account = DE.rsaccounts;
+    account.Open(QStringLiteral("Select * from Accounts where ID=") + QString::number(id));
+    QString contact;
+    if (!account.AtEOF()) {
+        contact = account["Mobile"].text() + QStringLiteral("   ") + account["Address"].text() +
+                  QStringLiteral("   ") + account["City"].text() + QStringLiteral("    ");
+        if (contact.trimmed().isEmpty())
+            contact = QStringLiteral("No Information Found");
+    }
+    account.Close();
+    return contact;
+}
+
+bool AllItemsCompleted(qint32 jobId) { return allItemsInState(jobId, 1); }
+
+bool AllItemsDelivered(qint32 jobId) { return allItemsInState(jobId, 2); }

@@ -1,0 +1,56 @@
+#include "messaging/swSMS.h"
+
+#include "core/Settings.h"
+#include "messaging/modSMS.h"
+#include "platform/forms/MessageBox.h"
+#include "platform/values/Errors.h"
+#include "platform/values/Numbers.h"
+#include "ui/ModOtherFUN.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr qint32 PortSetting = 4;
+constexpr char EndOfMessage = 26; // Ctrl+Z
+
+QByteArray dialled(const QString& number)
+{
+    return values::Format(std::trunc(values::Val(number)), QStringLiteral("0")).toLatin1();
+}
+
+} // namespace
+
+swSMS::swSMS(QWidget* screen) : QObject(screen), m_screen(screen)
+{
+    connect(&m_port, &devices::SerialPort::broken, this,
+            [this](const QString& text) { forms::plainMessage(m_screen, text); });
+}
+
+void swSMS::SendSMS(qint16 port, const QString& number, const QString& message)
+{
+    try {
+        m_port.open(devices::serialPortName(port, m_deviceFolder));
+        m_port.write("AT+CMGF=1\r");
+        m_port.write("AT+CMGS=\"" + dialled(number) + "\"\r");
+        m_port.write(message.toLatin1() + EndOfMessage);
+    } catch (const OperatorError& error) {
+        forms::plainMessage(m_screen, error.text());
+    }
+}
+
+bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString& text)
+{
+    const QString mobile = GetClientMobile(title, id);
+    const QString port = GetSetting(PortSetting, QString());
+    if (mobile.isEmpty()) {
+        ShowMsg(QStringLiteral("Mobile Number Not Found!\r\nSMS Sending has been Failed."));
+        return false;
+    }
+    if (port.isEmpty()) {
+        ShowMsg(QStringLiteral("Modem Com Port Error!\r\nSMS Sending has been Failed."));
+        return false;
+    }
+    sms.SendSMS(values::CInt(values::Val(port)), mobile, text);
+    return true;
+}

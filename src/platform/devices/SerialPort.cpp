@@ -1,0 +1,62 @@
+#include "platform/devices/SerialPort.h"
+
+#include "platform/values/Errors.h"
+
+#include <QFileInfo>
+
+namespace devices {
+
+QString serialPortName(int number, const QString& folder)
+{
+#ifdef Q_OS_WIN
+    Q_UNUSED(folder)
+    return QStringLiteral("COM%1").arg(number);
+#else
+    QString path;
+    for (const auto* kind : {"ttyUSB", "ttyACM", "ttyS"}) {
+        path = QStringLiteral("%1/%2%3").arg(folder, QLatin1String(kind)).arg(number - 1);
+        if (QFileInfo::exists(path))
+            break;
+    }
+    return path;
+#endif
+}
+
+SerialPort::SerialPort(QObject* parent) : QObject(parent)
+{
+    // Putting the line's old settings back while bytes are still on their way would spoil them.
+    m_port.setSettingsRestoredOnClose(false);
+    connect(&m_port, &QSerialPort::errorOccurred, this, [this](QSerialPort::SerialPortError error) {
+        // A hang-up reports itself again and again until the port is closed, and it may not be closed from here.
+        if (error == QSerialPort::NoError || !m_port.isOpen() || m_closing)
+            return;
+        m_closing = true;
+        QMetaObject::invokeMethod(this, &SerialPort::closeBroken, Qt::QueuedConnection);
+    });
+}
+
+void SerialPort::open(const QString& name)
+{
+    m_port.setPortName(name);
+    if (!m_port.open(QIODevice::WriteOnly))
+        throw OperatorError(m_port.errorString());
+    m_closing = false;
+}
+
+void SerialPort::write(const QByteArray& bytes)
+{
+    if (m_port.write(bytes) != bytes.size())
+        throw OperatorError(m_port.errorString());
+    m_port.flush();
+}
+
+void SerialPort::closeBroken()
+{
+    const QString text = m_port.errorString();
+    const bool unsent = m_port.bytesToWrite() > 0;
+    m_port.close();
+    if (unsent)
+        Q_EMIT broken(text);
+}
+
+} // namespace devices
