@@ -1,0 +1,57 @@
+#include "jobcards/BannerStrip.h"
+
+#include <QLabel>
+#include <QTimer>
+
+namespace {
+
+constexpr int Tick = 16; // milliseconds: 60 steps a second
+constexpr int Step = 1;  // pixels
+constexpr int Padding = 7;
+
+} // namespace
+
+BannerStrip::BannerStrip(QWidget* parent) : QWidget(parent), lblLastvisit(new QLabel(this)), Timer1(new QTimer(this))
+{
+    setAttribute(Qt::WA_StyledBackground);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    lblLastvisit->setObjectName(QStringLiteral("lblLastvisit"));
+    lblLastvisit->setTextFormat(Qt::PlainText);
+    Timer1->setObjectName(QStringLiteral("Timer1"));
+    Timer1->setInterval(Tick);
+    connect(Timer1, &QTimer::timeout, this, &BannerStrip::Timer1_Timer);
+}
+
+void BannerStrip::setText(const QString& text)
+{
+    lblLastvisit->setText(text);
+    lblLastvisit->adjustSize();
+}
+
+QSize BannerStrip::sizeHint() const { return {0, lblLastvisit->sizeHint().height() + 2 * Padding}; }
+
+void BannerStrip::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    lblLastvisit->adjustSize();
+    Timer1->start();
+}
+
+void BannerStrip::hideEvent(QHideEvent* event)
+{
+    Timer1->stop();
+    QWidget::hideEvent(event);
+}
+
+void BannerStrip::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    lblLastvisit->move(lblLastvisit->x(), Padding);
+}
+
+void BannerStrip::Timer1_Timer()
+{
+    // Once all of it has left, the text comes in again at the right edge.
+    const int left = lblLastvisit->x() < -lblLastvisit->width() ? width() : lblLastvisit->x();
+    lblLastvisit->move(left - Step, lblLastvisit->y());
+}

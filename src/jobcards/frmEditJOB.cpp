@@ -1,0 +1,452 @@
+#include "jobcards/frmEditJOB.h"
+
+#include "core/DE.h"
+#include "core/Lookups.h"
+#include "core/Session.h"
+#include "core/Settings.h"
+#include "jobcards/frmAddItem.h"
+#include "masters/frmEditClients.h"
+#include "messaging/swSMS.h"
+#include "platform/values/Dates.h"
+#include "platform/values/Errors.h"
+#include "platform/values/Numbers.h"
+#include "ui/DateDiff.h"
+#include "ui/ModOtherFUN.h"
+#include "ui_frmEditJOB.h"
+
+namespace {
+
+constexpr qint32 DeliveryMarginSetting = 13;
+constexpr int AmountColumn = 4;
+
+QString money(double amount) { return values::Format(amount, QStringLiteral("0.00")); }
+
+QString dateText(const QDate& date) { return values::Format(date, QStringLiteral("dd-MMM-yyyy")); }
+
+bool matchesEntry(const forms::ComboBox& combo) { return ComboFindIndex(combo) >= 0; }
+
+} // namespace
+
+frmEditJOB::frmEditJOB(QWidget* parent) : forms::Screen(parent), ui(std::make_unique<Ui::frmEditJOB>())
+{
+    ui->setupUi(this);
+    ui->lvItems->setColumns({{QStringLiteral("Item"), 30},
+                             {QStringLiteral("Remark"), 30},
+                             {QStringLiteral("QTY"), 12, Qt::AlignRight},
+                             {QStringLiteral("FEES"), 12, Qt::AlignRight},
+                             {QStringLiteral("Amount"), 12, Qt::AlignRight}});
+    for (forms::DatePicker* picker : {ui->JobDate, ui->DateDel, ui->DateTrial})
+        picker->setCustomFormat(QStringLiteral("dd-MMM-yyyy"));
+
+    for (forms::ComboBox* combo : {ui->cmbClient, ui->cmbAccount}) {
+        onGotFocus(combo, [combo] {
+            ComboSyncIndex(*combo);
+            ComboDropDown(*combo);
+        });
+    }
+    onKeyPress(ui->cmbClient, [this](int& key) { cmbClient_KeyPress(key); });
+    onLostFocus(ui->cmbClient, [this] { cmbClient_LostFocus(); });
+    onKeyPress(ui->cmbAccount, [this](int& key) { key = AutoSearchCombo(*ui->cmbAccount, key); });
+    on(ui->txtAmountDue, &QLineEdit::textChanged, &frmEditJOB::txtAmountDue_Change);
+    onKeyPress(ui->txtAmountDue, [this](int& key) { txtAmountDue_KeyPress(key); });
+    onKeyDown(ui->txtAmountDue, [this](int& key) { txtAmountDue_KeyDown(key); });
+    on(ui->txtAmountPaid, &swTextBox::Change, &frmEditJOB::txtAmountPaid_Change);
+    onKeyPress(ui->txtAmountPaid, [this](int& key) { key = NumbersOnly(ui->txtAmountPaid->text(), key); });
+
+    on(ui->lvItems, &forms::ListView::dblClicked, &frmEditJOB::editLine);
+    onKeyDown(ui->lvItems, [this](int& key) {
+        if (key == forms::key::Enter && ui->lvItems->rowCount() > 0) {
+            key = 0;
+            editLine();
+        }
+    });
+
+    on(ui->Command1, &QPushButton::clicked, &frmEditJOB::Command1_Click);
+    on(ui->Command3, &QPushButton::clicked, &frmEditJOB::Command3_Click);
+    on(ui->Command4, &QPushButton::clicked, &frmEditJOB::Command4_Click);
+    on(ui->Command5, &QPushButton::clicked, &frmEditJOB::Command5_Click);
+    on(ui->Command6, &QPushButton::clicked, &frmEditJOB::Command6_Click);
+    on(ui->Command7, &QPushButton::clicked, &frmEditJOB::Command7_Click);
+    on(ui->Command8, &QPushButton::clicked, &frmEditJOB::Command8_Click);
+    on(ui->Command10, &QPushButton::clicked, &frmEditJOB::Command10_Click);
+    on(ui->Command12, &QPushButton::clicked, &frmEditJOB::Command12_Click);
+}
+
+frmEditJOB::~frmEditJOB() = default;
+
+// Opening
+
+void frmEditJOB::Form_Load()
+{
+    fillClients();
+    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where type=2 and nature=0 "),
+             *ui->cmbAccount, DE.rsaccounts);
+    ui->lvItems->Clear();
+    ui->picCancel->hide();
+    m_card = JobCard();
+    swSMS1 = std::make_unique<swSMS>(this);
+    swSMS1->setObjectName(QStringLiteral("swSMS1"));
+}
+
+void frmEditJOB::Form_Unload()
+{
+    m_card.Clear();
+    swSMS1.reset();
+}
+
+void frmEditJOB::fillClients()
+{
+    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where type=0"), *ui->cmbClient,
+             DE.rsaccounts);
+}
+
+void frmEditJOB::ShowAddNew()
+{
+    do {
+        m_anotherCard = false;
+        openWith([this] { showNewCard(); });
+    } while (m_anotherCard);
+}
+
+bool frmEditJOB::ShowEdit(qint32 JobID)
+{
+    m_anotherCard = false;
+    openWith([this, JobID] { showStoredCard(JobID); });
+    const bool changed = CardChanged;
+    if (m_anotherCard)
+        ShowAddNew();
+    return changed;
+}
+
+/// Shows the screen on the card that `fill` puts on it. A card that cannot be put on it isn't shown.
+void frmEditJOB::openWith(const std::function<void()>& fill)
+{
+    load();
+    try {
+        fill();
+    } catch (...) {
+        unload();
+        throw;
+    }
+    showModal();
+}
+
+void frmEditJOB::showNewCard()
+{
+    const int margin = values::CInt(values::Val(GetSetting(DeliveryMarginSetting, QStringLiteral("0"))));
+    JobCardHead head;
+    head.Date = session.WorkingDate;
+    head.DeliveryDate = session.WorkingDate.addDays(margin);
+    head.TrialDate = session.WorkingDate;
+    showHead(head);
+    ui->lblTitle->setText(QStringLiteral("Create New Job Card"));
+    ui->txtJOBID->setText(QString::number(GetNewNum()));
+    ui->cmbClient->setFocus();
+}
+
+void frmEditJOB::showStoredCard(qint32 JobID)
+{
+    m_card.CurrentJobID = JobID;
+    m_card.EditMode = QStringLiteral("E");
+    auto& job = DE.rsJOBS;
+    job.Open(QStringLiteral("Select * from JOBS where id=") + QString::number(JobID));
+    JobCardHead head;
+    head.Date = job["Date"].date();
+    head.Client = GetAccountTitle(job["ClintID"].integer());
+    if (const qint32 account = job["CashAccID"].integer(); account > 0)
+        head.ReceiptAccount = GetAccountTitle(account);
+    head.DeliveryDate = job["DeliveryDate"].date();
+    head.TrialDate = job["trialdate"].date();
+    head.Total = job["AmountDue"].money();
+    head.Paid = job["AmountPaid"].money();
+    head.Delivered = job["JOBFINISHED"].integer() == 1;
+    head.Remark = job["Remark"].text();
+    head.Cancelled = job["Status"].integer() != 0;
+    head.CancelReason = job["CancelReason"].text();
+    showHead(head);
+    showMode();
+    if (head.Delivered && !job["ClientDeliveryDate"].isNull())
+        ui->lblDelDate->setText(QStringLiteral("Delivered to Client : ") + dateText(job["ClientDeliveryDate"].date()));
+    switch (job["appeared"].integer()) {
+    case 0:
+        ui->lblTrialInfo->setText(QStringLiteral("Not Appeared for Trial"));
+        break;
+    case 1:
+        if (!job["appearedDate"].isNull())
+            ui->lblTrialInfo->setText(QStringLiteral("Appeared for Trial ") + dateText(job["appearedDate"].date()));
+        break;
+    case 2:
+        ui->lblTrialInfo->setText(QStringLiteral("Trial Canceled"));
+        break;
+    }
+    job.Close();
+    m_card.LoadLines();
+    for (int row = 1; row <= m_card.JobRows.RowCount(); ++row)
+        ui->lvItems->addRow(lineCells(row));
+    ui->lvItems->selectRow(0);
+    showBalance();
+    ui->lvItems->setFocus();
+}
+
+void frmEditJOB::showHead(const JobCardHead& head)
+{
+    CardChanged = false;
+    ui->picBanner->setText(QStringLiteral("Welcome to ") + session.ShopName);
+    ui->JobDate->setValue(head.Date);
+    ui->cmbClient->setText(head.Client);
+    ui->cmbAccount->setText(head.ReceiptAccount);
+    ui->DateDel->setValue(head.DeliveryDate);
+    ui->DateTrial->setValue(head.TrialDate);
+    ui->txtAmountDue->setText(head.Total.toString());
+    ui->txtAmountPaid->setText(head.Paid.toString());
+    ui->chJobStatus->setChecked(head.Delivered);
+    ui->txtRemark->setText(head.Remark);
+    ui->chStatus->setChecked(head.Cancelled);
+    ui->txtCancel->setText(head.CancelReason);
+    ui->lblDelDate->clear();
+    ui->lblTrialInfo->clear();
+    showBalance();
+}
+
+/// What tells a stored card from a new one.
+void frmEditJOB::showMode()
+{
+    if (m_card.EditMode != QStringLiteral("E"))
+        return;
+    ui->txtJOBID->setText(QString::number(m_card.CurrentJobID));
+    ui->lblTitle->setText(QStringLiteral("Edit JOB Card"));
+}
+
+// Fields and keys
+
+void frmEditJOB::Form_KeyPress(int& key)
+{
+    if (key == forms::key::Escape) {
+        key = 0;
+        unload();
+        return;
+    }
+    key = EnterAsTab(key);
+}
+
+void frmEditJOB::Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers)
+{
+    // From the list itself Tab goes on to the next field, or the list would hold the operator fast.
+    if (key == forms::key::Tab && modifiers == Qt::NoModifier && !ui->lvItems->hasFocus()) {
+        key = 0;
+        ui->lvItems->setFocus(Qt::TabFocusReason);
+        return;
+    }
+    key = ArrowsAsTab(key);
+}
+
+void frmEditJOB::cmbClient_KeyPress(int& key)
+{
+    if (key == forms::key::CtrlA) {
+        QString added;
+        frmEditClients().AddNewFromJobCard(added);
+        if (!added.isEmpty()) {
+            fillClients();
+            ui->cmbClient->setText(added);
+        }
+    }
+    key = AutoSearchCombo(*ui->cmbClient, key);
+}
+
+/// Greets the client with the last visit and the balance.
+void frmEditJOB::cmbClient_LostFocus()
+{
+    if (!matchesEntry(*ui->cmbClient))
+        return;
+    const QString client = ui->cmbClient->text();
+    const qint32 clientID = GetAccountID(client);
+    auto& visits = DE.rsJOBS;
+    visits.Open(QStringLiteral("Select * from Jobs where ClintID=") + QString::number(clientID));
+    if (visits.AtEOF()) {
+        visits.Close();
+        ui->picBanner->setText(QStringLiteral("Welcome ") + client);
+        return;
+    }
+    visits.MoveLast();
+    const QDate lastVisit = visits["Date"].date();
+    const QString number = visits["ID"].text();
+    visits.Close();
+
+    const double balance = GetBalance(values::toInt16(clientID), session.WorkingDate);
+    QString greeting = QStringLiteral("Welcome back ") + client + QStringLiteral(", Your previous visit was: ") +
+                       dateText(lastVisit) + QStringLiteral(" ( ") +
+                       DateDiffText(lastVisit, session.WorkingDate, false, true);
+    if (balance == 0) {
+        greeting += QStringLiteral("  ago )  , Job # ") + number;
+    } else {
+        // The sign is turned round either way, so that a credit shows with a minus.
+        greeting += QStringLiteral("  ago ) , Job # ") + number + QStringLiteral(" , Due Balance : ") + money(-balance) +
+                    (balance < 0 ? QStringLiteral(" Dr") : QStringLiteral(" Cr"));
+    }
+    ui->picBanner->setText(greeting);
+}
+
+/// Keeps the total in money form under the typing hand: the caret stays where it is as seen from the decimal point.
+void frmEditJOB::txtAmountDue_Change()
+{
+    const QString typed = ui->txtAmountDue->text();
+    const QString formatted = values::formatMoneyText(typed);
+    if (formatted == typed)
+        return;
+    const auto point = [](const QString& text) {
+        const auto at = text.indexOf(QLatin1Char('.'));
+        return int(at < 0 ? text.size() : at);
+    };
+    const int fromPoint = ui->txtAmountDue->cursorPosition() - point(typed);
+    ui->txtAmountDue->setText(formatted);
+    ui->txtAmountDue->setCursorPosition(qBound(0, point(formatted) + fromPoint, int(formatted.size())));
+}
+
+void frmEditJOB::txtAmountDue_KeyPress(int& key)
+{
+    auto& box = *ui->txtAmountDue;
+    const QString text = box.text();
+    const int caret = box.cursorPosition();
+    const bool plainCaret = !box.hasSelectedText();
+    // The decimal point always stands; typing or erasing it steps over it.
+    if (plainCaret && key == '.' && text.mid(caret, 1) == QLatin1String("."))
+        box.cursorForward(false);
+    if (plainCaret && key == forms::key::Backspace && caret > 0 && text.at(caret - 1) == QLatin1Char('.')) {
+        box.cursorBackward(false);
+        key = 0;
+        return;
+    }
+    key = NumbersOnly(text, key);
+}
+
+void frmEditJOB::txtAmountDue_KeyDown(int& key)
+{
+    auto& box = *ui->txtAmountDue;
+    if (key == forms::key::Delete && !box.hasSelectedText() &&
+        box.text().mid(box.cursorPosition(), 1) == QLatin1String(".")) {
+        box.cursorForward(false);
+        key = 0;
+    }
+}
+
+/// Nobody pays more than the total at the counter.
+void frmEditJOB::txtAmountPaid_Change()
+{
+    if (values::Val(ui->txtAmountPaid->text()) > values::Val(ui->txtAmountDue->text()))
+        ui->txtAmountPaid->setText(ui->txtAmountDue->text());
+    showBalance();
+}
+
+void frmEditJOB::showBalance()
+{
+    ui->txtAmount->setText(
+        money(values::Val(ui->txtAmountDue->text()) - values::Val(ui->txtAmountPaid->text())));
+}
+
+void frmEditJOB::DoTotal()
+{
+    const int rows = ui->lvItems->rowCount();
+    if (rows == 0)
+        return;
+    double total = 0;
+    for (int row = 0; row < rows; ++row)
+        total += values::Val(ui->lvItems->cell(row, AmountColumn));
+    ui->txtAmountDue->setText(money(total));
+    showBalance();
+}
+
+// Lines
+
+QStringList frmEditJOB::lineCells(int row) const
+{
+    const clsJobCardData& rows = m_card.JobRows;
+    return {rows.ItemName(row), rows.Remarks(row), QString::number(rows.Qty(row)), money(rows.Fees(row)),
+            money(rows.Amount(row))};
+}
+
+/// Shows the last row of the card at the end of the list.
+void frmEditJOB::appendLine()
+{
+    ui->lvItems->selectRow(ui->lvItems->addRow(lineCells(m_card.JobRows.RowCount())));
+}
+
+/// The row of the card (from 1) whose list entry is selected.
+int frmEditJOB::selectedLine() const { return qMax(0, ui->lvItems->selectedRow()) + 1; }
+
+void frmEditJOB::Command4_Click()
+{
+    if (ui->cmbClient->text().isEmpty()) {
+        refuse(QStringLiteral("Please Select Client!"), ui->cmbClient);
+        return;
+    }
+    if (frmAddItem().ItemDetails(m_card.JobRows, GetAccountID(ui->cmbClient->text()))) {
+        ui->cmbAccount->setFocus();
+        return;
+    }
+    appendLine();
+    DoTotal();
+}
+
+void frmEditJOB::editLine()
+{
+    if (ui->lvItems->rowCount() == 0)
+        return;
+    if (!matchesEntry(*ui->cmbClient)) {
+        ShowMsg(QStringLiteral("Please Select Client!"));
+        return;
+    }
+    const int row = selectedLine();
+    if (frmAddItem().EditItemDetails(m_card.JobRows, GetAccountID(ui->cmbClient->text()), row))
+        return;
+    ui->lvItems->setRow(row - 1, lineCells(row));
+    DoTotal();
+}
+
+void frmEditJOB::Command5_Click()
+{
+    if (ui->lvItems->rowCount() == 0)
+        return;
+    const int row = selectedLine();
+    m_card.RemoveLine(row);
+    ui->lvItems->removeRow(row - 1);
+    ui->lvItems->selectRow(qMin(row, ui->lvItems->rowCount()) - 1);
+    DoTotal();
+}
+
+void frmEditJOB::Command6_Click()
+{
+    m_card.Clear();
+    ui->lvItems->Clear();
+    DoTotal();
+}
+
+/// The copy shares the stored line of its source, and the total waits for the next change.
+void frmEditJOB::Command10_Click()
+{
+    if (ui->lvItems->rowCount() == 0)
+        return;
+    m_card.JobRows.Copy(selectedLine());
+    appendLine();
+}
+
+// The cancel panel, the next card
+
+void frmEditJOB::Command8_Click()
+{
+    const bool show = !ui->picCancel->isVisible();
+    ui->picCancel->setVisible(show);
+    if (show)
+        ui->txtCancel->setFocus();
+}
+
+void frmEditJOB::Command12_Click()
+{
+    ui->picCancel->hide();
+    ui->Command8->setFocus();
+}
+
+void frmEditJOB::Command3_Click()
+{
+    m_anotherCard = true;
+    unload();
+}
