@@ -11,7 +11,10 @@ constexpr int Padding = 7;
 
 } // namespace
 
-BannerStrip::BannerStrip(QWidget* parent) : QWidget(parent), lblLastvisit(new QLabel(this)), Timer1(new QTimer(this))
+BannerStrip::BannerStrip(QWidget* parent)
+    : QWidget(parent)
+    , lblLastvisit(new QLabel(this))
+    , Timer1(new QTimer(this))
 {
     setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

@@ -5,8 +5,8 @@
 class QLabel;
 class QTimer;
 
-/// The strip that greets the client: one line of text that walks through it from right to left for as long as the strip can
-/// be seen.
+/// The strip that greets the client: one line of text that walks through it from right to left for as long as
+/// the strip can be seen.
 class BannerStrip : public QWidget
 {
     Q_OBJECT

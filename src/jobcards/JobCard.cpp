@@ -19,7 +19,8 @@ void refuseTakenNumber(qint32 number)
     jobs.Close();
     if (taken)
         throw OperatorError(QStringLiteral("Job ID %1 is already taken by another job card. "
-                                           "Nothing has been saved.").arg(number));
+                                           "Nothing has been saved.")
+                                .arg(number));
 }
 
 } // namespace
@@ -46,9 +47,9 @@ void JobCard::LoadLines()
         const qint32 itemID = lines["ItemID"].integer();
         JobRows.AddNewRow(lines["ID"].integer(), GetItemName(itemID), itemID, lines["QNT"].integer(),
                           lines["Fees"].number(), lines["Amount"].number(), lines["Remarks"].text(),
-                          lines["ItemDetails"].text(), lines["ItemDetailsValue"].text(), 0, {}, {}, {}, {}, {}, 0,
-                          0, 0, {}, lines["img1"].text(), lines["img2"].text(), lines["Color"].text(), 0, {},
-                          lines["ClientRemarks"].text());
+                          lines["ItemDetails"].text(), lines["ItemDetailsValue"].text(), 0, {}, {}, {}, {},
+                          {}, 0, 0, 0, {}, lines["img1"].text(), lines["img2"].text(), lines["Color"].text(),
+                          0, {}, lines["ClientRemarks"].text());
     }
     lines.Close();
 }
@@ -204,7 +205,8 @@ qint32 JobCard::addLine(int row, const JobCardHead& head, qint32 clientID)
     return id;
 }
 
-/// Leaves alone what became of the line since it was taken: worker, dates, state, wage and payroll, place, feedback.
+/// Leaves alone what became of the line since it was taken: worker, dates, state, wage and payroll, place,
+/// feedback.
 void JobCard::updateLine(int row, const JobCardHead& head, qint32 clientID)
 {
     auto& line = DE.rsJOBS_DETAIL;

@@ -24,9 +24,10 @@ struct JobCardHead
     QString CancelReason;
 };
 
-/// The one job card that is open: its lines, and what its saves must know of them. A card is written as head, lines and
-/// voucher, in this order and as one commit. A refused statement ends the writing where it stands, with what was
-/// written before it in the file; only when the commit itself fails is everything gone, and the card as it was before.
+/// The one job card that is open: its lines, and what its saves must know of them. A card is written as head,
+/// lines and voucher, in this order and as one commit. A refused statement ends the writing where it stands,
+/// with what was written before it in the file; only when the commit itself fails is everything gone, and the
+/// card as it was before.
 class JobCard
 {
 public:
@@ -35,11 +36,12 @@ public:
     clsJobCardData JobRows;
     QString RemovedLineIDs; ///< the `Sr` of the lines removed since the card was loaded, joined by ","
 
-    /// The number for the next card: one above the highest, or the shop's first number (setting 23) on the first card.
+    /// The number for the next card: one above the highest, or the shop's first number (setting 23) on the
+    /// first card.
     static qint32 GetNewNum();
 
-    /// Reads the lines of the stored card `CurrentJobID` into JobRows, under the names that the catalogue has now. Throws
-    /// OverflowError for a line whose number is above 32767.
+    /// Reads the lines of the stored card `CurrentJobID` into JobRows, under the names that the catalogue has
+    /// now. Throws OverflowError for a line whose number is above 32767.
     void LoadLines();
     /// Takes out a row (from 1) and keeps its line for deletion at the next save.
     void RemoveLine(int row);
@@ -48,7 +50,8 @@ public:
 
     /// Stores a new card. Throws OperatorError, with nothing written, when its number is taken.
     void SaveNew(const JobCardHead& head);
-    /// Stores the changes of a stored card and writes its voucher anew. A stored line keeps its worker, state and wage.
+    /// Stores the changes of a stored card and writes its voucher anew. A stored line keeps its worker, state
+    /// and wage.
     void SaveEdit(const JobCardHead& head);
     /// Deletes the stored card with its lines and its voucher.
     void Delete();

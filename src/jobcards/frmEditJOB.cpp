@@ -27,7 +27,9 @@ bool matchesEntry(const forms::ComboBox& combo) { return ComboFindIndex(combo) >
 
 } // namespace
 
-frmEditJOB::frmEditJOB(QWidget* parent) : forms::Screen(parent), ui(std::make_unique<Ui::frmEditJOB>())
+frmEditJOB::frmEditJOB(QWidget* parent)
+    : forms::Screen(parent)
+    , ui(std::make_unique<Ui::frmEditJOB>())
 {
     ui->setupUi(this);
     ui->lvItems->setColumns({{QStringLiteral("Item"), 30},
@@ -79,8 +81,8 @@ frmEditJOB::~frmEditJOB() = default;
 void frmEditJOB::Form_Load()
 {
     fillClients();
-    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where type=2 and nature=0 "),
-             *ui->cmbAccount, DE.rsaccounts);
+    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"),
+             QStringLiteral(" where type=2 and nature=0 "), *ui->cmbAccount, DE.rsaccounts);
     ui->lvItems->Clear();
     ui->picCancel->hide();
     m_card = JobCard();
@@ -96,8 +98,8 @@ void frmEditJOB::Form_Unload()
 
 void frmEditJOB::fillClients()
 {
-    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where type=0"), *ui->cmbClient,
-             DE.rsaccounts);
+    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where type=0"),
+             *ui->cmbClient, DE.rsaccounts);
 }
 
 void frmEditJOB::ShowAddNew()
@@ -166,14 +168,16 @@ void frmEditJOB::showStoredCard(qint32 JobID)
     showHead(head);
     showMode();
     if (head.Delivered && !job["ClientDeliveryDate"].isNull())
-        ui->lblDelDate->setText(QStringLiteral("Delivered to Client : ") + dateText(job["ClientDeliveryDate"].date()));
+        ui->lblDelDate->setText(QStringLiteral("Delivered to Client : ") +
+                                dateText(job["ClientDeliveryDate"].date()));
     switch (job["appeared"].integer()) {
     case 0:
         ui->lblTrialInfo->setText(QStringLiteral("Not Appeared for Trial"));
         break;
     case 1:
         if (!job["appearedDate"].isNull())
-            ui->lblTrialInfo->setText(QStringLiteral("Appeared for Trial ") + dateText(job["appearedDate"].date()));
+            ui->lblTrialInfo->setText(QStringLiteral("Appeared for Trial ") +
+                                      dateText(job["appearedDate"].date()));
         break;
     case 2:
         ui->lblTrialInfo->setText(QStringLiteral("Trial Canceled"));
@@ -273,20 +277,21 @@ void frmEditJOB::cmbClient_LostFocus()
     visits.Close();
 
     const double balance = GetBalance(values::toInt16(clientID), session.WorkingDate);
-    QString greeting = QStringLiteral("Welcome back ") + client + QStringLiteral(", Your previous visit was: ") +
-                       dateText(lastVisit) + QStringLiteral(" ( ") +
-                       DateDiffText(lastVisit, session.WorkingDate, false, true);
+    QString greeting = QStringLiteral("Welcome back ") + client +
+                       QStringLiteral(", Your previous visit was: ") + dateText(lastVisit) +
+                       QStringLiteral(" ( ") + DateDiffText(lastVisit, session.WorkingDate, false, true);
     if (balance == 0) {
         greeting += QStringLiteral("  ago )  , Job # ") + number;
     } else {
         // The sign is turned round either way, so that a credit shows with a minus.
-        greeting += QStringLiteral("  ago ) , Job # ") + number + QStringLiteral(" , Due Balance : ") + money(-balance) +
-                    (balance < 0 ? QStringLiteral(" Dr") : QStringLiteral(" Cr"));
+        greeting += QStringLiteral("  ago ) , Job # ") + number + QStringLiteral(" , Due Balance : ") +
+                    money(-balance) + (balance < 0 ? QStringLiteral(" Dr") : QStringLiteral(" Cr"));
     }
     ui->picBanner->setText(greeting);
 }
 
-/// Keeps the total in money form under the typing hand: the caret stays where it is as seen from the decimal point.
+/// Keeps the total in money form under the typing hand: the caret stays where it is as seen from the decimal
+/// point.
 void frmEditJOB::txtAmountDue_Change()
 {
     const QString typed = ui->txtAmountDue->text();

@@ -10,7 +10,8 @@ class frmEditJOB;
 }
 class swSMS;
 
-/// The job card: its head, its item lines and its money. Works on one card at a time; nothing reaches the file before Save.
+/// The job card: its head, its item lines and its money. Works on one card at a time; nothing reaches the
+/// file before Save.
 class frmEditJOB : public forms::Screen
 {
     Q_OBJECT
@@ -18,16 +19,17 @@ public:
     explicit frmEditJOB(QWidget* parent = nullptr);
     ~frmEditJOB() override;
 
-    /// Opens the screen on a new card, and on another one each time the operator asks for it. Throws DatabaseError when it
-    /// cannot be prepared.
+    /// Opens the screen on a new card, and on another one each time the operator asks for it. Throws
+    /// DatabaseError when it cannot be prepared.
     void ShowAddNew();
-    /// Opens the screen on a stored card; true when the card was saved or deleted on it. Throws DatabaseError, with
-    /// nothing shown, when the card cannot be read.
+    /// Opens the screen on a stored card; true when the card was saved or deleted on it. Throws
+    /// DatabaseError, with nothing shown, when the card cannot be read.
     bool ShowEdit(qint32 JobID);
 
     /// The number for the next card.
     qint32 GetNewNum() const { return JobCard::GetNewNum(); }
-    /// Adds up the lines and shows the total and what is left to pay. An empty list leaves the amounts as they are.
+    /// Adds up the lines and shows the total and what is left to pay. An empty list leaves the amounts as
+    /// they are.
     void DoTotal();
     /// Write the card as it stands on the screen. Throw OperatorError.
     void SaveNew();

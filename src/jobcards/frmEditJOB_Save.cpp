@@ -90,7 +90,8 @@ void frmEditJOB::offerSms()
 {
     if (GetSetting(OfferSmsSetting, QStringLiteral("No")) == QStringLiteral("No"))
         return;
-    if (!ShowMsg(QStringLiteral("This Job has been registered.\r\nWould you like to Inform Client via SMS?"), 2))
+    if (!ShowMsg(QStringLiteral("This Job has been registered.\r\nWould you like to Inform Client via SMS?"),
+                 2))
         return;
     SendSmsToClient(*swSMS1, ui->cmbClient->text(), 0,
                     MakeJobRegisteredSms(m_card.CurrentJobID, values::Val(ui->txtAmount->text())));

@@ -2,26 +2,27 @@
 
 #include <QString>
 
-/// The wording of the shop's text messages, and what a message needs to know of a client and of a card. Lines of a message
-/// end with a carriage return alone. Everything here throws ado::DatabaseError when the file refuses.
+/// The wording of the shop's text messages, and what a message needs to know of a client and of a card. Lines
+/// of a message end with a carriage return alone. Everything here throws ado::DatabaseError when the file
+/// refuses.
 
 /// The drafts that a shop begins with. "%eid%" stands for the card's number, "%amount%" for money.
 QString DefaultJobRegisteredDraft();
 QString DefaultJobFinishedDraft();
 QString DefaultDueBalanceDraft();
 
-/// The messages in the shop's own drafts (settings 24 to 26), with the shop's signature (setting 10) on its own line. The
-/// amount stands without fixed decimals: 301, 0.5.
+/// The messages in the shop's own drafts (settings 24 to 26), with the shop's signature (setting 10) on its
+/// own line. The amount stands without fixed decimals: 301, 0.5.
 QString MakeJobRegisteredSms(qint32 jobId, double amount);
 QString MakeJobFinishedSms(qint32 jobId, double amount);
 /// The balance stands as given; the signature is the caller's to add.
 QString MakeDueBalanceSms(const QString& amount);
 
-/// The mobile number of a client, by title, or by id where one is given (above 0); empty when there is no such client.
-/// Workers and ledger accounts are never found.
+/// The mobile number of a client, by title, or by id where one is given (above 0); empty when there is no
+/// such client. Workers and ledger accounts are never found.
 QString GetClientMobile(const QString& title, qint16 id);
-/// Mobile, address and city of an account in one line, "No Information Found" when all three are empty; empty when there
-/// is no such account.
+/// Mobile, address and city of an account in one line, "No Information Found" when all three are empty; empty
+/// when there is no such account.
 QString GetClientContact(qint16 id);
 
 /// True when every line of the card is completed (delivered). A card without lines counts as both.

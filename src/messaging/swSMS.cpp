@@ -21,7 +21,9 @@ QByteArray dialled(const QString& number)
 
 } // namespace
 
-swSMS::swSMS(QWidget* screen) : QObject(screen), m_screen(screen)
+swSMS::swSMS(QWidget* screen)
+    : QObject(screen)
+    , m_screen(screen)
 {
     connect(&m_port, &devices::SerialPort::broken, this,
             [this](const QString& text) { forms::plainMessage(m_screen, text); });

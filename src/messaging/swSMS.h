@@ -5,8 +5,9 @@
 #include <QPointer>
 #include <QWidget>
 
-/// The sender of text messages that a screen holds: a GSM modem on a serial port, spoken to in its text mode. Messages are
-/// handed over and forgotten: the modem's answer is never read. The port stays open until the screen goes.
+/// The sender of text messages that a screen holds: a GSM modem on a serial port, spoken to in its text mode.
+/// Messages are handed over and forgotten: the modem's answer is never read. The port stays open until the
+/// screen goes.
 class swSMS : public QObject
 {
     Q_OBJECT
@@ -14,10 +15,12 @@ public:
     /// The plain boxes of failures stand over `screen`, which owns the sender.
     explicit swSMS(QWidget* screen);
 
-    /// Sends one message and returns as soon as it stands in the port's buffer. Of the number the leading digits go out,
-    /// without a "+" or zeros before them. Any failure, also a port that an earlier message left open, is told in one
-    /// plain box with the system's text; the caller cannot tell it from success.
+    /// Sends one message and returns as soon as it stands in the port's buffer. Of the number the leading
+    /// digits go out, without a "+" or zeros before them. Any failure, also a port that an earlier message
+    /// left open, is told in one plain box with the system's text; the caller cannot tell it from success.
     void SendSMS(qint16 port, const QString& number, const QString& message);
+
+    bool isOpen() const { return m_port.isOpen(); }
 
     /// Where the ports' devices stand; "/dev" unless told.
     void setDeviceFolder(const QString& folder) { m_deviceFolder = folder; }
@@ -28,7 +31,7 @@ private:
     QString m_deviceFolder = QStringLiteral("/dev");
 };
 
-/// The step by which every screen tells a client something: looks up the client's mobile number (by title or by id, as
-/// GetClientMobile) and the modem's port (setting 4), refuses with a message when one is missing, the number first, and sends.
-/// Returns whether it came to sending.
+/// The step by which every screen tells a client something: looks up the client's mobile number (by title or
+/// by id, as GetClientMobile) and the modem's port (setting 4), refuses with a message when one is missing,
+/// the number first, and sends. Returns whether it came to sending.
 bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString& text);

@@ -97,8 +97,8 @@ JobCardHead tst_JobCard::head(double total, double paid) const
 void tst_JobCard::addRow(JobCard& card, const QString& item, double amount) const
 {
     card.JobRows.AddNewRow(0, item, GetItemID(item), 2, amount / 2, amount, QStringLiteral("slim"),
-                           QStringLiteral("Length\r\nChest"), QStringLiteral("30\r\n40"), 0, {}, {}, {}, {}, {}, 0, 0,
-                           0, {}, {}, {}, QStringLiteral("255"), 0, {}, QStringLiteral("note"));
+                           QStringLiteral("Length\r\nChest"), QStringLiteral("30\r\n40"), 0, {}, {}, {}, {},
+                           {}, 0, 0, 0, {}, {}, {}, QStringLiteral("255"), 0, {}, QStringLiteral("note"));
 }
 
 JobCard tst_JobCard::storedCard(int lines, double paid)
@@ -198,8 +198,8 @@ void tst_JobCard::voucherFollowsTheMoney()
 void tst_JobCard::storedLineKeepsItsWorker()
 {
     JobCard card = storedCard(1);
-    DE.connection().Execute(
-        QStringLiteral("Update Jobs_Detail set WorkerID=9, WorkerName='Ravi', DoneByWorker=1, MarkAsPaid=1, Score=4"));
+    DE.connection().Execute(QStringLiteral(
+        "Update Jobs_Detail set WorkerID=9, WorkerName='Ravi', DoneByWorker=1, MarkAsPaid=1, Score=4"));
     card.JobRows.SetItemName(1, QStringLiteral("Trouser"));
     card.JobRows.SetItemID(1, GetItemID(QStringLiteral("Trouser")));
     JobCardHead changed = head(450);
@@ -246,7 +246,8 @@ void tst_JobCard::removedLines()
     QCOMPARE(Shop::count(QStringLiteral("Select * from Jobs_Detail where id=") + second), 0);
     QVERIFY(card.RemovedLineIDs.isEmpty());
 
-    // Two at once make a statement that the engine refuses: head and lines stand, the voucher is still the old one.
+    // Two at once make a statement that the engine refuses: head and lines stand, the voucher is still the
+    // old one.
     card.RemoveLine(1);
     card.RemoveLine(1);
     const QString removed = card.RemovedLineIDs;
@@ -335,7 +336,8 @@ void tst_JobCard::failedCommitPutsTheCardBack()
     DE.connection().Execute(QStringLiteral("PRAGMA busy_timeout=20"));
     {
         ado::Connection other; // a second program in the middle of reading
-        other.open(session.databasePath(), QStringLiteral("measuretwicecut"), ado::Connection::Mode::ReadOnly);
+        other.open(session.databasePath(), QStringLiteral("measuretwicecut"),
+                   ado::Connection::Mode::ReadOnly);
         ado::Recordset reading(other);
         other.Execute(QStringLiteral("BEGIN"));
         reading.Open(QStringLiteral("Select * from Jobs"));
@@ -444,7 +446,8 @@ void tst_JobCard::postingsSumToZeroAfterAnyEdits()
             card.SaveEdit(edited);
         }
         QCOMPARE(value(QStringLiteral("Select sum(Amount) from Postings")).toDouble(), 0.0);
-        QCOMPARE(value(QStringLiteral("Select -Amount from Postings where Sr=1")).toDouble(), edited.Total.toDouble());
+        QCOMPARE(value(QStringLiteral("Select -Amount from Postings where Sr=1")).toDouble(),
+                 edited.Total.toDouble());
         QCOMPARE(value(QStringLiteral("Select AmountDue from Jobs")).toDouble(), edited.Total.toDouble());
         QCOMPARE(Shop::count(QStringLiteral("Select * from Postings")), edited.Paid > Currency() ? 4 : 2);
     }

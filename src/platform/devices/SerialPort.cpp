@@ -22,12 +22,12 @@ QString serialPortName(int number, const QString& folder)
 #endif
 }
 
-SerialPort::SerialPort(QObject* parent) : QObject(parent)
+SerialPort::SerialPort(QObject* parent)
+    : QObject(parent)
 {
-    // Putting the line's old settings back while bytes are still on their way would spoil them.
-    m_port.setSettingsRestoredOnClose(false);
     connect(&m_port, &QSerialPort::errorOccurred, this, [this](QSerialPort::SerialPortError error) {
-        // A hang-up reports itself again and again until the port is closed, and it may not be closed from here.
+        // A hang-up reports itself again and again until the port is closed, and it may not be closed from
+        // here.
         if (error == QSerialPort::NoError || !m_port.isOpen() || m_closing)
             return;
         m_closing = true;

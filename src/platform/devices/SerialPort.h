@@ -6,12 +6,13 @@
 /// What hangs on the computer: serial ports.
 namespace devices {
 
-/// The system's name of serial port `number` (1, 2, ...). On Windows COMn; elsewhere the first that stands in `folder` of
-/// ttyUSB, ttyACM and ttyS with the number less one. Where none stands it is the last of these, so that opening it tells why.
+/// The system's name of serial port `number` (1, 2, ...). On Windows COMn; elsewhere the first that stands in
+/// `folder` of ttyUSB, ttyACM and ttyS with the number less one. Where none stands it is the last of these,
+/// so that opening it tells why.
 QString serialPortName(int number, const QString& folder);
 
-/// A serial line that is only written to: 9600 baud, 8 data bits, no parity, 1 stop bit. Nothing here waits for the line:
-/// what the system's buffer does not take at once goes out while the screens live on.
+/// A serial line that is only written to: 9600 baud, 8 data bits, no parity, 1 stop bit. Nothing here waits
+/// for the line: what the system's buffer does not take at once goes out while the screens live on.
 class SerialPort : public QObject
 {
     Q_OBJECT
@@ -25,8 +26,8 @@ public:
     bool isOpen() const { return m_port.isOpen(); }
 
 Q_SIGNALS:
-    /// The line broke with bytes not yet sent; the port is closed. Comes once for an opening, however often the system
-    /// reports it. A line that breaks with nothing left to send is closed without a word.
+    /// The line broke with bytes not yet sent; the port is closed. Comes once for an opening, however often
+    /// the system reports it. A line that breaks with nothing left to send is closed without a word.
     void broken(const QString& text);
 
 private:
