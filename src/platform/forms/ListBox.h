@@ -28,7 +28,7 @@ public:
     /// The text of the selected entry, or "".
     QString Text() const;
     /// The first entry behind `startAfter` that begins with `prefix` in any case; the search wraps round and
-    /// tries the entry `startAfter` itself last. -1: none.
+    /// tries the entry `startAfter` itself last. -1: none, as for an empty prefix.
     int findString(const QString& prefix, int startAfter = -1) const;
 
 Q_SIGNALS:
