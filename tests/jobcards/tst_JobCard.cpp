@@ -422,14 +422,13 @@ void tst_JobCard::postingsSumToZeroAfterAnyEdits()
     QRandomGenerator random(20240210);
     const auto upTo = [&](int bound) { return int(random.bounded(bound)); };
     JobCard card = storedCard(3, 100);
-    for (int step = 0; step < 60; ++step) {
-        switch (upTo(4)) {
+    for (int step = 0; step < 40; ++step) {
+        switch (card.JobRows.RowCount() > 1 ? upTo(4) : 0) {
         case 0:
             addRow(card, QStringLiteral("Trouser"), 0.01 * upTo(100000));
             break;
         case 1:
-            if (card.JobRows.RowCount() > 1)
-                card.RemoveLine(1 + upTo(card.JobRows.RowCount()));
+            card.RemoveLine(1 + upTo(card.JobRows.RowCount()));
             break;
         case 2:
             card.JobRows.Copy(1 + upTo(card.JobRows.RowCount()));
@@ -439,10 +438,17 @@ void tst_JobCard::postingsSumToZeroAfterAnyEdits()
         }
         JobCardHead edited = head(0.0001 * upTo(50000000), 0.1 * upTo(3000));
         edited.Cancelled = upTo(5) == 0;
+        // Two lines removed at once, or a line whose copy was removed, stop a save: a new start with what is
+        // there.
         try {
             card.SaveEdit(edited);
         } catch (const ado::DatabaseError&) {
-            card.RemovedLineIDs.clear(); // several lines removed at once
+            QCOMPARE(value(QStringLiteral("Select sum(Amount) from Postings")).toDouble(), 0.0);
+            const qint32 number = card.CurrentJobID;
+            card = JobCard();
+            card.CurrentJobID = number;
+            card.EditMode = QStringLiteral("E");
+            card.LoadLines();
             card.SaveEdit(edited);
         }
         QCOMPARE(value(QStringLiteral("Select sum(Amount) from Postings")).toDouble(), 0.0);

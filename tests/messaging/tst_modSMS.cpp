@@ -34,9 +34,8 @@ void tst_modSMS::draftsAreFilledIn()
     QCOMPARE(MakeJobRegisteredSms(1000, 301),
              QStringLiteral("Dear Customer\r Your Job ID # 1000\r of Rs. 301 has been booked. "
                             "To track job status call us with this ID.\r\r\r"));
-    QCOMPARE(MakeJobFinishedSms(7, 0),
-             QStringLiteral("Dear Customer Your Job ID # 7 has been completed. "
-                            "Please visit our shop to collect clothes.\r\r\r"));
+    QCOMPARE(MakeJobFinishedSms(7, 0), QStringLiteral("Dear Customer Your Job ID # 7 has been completed. "
+                                                      "Please visit our shop to collect clothes.\r\r\r"));
     QCOMPARE(MakeDueBalanceSms(QStringLiteral("250.00 Dr")),
              QStringLiteral("Dear Customer\r Your Due Balance is : Rs. 250.00 Dr\r\r\r"));
 
@@ -63,7 +62,8 @@ void tst_modSMS::clientsMobileAndContact()
     QVERIFY(GetClientMobile(QStringLiteral("Ravi"), ravi).isEmpty()); // no worker is a client
     QVERIFY(GetClientMobile(QString(), 0).isEmpty());
 
-    DE.connection().Execute(QStringLiteral("Update Accounts set Address='Lane 3', City='Agra' where Title='Asha'"));
+    DE.connection().Execute(
+        QStringLiteral("Update Accounts set Address='Lane 3', City='Agra' where Title='Asha'"));
     QCOMPARE(GetClientContact(asha), QStringLiteral("97   Lane 3   Agra    "));
     DE.connection().Execute(QStringLiteral("Update Accounts set Mobile=Null where Title='Ravi'"));
     QCOMPARE(GetClientContact(ravi), QStringLiteral("No Information Found"));

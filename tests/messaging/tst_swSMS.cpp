@@ -19,7 +19,8 @@ namespace {
 class Modem
 {
 public:
-    explicit Modem(const QString& device) : m_end(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
+    explicit Modem(const QString& device)
+        : m_end(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
     {
         if (m_end < 0 || grantpt(m_end) != 0 || unlockpt(m_end) != 0 ||
             !QFile::link(QFile::decodeName(ptsname(m_end)), device))
@@ -127,8 +128,7 @@ void tst_swSMS::bytesOfAMessage()
     QFETCH(QByteArray, dialled);
     Modem modem(device(QStringLiteral("ttyUSB2")));
     sender()->SendSMS(3, number, QStringLiteral("Dear Customer\r Rs. 301\r"));
-    const QByteArray expected =
-        "AT+CMGF=1\rAT+CMGS=\"" + dialled + "\"\rDear Customer\r Rs. 301\r\x1a";
+    const QByteArray expected = "AT+CMGF=1\rAT+CMGS=\"" + dialled + "\"\rDear Customer\r Rs. 301\r\x1a";
     QTRY_COMPARE(modem.heard(), expected);
 }
 
@@ -177,7 +177,9 @@ void tst_swSMS::standardStep()
     shop.addClient(QStringLiteral("Asha"), QStringLiteral("0981"));
     shop.addClient(QStringLiteral("Ravi"));
     swSMS* sms = sender();
-    const auto send = [&](const QString& client) { return SendSmsToClient(*sms, client, 0, QStringLiteral("hello")); };
+    const auto send = [&](const QString& client) {
+        return SendSmsToClient(*sms, client, 0, QStringLiteral("hello"));
+    };
 
     m_prompts->expect(QStringLiteral("Mobile Number Not Found!\r\nSMS Sending has been Failed."));
     QVERIFY(!send(QStringLiteral("Ravi"))); // the number is asked for first
