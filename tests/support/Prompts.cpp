@@ -1,0 +1,97 @@
+#include "support/Prompts.h"
+
+#include "support/Modal.h"
+#include "ui/frmMsg.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+namespace {
+
+void fail(const QString& what) { QTest::qFail(qPrintable(what), __FILE__, __LINE__); }
+
+/// Presses the button, or, where there is none to press, leaves by Esc.
+void press(QWidget& dialog, QAbstractButton* button, Answer answer)
+{
+    if (answer == Answer::Esc) {
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    } else if (button && button->isVisible()) {
+        QTest::mouseClick(button, Qt::LeftButton);
+    } else {
+        fail(QStringLiteral("The prompt has no button for the answer"));
+        dialog.close();
+    }
+}
+
+} // namespace
+
+Prompts::Prompts()
+{
+    connect(&m_timer, &QTimer::timeout, this, &Prompts::look);
+    m_timer.start(5);
+}
+
+Prompts::~Prompts()
+{
+    if (!m_expected.empty())
+        fail(QStringLiteral("Expected prompts are left over"));
+}
+
+void Prompts::expect(const QString& text, Answer answer) { m_expected.push_back({text, answer}); }
+
+bool Prompts::allMet()
+{
+    for (const Expected& unused : m_expected)
+        qInfo("Prompt never came: %s", qPrintable(unused.text));
+    if (modal::pending() > 0)
+        qInfo("%d modal screens never came", modal::pending());
+    const bool met = m_expected.empty() && modal::pending() == 0;
+    m_expected.clear();
+    modal::forget();
+    return met;
+}
+
+void Prompts::look()
+{
+    QWidget* front = QApplication::activeModalWidget();
+    if (!front || !front->isVisible())
+        return;
+    if (auto* dialog = qobject_cast<frmMsg*>(front))
+        answer(*dialog);
+    else if (auto* box = qobject_cast<QMessageBox*>(front))
+        answer(*box);
+}
+
+Answer Prompts::answerTo(const QString& text)
+{
+    if (m_expected.empty()) {
+        fail(QStringLiteral("Unexpected prompt: ") + text);
+        return Answer::Esc;
+    }
+    const Expected next = m_expected.front();
+    m_expected.pop_front();
+    if (next.text != text)
+        fail(QStringLiteral("Prompt: %1\nexpected: %2").arg(text, next.text));
+    return next.answer;
+}
+
+void Prompts::answer(frmMsg& dialog)
+{
+    const Answer given = answerTo(dialog.findChild<QLabel*>(QStringLiteral("lblMsg"))->text());
+    const QString name = given == Answer::Ok    ? QStringLiteral("cmdOK")
+                         : given == Answer::Yes ? QStringLiteral("cmdYes")
+                                                : QStringLiteral("cmdNo");
+    press(dialog, dialog.findChild<QPushButton*>(name), given);
+}
+
+void Prompts::answer(QMessageBox& box)
+{
+    const Answer given = answerTo(box.text());
+    const QMessageBox::StandardButton button = given == Answer::Ok    ? QMessageBox::Ok
+                                               : given == Answer::Yes ? QMessageBox::Yes
+                                                                      : QMessageBox::No;
+    press(box, box.button(button), given);
+}

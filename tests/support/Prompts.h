@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+#include <deque>
+
+class frmMsg;
+class QMessageBox;
+
+enum class Answer { Ok, Yes, No, Esc };
+
+/// Answers the prompts of the program under test: those of the message dialog and plain message boxes, in the
+/// order in which they are expected. A prompt that is unexpected, of another text, or without the button of
+/// the answer fails the test.
+class Prompts : public QObject
+{
+    Q_OBJECT
+public:
+    Prompts();
+    ~Prompts() override;
+
+    void expect(const QString& text, Answer answer = Answer::Ok);
+    /// True when every expected prompt has come, and every act of onNextModal has met its screen. Tells what
+    /// hasn't, and forgets it. For the test's cleanup.
+    bool allMet();
+
+private:
+    struct Expected
+    {
+        QString text;
+        Answer answer;
+    };
+
+    void look();
+    Answer answerTo(const QString& text);
+    void answer(frmMsg& dialog);
+    void answer(QMessageBox& box);
+
+    std::deque<Expected> m_expected;
+    QTimer m_timer;
+};
