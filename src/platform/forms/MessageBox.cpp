@@ -24,12 +24,15 @@ QString cut(const QString& text)
 QMessageBox::StandardButton run(QWidget* parent, QMessageBox::Icon icon, const QString& text,
                                 QMessageBox::StandardButtons buttons)
 {
-    QPointer<QMessageBox> box = new QMessageBox(icon, QGuiApplication::applicationDisplayName(), cut(text),
-                                                buttons, parent && parent->isVisible() ? parent : nullptr);
+    const QPointer<QWidget> below = parent && parent->isVisible() ? parent->window() : nullptr;
+    QPointer<QMessageBox> box =
+        new QMessageBox(icon, QGuiApplication::applicationDisplayName(), cut(text), buttons, below);
     box->setTextFormat(Qt::PlainText);
     box->setWindowModality(Qt::ApplicationModal);
     const int answer = box->exec();
     delete box;
+    if (below)
+        below->activateWindow();
     return static_cast<QMessageBox::StandardButton>(answer);
 }
 

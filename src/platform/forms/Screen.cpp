@@ -134,7 +134,6 @@ void Screen::present()
     if (!focusWidget())
         focusNextPrevChild(true);
     show();
-    raise();
     activateWindow();
     activate();
 }
@@ -159,9 +158,10 @@ void Screen::unload()
     hide();
     if (m_loop)
         m_loop->quit();
-    if (wasFront && !m_notice && front()) {
+    if (wasFront && front()) {
         front()->activateWindow();
-        front()->activate();
+        if (!m_notice)
+            front()->activate();
     }
 }
 
@@ -214,22 +214,29 @@ std::vector<Procedure> Screen::proceduresFor(QWidget* target,
 
 bool Screen::previewKeyDown(QWidget* target, int& key, Qt::KeyboardModifiers modifiers)
 {
-    const QPointer<Screen> self = this;
-    if (!guarded(this, [&] { Form_KeyDown(key, modifiers); }) || !self || key == 0)
-        return true;
-    for (const auto& procedure : proceduresFor(target, &ControlEvents::keyDown))
-        if (!guarded(this, [&] { procedure(key); }) || !self || key == 0)
-            return true;
-    return false;
+    return swallowed(
+        key, [&] { Form_KeyDown(key, modifiers); }, proceduresFor(target, &ControlEvents::keyDown));
 }
 
 bool Screen::previewKeyPress(QWidget* target, int& key)
 {
+    return swallowed(
+        key, [&] { Form_KeyPress(key); }, proceduresFor(target, &ControlEvents::keyPress));
+}
+
+/// Gives a key to the screen's procedure, then to those of the control. An error, or the end of the screen,
+/// swallows it too.
+bool Screen::swallowed(int& key, const std::function<void()>& screens,
+                       const std::vector<std::function<void(int&)>>& controls)
+{
     const QPointer<Screen> self = this;
-    if (!guarded(this, [&] { Form_KeyPress(key); }) || !self || key == 0)
+    const auto goesOn = [&](const std::function<void()>& procedure) {
+        return guarded(this, procedure) && self && m_loaded && key != 0;
+    };
+    if (!goesOn(screens))
         return true;
-    for (const auto& procedure : proceduresFor(target, &ControlEvents::keyPress))
-        if (!guarded(this, [&] { procedure(key); }) || !self || key == 0)
+    for (const auto& procedure : controls)
+        if (!goesOn([&] { procedure(key); }))
             return true;
     return false;
 }

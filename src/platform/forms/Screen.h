@@ -159,6 +159,8 @@ private:
     /// True when the key was swallowed.
     bool previewKeyDown(QWidget* target, int& key, Qt::KeyboardModifiers modifiers);
     bool previewKeyPress(QWidget* target, int& key);
+    bool swallowed(int& key, const std::function<void()>& screens,
+                   const std::vector<std::function<void(int&)>>& controls);
     void focusArrived(QWidget* target);
 
     bool m_loaded = false;
