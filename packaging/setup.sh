@@ -26,6 +26,6 @@ set_up() {
   fi
   "${sudo[@]}" apt-get update -qq >&2 || say "apt-get update failed; trying with the package lists at hand."
   # shellcheck disable=SC2086
-  "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >&2 ||
+  "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq -o Dpkg::Use-Pty=0 --no-install-recommends $missing >&2 ||
     fail "apt-get could not install: $missing"
 }
