@@ -1,0 +1,259 @@
+#include "jobcards/ItemDetails.h"
+
+#include "platform/forms/Metrics.h"
+#include "platform/values/Errors.h"
+#include "platform/values/Numbers.h"
+#include "ui/swTextBox.h"
+
+#include <QEvent>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QStyle>
+#include <QTextDocument>
+#include <QWheelEvent>
+
+namespace {
+
+// All in twips.
+constexpr int EmptyPanelHeight = 8175;
+constexpr int PanelGrowth = 1000;
+constexpr int RowGap = 100;
+constexpr int CaptionDrop = 50;
+
+constexpr int CaptionIndent = 6; // pixels
+
+constexpr int twipsOf(int pixels) { return pixels * 15; }
+
+QFont captionFont(bool hindi)
+{
+    QFont font(hindi ? QStringLiteral("Kruti Dev 010") : QStringLiteral("Verdana"));
+    font.setPointSizeF(forms::points(hindi ? 14 : 10));
+    return font;
+}
+
+void paint(QLabel& label, bool selected)
+{
+    label.setProperty("selected", selected);
+    label.style()->unpolish(&label);
+    label.style()->polish(&label);
+}
+
+} // namespace
+
+ItemDetails::ItemDetails(QWidget* parent)
+    : QWidget(parent)
+    , Picture2(new QFrame(this))
+    , Picture1(new QWidget(Picture2))
+    , VScroll1(new QScrollBar(Qt::Vertical, this))
+    , m_panelHeight(EmptyPanelHeight)
+{
+    Picture1->setObjectName(QStringLiteral("Picture1"));
+    Picture2->setObjectName(QStringLiteral("Picture2"));
+    VScroll1->setObjectName(QStringLiteral("VScroll1"));
+    Picture2->setProperty("card", true);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(4);
+    layout->addWidget(Picture2);
+    layout->addWidget(VScroll1);
+    QSizePolicy keepsItsPlace = VScroll1->sizePolicy();
+    keepsItsPlace.setRetainSizeWhenHidden(true);
+    VScroll1->setSizePolicy(keepsItsPlace);
+
+    Picture2->installEventFilter(this);
+    connect(VScroll1, &QScrollBar::valueChanged, this, &ItemDetails::movePanel);
+    makeRow();
+    ClearList();
+    setFocusProxy(m_rows.front().txtValue.get()); // for the tab order of the screen that is being made
+}
+
+ItemDetails::~ItemDetails() = default;
+
+// Rows
+
+void ItemDetails::AddFeild(const QString& caption, const QString& value)
+{
+    const qint16 count = values::toInt16(m_count + 1);
+    const bool hindi = m_language == QLatin1String("Hindi");
+    if (m_count > 0) {
+        makeRow();
+        m_panelHeight += PanelGrowth;
+    }
+    m_rows.back().lblCap->setFont(captionFont(hindi));
+    m_count = count;
+    fillRow(m_rows.back(), caption, value);
+    placeRow(m_rows.size() - 1);
+    updateScrollBar();
+    updateFocusProxy();
+}
+
+void ItemDetails::ClearList()
+{
+    m_rows.erase(m_rows.begin() + 1, m_rows.end());
+    m_count = 0;
+    m_rows.front().lblCap->hide();
+    m_rows.front().txtValue->hide();
+    m_panelHeight = EmptyPanelHeight;
+    VScroll1->setValue(0);
+    updateScrollBar();
+    updateFocusProxy();
+}
+
+void ItemDetails::ListItemText(QString& name, QString& value, qint32 index) const
+{
+    if (index < 0 || static_cast<size_t>(index) >= m_rows.size())
+        throw SubscriptError();
+    const Row& row = m_rows[static_cast<size_t>(index)];
+    name = row.caption;
+    value = row.txtValue->displayText();
+}
+
+void ItemDetails::makeRow()
+{
+    const size_t index = m_rows.size();
+    Row row{std::make_unique<QLabel>(Picture1), std::make_unique<swTextBox>(Picture1), {}};
+    row.lblCap->setObjectName(QStringLiteral("lblCap_%1").arg(index));
+    row.lblCap->setTextFormat(Qt::PlainText);
+    row.lblCap->setIndent(CaptionIndent);
+    row.txtValue->setObjectName(QStringLiteral("txtValue_%1").arg(index));
+
+    QLabel* label = row.lblCap.get();
+    swTextBox* box = row.txtValue.get();
+    connect(box, &swTextBox::GotFocus, this, [this, label, index] {
+        rowGotFocus(index);
+        lblGotFocus(*label);
+    });
+    connect(box, &swTextBox::LostFocus, label, [label] { lbllostFocus(*label); });
+    if (index > 0)
+        setTabOrder(m_rows.back().txtValue.get(), box);
+    m_rows.push_back(std::move(row));
+}
+
+void ItemDetails::fillRow(Row& row, const QString& caption, const QString& value)
+{
+    row.caption = caption;
+    row.txtValue->setText(value);
+    row.txtValue->setCursorPosition(0);
+    row.txtValue->setAccessibleName(caption);
+    row.lblCap->show();
+    row.txtValue->show();
+}
+
+// Focus and scrolling
+
+void ItemDetails::SetFocusToList()
+{
+    if (m_count > 0)
+        m_rows.front().txtValue->setFocus();
+}
+
+/// A hidden proxy would hold the Tab key up in front of an empty grid.
+void ItemDetails::updateFocusProxy() { setFocusProxy(m_count > 0 ? m_rows.front().txtValue.get() : nullptr); }
+
+/// A row that lies below the first panelful is scrolled to the top. Rows above that line leave the scroll bar
+/// alone; where one would stay out of sight the panel is moved just as far as it takes to see it.
+void ItemDetails::rowGotFocus(size_t index)
+{
+    const int top = rowTop(index);
+    const int visible = twipsOf(Picture2->height());
+    if (top > visible)
+        VScroll1->setValue(top);
+    const int highest = rowTop(index + 1) - visible;
+    movePanel(qBound(highest, VScroll1->value(), qMax(highest, top - RowGap)));
+}
+
+void ItemDetails::lblGotFocus(QLabel& label) { paint(label, true); }
+
+void ItemDetails::lbllostFocus(QLabel& label) { paint(label, false); }
+
+/// The captions and the space between the rows take the wheel too.
+bool ItemDetails::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Wheel) {
+        const int turned = static_cast<QWheelEvent*>(event)->angleDelta().y();
+        VScroll1->setValue(VScroll1->value() - turned * VScroll1->singleStep() / 120);
+        movePanel(VScroll1->value());
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ItemDetails::movePanel(int shift) { Picture1->move(0, -forms::twips(shift)); }
+
+/// The bar reaches a third of the panel, or as far as the last row needs; it shows when the rows do not fit.
+void ItemDetails::updateScrollBar()
+{
+    const int beyond = contentHeight() - twipsOf(Picture2->height());
+    VScroll1->setMaximum(qMax(values::CLng(m_panelHeight / 3.0), beyond));
+    const int step = values::CLng(m_panelHeight / qMax(1.0, static_cast<double>(m_count)));
+    VScroll1->setPageStep(step);
+    VScroll1->setSingleStep(step);
+    VScroll1->setVisible(beyond > 0);
+    if (beyond <= 0)
+        VScroll1->setValue(0);
+    Picture1->resize(Picture2->width(), forms::twips(qMax(m_panelHeight, contentHeight())));
+}
+
+// Layout
+
+void ItemDetails::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    layOut();
+}
+
+void ItemDetails::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    updateFocusProxy();
+    layOut();
+}
+
+void ItemDetails::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        layOut();
+}
+
+void ItemDetails::layOut()
+{
+    layout()->activate();
+    for (size_t index = 0; index < m_rows.size(); ++index)
+        placeRow(index);
+    updateScrollBar();
+}
+
+void ItemDetails::placeRow(size_t index)
+{
+    const Row& row = m_rows[index];
+    const int margin = forms::twips(RowGap) * 2;
+    const int captionWidth = Picture2->width() * 2 / 5 - margin;
+    const int top = rowTop(index);
+    const int height = rowHeight();
+    row.txtValue->setGeometry(captionWidth + 2 * margin, forms::twips(top),
+                              Picture2->width() - captionWidth - 3 * margin, forms::twips(height));
+    row.lblCap->setGeometry(margin, forms::twips(top + CaptionDrop), captionWidth,
+                            forms::twips(height - 2 * CaptionDrop));
+
+    QString shown = row.caption;
+    for (QChar& c : shown)
+        c = c < u' ' ? QChar(u' ') : c;
+    row.lblCap->setText(
+        row.lblCap->fontMetrics().elidedText(shown, Qt::ElideRight, captionWidth - 2 * CaptionIndent));
+    row.lblCap->setToolTip(row.lblCap->text() == shown ? QString() : Qt::convertFromPlainText(shown));
+}
+
+int ItemDetails::rowHeight() const
+{
+    const swTextBox& box = *m_rows.front().txtValue;
+    box.ensurePolished();
+    return twipsOf(box.sizeHint().height());
+}
+
+int ItemDetails::rowTop(size_t index) const
+{
+    return RowGap + static_cast<int>(index) * (rowHeight() + RowGap);
+}
+
+int ItemDetails::contentHeight() const { return m_count > 0 ? rowTop(static_cast<size_t>(m_count)) : 0; }

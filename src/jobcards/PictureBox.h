@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QFrame>
+#include <QPixmap>
+
+/// Shows one picture as large as its place allows, centred.
+class PictureBox : public QFrame
+{
+    Q_OBJECT
+public:
+    explicit PictureBox(QWidget* parent = nullptr);
+
+    /// Shows the picture of a file, or nothing when it cannot be read.
+    void load(const QString& path);
+    void clear();
+    const QPixmap& picture() const { return m_picture; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QPixmap m_picture;
+};

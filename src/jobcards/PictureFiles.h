@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+/// The picture files of job lines, in the folder of pictures beside the executable.
+namespace picturefiles {
+
+/// A path that no file has yet: the folder, the client's name, the day as DD_MM_YYYY, then weekday (1 is
+/// Sunday), last digit of the minute and seconds of the time, and the number of the picture. A time that is
+/// taken moves on by a second. Throws OperatorError when all are taken.
+QString newPath(const QString& client, const QDateTime& now, int picture);
+
+/// Copies a file as it is. Throws OperatorError, with nothing left behind, when it is no picture or cannot be
+/// copied.
+void copy(const QString& source, const QString& target);
+
+/// Deletes a file; one that is gone already is no fault. Throws OperatorError.
+void remove(const QString& path);
+
+} // namespace picturefiles

@@ -1,0 +1,341 @@
+#include "jobcards/frmAddItem.h"
+
+#include "core/DE.h"
+#include "core/Lookups.h"
+#include "jobcards/PictureFiles.h"
+#include "jobcards/clsJobCardData.h"
+#include "platform/values/Currency.h"
+#include "platform/values/Dates.h"
+#include "ui/ModOtherFUN.h"
+#include "ui/frmSelectFile.h"
+#include "ui_frmAddItem.h"
+
+#include <QColorDialog>
+#include <QFileInfo>
+
+using values::Val;
+
+namespace {
+
+const QString LineBreak = QStringLiteral("\r\n");
+
+/// Names and values of a line's measurements, one of each to a row.
+struct Measurements
+{
+    QStringList names;
+    QStringList values;
+
+    static Measurements split(const QString& names, const QString& values)
+    {
+        if (names.isEmpty() && values.isEmpty())
+            return {};
+        return {names.split(LineBreak), values.split(LineBreak)};
+    }
+};
+
+Measurements readGrid(const ItemDetails& grid)
+{
+    Measurements all;
+    for (qint32 i = 0; i < grid.Count(); ++i) {
+        QString name, value;
+        grid.ListItemText(name, value, i);
+        all.names << name.remove(u'\r');
+        all.values << value;
+    }
+    return all;
+}
+
+} // namespace
+
+frmAddItem::frmAddItem()
+    : ui(std::make_unique<Ui::frmAddItem>())
+{
+    ui->setupUi(this);
+    onGotFocus(ui->cmbItems, [this] { cmbItems_GotFocus(); });
+    onKeyPress(ui->cmbItems, [this](int& key) { cmbItems_KeyPress(key); });
+    on(ui->cmbItems, &forms::ComboBox::clicked, &frmAddItem::cmbItems_Click);
+    for (QLineEdit* box : {ui->txtQnt, ui->txtFees})
+        onKeyPress(box, [box](int& key) { key = EnterAsTab(key) == 0 ? 0 : NumbersOnly(box->text(), key); });
+    onKeyPress(ui->txtRemark, [](int& key) { key = EnterAsTab(key); });
+    onKeyPress(ui->txtClientRemark, [this](int& key) { txtClientRemark_KeyPress(key); });
+    on(ui->picColor, &ColorBox::clicked, &frmAddItem::picColor_Click);
+    on(ui->Command8, &QPushButton::clicked, &frmAddItem::Command8_Click);
+    on(ui->Command6, &QPushButton::clicked, [this] { clearPicture(*ui->pic1, *ui->picPath1); });
+    on(ui->Command5, &QPushButton::clicked, [this] { clearPicture(*ui->pic2, *ui->picPath2); });
+    on(ui->Command2, &QPushButton::clicked, &frmAddItem::Command2_Click);
+    on(ui->Command1, &QPushButton::clicked, &frmAddItem::Command1_Click);
+}
+
+frmAddItem::~frmAddItem() = default;
+
+// Opening
+
+bool frmAddItem::ItemDetails(clsJobCardData& rows, qint32 clientID)
+{
+    LineMode = QStringLiteral("N");
+    load();
+    return show(rows, clientID);
+}
+
+bool frmAddItem::EditItemDetails(clsJobCardData& rows, qint32 clientID, qint32 rowIndex)
+{
+    LineMode = QStringLiteral("E");
+    JobRows = &rows;
+    RowIndex = rowIndex;
+    load();
+    showRow();
+    return show(rows, clientID);
+}
+
+bool frmAddItem::show(clsJobCardData& rows, qint32 clientID)
+{
+    LineCancelled = true;
+    JobRows = &rows;
+    ClientID = clientID;
+    ui->lblClint->setText(GetAccountTitle(clientID));
+    showModal();
+    return LineCancelled;
+}
+
+void frmAddItem::Form_Load()
+{
+    FillCombo(QStringLiteral("Name"), QStringLiteral("Items"), *ui->cmbItems, DE.rsITEMS);
+}
+
+void frmAddItem::Form_Activate()
+{
+    if (LineMode == QLatin1String("E"))
+        ui->ItemDetails1->SetFocusToList();
+}
+
+void frmAddItem::showRow()
+{
+    LoadEditItems(JobRows->ItemDetails(RowIndex), JobRows->ItemDetailsValue(RowIndex));
+    ui->txtFees->setText(values::CStr(JobRows->Fees(RowIndex)));
+    ui->txtQnt->setText(QString::number(JobRows->Qty(RowIndex)));
+    ui->txtRemark->setText(JobRows->Remarks(RowIndex));
+    showPicture(*ui->pic1, *ui->picPath1, JobRows->img1(RowIndex));
+    showPicture(*ui->pic2, *ui->picPath2, JobRows->img2(RowIndex));
+    ui->picColor->setNumber(itemcolor::readNumber(JobRows->Color(RowIndex)));
+    ui->cmbItems->setText(JobRows->ItemName(RowIndex));
+    ui->txtClientRemark->setText(JobRows->ClientRemarks(RowIndex));
+}
+
+// Item and measurements
+
+/// An entry is taken only where it is the box's text in whole: the item of an old line may have left the
+/// catalogue.
+void frmAddItem::cmbItems_GotFocus()
+{
+    const int entry = ComboFindIndex(*ui->cmbItems);
+    if (ui->cmbItems->List(entry).compare(ui->cmbItems->text(), Qt::CaseInsensitive) == 0)
+        ComboSyncIndex(*ui->cmbItems);
+    ComboDropDown(*ui->cmbItems);
+}
+
+void frmAddItem::cmbItems_KeyPress(int& key)
+{
+    key = AutoSearchCombo(*ui->cmbItems, key);
+    if (key != forms::key::Enter)
+        return;
+    key = 0;
+    if (ui->cmbItems->text().isEmpty()) {
+        unload();
+        return;
+    }
+    ui->ItemDetails1->ClearList();
+    cmbItems_Click();
+    if (ui->ItemDetails1->Count() > 0)
+        ui->ItemDetails1->SetFocusToList();
+    else
+        ui->txtQnt->setFocus();
+}
+
+/// The fee always starts from the catalogue, also where the measurements come from an earlier order.
+void frmAddItem::cmbItems_Click()
+{
+    const qint32 itemID = GetItemID(ui->cmbItems->text());
+    LoadLastConfig(itemID, ClientID);
+    ui->txtFees->setText(values::CStr(GetItemFees(itemID)));
+}
+
+void frmAddItem::LoadLastConfig(qint32 itemID, qint32 clientID)
+{
+    ado::Recordset& lines = DE.rsJOBS_DETAIL;
+    lines.Open(
+        QStringLiteral("Select * from JOBS_DETAIL where ItemID=%1 and ClintID=%2").arg(itemID).arg(clientID));
+    if (lines.AtEOF()) {
+        lines.Close();
+        LoadEmptyItems(itemID);
+        return;
+    }
+    lines.MoveLast();
+    const auto last = Measurements::split(lines["ItemDetails"].text(), lines["ItemDetailsValue"].text());
+    ui->lblLast->setText(QStringLiteral("Previous JOB : ") +
+                         values::Format(lines["Date"].date(), QStringLiteral("dd-MMM-yyyy")));
+    if (!lines["ClientRemarks"].isNull())
+        ui->txtClientRemark->setText(lines["ClientRemarks"].text());
+    lines.Close();
+
+    ui->ItemDetails1->ClearList();
+    for (qsizetype i = 0; i < last.names.size(); ++i)
+        addPair(last.names[i] + u'=' + last.values.value(i));
+}
+
+void frmAddItem::LoadEmptyItems(qint32 itemID)
+{
+    ui->ItemDetails1->ClearList();
+    ui->ItemDetails1->setLanguage(QString());
+    ui->lblLast->setText(QStringLiteral("No Previous record found!"));
+    ado::Recordset& items = DE.rsITEMS;
+    items.Open(QStringLiteral("Select * from Items where id=%1").arg(itemID));
+    const QString measurements = items.AtEOF() ? QString() : items["ItemDetails"].text();
+    items.Close();
+    for (const QString& line : measurements.split(LineBreak, Qt::SkipEmptyParts))
+        addPair(line);
+    ui->txtClientRemark->clear();
+}
+
+void frmAddItem::LoadEditItems(const QString& names, const QString& values)
+{
+    const auto all = Measurements::split(names, values);
+    for (qsizetype i = 0; i < all.names.size(); ++i)
+        ui->ItemDetails1->AddFeild(all.names[i], all.values.value(i));
+}
+
+/// A name, "=" and a value; a value ends where it holds another "=".
+void frmAddItem::addPair(const QString& line)
+{
+    const QStringList parts = line.split(u'=');
+    ui->ItemDetails1->AddFeild(parts[0], parts.value(1));
+}
+
+// Keys
+
+void frmAddItem::Form_KeyPress(int& key)
+{
+    if (key == forms::key::Escape) {
+        key = 0;
+        unload();
+    }
+}
+
+void frmAddItem::Form_KeyDown(int& key, Qt::KeyboardModifiers) { key = ArrowsAsTab(key); }
+
+/// A second Enter straight after the first ends the note.
+void frmAddItem::txtClientRemark_KeyPress(int& key)
+{
+    const bool ends = key == forms::key::Enter && LastKey == forms::key::Enter;
+    LastKey = ends ? 0 : key;
+    if (ends) {
+        key = 0;
+        ui->Command1->setFocus();
+    }
+}
+
+// Colour and pictures
+
+/// Black is no cloth's colour here: it is ignored.
+void frmAddItem::picColor_Click()
+{
+    const QColor chosen = QColorDialog::getColor(ui->picColor->color(), this, QStringLiteral("Cloth Color"),
+                                                 QColorDialog::DontUseNativeDialog);
+    if (chosen.isValid() && itemcolor::toNumber(chosen) >= 1)
+        ui->picColor->setNumber(itemcolor::toNumber(chosen));
+}
+
+/// The picture goes to the second place; its file is named as the first's are.
+void frmAddItem::Command8_Click()
+{
+    frmSelectFile picker;
+    const QString source = picker.SelFile();
+    if (source.isEmpty() || source == QLatin1String("Cancel"))
+        return;
+    const QString target = picturefiles::newPath(ui->lblClint->text(), QDateTime::currentDateTime(), 1);
+    picturefiles::copy(source, target);
+    showPicture(*ui->pic2, *ui->picPath2, target);
+}
+
+void frmAddItem::clearPicture(PictureBox& pic, QLabel& picPath)
+{
+    picturefiles::remove(picPath.text());
+    pic.clear();
+    picPath.clear();
+}
+
+/// A file that is not there leaves the place as it is.
+void frmAddItem::showPicture(PictureBox& pic, QLabel& picPath, const QString& path)
+{
+    if (!QFileInfo(path).isFile())
+        return;
+    pic.load(path);
+    picPath.setText(path);
+}
+
+void frmAddItem::Command2_Click()
+{
+    clearPicture(*ui->pic1, *ui->picPath1);
+    clearPicture(*ui->pic2, *ui->picPath2);
+    if (!ui->cmbItems->text().isEmpty())
+        LoadEmptyItems(GetItemID(ui->cmbItems->text()));
+}
+
+// OK
+
+void frmAddItem::Command1_Click()
+{
+    if (refuses(ui->cmbItems->text().isEmpty(), QStringLiteral("Please Select Item!"), *ui->cmbItems) ||
+        refuses(Val(ui->txtFees->text()) == 0, QStringLiteral("Please Enter Fees!"), *ui->txtFees) ||
+        refuses(Val(ui->txtQnt->text()) == 0, QStringLiteral("Please Enter Quantity!"), *ui->txtQnt))
+        return;
+    writeRow();
+    LineCancelled = false;
+    unload();
+}
+
+bool frmAddItem::refuses(bool refused, const QString& message, QWidget& field)
+{
+    if (refused) {
+        ShowMsg(message);
+        field.setFocus();
+    }
+    return refused;
+}
+
+/// Everything that can fail is worked out first, so that a line is written whole or not at all. The amount is
+/// that of the quantity as typed; the row keeps whole pieces.
+void frmAddItem::writeRow()
+{
+    const QString itemName = ui->cmbItems->text();
+    const qint16 itemID = values::toInt16(GetItemID(itemName));
+    const qint16 qty = values::CInt(Val(ui->txtQnt->text()));
+    const double fees = Val(ui->txtFees->text());
+    const double amount = Val(ui->txtQnt->text()) * fees;
+    Currency::fromDouble(amount); // throws for a sum that no table could take
+    const Measurements grid = readGrid(*ui->ItemDetails1);
+    const QString details = grid.names.join(LineBreak);
+    const QString detailsValue = grid.values.join(LineBreak);
+    const QString remarks = ui->txtRemark->text();
+    const QString img1 = ui->picPath1->text();
+    const QString img2 = ui->picPath2->text();
+    const QString color = QString::number(ui->picColor->number());
+    const QString note = ui->txtClientRemark->Text();
+
+    if (LineMode == QLatin1String("N")) {
+        JobRows->AddNewRow(0, itemName, itemID, qty, fees, amount, remarks, details, detailsValue, 0, {}, {},
+                           {}, {}, {}, 0, 0, 0, {}, img1, img2, color, 0, {}, note);
+        return;
+    }
+    JobRows->SetItemName(RowIndex, itemName);
+    JobRows->SetItemID(RowIndex, itemID);
+    JobRows->SetQty(RowIndex, qty);
+    JobRows->SetFees(RowIndex, fees);
+    JobRows->SetAmount(RowIndex, amount);
+    JobRows->SetRemarks(RowIndex, remarks);
+    JobRows->SetItemDetails(RowIndex, details);
+    JobRows->SetItemDetailsValue(RowIndex, detailsValue);
+    JobRows->SetImg1(RowIndex, img1);
+    JobRows->SetImg2(RowIndex, img2);
+    JobRows->SetColor(RowIndex, color);
+    JobRows->SetClientRemarks(RowIndex, note);
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "platform/forms/Screen.h"
+
+#include <memory>
+
+class PictureBox;
+class QLabel;
+class clsJobCardData;
+
+namespace Ui {
+class frmAddItem;
+}
+
+/// The screen on which one garment of a job card is ordered: item, measurements, quantity, fee, remarks,
+/// cloth colour and pictures. A returning client's measurements come from the last order of the same item. It
+/// writes into the card's rows only, on OK; pictures alone are put on the disk, and deleted from it, at once.
+class frmAddItem : public forms::Screen
+{
+    Q_OBJECT
+public:
+    frmAddItem();
+    ~frmAddItem() override;
+
+    /// Opens for a new line of the client's card. True when the operator left without one.
+    bool ItemDetails(clsJobCardData& rows, qint32 clientID);
+    /// Opens a row of the card. True when the operator left it as it was. Throws SubscriptError.
+    bool EditItemDetails(clsJobCardData& rows, qint32 clientID, qint32 rowIndex);
+
+    /// Fills the grid with the measurements of the client's last order of the item, or with the item's
+    /// template.
+    void LoadLastConfig(qint32 itemID, qint32 clientID);
+    /// Fills the grid with the item's template; an item that is gone leaves it empty.
+    void LoadEmptyItems(qint32 itemID);
+    /// Adds the measurements of a line. A missing value is empty.
+    void LoadEditItems(const QString& names, const QString& values);
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_KeyPress(int& key) override;
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
+
+private:
+    bool show(clsJobCardData& rows, qint32 clientID);
+    void showRow();
+
+    void cmbItems_GotFocus();
+    void cmbItems_KeyPress(int& key);
+    void cmbItems_Click();
+    void addPair(const QString& line);
+
+    void txtClientRemark_KeyPress(int& key);
+    void picColor_Click();
+    void Command8_Click();
+    static void clearPicture(PictureBox& pic, QLabel& picPath);
+    static void showPicture(PictureBox& pic, QLabel& picPath, const QString& path);
+    void Command2_Click();
+
+    void Command1_Click();
+    bool refuses(bool refused, const QString& message, QWidget& field);
+    void writeRow();
+
+    std::unique_ptr<Ui::frmAddItem> ui;
+
+    bool LineCancelled = true;
+    QString LineMode; ///< "N" a new line, "E" a row of the card
+    clsJobCardData* JobRows = nullptr;
+    qint32 ClientID = 0;
+    qint32 RowIndex = 0;
+    int LastKey = 0; ///< in the client's note
+};
