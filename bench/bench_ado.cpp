@@ -1,0 +1,231 @@
+// The database layer beside the bare engine, on a shop of 30,000 cards, 75,000 lines and 75,000 postings.
+#include "core/DE.h"
+#include "core/Schema.h"
+#include "core/Session.h"
+
+#include <QTemporaryDir>
+#include <benchmark/benchmark.h>
+#include <sqlcipher/sqlite3.h>
+
+namespace {
+
+constexpr int cards = 30000;
+constexpr int postings = 75000;
+
+void fillShop()
+{
+    ado::Connection& connection = DE.connection();
+    connection.writeBatch([&connection] {
+        for (int i = 1; i <= cards; ++i) {
+            connection.Execute(
+                QStringLiteral("Insert into Jobs (Id, Date, ClintID, ClintName, DeliveryDate, TrialDate, "
+                               "AmountDue, AmountPaid, JobFinished, Remark, Status, CancelReason) values "
+                               "(%1, '2024-01-01', 5, 'A client of the shop', '2024-02-01', '2024-01-20', "
+                               "1250.5, 500, 0, 'To be ready before the feast', 0, '')")
+                    .arg(i));
+        }
+        ado::Recordset& rows = DE.rspostings;
+        rows.Open(QStringLiteral("Select * from Postings order by ID"));
+        for (int i = 1; i <= postings; ++i) {
+            rows.AddNew();
+            rows["VID"] = i / 2;
+            rows["vType"] = 1;
+            rows["Sr"] = 1 + i % 2;
+            rows["Date"] = QDate(2024, 1, 1).addDays(i % 300);
+            rows["AccID"] = 1 + i % 200;
+            rows["RefID"] = 2;
+            rows["particulars"] = QStringLiteral("Job Card");
+            rows["Remark"] = QStringLiteral("Job Card # :%1").arg(i / 2);
+            rows["Amount"] = i % 2 ? 12.5 : -12.5;
+            rows.Update();
+        }
+        rows.Close();
+    });
+}
+
+/// The statement, compiled and run to its end.
+int runBare(const char* sql)
+{
+    sqlite3_stmt* statement = nullptr;
+    sqlite3_prepare_v2(DE.connection().handle(), sql, -1, &statement, nullptr);
+    int rows = 0;
+    while (sqlite3_step(statement) == SQLITE_ROW)
+        ++rows;
+    sqlite3_finalize(statement);
+    return rows;
+}
+
+void lastCard(benchmark::State& state)
+{
+    for (auto _ : state) {
+        DE.rsJOBS.Open(QStringLiteral("Select * from JOBS order by ID"));
+        DE.rsJOBS.MoveLast();
+        benchmark::DoNotOptimize(DE.rsJOBS["ID"].integer());
+        DE.rsJOBS.Close();
+    }
+}
+BENCHMARK(lastCard)->Unit(benchmark::kMicrosecond);
+
+void lastCardFloor(benchmark::State& state)
+{
+    for (auto _ : state)
+        runBare("SELECT * FROM JOBS ORDER BY Id DESC LIMIT 1");
+}
+BENCHMARK(lastCardFloor)->Unit(benchmark::kMicrosecond);
+
+void openToAppend(benchmark::State& state)
+{
+    for (auto _ : state) {
+        DE.rspostings.Open(QStringLiteral("Select * from Postings order by ID"));
+        DE.rspostings.AddNew();
+        DE.rspostings.Close();
+    }
+}
+BENCHMARK(openToAppend)->Unit(benchmark::kMicrosecond);
+
+void titleOfAccount(benchmark::State& state)
+{
+    int i = 0;
+    for (auto _ : state) {
+        DE.rsaccounts.Open(QStringLiteral("Select * from Accounts where ID=") + QString::number(1 + i++ % 4));
+        benchmark::DoNotOptimize(DE.rsaccounts["Title"].text());
+        DE.rsaccounts.Close();
+    }
+}
+BENCHMARK(titleOfAccount)->Unit(benchmark::kMicrosecond);
+
+void titleOfAccountFloor(benchmark::State& state)
+{
+    for (auto _ : state)
+        runBare("SELECT * FROM Accounts WHERE ID=3");
+}
+BENCHMARK(titleOfAccountFloor)->Unit(benchmark::kMicrosecond);
+
+void walkCards(benchmark::State& state)
+{
+    for (auto _ : state) {
+        DE.rsJOBS.Open(QStringLiteral("Select * from JOBS"));
+        for (; !DE.rsJOBS.AtEOF(); DE.rsJOBS.MoveNext())
+            benchmark::DoNotOptimize(DE.rsJOBS["ClintName"].text());
+        DE.rsJOBS.Close();
+    }
+}
+BENCHMARK(walkCards)->Unit(benchmark::kMillisecond);
+
+void walkCardsFloor(benchmark::State& state)
+{
+    for (auto _ : state)
+        runBare("SELECT * FROM JOBS");
+}
+BENCHMARK(walkCardsFloor)->Unit(benchmark::kMillisecond);
+
+void sumOfPostings(benchmark::State& state)
+{
+    for (auto _ : state) {
+        DE.rspostings.Open(QStringLiteral("Select sum(Amount) from Postings where status=0"));
+        benchmark::DoNotOptimize(DE.rspostings[0].number());
+        DE.rspostings.Close();
+    }
+}
+BENCHMARK(sumOfPostings)->Unit(benchmark::kMillisecond);
+
+void sumOfPostingsFloor(benchmark::State& state)
+{
+    for (auto _ : state)
+        runBare("SELECT total(Amount) FROM Postings WHERE status=0");
+}
+BENCHMARK(sumOfPostingsFloor)->Unit(benchmark::kMillisecond);
+
+/// The rows that a card of five lines writes: its head, its lines, its voucher.
+void saveCard(benchmark::State& state)
+{
+    int number = cards;
+    const QDate day(2024, 2, 10);
+    for (auto _ : state) {
+        DE.connection().writeBatch([&] {
+            DE.rsJOBS.Open(QStringLiteral("Select * from JOBS"));
+            DE.rsJOBS.AddNew();
+            DE.rsJOBS["ID"] = ++number;
+            DE.rsJOBS["ClintName"] = QStringLiteral("A client of the shop");
+            for (const char* field : {"ClintID", "AmountDue", "AmountPaid", "JOBFINISHED", "Status"})
+                DE.rsJOBS[field] = 5;
+            for (const char* field : {"Date", "DeliveryDate", "TrialDate"})
+                DE.rsJOBS[field] = day;
+            for (const char* field : {"Remark", "CancelReason"})
+                DE.rsJOBS[field] = QString();
+            DE.rsJOBS.UpdateBatch();
+            DE.rsJOBS.Close();
+            for (int line = 0; line < 5; ++line) {
+                ado::Recordset& rows = DE.rsJOBS_DETAIL;
+                rows.Open(QStringLiteral("Select * from jobs_detail"));
+                rows.AddNew();
+                for (const char* field : {"JobID", "ItemSr", "ClintID", "ItemID", "QNT", "Fees", "Amount"})
+                    rows[field] = line;
+                for (const char* field : {"Date", "JobDelDate", "CuttingDate"})
+                    rows[field] = day;
+                for (const char* field :
+                     {"ClintName", "ItemName", "Remarks", "ItemDetails", "ItemDetailsValue"})
+                    rows[field] = QStringLiteral("Length\r\nChest\r\nWaist");
+                rows.UpdateBatch();
+                rows.Close();
+            }
+            for (int line = 1; line <= 4; ++line) {
+                ado::Recordset& rows = DE.rspostings;
+                rows.Open(QStringLiteral("Select * from Postings order by ID"));
+                rows.AddNew();
+                for (const char* field : {"VID", "vType", "Sr", "AccID", "RefID", "Amount", "Status"})
+                    rows[field] = line;
+                rows["Date"] = day;
+                for (const char* field : {"particulars", "Remark"})
+                    rows[field] = QStringLiteral("Job Card");
+                rows.UpdateBatch();
+                rows.Close();
+            }
+        });
+    }
+}
+BENCHMARK(saveCard)->Unit(benchmark::kMicrosecond);
+
+void saveCardFloor(benchmark::State& state)
+{
+    for (auto _ : state) {
+        runBare("BEGIN IMMEDIATE");
+        runBare("INSERT INTO JOBS (Id, ClintName, ClintID, AmountDue, AmountPaid, JobFinished, Status, Date, "
+                "DeliveryDate, "
+                "TrialDate, Remark, CancelReason) VALUES (1, 'A client of the shop', 5, 5, 5, 5, 5, "
+                "'2024-02-10', "
+                "'2024-02-10', '2024-02-10', '', '')");
+        for (int line = 0; line < 5; ++line) {
+            runBare("INSERT INTO JOBS_DETAIL (JobID, ItemSr, ClintID, ItemID, QNT, FEES, Amount, DATE, "
+                    "JobDelDate, "
+                    "CuttingDate, ClintName, ItemName, Remarks, ItemDetails, ItemDetailsValue) VALUES (1, 1, "
+                    "1, 1, 1, 1, "
+                    "1, '2024-02-10', '2024-02-10', '2024-02-10', 'Length Chest Waist', 'Length Chest "
+                    "Waist', 'Length "
+                    "Chest Waist', 'Length Chest Waist', 'Length Chest Waist')");
+        }
+        for (int line = 0; line < 4; ++line) {
+            runBare("INSERT INTO postings (VID, Vtype, sr, AccID, RefID, Amount, Status, Date, particulars, "
+                    "Remark) VALUES "
+                    "(1, 1, 1, 1, 1, 1, 1, '2024-02-10', 'Job Card', 'Job Card')");
+        }
+        runBare("COMMIT");
+    }
+}
+BENCHMARK(saveCardFloor)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    benchmark::Initialize(&argc, argv);
+    const QTemporaryDir folder;
+    session.appFolder = folder.path();
+    CreateDatabase();
+    DE.open(session.databasePath());
+    DE.ensureIndexes();
+    fillShop();
+    benchmark::RunSpecifiedBenchmarks();
+    DE.close();
+    return 0;
+}
