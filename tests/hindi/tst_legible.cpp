@@ -1,4 +1,10 @@
+#include "core/Session.h"
+#include "core/Settings.h"
 #include "platform/forms/Theme.h"
+#include "support/Modal.h"
+#include "support/Shop.h"
+#include "ui/ModOtherFUN.h"
+#include "ui/frmMsg.h"
 
 #include <QFile>
 #include <QFontDatabase>
@@ -130,6 +136,8 @@ private Q_SLOTS:
     void textsOfTheDialog();
     void everyMessage();
     void ownFontStandsIn();
+    void dialogOnScreen_data();
+    void dialogOnScreen();
 };
 
 void TestLegible::initTestCase() { forms::applyTheme(*qApp, QStringLiteral(PROGRAM_FOLDER "/fonts")); }
@@ -178,6 +186,48 @@ void TestLegible::everyMessage()
     QVERIFY2(average >= 0.97, qPrintable(QString::number(average)));
     qInfo("%lld messages, read back with a likeness of %.3f on average",
           static_cast<long long>(messages.size()), average);
+}
+
+void TestLegible::dialogOnScreen_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QStringList>("words");
+    QTest::newRow("notice") << QStringLiteral("New Client Created.") << 1
+                            << QStringList{QStringLiteral("नया ग्राहक जोड़ दिया गया है")};
+    QTest::newRow("question in two lines")
+        << QStringLiteral("This Job has been registered.\r\nWould you like to Inform Client via SMS?") << 2
+        << QStringList{QStringLiteral("यह जॉब कार्ड दर्ज हो गया है"), QStringLiteral("क्या आप ग्राहक को")};
+    QTest::newRow("apostrophe") << QStringLiteral("Cant't Delete!") << 1
+                                << QStringList{QStringLiteral("इसे हटाया नहीं")};
+}
+
+void TestLegible::dialogOnScreen()
+{
+    QFETCH(const QString, message);
+    QFETCH(const int, kind);
+    QFETCH(const QStringList, words);
+
+    const Shop shop;
+    QVERIFY(QFile::copy(QStringLiteral(PROGRAM_FOLDER "/Lang.mdb"), session.languageDatabasePath()));
+    SetSetting(0, QStringLiteral("Hindi"));
+    session.Language = QStringLiteral("Hindi");
+    const auto english = qScopeGuard([] { session.Language = QStringLiteral("English"); });
+
+    constexpr int larger = 3; // print size: what a screen shows is small for a text reader
+    QImage page;
+    onNextModal<frmMsg>([&page](frmMsg& dialog) {
+        page = QImage(dialog.size() * larger, QImage::Format_RGB32);
+        QPainter painter(&page);
+        painter.scale(larger, larger);
+        dialog.render(&painter);
+    });
+    ShowMsg(message, kind);
+    QVERIFY(!page.isNull());
+    const QString read = letters(readAloud({page}).value(0));
+    QVERIFY2(read.contains(letters(QStringLiteral("सुचना"))), qPrintable(read));
+    for (const QString& text : words)
+        QVERIFY2(read.contains(letters(text)), qPrintable(read));
 }
 
 QTEST_MAIN(TestLegible)
