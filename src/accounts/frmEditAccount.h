@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/forms/Screen.h"
+
+#include <QString>
+#include <memory>
+
+namespace Ui {
+class frmEditAccount;
+}
+
+/// Adds and edits a ledger account. The accounts that the shop begins with ("Wages", "Sales" ...) are found
+/// by their titles when vouchers are made, so they can be neither changed nor deleted.
+class frmEditAccount : public forms::Screen
+{
+    Q_OBJECT
+public:
+    frmEditAccount();
+    ~frmEditAccount() override;
+
+    void ShowAddNew();
+    /// Throws ado::NoCurrentRecordError when there is no account of this id.
+    void ShowEdit(qint16 id);
+
+protected:
+    void Form_KeyPress(int& key) override;
+
+private:
+    void save();
+    void saveNew();
+    void saveEdit();
+    bool isDuplicate();
+    void writeFields();
+    void remove();
+
+    const std::unique_ptr<Ui::frmEditAccount> ui;
+    qint16 AccountID = 0;       ///< 0 for a new account
+    QString AccountMode;        ///< "N" new, "E" edit
+    QString AccountTitle;       ///< as read or last saved
+    qint16 AccountReadOnly = 0; ///< 1 for an account that the shop began with
+};

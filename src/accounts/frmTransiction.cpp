@@ -1,0 +1,316 @@
+#include "accounts/frmTransiction.h"
+
+#include "core/DE.h"
+#include "core/Lookups.h"
+#include "core/Session.h"
+#include "platform/values/Numbers.h"
+#include "ui/ModOtherFUN.h"
+#include "ui_frmTransiction.h"
+
+namespace {
+
+/// The words on the screen for one kind of voucher: which side each account is on.
+struct Sides
+{
+    const char* particulars;
+    const char* main;
+    const char* mainType;
+    const char* ref;
+    const char* refType;
+};
+
+constexpr Sides allSides[] = {
+    {"Receipt", "To", "Cr", "By", "Dr"}, {"Payment", "By", "Dr", "To", "Cr"},
+    {"Sales", "By", "Dr", "To", "Cr"},   {"Purchase", "To", "Cr", "By", "Dr"},
+    {"Wages", "To", "Cr", "By", "Dr"},
+};
+
+/// The id of a main account; 0 for one that has been deleted meanwhile.
+qint32 mainAccountID(const QString& title)
+{
+    const QVariant id = FieldValueExists(title, QStringLiteral("Title"), QStringLiteral("ID"),
+                                         QStringLiteral("Accounts"), DE.rsaccounts);
+    return id.toLongLong() > 0 ? GetAccountID(title) : 0;
+}
+
+} // namespace
+
+/// What the two lines of the voucher on the screen hold.
+struct frmTransiction::Pair
+{
+    qint32 mainID = 0;
+    qint32 refID = 0;
+    Currency mainAmount;
+};
+
+// Opening
+// ----------------------------------------------------------------------------------------------------------
+
+frmTransiction::frmTransiction()
+    : ui(std::make_unique<Ui::frmTransiction>())
+{
+    ui->setupUi(this);
+
+    onKeyPress(ui->VcDate, [](int& key) { key = EnterAsTab(key); });
+    for (forms::ComboBox* combo : {ui->cmbParticulars, ui->cmbRefAcc}) {
+        onGotFocus(combo, [combo] {
+            if (!combo->text().isEmpty())
+                ComboSyncIndex(*combo);
+            ComboDropDown(*combo);
+        });
+        onKeyPress(combo, [combo](int& key) { key = EnterAsTab(AutoSearchCombo(*combo, key)); });
+    }
+    onLostFocus(ui->cmbParticulars, [this] { applyLabels(); });
+    on(ui->txtAmount, &swTextBox::Change, &frmTransiction::mirrorAmount);
+    on(ui->txtAmount2, &swTextBox::Change, &frmTransiction::mirrorAmount);
+
+    on(ui->Command1, &QPushButton::clicked, &frmTransiction::save);
+    on(ui->Command2, &QPushButton::clicked, &frmTransiction::remove);
+    on(ui->Command3, &QPushButton::clicked, [this] { unload(); });
+}
+
+frmTransiction::~frmTransiction() = default;
+
+void frmTransiction::ShowAddNew(const QString& accountTitle, qint16& saved)
+{
+    EntrySaved = 0;
+    fillAccounts();
+    qint32 number = 0;
+    GetNewNum(number);
+    ui->txtVID->setText(QString::number(number));
+    EntryAccount = accountTitle;
+    EntryIsPayroll = 0;
+    ui->VcDate->setValue(session.WorkingDate);
+    open(QStringLiteral("N"), QStringLiteral("Add New Entry"));
+    saved = EntrySaved;
+}
+
+void frmTransiction::ShowEdit(qint32 vid, qint16& saved)
+{
+    EntrySaved = 0;
+    fillAccounts();
+    EntryID = vid;
+
+    ado::Recordset& line = DE.rspostings;
+    line.Open(QStringLiteral("Select * from Postings where vid=%1 and vtype=2 and sr=1").arg(vid));
+    ui->txtVID->setText(QString::number(vid));
+    EntryAccount = GetAccountTitle(line["accID"].integer());
+    ui->cmbRefAcc->setText(GetAccountTitle(line["refID"].integer()));
+    ui->cmbParticulars->setText(line["particulars"].text());
+    ui->VcDate->setValue(line["Date"].date());
+    ui->txtRemark->setText(line["Remark"].text());
+
+    const Currency amount = line["Amount"].money();
+    const bool credit = amount > Currency();
+    ui->lblMain->setText(credit ? QStringLiteral("To") : QStringLiteral("By"));
+    ui->lblMainType->setText(credit ? QStringLiteral("Cr") : QStringLiteral("Dr"));
+    ui->lblRef->setText(credit ? QStringLiteral("By") : QStringLiteral("To"));
+    ui->lblRefType->setText(QStringLiteral("Cr")); // on either side, until the labels are next applied
+    ui->txtAmount->setText((credit ? amount : -amount).toString());
+    mirrorAmount();
+
+    EntryIsPayroll = line["isPayroll"].integer() > 0 ? -1 : 0;
+    line.Close();
+    open(QStringLiteral("E"), QStringLiteral("Edit Entry"));
+    saved = EntrySaved;
+}
+
+void frmTransiction::open(const QString& mode, const QString& title)
+{
+    EntryMode = mode;
+    setWindowTitle(title);
+    ui->lblTitle->setText(title);
+    ui->cmbAccount->setText(EntryAccount);
+    ui->Command4->setVisible(EntryIsPayroll != 0);
+    showModal();
+}
+
+void frmTransiction::fillAccounts()
+{
+    for (forms::ComboBox* combo : {ui->cmbRefAcc, ui->cmbAccount})
+        FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QString(), *combo, DE.rsaccounts);
+}
+
+void frmTransiction::GetNewNum(qint32& n)
+{
+    ado::Recordset& vouchers = DE.rspostings;
+    vouchers.Open(QStringLiteral("Select * from Postings where vtype=2 and sr=1 order by vID"));
+    qint32 last = 0;
+    if (vouchers.RecordCount() >= 1) {
+        vouchers.MoveLast();
+        last = vouchers["vid"].integer();
+    }
+    vouchers.Close();
+    n = values::toInt32(qint64(last) + 1);
+}
+
+// Filling
+// ----------------------------------------------------------------------------------------------------------
+
+void frmTransiction::Form_KeyPress(int& key)
+{
+    if (key == forms::key::Escape) {
+        key = 0;
+        unload();
+    }
+}
+
+void frmTransiction::mirrorAmount()
+{
+    ui->txtAmount2->setText(values::formatMoneyText(ui->txtAmount->Text()));
+}
+
+void frmTransiction::applyLabels()
+{
+    for (const Sides& sides : allSides) {
+        if (ui->cmbParticulars->text() != QLatin1String(sides.particulars))
+            continue;
+        ui->lblMain->setText(QLatin1String(sides.main));
+        ui->lblMainType->setText(QLatin1String(sides.mainType));
+        ui->lblRef->setText(QLatin1String(sides.ref));
+        ui->lblRefType->setText(QLatin1String(sides.refType));
+    }
+}
+
+// Saving
+// -----------------------------------------------------------------------------------------------------------
+
+/// A combo is filled when its text begins an entry of its list; the first such entry becomes its text.
+bool frmTransiction::isFilled(forms::ComboBox& combo)
+{
+    if (combo.text().isEmpty() || ComboFindIndex(combo) < 0)
+        return false;
+    ComboSyncIndex(combo);
+    return true;
+}
+
+void frmTransiction::save()
+{
+    if (!isFilled(*ui->cmbParticulars)) {
+        ShowMsg(QStringLiteral("Please select voucher!"));
+        ui->cmbParticulars->setFocus();
+        return;
+    }
+    if (!isFilled(*ui->cmbRefAcc)) {
+        ShowMsg(QStringLiteral("Please Select Account!"));
+        ui->cmbRefAcc->setFocus();
+        return;
+    }
+    if (values::Val(ui->txtAmount->Text()) == 0.0) {
+        ShowMsg(QStringLiteral("Please enter amount!"));
+        ui->txtAmount->setFocus();
+        return;
+    }
+    if (EntryAccount == ui->cmbRefAcc->text()) {
+        ShowMsg(QStringLiteral("Please Check accounts!"));
+        return;
+    }
+    applyLabels();
+    if (EntryMode == QLatin1String("N")) {
+        SaveNew();
+        ShowMsg(QStringLiteral("New Entry saved."));
+    } else {
+        SaveEdit();
+        ShowMsg(QStringLiteral("Entry Updated."));
+    }
+    session.RefreshLists = true;
+    EntrySaved = -1;
+}
+
+frmTransiction::Pair frmTransiction::pair() const
+{
+    Pair pair;
+    const Currency amount = Currency::fromDouble(values::Val(ui->txtAmount->Text()));
+    pair.mainAmount = ui->lblMainType->text() == QLatin1String("Cr") ? amount : -amount;
+    pair.mainID = mainAccountID(EntryAccount);
+    pair.refID = GetAccountID(ui->cmbRefAcc->text());
+    return pair;
+}
+
+/// Sets the fields that a new and a changed line share on the current row; line 1 is the main account's.
+void frmTransiction::writeLine(qint16 line, const Pair& pair)
+{
+    ado::Recordset& row = DE.rspostings;
+    const bool main = line == 1;
+    row["particulars"] = ui->cmbParticulars->text();
+    row["Date"] = ui->VcDate->value();
+    row["accID"] = main ? pair.mainID : pair.refID;
+    row["refID"] = main ? pair.refID : pair.mainID;
+    row["Remark"] = ui->txtRemark->Text();
+    row["Amount"] = main ? pair.mainAmount : -pair.mainAmount;
+    row.UpdateBatch();
+}
+
+void frmTransiction::SaveNew()
+{
+    EntryID = values::CLng(values::Val(ui->txtVID->Text()));
+    const Pair accounts = pair();
+    DE.connection().writeBatch([&] {
+        ado::Recordset& postings = DE.rspostings;
+        for (const qint16 line : {1, 2}) {
+            postings.Open(QStringLiteral("Select * from Postings order by ID"));
+            postings.AddNew();
+            postings["vType"] = 2;
+            postings["VID"] = EntryID;
+            postings["Sr"] = line;
+            writeLine(line, accounts);
+            postings.Close();
+        }
+    });
+    EntryMode = QStringLiteral("E");
+    setWindowTitle(QStringLiteral("Edit Entry"));
+    ui->lblTitle->setText(windowTitle());
+}
+
+void frmTransiction::SaveEdit()
+{
+    const Pair accounts = pair();
+    DE.connection().writeBatch([&] {
+        ado::Recordset& postings = DE.rspostings;
+        postings.Open(
+            QStringLiteral("Select * from Postings where vid=%1 and sr=1 and vtype=2").arg(EntryID));
+        writeLine(1, accounts);
+        postings.Close();
+        postings.Open(
+            QStringLiteral("Select * from Postings where vid=%1 and sr=2 and vtype=2").arg(EntryID));
+        postings.MoveLast();
+        writeLine(2, accounts);
+        postings.Close();
+    });
+}
+
+// Deleting
+// ---------------------------------------------------------------------------------------------------------
+
+void frmTransiction::remove()
+{
+    if (EntryMode != QLatin1String("E") || !ShowMsg(QStringLiteral("Are you sure to delete entry?"), 2))
+        return;
+    if (EntryIsPayroll != 0 &&
+        !ShowMsg(
+            QStringLiteral("You are going to delete a payroll?\nThis action will reset all jobs as unpaid?\n"
+                           "Press Yes to Delete!"),
+            2))
+        return;
+    DE.connection().writeBatch([&] {
+        if (EntryIsPayroll != 0)
+            resetPaidJobs();
+        DE.connection().Execute(QStringLiteral("Delete from Postings where vid=%1 and vtype=2").arg(EntryID));
+    });
+    session.RefreshLists = true;
+    EntrySaved = -1;
+    unload();
+}
+
+/// The job lines that the payroll covered are unpaid again.
+void frmTransiction::resetPaidJobs()
+{
+    ado::Recordset& jobs = DE.rsJOBS_DETAIL;
+    jobs.Open(QStringLiteral("Select * from jobs_detail where PayrollID=%1").arg(EntryID));
+    for (; !jobs.AtEOF(); jobs.MoveNext()) {
+        jobs["MarkAsPaid"] = 0;
+        jobs["PayrollID"] = 0;
+    }
+    jobs.UpdateBatch();
+    jobs.Close();
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/forms/Screen.h"
+#include "platform/values/Currency.h"
+
+#include <QString>
+#include <memory>
+
+namespace Ui {
+class frmTransiction;
+}
+namespace forms {
+class ComboBox;
+}
+
+/// Enters, corrects and deletes a voucher of the ledger: money moved between the account from which the
+/// operator came (the main account) and an opposite one. A voucher is two lines with these accounts swapped
+/// and opposite amounts, so all lines of the ledger always sum to zero. A negative amount debits the line's
+/// account, a positive one credits it.
+class frmTransiction : public forms::Screen
+{
+    Q_OBJECT
+public:
+    frmTransiction();
+    ~frmTransiction() override;
+
+    /// Opens a new voucher of an account. `saved` is -1 when something was saved or deleted, else 0.
+    void ShowAddNew(const QString& accountTitle, qint16& saved);
+    /// Opens an entry voucher or payroll by its number. Throws ado::NoCurrentRecordError when there is none.
+    void ShowEdit(qint32 vid, qint16& saved);
+    /// The number that follows the highest entry voucher.
+    void GetNewNum(qint32& n);
+    /// Write the voucher on the screen. Throw OverflowError when the number or the amount is too large, and
+    /// ado::DatabaseError; nothing is written then.
+    void SaveNew();
+    void SaveEdit();
+
+protected:
+    void Form_KeyPress(int& key) override;
+
+private:
+    struct Pair;
+
+    void open(const QString& mode, const QString& title);
+    void fillAccounts();
+    void mirrorAmount();
+    void applyLabels();
+    bool isFilled(forms::ComboBox& combo);
+    void save();
+    Pair pair() const;
+    void writeLine(qint16 line, const Pair& pair);
+    void remove();
+    void resetPaidJobs();
+
+    const std::unique_ptr<Ui::frmTransiction> ui;
+    QString EntryMode;         ///< "N" new, "E" existing
+    qint16 EntrySaved = 0;     ///< -1 after a save or a delete
+    qint32 EntryID = 0;        ///< the voucher's number
+    qint16 EntryIsPayroll = 0; ///< -1 for a payroll
+    QString EntryAccount;      ///< the main account's title; the save goes by it, whatever the combo shows
+};

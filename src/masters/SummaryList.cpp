@@ -1,0 +1,83 @@
+#include "masters/SummaryList.h"
+
+#include "core/DE.h"
+#include "core/Lookups.h"
+#include "core/Session.h"
+#include "platform/values/Numbers.h"
+#include "ui/ModOtherFUN.h"
+#include "ui_SummaryList.h"
+
+SummaryList::SummaryList(const Kind& kind)
+    : m_kind(kind)
+    , ui(std::make_unique<Ui::SummaryList>())
+{
+    setObjectName(kind.name);
+    ui->setupUi(this);
+    setWindowTitle(kind.title);
+    ui->lblTitle->setText(kind.title);
+
+    on(ui->txtSearch, &swTextBox::Change, [this] { search(ui->txtSearch->Text()); });
+    onKeyDown(ui->txtSearch, [this](int& key) { ListSearch(*ui->lstSummary, key); });
+    const auto openOnEnter = [this](int& key) {
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        openSelected();
+    };
+    onKeyPress(ui->txtSearch, openOnEnter);
+    onKeyPress(ui->lstSummary, openOnEnter);
+    on(ui->lstSummary, &forms::ListBox::dblClicked, &SummaryList::openSelected);
+    on(ui->Command1, &QPushButton::clicked, [this] { addRecord(); });
+    on(ui->Command2, &QPushButton::clicked, [this] { unload(); });
+}
+
+SummaryList::~SummaryList() = default;
+
+void SummaryList::setButtonCaptions(const QString& add, const QString& back)
+{
+    ui->Command1->setText(add);
+    ui->Command2->setText(back);
+}
+
+void SummaryList::Form_Load() { session.RefreshLists = true; }
+
+void SummaryList::Form_Activate()
+{
+    if (!session.RefreshLists)
+        return;
+    forms::ListBox& list = *ui->lstSummary;
+    const QString selected = list.Text();
+    fill(list);
+    if (selected.isEmpty())
+        return;
+    // The operator comes back to the entry that was opened, if it still has its title.
+    const int index = list.findString(selected);
+    if (index >= 0 && list.List(index) == selected)
+        list.setListIndex(index);
+}
+
+void SummaryList::Form_KeyPress(int& key)
+{
+    if (key == forms::key::Escape) {
+        key = 0;
+        unload();
+    } else if (key == forms::key::CtrlA) {
+        key = 0;
+        addRecord();
+    }
+}
+
+void SummaryList::search(const QString& text)
+{
+    const int startAfter = m_kind.searchFrom == SearchFrom::SecondEntry ? 0 : -1;
+    ui->lstSummary->setListIndex(ui->lstSummary->findString(text, startAfter));
+}
+
+void SummaryList::openSelected()
+{
+    if (ui->lstSummary->ListIndex() < 0)
+        return;
+    const QVariant id = FieldValueExists(ui->lstSummary->Text(), m_kind.keyField, QStringLiteral("ID"),
+                                         m_kind.table, DE.rsaccounts);
+    editRecord(values::toInt16(id.toLongLong()));
+}

@@ -1,0 +1,70 @@
+#include "masters/frmEditClients.h"
+
+#include "core/DE.h"
+#include "core/Session.h"
+#include "ui/ModOtherFUN.h"
+#include "ui_frmEditClients.h"
+
+frmEditClients::frmEditClients()
+    : EditMaster({.table = QStringLiteral("Accounts"),
+                  .nameField = QStringLiteral("Title"),
+                  .titleNew = QStringLiteral("Add New Client"),
+                  .titleEdit = QStringLiteral("Edit Client Information"),
+                  .nameMissing = QStringLiteral("Please Enter Client Name!"),
+                  .added = QStringLiteral("New Client Created."),
+                  .edited = QStringLiteral("Client Information Updated.")},
+                 DE.rsaccounts)
+    , ui(std::make_unique<Ui::frmEditClients>())
+{
+    ui->setupUi(this);
+    setControls({ui->lblTitle, ui->txtName, ui->Command1, ui->Command2});
+    onKeyPress(ui->dateDob, [](int& key) { key = EnterAsTab(key); });
+}
+
+frmEditClients::~frmEditClients() = default;
+
+void frmEditClients::AddNewFromJobCard(QString& result)
+{
+    m_fromJobCard = true;
+    m_newTitle.clear();
+    AddNew();
+    result = m_newTitle;
+}
+
+void frmEditClients::clear()
+{
+    for (swTextBox* box : {ui->txtAddress, ui->txtCity, ui->txtState, ui->txtMobile})
+        box->setText({});
+    ui->dateDob->setValue(session.WorkingDate);
+}
+
+void frmEditClients::read(ado::Recordset& row)
+{
+    ui->txtAddress->setText(row["ADDRESS"].text());
+    ui->txtCity->setText(row["CITY"].text());
+    ui->txtState->setText(row["STATE"].text());
+    ui->txtMobile->setText(row["MOBILE"].text());
+    // A picker always shows a date: a client without one gets the working date, as a new client does.
+    ui->dateDob->setValue(row["DOB"].isNull() ? session.WorkingDate : row["DOB"].date());
+}
+
+void frmEditClients::write(ado::Recordset& row)
+{
+    row["Type"] = 0;
+    row["Address"] = ui->txtAddress->Text();
+    row["City"] = ui->txtCity->Text();
+    row["State"] = ui->txtState->Text();
+    row["Mobile"] = ui->txtMobile->Text();
+    row["dob"] = ui->dateDob->value();
+}
+
+bool frmEditClients::isInUse(qint16 id)
+{
+    return hasRows(DE.rsJOBS_DETAIL, QStringLiteral("Select * from JOBS_DETAIL where ClintID=%1").arg(id));
+}
+
+bool frmEditClients::addsAnotherAfter(const QString& name)
+{
+    m_newTitle = name;
+    return !m_fromJobCard;
+}

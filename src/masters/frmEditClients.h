@@ -1,0 +1,32 @@
+#pragma once
+
+#include "masters/EditMaster.h"
+
+#include <memory>
+
+namespace Ui {
+class frmEditClients;
+}
+
+/// Adds and edits a client of the shop, who is an account of the ledger at the same time.
+class frmEditClients : public EditMaster
+{
+    Q_OBJECT
+public:
+    frmEditClients();
+    ~frmEditClients() override;
+
+    /// Adds one client, called from a job card; `result` is the client's title, or empty if none was added.
+    void AddNewFromJobCard(QString& result);
+
+private:
+    void clear() override;
+    void read(ado::Recordset& row) override;
+    void write(ado::Recordset& row) override;
+    bool isInUse(qint16 id) override;
+    bool addsAnotherAfter(const QString& name) override;
+
+    const std::unique_ptr<Ui::frmEditClients> ui;
+    bool m_fromJobCard = false;
+    QString m_newTitle;
+};

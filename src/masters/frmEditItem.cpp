@@ -1,0 +1,88 @@
+#include "masters/frmEditItem.h"
+
+#include "core/DE.h"
+#include "platform/values/Numbers.h"
+#include "ui_frmEditItem.h"
+
+namespace {
+
+const QString LineBreak = QStringLiteral("\r\n");
+
+/// A number typed into a box, as the text columns keep it: letters are 0.
+QString numberText(const swTextBox& box) { return values::CStr(values::Val(box.Text())); }
+
+Currency money(const swTextBox& box) { return Currency::fromDouble(values::Val(box.Text())); }
+
+} // namespace
+
+frmEditItem::frmEditItem()
+    : EditMaster({.table = QStringLiteral("Items"),
+                  .nameField = QStringLiteral("Name"),
+                  .titleNew = QStringLiteral("Add New Item"),
+                  .titleEdit = QStringLiteral("Edit Item"),
+                  .nameMissing = QStringLiteral("Please Enter Item Name!"),
+                  .added = QStringLiteral("New Item Added."),
+                  .edited = QStringLiteral("Item Edited.")},
+                 DE.rsITEMS)
+    , ui(std::make_unique<Ui::frmEditItem>())
+{
+    ui->setupUi(this);
+    setControls({ui->lblTitle, ui->txtName, ui->Command1, ui->Command2});
+    onKeyPress(ui->txtItemDetails, [this](int& key) { templateKey(key); });
+    onGotFocus(ui->txtItemDetails, [this] { m_afterEnter = false; });
+    onLostFocus(ui->txtItemDetails, [this] { tidyTemplate(); });
+}
+
+frmEditItem::~frmEditItem() = default;
+
+void frmEditItem::clear()
+{
+    ui->txtItemDetails->setText(QStringList{QStringLiteral("Measurement 1"), QStringLiteral("Measurement 2"),
+                                            QStringLiteral("Measurement 3=Default Value")}
+                                    .join(LineBreak));
+    for (swTextBox* box : {ui->txtFees, ui->txtWorkerFees, ui->txtProductionCap, ui->txtPendingOrdersBal})
+        box->setText({});
+}
+
+void frmEditItem::read(ado::Recordset& row)
+{
+    ui->txtFees->setText(row["Fees"].money().toString());
+    ui->txtWorkerFees->setText(row["WorkerFees"].money().toString());
+    ui->txtItemDetails->setText(row["ItemDetails"].text());
+    ui->txtProductionCap->setText(row["ProdcutionCap"].text());
+    ui->txtPendingOrdersBal->setText(row["OpPendingOrders"].text());
+}
+
+/// A second Enter straight after the first ends the template instead of adding a blank line.
+void frmEditItem::templateKey(int& key)
+{
+    const bool isEnter = key == forms::key::Enter;
+    const bool endsEntry = isEnter && m_afterEnter;
+    m_afterEnter = isEnter && !endsEntry;
+    if (endsEntry) {
+        key = 0;
+        ui->txtFees->setFocus();
+    }
+}
+
+/// Drops the blank lines. Blanks inside the lines stay: they belong to the names.
+void frmEditItem::tidyTemplate()
+{
+    const QStringList lines = ui->txtItemDetails->Text().split(LineBreak, Qt::SkipEmptyParts);
+    ui->txtItemDetails->setText(lines.join(LineBreak));
+}
+
+void frmEditItem::write(ado::Recordset& row)
+{
+    tidyTemplate(); // saving by its access key leaves the focus where it is
+    row["Fees"] = money(*ui->txtFees);
+    row["WorkerFees"] = money(*ui->txtWorkerFees);
+    row["ItemDetails"] = ui->txtItemDetails->Text();
+    row["ProdcutionCap"] = numberText(*ui->txtProductionCap);
+    row["OpPendingOrders"] = numberText(*ui->txtPendingOrdersBal);
+}
+
+bool frmEditItem::isInUse(qint16 id)
+{
+    return hasRows(DE.rsJOBS_DETAIL, QStringLiteral("Select * from JOBS_DETAIL where ItemID=%1").arg(id));
+}

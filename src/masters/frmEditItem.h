@@ -1,0 +1,31 @@
+#pragma once
+
+#include "masters/EditMaster.h"
+
+#include <memory>
+
+namespace Ui {
+class frmEditItem;
+}
+
+/// Adds and edits a garment of the catalogue: its fees, its capacity and the template of its measurements,
+/// one a line.
+class frmEditItem : public EditMaster
+{
+    Q_OBJECT
+public:
+    frmEditItem();
+    ~frmEditItem() override;
+
+private:
+    void clear() override;
+    void read(ado::Recordset& row) override;
+    void write(ado::Recordset& row) override;
+    bool isInUse(qint16 id) override;
+
+    void templateKey(int& key);
+    void tidyTemplate();
+
+    const std::unique_ptr<Ui::frmEditItem> ui;
+    bool m_afterEnter = false; ///< the last key in the template box was Enter
+};
