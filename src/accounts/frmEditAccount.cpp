@@ -23,6 +23,7 @@ void frmEditAccount::ShowAddNew()
     AccountMode = QStringLiteral("N");
     AccountReadOnly = 0;
     ui->lblTitle->setText(QStringLiteral("Add New Account"));
+    ui->cmbType->setListIndex(-1);
     showModal();
 }
 
@@ -35,7 +36,7 @@ void frmEditAccount::ShowEdit(qint16 id)
     accounts.Open(QStringLiteral("Select * from accounts where id=%1").arg(id));
     AccountTitle = accounts["Title"].text();
     ui->txtName->setText(AccountTitle);
-    ui->cmbType->setCurrentIndex(accounts["Nature"].integer());
+    ui->cmbType->setListIndex(accounts["Nature"].integer());
     AccountReadOnly = values::toInt16(accounts["ReadOnly"].integer());
     accounts.Close();
     showModal();
@@ -46,9 +47,9 @@ void frmEditAccount::Form_KeyPress(int& key)
     if (key == forms::key::Escape) {
         key = 0;
         unload();
-    } else if (!qobject_cast<QPushButton*>(focusWidget())) {
-        key = EnterAsTab(key);
+        return;
     }
+    key = EnterAsTab(key);
 }
 
 void frmEditAccount::save()
@@ -58,7 +59,7 @@ void frmEditAccount::save()
         ui->txtName->setFocus();
         return;
     }
-    if (ui->cmbType->currentText().isEmpty()) {
+    if (ui->cmbType->text().isEmpty()) {
         ShowMsg(QStringLiteral("Please select account type"));
         ui->cmbType->setFocus();
         return;
@@ -123,7 +124,7 @@ void frmEditAccount::writeFields()
     ado::Recordset& account = DE.rsaccounts;
     account["Title"] = ui->txtName->Text();
     account["Type"] = 2;
-    account["Nature"] = ui->cmbType->currentIndex();
+    account["Nature"] = ui->cmbType->ListIndex();
     account.UpdateBatch();
 }
 
