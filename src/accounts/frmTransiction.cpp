@@ -20,8 +20,8 @@ struct Sides
 };
 
 constexpr Sides allSides[] = {
-    {"Receipt", "To", "Cr", "By", "Dr"}, {"Payment", "By", "Dr", "To", "Cr"},
-    {"Sales", "By", "Dr", "To", "Cr"},   {"Purchase", "To", "Cr", "By", "Dr"},
+    {"Payment", "By", "Dr", "To", "Cr"}, {"Purchase", "To", "Cr", "By", "Dr"},
+    {"Receipt", "To", "Cr", "By", "Dr"}, {"Sales", "By", "Dr", "To", "Cr"},
     {"Wages", "To", "Cr", "By", "Dr"},
 };
 
@@ -43,13 +43,12 @@ struct frmTransiction::Pair
     Currency mainAmount;
 };
 
-// Opening
-// ----------------------------------------------------------------------------------------------------------
-
 frmTransiction::frmTransiction()
     : ui(std::make_unique<Ui::frmTransiction>())
 {
     ui->setupUi(this);
+    for (const Sides& sides : allSides)
+        ui->cmbParticulars->AddItem(QLatin1String(sides.particulars));
 
     onKeyPress(ui->VcDate, [](int& key) { key = EnterAsTab(key); });
     for (forms::ComboBox* combo : {ui->cmbParticulars, ui->cmbRefAcc}) {
@@ -144,9 +143,6 @@ void frmTransiction::GetNewNum(qint32& n)
     n = values::toInt32(qint64(last) + 1);
 }
 
-// Filling
-// ----------------------------------------------------------------------------------------------------------
-
 void frmTransiction::Form_KeyPress(int& key)
 {
     if (key == forms::key::Escape) {
@@ -171,9 +167,6 @@ void frmTransiction::applyLabels()
         ui->lblRefType->setText(QLatin1String(sides.refType));
     }
 }
-
-// Saving
-// -----------------------------------------------------------------------------------------------------------
 
 /// A combo is filled when its text begins an entry of its list; the first such entry becomes its text.
 bool frmTransiction::isFilled(forms::ComboBox& combo)
@@ -278,9 +271,6 @@ void frmTransiction::SaveEdit()
         postings.Close();
     });
 }
-
-// Deleting
-// ---------------------------------------------------------------------------------------------------------
 
 void frmTransiction::remove()
 {
