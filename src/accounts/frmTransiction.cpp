@@ -33,6 +33,15 @@ qint32 mainAccountID(const QString& title)
     return id.toLongLong() > 0 ? GetAccountID(title) : 0;
 }
 
+/// Takes the first entry of the list that begins with the combo's text; false when there is none.
+bool takeEntry(forms::ComboBox& combo)
+{
+    if (combo.text().isEmpty() || ComboFindIndex(combo) < 0)
+        return false;
+    ComboSyncIndex(combo);
+    return true;
+}
+
 } // namespace
 
 /// What the two lines of the voucher on the screen hold.
@@ -53,8 +62,7 @@ frmTransiction::frmTransiction()
     onKeyPress(ui->VcDate, [](int& key) { key = EnterAsTab(key); });
     for (forms::ComboBox* combo : {ui->cmbParticulars, ui->cmbRefAcc}) {
         onGotFocus(combo, [combo] {
-            if (!combo->text().isEmpty())
-                ComboSyncIndex(*combo);
+            takeEntry(*combo);
             ComboDropDown(*combo);
         });
         onKeyPress(combo, [combo](int& key) { key = EnterAsTab(AutoSearchCombo(*combo, key)); });
@@ -168,23 +176,14 @@ void frmTransiction::applyLabels()
     }
 }
 
-/// A combo is filled when its text begins an entry of its list; the first such entry becomes its text.
-bool frmTransiction::isFilled(forms::ComboBox& combo)
-{
-    if (combo.text().isEmpty() || ComboFindIndex(combo) < 0)
-        return false;
-    ComboSyncIndex(combo);
-    return true;
-}
-
 void frmTransiction::save()
 {
-    if (!isFilled(*ui->cmbParticulars)) {
+    if (!takeEntry(*ui->cmbParticulars)) {
         ShowMsg(QStringLiteral("Please select voucher!"));
         ui->cmbParticulars->setFocus();
         return;
     }
-    if (!isFilled(*ui->cmbRefAcc)) {
+    if (!takeEntry(*ui->cmbRefAcc)) {
         ShowMsg(QStringLiteral("Please Select Account!"));
         ui->cmbRefAcc->setFocus();
         return;
@@ -221,7 +220,7 @@ frmTransiction::Pair frmTransiction::pair() const
 }
 
 /// Sets the fields that a new and a changed line share on the current row; line 1 is the main account's.
-void frmTransiction::writeLine(qint16 line, const Pair& pair)
+void frmTransiction::writeLine(int line, const Pair& pair)
 {
     ado::Recordset& row = DE.rspostings;
     const bool main = line == 1;
@@ -240,7 +239,7 @@ void frmTransiction::SaveNew()
     const Pair accounts = pair();
     DE.connection().writeBatch([&] {
         ado::Recordset& postings = DE.rspostings;
-        for (const qint16 line : {1, 2}) {
+        for (const int line : {1, 2}) {
             postings.Open(QStringLiteral("Select * from Postings order by ID"));
             postings.AddNew();
             postings["vType"] = 2;
@@ -277,10 +276,10 @@ void frmTransiction::remove()
     if (EntryMode != QLatin1String("E") || !ShowMsg(QStringLiteral("Are you sure to delete entry?"), 2))
         return;
     if (EntryIsPayroll != 0 &&
-        !ShowMsg(
-            QStringLiteral("You are going to delete a payroll?\nThis action will reset all jobs as unpaid?\n"
-                           "Press Yes to Delete!"),
-            2))
+        !ShowMsg(QStringLiteral(
+                     "You are going to delete a payroll?\r\nThis action will reset all jobs as unpaid?\r\n"
+                     "Press Yes to Delete!"),
+                 2))
         return;
     DE.connection().writeBatch([&] {
         if (EntryIsPayroll != 0)

@@ -9,9 +9,6 @@
 namespace Ui {
 class frmTransiction;
 }
-namespace forms {
-class ComboBox;
-}
 
 /// Enters, corrects and deletes a voucher of the ledger: money moved between the account from which the
 /// operator came (the main account) and an opposite one. A voucher is two lines with these accounts swapped
@@ -45,10 +42,9 @@ private:
     void fillAccounts();
     void mirrorAmount();
     void applyLabels();
-    bool isFilled(forms::ComboBox& combo);
     void save();
     Pair pair() const;
-    void writeLine(qint16 line, const Pair& pair);
+    void writeLine(int line, const Pair& pair);
     void remove();
     void resetPaidJobs();
 
