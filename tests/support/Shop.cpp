@@ -74,6 +74,43 @@ qint32 Shop::addItem(const QString& name, double fees, double workerFees, const 
     return rows["ID"].integer();
 }
 
+qint32 Shop::addJobLine(qint32 client, qint32 item, qint32 worker)
+{
+    ado::Recordset rows(DE.connection());
+    rows.Open(QStringLiteral("Select * from JOBS_DETAIL"));
+    rows.AddNew();
+    for (const char* field : {"DATE", "JobDelDate", "CuttingDate"})
+        rows[field] = session.WorkingDate;
+    for (const char* field : {"JobID", "QNT", "FEES", "Amount"})
+        rows[field] = 1;
+    for (const char* field : {"ClintName", "ItemName", "Remarks", "ItemDetails", "ItemDetailsValue"})
+        rows[field] = QString();
+    rows["ClintID"] = client;
+    rows["ItemID"] = item;
+    rows["WorkerID"] = worker;
+    rows.Update();
+    return rows["ID"].integer();
+}
+
+void Shop::addVoucher(qint32 vid, qint32 main, qint32 ref, double amount)
+{
+    ado::Recordset rows(DE.connection());
+    rows.Open(QStringLiteral("Select * from Postings"));
+    for (const int line : {1, 2}) {
+        rows.AddNew();
+        rows["VID"] = vid;
+        rows["vType"] = 2;
+        rows["Sr"] = line;
+        rows["Date"] = session.WorkingDate;
+        rows["particulars"] = QStringLiteral("Receipt");
+        rows["Remark"] = QString();
+        rows["accID"] = line == 1 ? main : ref;
+        rows["refID"] = line == 1 ? ref : main;
+        rows["Amount"] = line == 1 ? amount : -amount;
+        rows.Update();
+    }
+}
+
 QVariant Shop::value(const QString& sql)
 {
     ado::Recordset rows(DE.connection());

@@ -23,6 +23,10 @@ public:
     qint32 addWorker(const QString& title);
     qint32 addItem(const QString& name, double fees = 100, double workerFees = 40,
                    const QString& details = QStringLiteral("Length\r\nChest=40"));
+    /// A line of job card 1.
+    qint32 addJobLine(qint32 client, qint32 item, qint32 worker = 0);
+    /// The two lines of a receipt: `main` is credited with the amount, `ref` debited.
+    void addVoucher(qint32 vid, qint32 main, qint32 ref, double amount);
 
     /// The first value of a query, and the number of its rows.
     static QVariant value(const QString& sql);
