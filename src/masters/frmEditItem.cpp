@@ -74,7 +74,6 @@ void frmEditItem::tidyTemplate()
 
 void frmEditItem::write(ado::Recordset& row)
 {
-    tidyTemplate(); // saving by its access key leaves the focus where it is
     row["Fees"] = money(*ui->txtFees);
     row["WorkerFees"] = money(*ui->txtWorkerFees);
     row["ItemDetails"] = ui->txtItemDetails->Text();

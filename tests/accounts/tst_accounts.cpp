@@ -40,9 +40,10 @@ private Q_SLOTS:
     }
     void cleanup()
     {
-        QVERIFY(prompts->allMet());
+        const bool met = prompts->allMet();
         prompts.reset();
         shop.reset();
+        QVERIFY(met);
     }
 
     void addsAnAccountAndGoesOnEditingIt()

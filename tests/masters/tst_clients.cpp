@@ -76,9 +76,10 @@ private Q_SLOTS:
     }
     void cleanup()
     {
-        QVERIFY(prompts->allMet());
+        const bool met = prompts->allMet();
         prompts.reset();
         shop.reset();
+        QVERIFY(met);
     }
 
     void addsClientsUntilEsc()
@@ -90,6 +91,7 @@ private Q_SLOTS:
                 QCOMPARE(title(form), QStringLiteral("Add New Client"));
                 QCOMPARE(control<forms::DatePicker>(form, "dateDob").value(), session.WorkingDate);
                 remove(); // a new record has nothing to delete
+                control<swTextBox>(form, "txtName").setFocus();
                 for (const char* typed : {"anita o'rao", "12 mill road", "pune", "mh", "9829000000"}) {
                     typeText(QLatin1String(typed));
                     press(Qt::Key_Return);
@@ -190,7 +192,7 @@ private Q_SLOTS:
             QCOMPARE(box.Text(), found);
             press(Qt::Key_Home);
             press(Qt::Key_Down);
-            QCOMPARE(box.ListIndex(), found.isEmpty() ? 1 : 1);
+            QCOMPARE(box.ListIndex(), 1);
             QCOMPARE(focused(list), QStringLiteral("txtSearch"));
         });
     }

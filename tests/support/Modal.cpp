@@ -62,6 +62,15 @@ public:
     int count() const { return int(m_acts.size()); }
     void clear() { m_acts.clear(); }
 
+protected:
+    /// A screen that has gone and is shown again is another meeting.
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Hide)
+            std::erase(m_met, watched);
+        return QObject::eventFilter(watched, event);
+    }
+
 private:
     void look()
     {
@@ -76,6 +85,7 @@ private:
                 for (Act& later : m_acts)
                     later.waiting.start();
                 m_met.push_back(front);
+                front->installEventFilter(this);
                 // Not inside the timer's own turn, which would keep it from meeting screens that the act
                 // opens.
                 QMetaObject::invokeMethod(

@@ -1,5 +1,6 @@
 #include "platform/forms/ListBox.h"
 
+#include <QKeyEvent>
 #include <QStringListModel>
 
 namespace forms {
@@ -81,6 +82,17 @@ QString ListBox::Text() const { return List(ListIndex()); }
 int ListBox::findString(const QString& prefix, int startAfter) const
 {
     return findPrefix(m_texts->stringList(), prefix, startAfter);
+}
+
+/// With no entry selected, Down and Home begin at the first one, though the view may hold it for the current
+/// one already.
+void ListBox::keyPressEvent(QKeyEvent* event)
+{
+    const bool begins = event->key() == Qt::Key_Down || event->key() == Qt::Key_Home;
+    if (begins && ListIndex() < 0)
+        setListIndex(0);
+    else
+        QListView::keyPressEvent(event);
 }
 
 void ListBox::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)

@@ -40,6 +40,7 @@ Q_SIGNALS:
     void indexChanged();
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
