@@ -44,7 +44,9 @@ class Shaper:
 
     def glyphs(self, text):
         """The names of the glyphs of a text, from left to right."""
-        shaped = subprocess.run(self.command + [text], check=True, capture_output=True, encoding="utf-8").stdout.strip()
+        # As numbers: in a plain C locale the program takes no other letters than ASCII.
+        points = "--unicodes=" + ",".join(f"{ord(char):x}" for char in text)
+        shaped = subprocess.run(self.command + [points], check=True, capture_output=True, encoding="ascii").stdout.strip()
         return [name for name in shaped.strip("[]").split("|") if name not in DRAWN_SPACES]
 
 
@@ -166,7 +168,7 @@ def name_anew(font, family):
 
 
 def main(program, source, target, family):
-    font = TTFont(source)
+    font = TTFont(source, recalcTimestamp=False)
     shaper = Shaper(program, source)
     source_cmap = font.getBestCmap()
     shapes = single_codes(shaper, source_cmap)
