@@ -74,15 +74,17 @@ void frmEditAccount::saveNew()
 {
     if (isDuplicate())
         return;
+    qint32 id = 0;
     DE.connection().writeBatch([&] {
         ado::Recordset& accounts = DE.rsaccounts;
         accounts.Open(QStringLiteral("Select * from accounts order by id"));
         accounts.AddNew();
         writeFields();
-        AccountID = values::toInt16(accounts["ID"].integer());
+        id = accounts["ID"].integer();
         accounts.Close();
     });
     session.RefreshLists = true;
+    AccountID = values::toInt16(id);
     AccountTitle = ui->txtName->Text();
     ShowMsg(QStringLiteral("New Account created."));
     AccountMode = QStringLiteral("E");

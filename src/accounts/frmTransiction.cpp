@@ -36,7 +36,7 @@ qint32 mainAccountID(const QString& title)
 /// Takes the first entry of the list that begins with the combo's text; false when there is none.
 bool takeEntry(forms::ComboBox& combo)
 {
-    if (combo.text().isEmpty() || ComboFindIndex(combo) < 0)
+    if (ComboFindIndex(combo) < 0)
         return false;
     ComboSyncIndex(combo);
     return true;

@@ -48,8 +48,6 @@ void SummaryList::Form_Activate()
     forms::ListBox& list = *ui->lstSummary;
     const QString selected = list.Text();
     fill(list);
-    if (selected.isEmpty())
-        return;
     // The operator comes back to the entry that was opened, if it still has its title.
     const int index = list.findString(selected);
     if (index >= 0 && list.List(index) == selected)

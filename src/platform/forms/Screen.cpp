@@ -17,6 +17,9 @@ namespace forms {
 
 namespace {
 
+/// The part of a small display that a screen may take; the rest is its frame's.
+constexpr double largestShare = 0.97;
+
 /// The screens that stand on each other, the one in front last.
 std::vector<Screen*>& chain()
 {
@@ -133,6 +136,7 @@ void Screen::present()
     }
     if (!focusWidget())
         focusNextPrevChild(true);
+    resize(size().boundedTo(screen()->availableSize() * largestShare));
     show();
     activateWindow();
     activate();
