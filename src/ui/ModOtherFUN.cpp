@@ -59,7 +59,13 @@ void ComboDropDown(ComboBox& combo) { combo.dropDown(); }
 
 int ComboFindIndex(const ComboBox& combo) { return combo.findString(combo.text()); }
 
-void ComboSyncIndex(ComboBox& combo) { combo.setListIndex(ComboFindIndex(combo)); }
+void ComboSyncIndex(ComboBox& combo)
+{
+    const int found = ComboFindIndex(combo);
+    if (found >= 0)
+        combo.setListIndex(found);
+    combo.select(0, int(combo.text().size()));
+}
 
 int NumbersOnly(const QString& text, int key) { return NumKey(text, key); }
 

@@ -15,7 +15,8 @@ int AutoSearchCombo(forms::ComboBox& combo, int key);
 void ComboDropDown(forms::ComboBox& combo);
 /// The first entry that begins with the combo's text, -1 for none.
 int ComboFindIndex(const forms::ComboBox& combo);
-/// Takes the entry that ComboFindIndex finds.
+/// Takes the entry that ComboFindIndex finds, and selects the whole text, so that typing replaces it. A text
+/// that no entry begins with stays.
 void ComboSyncIndex(forms::ComboBox& combo);
 
 /// The key filter for a number in a plain box: gives the key, or 0 for one that has no place in it.

@@ -1,16 +1,21 @@
 #include "support/KeysTo.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QTest>
 #include <QWindow>
 
 namespace {
 
+/// Where a window system would send keys: an open list or menu, else the active window.
 QWindow* focusWindow()
 {
-    if (!QTest::qWaitFor([] { return QGuiApplication::focusWindow() != nullptr; }))
-        QTest::qFail("No window has the focus", __FILE__, __LINE__);
-    return QGuiApplication::focusWindow();
+    if (const QWidget* popup = QApplication::activePopupWidget())
+        return popup->windowHandle();
+    if (!QTest::qWaitFor([] { return QApplication::activeWindow() != nullptr; })) {
+        QTest::qFail("No window is active", __FILE__, __LINE__);
+        return nullptr;
+    }
+    return QApplication::activeWindow()->windowHandle();
 }
 
 } // namespace

@@ -16,8 +16,9 @@ namespace {
 /// Where a key that reaches `widget` belongs: the box of an open list gets what the list receives.
 QWidget* targetOf(QWidget* widget)
 {
-    auto* combo = qobject_cast<ComboBox*>(widget->window()->parentWidget());
-    return combo && widget->window()->windowType() == Qt::Popup ? combo : widget;
+    const QWidget* window = widget->window();
+    auto* combo = qobject_cast<ComboBox*>(window->parentWidget());
+    return combo && window->windowType() == Qt::Popup ? combo : widget;
 }
 
 /// Presses a button by its mnemonic, with the focus on it, so that the field left behind has settled its
