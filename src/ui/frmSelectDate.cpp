@@ -1,0 +1,55 @@
+#include "ui/frmSelectDate.h"
+
+#include "ui/ModOtherFUN.h"
+#include "ui_frmSelectDate.h"
+
+frmSelectDate::frmSelectDate(QWidget* parent)
+    : Screen(parent)
+    , ui(std::make_unique<Ui::frmSelectDate>())
+{
+    ui->setupUi(this);
+    on(ui->DateFrom, &forms::DatePicker::changed, &frmSelectDate::followDateFrom);
+    on(ui->DateFrom, &forms::DatePicker::calendarClosed, &frmSelectDate::followDateFrom);
+    onKeyPress(ui->DateFrom, [this](int&) { followDateFrom(); });
+    on(ui->cmdOk, &QPushButton::clicked, &frmSelectDate::select);
+}
+
+frmSelectDate::~frmSelectDate() = default;
+
+void frmSelectDate::SelectDate(QDate& fromDate, QDate& toDate, int mode)
+{
+    m_confirmed = false;
+    m_single = mode == SingleDate;
+    ui->DateTo->setEnabled(!m_single);
+    ui->DateTo->setValue(toDate);
+    ui->DateFrom->setValue(fromDate);
+    followDateFrom();
+    showModal();
+    if (m_confirmed) {
+        fromDate = ui->DateFrom->value();
+        toDate = ui->DateTo->value();
+    }
+}
+
+/// A single date stands in both boxes.
+void frmSelectDate::followDateFrom()
+{
+    if (m_single)
+        ui->DateTo->setValue(ui->DateFrom->value());
+}
+
+void frmSelectDate::select()
+{
+    if (ui->DateFrom->value() > ui->DateTo->value()) {
+        ShowMsg(QStringLiteral("Invalid Dates!"));
+        return;
+    }
+    m_confirmed = true;
+    unload();
+}
+
+void frmSelectDate::Form_KeyPress(int& key)
+{
+    if (key == forms::key::Escape)
+        unload();
+}

@@ -1,0 +1,145 @@
+#include "ui/frmSelectFile.h"
+
+#include "platform/forms/Pictures.h"
+#include "ui_frmSelectFile.h"
+
+#include <QDir>
+#include <QSet>
+#include <QStandardPaths>
+#include <QStorageInfo>
+
+namespace {
+
+const QString cancelled = QStringLiteral("Cancel");
+const QString upwards = QStringLiteral("..");
+
+/// The drives, or on systems with one tree its root and what is mounted for the operator.
+QStringList drives()
+{
+    QStringList paths;
+    for (const QFileInfo& drive : QDir::drives())
+        paths += drive.absoluteFilePath();
+    static const QStringList operatorsFolders{QStringLiteral("/media/"), QStringLiteral("/run/media/"),
+                                              QStringLiteral("/mnt/"), QStringLiteral("/Volumes/")};
+    for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
+        const QString path = volume.rootPath();
+        for (const QString& folder : operatorsFolders)
+            if (path.startsWith(folder) && !paths.contains(path))
+                paths += path;
+    }
+    return paths;
+}
+
+} // namespace
+
+frmSelectFile::frmSelectFile(QWidget* parent)
+    : Screen(parent)
+    , ui(std::make_unique<Ui::frmSelectFile>())
+{
+    ui->setupUi(this);
+    on(ui->drv, &forms::ComboBox::clicked, &frmSelectFile::openDrive);
+    on(ui->Dir, &forms::ListBox::dblClicked, &frmSelectFile::enterFolder);
+    onKeyPress(ui->Dir, [this](int& key) {
+        if (key == forms::key::Enter)
+            enterFolder();
+    });
+    on(ui->cmbFIletype, &forms::ComboBox::changed, &frmSelectFile::applyPattern);
+    on(ui->cmbFIletype, &forms::ComboBox::clicked, &frmSelectFile::applyPattern);
+    onLostFocus(ui->cmbFIletype, [this] { applyPattern(); });
+    on(ui->files, &forms::ListBox::indexChanged, &frmSelectFile::chooseFile);
+    on(ui->cmdOK, &QPushButton::clicked, [this] {
+        m_answer = ui->txtfilename->text();
+        unload();
+    });
+    on(ui->Command1, &QPushButton::clicked, [this] {
+        m_answer = cancelled;
+        unload();
+    });
+}
+
+frmSelectFile::~frmSelectFile() = default;
+
+QString frmSelectFile::SelFile()
+{
+    m_answer = cancelled;
+    showModal();
+    return m_answer;
+}
+
+void frmSelectFile::Form_Load()
+{
+    ui->cmbFIletype->Clear();
+    ui->cmbFIletype->AddItems({QStringLiteral("*.gif"), QStringLiteral("*.wmf"), QStringLiteral("*.ico"),
+                               QStringLiteral("*.bmp"), QStringLiteral("*.jpg")});
+    ui->cmbFIletype->setText(QStringLiteral("*.*"));
+    ui->drv->Clear();
+    ui->drv->AddItems(drives());
+    openFolder(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+}
+
+void frmSelectFile::openDrive() { openFolder(ui->drv->text()); }
+
+/// Lists the folders in a folder; one that isn't there gives way to the operator's own.
+void frmSelectFile::openFolder(const QString& path)
+{
+    QDir folder(path);
+    if (!folder.exists())
+        folder = QDir::home();
+    m_folder = folder.absolutePath();
+    ui->lblFolder->setText(QDir::toNativeSeparators(m_folder));
+
+    QString drive;
+    for (const QString& each : drives())
+        if (m_folder.startsWith(each, Qt::CaseInsensitive) && each.size() > drive.size())
+            drive = each;
+    ui->drv->setText(drive);
+
+    ui->Dir->Clear();
+    if (!folder.isRoot())
+        ui->Dir->AddItem(upwards);
+    ui->Dir->AddItems(folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase));
+    applyPattern();
+}
+
+void frmSelectFile::enterFolder()
+{
+    if (ui->Dir->ListIndex() >= 0)
+        openFolder(QDir::cleanPath(m_folder + QLatin1Char('/') + ui->Dir->Text()));
+}
+
+void frmSelectFile::applyPattern()
+{
+    // "*.*" means all files, those without a point in their name too.
+    QString pattern = ui->cmbFIletype->text().trimmed();
+    if (pattern == QLatin1String("*.*"))
+        pattern = QStringLiteral("*");
+    const QStringList names = QDir(m_folder).entryList(pattern.split(QLatin1Char(';'), Qt::SkipEmptyParts),
+                                                       QDir::Files, QDir::Name | QDir::IgnoreCase);
+    ui->files->Clear();
+    ui->files->AddItems(names);
+}
+
+void frmSelectFile::chooseFile()
+{
+    ui->pic1->clear();
+    if (ui->files->ListIndex() < 0)
+        return;
+    const QString path = QDir(m_folder).filePath(ui->files->Text());
+    ui->txtfilename->setText(QDir::toNativeSeparators(path));
+    preview(path);
+}
+
+/// The picture in the middle of the panel, at its own size unless it is larger than the panel.
+void frmSelectFile::preview(const QString& path)
+{
+    const QSize panel = ui->prv->contentsRect().size();
+    QPixmap picture = forms::loadPicture(path, panel * devicePixelRatio());
+    picture.setDevicePixelRatio(devicePixelRatio());
+    ui->pic1->setPixmap(picture);
+}
+
+void frmSelectFile::Form_KeyPress(int& key)
+{
+    if (key == forms::key::Escape)
+        unload();
+}
