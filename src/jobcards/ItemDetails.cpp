@@ -33,9 +33,11 @@ QFont captionFont(bool hindi)
 
 void paint(QLabel& label, bool selected)
 {
+    const QFont font = label.font(); // polishing would lose it
     label.setProperty("selected", selected);
     label.style()->unpolish(&label);
     label.style()->polish(&label);
+    label.setFont(font);
 }
 
 } // namespace
@@ -228,7 +230,7 @@ void ItemDetails::placeRow(size_t index)
 {
     const Row& row = m_rows[index];
     const int margin = forms::twips(RowGap) * 2;
-    const int captionWidth = Picture2->width() * 2 / 5 - margin;
+    const int captionWidth = Picture2->width() / 2 - margin;
     const int top = rowTop(index);
     const int height = rowHeight();
     row.txtValue->setGeometry(captionWidth + 2 * margin, forms::twips(top),

@@ -1,6 +1,7 @@
 #include "jobcards/PictureFiles.h"
 
 #include "core/Session.h"
+#include "core/Startup.h"
 #include "platform/forms/Pictures.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Errors.h"
@@ -52,6 +53,10 @@ void copy(const QString& source, const QString& target)
 {
     if (!forms::isPicture(source))
         throw OperatorError(QStringLiteral("%1 is not a picture that can be shown.").arg(source));
+    MakeImagesFolder();
+    if (!QFileInfo(session.imagesFolder()).isDir())
+        throw OperatorError(
+            QStringLiteral("The folder for pictures cannot be made: %1").arg(session.imagesFolder()));
     QFile file(source);
     const bool copied = file.copy(target);
     if (copied && QFileInfo(target).size() == file.size()) {

@@ -11,8 +11,8 @@ namespace picturefiles {
 /// taken moves on by a second. Throws OperatorError when all are taken.
 QString newPath(const QString& client, const QDateTime& now, int picture);
 
-/// Copies a file as it is. Throws OperatorError, with nothing left behind, when it is no picture or cannot be
-/// copied.
+/// Copies a file into the folder of pictures as it is; makes the folder if it is missing. Throws
+/// OperatorError, with nothing left behind, when it is no picture or cannot be copied.
 void copy(const QString& source, const QString& target);
 
 /// Deletes a file; one that is gone already is no fault. Throws OperatorError.

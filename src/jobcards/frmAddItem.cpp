@@ -240,6 +240,7 @@ void frmAddItem::picColor_Click()
 {
     const QColor chosen = QColorDialog::getColor(ui->picColor->color(), this, QStringLiteral("Cloth Color"),
                                                  QColorDialog::DontUseNativeDialog);
+    activateWindow();
     if (chosen.isValid() && itemcolor::toNumber(chosen) >= 1)
         ui->picColor->setNumber(itemcolor::toNumber(chosen));
 }

@@ -3,7 +3,12 @@
 #include "core/Session.h"
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/DatePicker.h"
-#include "support/ShopTest.h"
+#include "support/KeysTo.h"
+#include "support/Modal.h"
+#include "support/Prompts.h"
+#include "support/Shop.h"
+#include "ui/swTextBox.h"
+#include "ui/swTextBoxMultiLine.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -13,6 +18,9 @@
 namespace {
 
 forms::ComboBox& combo(QWidget& form, const char* name) { return control<forms::ComboBox>(form, name); }
+swTextBox& box(QWidget& form, const char* name) { return control<swTextBox>(form, name); }
+void save() { press(Qt::Key_S, Qt::AltModifier); }
+void remove() { press(Qt::Key_D, Qt::AltModifier); }
 
 /// The four words at the accounts, main account first.
 QString labels(QWidget& form)
@@ -59,18 +67,25 @@ const QString DeletePayroll = QStringLiteral("You are going to delete a payroll?
 
 } // namespace
 
-class tst_frmTransiction : public ShopTest
+class tst_frmTransiction : public QObject
 {
     Q_OBJECT
-    void lay() override
+private Q_SLOTS:
+    void init()
     {
+        shop = std::make_unique<Shop>();
+        prompts = std::make_unique<Prompts>();
         asha = shop->addClient(QStringLiteral("Asha"));
         cash = Shop::value(QStringLiteral("Select id from Accounts where Title='Cash'")).toInt();
     }
-    qint32 asha = 0;
-    qint32 cash = 0;
+    void cleanup()
+    {
+        const bool met = prompts->allMet();
+        prompts.reset();
+        shop.reset();
+        QVERIFY(met);
+    }
 
-private Q_SLOTS:
     void entersAVoucherByKeysAlone()
     {
         prompts->expect(NewSaved);
@@ -125,7 +140,7 @@ private Q_SLOTS:
             const qint16 saved = addNew(QStringLiteral("Asha"), [&](frmTransiction& form) {
                 fill(form, kind, account, amount);
                 save();
-                QCOMPARE(focused(form), QLatin1String(focus));
+                QCOMPARE(form.focusWidget()->objectName(), QLatin1String(focus));
             });
             QCOMPARE(saved, qint16(0));
         };
@@ -321,6 +336,12 @@ private Q_SLOTS:
                  vouchers);
         QCOMPARE(Shop::count(QStringLiteral("Select * from Postings")), 2 * vouchers);
     }
+
+private:
+    std::unique_ptr<Shop> shop;
+    std::unique_ptr<Prompts> prompts;
+    qint32 asha = 0;
+    qint32 cash = 0;
 };
 
 QTEST_MAIN(tst_frmTransiction)

@@ -185,6 +185,7 @@ void tst_ItemDetails::theRowInUseStandsOut()
     QCOMPARE(background(1), QColor(Qt::black));
     QCOMPARE(screen.caption(1).palette().color(QPalette::WindowText), QColor(Qt::white));
     QCOMPARE(background(0), QColor(Qt::white));
+    QCOMPARE(screen.caption(1).font(), screen.caption(0).font());
     screen.box(0).setFocus();
     QCOMPARE(background(0), QColor(Qt::black));
     QCOMPARE(background(1), QColor(Qt::white));

@@ -6,14 +6,26 @@
 #include "masters/frmWorkers.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/ListBox.h"
-#include "support/ShopTest.h"
+#include "support/KeysTo.h"
+#include "support/Modal.h"
+#include "support/Prompts.h"
+#include "support/Shop.h"
+#include "ui/swTextBox.h"
 
 #include <QLabel>
 #include <QTest>
 
 namespace {
 
+QString text(QWidget& screen, const char* name) { return control<swTextBox>(screen, name).Text(); }
+
 QString title(QWidget& screen) { return control<QLabel>(screen, "lblTitle").text(); }
+
+QString focused(QWidget& screen)
+{
+    const QWidget* widget = screen.focusWidget();
+    return widget ? widget->objectName() : QString();
+}
 
 QStringList entries(QWidget& list)
 {
@@ -24,22 +36,17 @@ QStringList entries(QWidget& list)
     return texts;
 }
 
-/// Types over a name.
-void rename(QWidget& screen, const char* name)
+/// Types over what a field holds.
+void retype(QWidget& screen, const char* name, const QString& text)
 {
-    box(screen, "txtName").setFocus();
-    box(screen, "txtName").selectAll();
+    control<swTextBox>(screen, name).setFocus();
+    control<swTextBox>(screen, name).selectAll();
     press(Qt::Key_Delete);
-    typeText(QLatin1String(name));
+    typeText(text);
 }
 
-void typeFields(const std::vector<const char*>& fields)
-{
-    for (const char* field : fields) {
-        typeText(QLatin1String(field));
-        press(Qt::Key_Return);
-    }
-}
+void save() { press(Qt::Key_S, Qt::AltModifier); }
+void remove() { press(Qt::Key_D, Qt::AltModifier); }
 
 /// Opens a list screen and acts in it.
 template <class List>
@@ -58,10 +65,23 @@ void edit(qint32 id, std::function<void(Edit&)> act)
 
 } // namespace
 
-class tst_clients : public ShopTest
+class tst_clients : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void init()
+    {
+        shop = std::make_unique<Shop>();
+        prompts = std::make_unique<Prompts>();
+    }
+    void cleanup()
+    {
+        const bool met = prompts->allMet();
+        prompts.reset();
+        shop.reset();
+        QVERIFY(met);
+    }
+
     void addsClientsUntilEsc()
     {
         shop->addWorker(QStringLiteral("Yusuf"));
@@ -71,20 +91,23 @@ private Q_SLOTS:
                 QCOMPARE(title(form), QStringLiteral("Add New Client"));
                 QCOMPARE(control<forms::DatePicker>(form, "dateDob").value(), session.WorkingDate);
                 remove(); // a new record has nothing to delete
-                box(form, "txtName").setFocus();
-                typeFields({"anita o'rao", "12 mill road", "pune", "mh", "9829000000"});
+                control<swTextBox>(form, "txtName").setFocus();
+                for (const char* typed : {"anita o'rao", "12 mill road", "pune", "mh", "9829000000"}) {
+                    typeText(QLatin1String(typed));
+                    press(Qt::Key_Return);
+                }
                 QCOMPARE(focused(form), QStringLiteral("dateDob"));
                 control<forms::DatePicker>(form, "dateDob").setValue(QDate(1990, 5, 17));
                 press(Qt::Key_Return);
                 QCOMPARE(focused(form), QStringLiteral("Command1"));
                 onNextModal<frmEditClients>([](frmEditClients& next) {
                     for (const char* name : {"txtName", "txtAddress", "txtCity", "txtState", "txtMobile"})
-                        QCOMPARE(box(next, name).Text(), QString());
+                        QCOMPARE(text(next, name), QString());
                     QCOMPARE(control<forms::DatePicker>(next, "dateDob").value(), session.WorkingDate);
                     QCOMPARE(focused(next), QStringLiteral("txtName"));
                     save(); // without a name
                     for (const char* taken : {"ANITA O'RAO", "yusuf", "cash"}) {
-                        rename(next, taken);
+                        retype(next, "txtName", QLatin1String(taken));
                         press(Qt::Key_Tab);
                         save();
                         QCOMPARE(focused(next), QStringLiteral("txtName"));
@@ -121,13 +144,13 @@ private Q_SLOTS:
         inList<frmClients>([this](frmClients& list) {
             onNextModal<frmEditClients>([](frmEditClients& form) {
                 QCOMPARE(title(form), QStringLiteral("Edit Client Information"));
-                QCOMPARE(box(form, "txtName").Text(), QStringLiteral("Bela"));
-                QCOMPARE(box(form, "txtMobile").Text(), QStringLiteral("98290"));
-                rename(form, "BELA");
+                QCOMPARE(text(form, "txtName"), QStringLiteral("Bela"));
+                QCOMPARE(text(form, "txtMobile"), QStringLiteral("98290"));
+                retype(form, "txtName", QStringLiteral("BELA"));
                 save(); // another letter case alone is no other name
-                rename(form, "asha");
+                retype(form, "txtName", QStringLiteral("asha"));
                 save();
-                rename(form, "Chhaya");
+                retype(form, "txtName", QStringLiteral("Chhaya"));
                 save();
                 save(); // its own new name is not taken by another
                 press(Qt::Key_Escape);
@@ -228,7 +251,10 @@ private Q_SLOTS:
             onNextModal<frmEditWorker>([](frmEditWorker& form) {
                 QCOMPARE(title(form), QStringLiteral("Add New Worker"));
                 save();
-                typeFields({"yusuf", "a", "b", "c", "9"});
+                for (const char* typed : {"yusuf", "a", "b", "c", "9"}) {
+                    typeText(QLatin1String(typed));
+                    press(Qt::Key_Return);
+                }
                 QCOMPARE(focused(form), QStringLiteral("Command1"));
                 onNextModal<frmEditWorker>([](frmEditWorker&) { press(Qt::Key_Escape); });
                 press(Qt::Key_Return);
@@ -237,8 +263,8 @@ private Q_SLOTS:
             prompts->expect(QStringLiteral("New Worker Added."));
             press(Qt::Key_A, Qt::AltModifier);
             onNextModal<frmEditWorker>([](frmEditWorker& form) {
-                QCOMPARE(box(form, "txtCity").Text(), QStringLiteral("B"));
-                box(form, "txtMobile").setText(QStringLiteral("77"));
+                QCOMPARE(text(form, "txtCity"), QStringLiteral("B"));
+                retype(form, "txtMobile", QStringLiteral("77"));
                 save();
             });
             prompts->expect(QStringLiteral("Worker Information Updated."));
@@ -283,17 +309,17 @@ private Q_SLOTS:
         const qint32 id = shop->addWorker(QStringLiteral("Bb"));
         prompts->expect(QStringLiteral("Worker Information Updated."));
         edit<frmEditWorker>(id, [&](frmEditWorker& form) {
-            box(form, "txtName").setText(name);
-            box(form, "txtAddress").setText(name);
+            control<swTextBox>(form, "txtName").setText(name);
+            control<swTextBox>(form, "txtAddress").setText(name);
             save();
         });
         shop->reopen();
         inList<frmWorkers>([&](frmWorkers& list) {
-            box(list, "txtSearch").setText(name);
+            control<swTextBox>(list, "txtSearch").setText(name);
             QCOMPARE(control<forms::ListBox>(list, "lstSummary").Text(), name);
             onNextModal<frmEditWorker>([&](frmEditWorker& form) {
-                QCOMPARE(box(form, "txtName").Text(), name);
-                QCOMPARE(box(form, "txtAddress").Text(), name);
+                QCOMPARE(text(form, "txtName"), name);
+                QCOMPARE(text(form, "txtAddress"), name);
             });
             press(Qt::Key_Return);
         });
@@ -310,6 +336,10 @@ private Q_SLOTS:
             QVERIFY(list.isVisible());
         });
     }
+
+private:
+    std::unique_ptr<Shop> shop;
+    std::unique_ptr<Prompts> prompts;
 };
 
 QTEST_MAIN(tst_clients)

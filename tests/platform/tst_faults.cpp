@@ -228,7 +228,6 @@ void tst_faults::damagedPage()
         while (!rows.AtEOF())
             rows.MoveNext();
     });
-    QVERIFY(!rows.State());
     QCOMPARE(contents(m_path), bytes);
 }
 

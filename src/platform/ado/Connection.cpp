@@ -18,6 +18,17 @@ constexpr int busyTimeoutMs = 5000;
 
 QString engineText(sqlite3* database) { return QString::fromUtf8(sqlite3_errmsg(database)); }
 
+/// Commits that survive a power cut; read back, as the engine goes on in silence when it cannot have its way.
+void makeDurable(Connection::Private& d)
+{
+    const bool truncate =
+        d.firstValue(QStringLiteral("PRAGMA journal_mode=TRUNCATE")).toString() == QLatin1String("truncate");
+    d.run(QStringLiteral("PRAGMA synchronous=FULL"));
+    constexpr int full = 2;
+    if (!truncate || d.firstValue(QStringLiteral("PRAGMA synchronous")).toInt() != full)
+        throw DatabaseError(QStringLiteral("The journal cannot be made safe."));
+}
+
 } // namespace
 
 sqlite3* Connection::Private::openHandle() const
@@ -75,16 +86,6 @@ QVariant Connection::Private::firstValue(const QString& sql)
     return step(statement) ? statement.column(0) : QVariant();
 }
 
-void Connection::Private::makeDurable()
-{
-    const bool truncate =
-        firstValue(QStringLiteral("PRAGMA journal_mode=TRUNCATE")).toString() == u"truncate";
-    run(QStringLiteral("PRAGMA synchronous=FULL"));
-    constexpr int full = 2;
-    if (!truncate || firstValue(QStringLiteral("PRAGMA synchronous")).toInt() != full)
-        throw DatabaseError(QStringLiteral("The journal cannot be made safe."));
-}
-
 Connection::Connection()
     : d(std::make_unique<Private>())
 {
@@ -116,8 +117,7 @@ void Connection::open(const QString& path, const QString& password, Mode mode)
 
 void Connection::openFile(const QString& path, const QString& password, int flags)
 {
-    const int code =
-        sqlite3_open_v2(path.toUtf8().constData(), &d->database, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    const int code = sqlite3_open_v2(path.toUtf8().constData(), &d->database, flags, nullptr);
     try {
         if (code != SQLITE_OK)
             throw DatabaseError(engineText(d->database));
@@ -131,7 +131,7 @@ void Connection::openFile(const QString& path, const QString& password, int flag
         // Only this first read proves the password.
         d->firstValue(QStringLiteral("SELECT count(*) FROM sqlite_master"));
         if (flags & SQLITE_OPEN_READWRITE)
-            d->makeDurable();
+            makeDurable(*d);
         d->run(QStringLiteral("PRAGMA cache_size=-65536"));
         registerFunctions(d->database);
     } catch (const DatabaseError& error) {
