@@ -4,22 +4,15 @@
 #include "core/Session.h"
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/ListBox.h"
-#include "support/KeysTo.h"
-#include "support/Modal.h"
-#include "support/Prompts.h"
-#include "support/Shop.h"
-#include "ui/swTextBox.h"
+#include "support/ShopTest.h"
 
 #include <QLabel>
 #include <QTest>
 
 namespace {
 
-swTextBox& name(QWidget& form) { return control<swTextBox>(form, "txtName"); }
 forms::ComboBox& type(QWidget& form) { return control<forms::ComboBox>(form, "cmbType"); }
 forms::ListBox& accounts(QWidget& list) { return control<forms::ListBox>(list, "lstSummary"); }
-void save() { press(Qt::Key_S, Qt::AltModifier); }
-void remove() { press(Qt::Key_D, Qt::AltModifier); }
 
 void edit(const QString& title, std::function<void(frmEditAccount&)> act)
 {
@@ -29,23 +22,10 @@ void edit(const QString& title, std::function<void(frmEditAccount&)> act)
 
 } // namespace
 
-class tst_accounts : public QObject
+class tst_accounts : public ShopTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        shop = std::make_unique<Shop>();
-        prompts = std::make_unique<Prompts>();
-    }
-    void cleanup()
-    {
-        const bool met = prompts->allMet();
-        prompts.reset();
-        shop.reset();
-        QVERIFY(met);
-    }
-
     void addsAnAccountAndGoesOnEditingIt()
     {
         shop->addClient(QStringLiteral("Asha"));
@@ -64,16 +44,16 @@ private Q_SLOTS:
                 press(Qt::Key_Down);
                 QCOMPARE(type(form).text(), QStringLiteral("Expenses"));
                 save();
-                name(form).selectAll();
+                box(form, "txtName").selectAll();
                 typeText(QStringLiteral("rent"));
                 press(Qt::Key_Return);
                 press(Qt::Key_Return);
-                QCOMPARE(form.focusWidget()->objectName(), QStringLiteral("Command1"));
+                QCOMPARE(focused(form), QStringLiteral("Command1"));
                 press(Qt::Key_Return);
                 type(form).setListIndex(0);
-                name(form).setText(QStringLiteral("RENT"));
+                box(form, "txtName").setText(QStringLiteral("RENT"));
                 press(Qt::Key_Return);
-                name(form).setText(QStringLiteral("asha"));
+                box(form, "txtName").setText(QStringLiteral("asha"));
                 press(Qt::Key_Return);
                 press(Qt::Key_Escape);
             });
@@ -97,7 +77,7 @@ private Q_SLOTS:
             press(Qt::Key_Return); // nothing is selected, nothing opens
             press(Qt::Key_Home);
             onNextModal<frmEditAccount>([](frmEditAccount& form) {
-                QCOMPARE(name(form).Text(), QStringLiteral("Cash"));
+                QCOMPARE(box(form, "txtName").Text(), QStringLiteral("Cash"));
                 QCOMPARE(type(form).text(), QStringLiteral("Income"));
             });
             press(Qt::Key_Return);
@@ -142,10 +122,6 @@ private Q_SLOTS:
         QVERIFY(session.RefreshLists);
         QCOMPARE(Shop::count(QStringLiteral("Select * from Accounts where Type=0")), 2);
     }
-
-private:
-    std::unique_ptr<Shop> shop;
-    std::unique_ptr<Prompts> prompts;
 };
 
 QTEST_MAIN(tst_accounts)

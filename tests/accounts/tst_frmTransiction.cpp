@@ -3,12 +3,7 @@
 #include "core/Session.h"
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/DatePicker.h"
-#include "support/KeysTo.h"
-#include "support/Modal.h"
-#include "support/Prompts.h"
-#include "support/Shop.h"
-#include "ui/swTextBox.h"
-#include "ui/swTextBoxMultiLine.h"
+#include "support/ShopTest.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -18,9 +13,6 @@
 namespace {
 
 forms::ComboBox& combo(QWidget& form, const char* name) { return control<forms::ComboBox>(form, name); }
-swTextBox& box(QWidget& form, const char* name) { return control<swTextBox>(form, name); }
-void save() { press(Qt::Key_S, Qt::AltModifier); }
-void remove() { press(Qt::Key_D, Qt::AltModifier); }
 
 /// The four words at the accounts, main account first.
 QString labels(QWidget& form)
@@ -67,25 +59,18 @@ const QString DeletePayroll = QStringLiteral("You are going to delete a payroll?
 
 } // namespace
 
-class tst_frmTransiction : public QObject
+class tst_frmTransiction : public ShopTest
 {
     Q_OBJECT
-private Q_SLOTS:
-    void init()
+    void lay() override
     {
-        shop = std::make_unique<Shop>();
-        prompts = std::make_unique<Prompts>();
         asha = shop->addClient(QStringLiteral("Asha"));
         cash = Shop::value(QStringLiteral("Select id from Accounts where Title='Cash'")).toInt();
     }
-    void cleanup()
-    {
-        const bool met = prompts->allMet();
-        prompts.reset();
-        shop.reset();
-        QVERIFY(met);
-    }
+    qint32 asha = 0;
+    qint32 cash = 0;
 
+private Q_SLOTS:
     void entersAVoucherByKeysAlone()
     {
         prompts->expect(NewSaved);
@@ -140,7 +125,7 @@ private Q_SLOTS:
             const qint16 saved = addNew(QStringLiteral("Asha"), [&](frmTransiction& form) {
                 fill(form, kind, account, amount);
                 save();
-                QCOMPARE(form.focusWidget()->objectName(), QLatin1String(focus));
+                QCOMPARE(focused(form), QLatin1String(focus));
             });
             QCOMPARE(saved, qint16(0));
         };
@@ -336,12 +321,6 @@ private Q_SLOTS:
                  vouchers);
         QCOMPARE(Shop::count(QStringLiteral("Select * from Postings")), 2 * vouchers);
     }
-
-private:
-    std::unique_ptr<Shop> shop;
-    std::unique_ptr<Prompts> prompts;
-    qint32 asha = 0;
-    qint32 cash = 0;
 };
 
 QTEST_MAIN(tst_frmTransiction)

@@ -6,26 +6,14 @@
 #include "masters/frmWorkers.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/ListBox.h"
-#include "support/KeysTo.h"
-#include "support/Modal.h"
-#include "support/Prompts.h"
-#include "support/Shop.h"
-#include "ui/swTextBox.h"
+#include "support/ShopTest.h"
 
 #include <QLabel>
 #include <QTest>
 
 namespace {
 
-QString text(QWidget& screen, const char* name) { return control<swTextBox>(screen, name).Text(); }
-
 QString title(QWidget& screen) { return control<QLabel>(screen, "lblTitle").text(); }
-
-QString focused(QWidget& screen)
-{
-    const QWidget* widget = screen.focusWidget();
-    return widget ? widget->objectName() : QString();
-}
 
 QStringList entries(QWidget& list)
 {
@@ -36,17 +24,22 @@ QStringList entries(QWidget& list)
     return texts;
 }
 
-/// Types over what a field holds.
-void retype(QWidget& screen, const char* name, const QString& text)
+/// Types over a name.
+void rename(QWidget& screen, const char* name)
 {
-    control<swTextBox>(screen, name).setFocus();
-    control<swTextBox>(screen, name).selectAll();
+    box(screen, "txtName").setFocus();
+    box(screen, "txtName").selectAll();
     press(Qt::Key_Delete);
-    typeText(text);
+    typeText(QLatin1String(name));
 }
 
-void save() { press(Qt::Key_S, Qt::AltModifier); }
-void remove() { press(Qt::Key_D, Qt::AltModifier); }
+void typeFields(const std::vector<const char*>& fields)
+{
+    for (const char* field : fields) {
+        typeText(QLatin1String(field));
+        press(Qt::Key_Return);
+    }
+}
 
 /// Opens a list screen and acts in it.
 template <class List>
@@ -65,23 +58,10 @@ void edit(qint32 id, std::function<void(Edit&)> act)
 
 } // namespace
 
-class tst_clients : public QObject
+class tst_clients : public ShopTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        shop = std::make_unique<Shop>();
-        prompts = std::make_unique<Prompts>();
-    }
-    void cleanup()
-    {
-        const bool met = prompts->allMet();
-        prompts.reset();
-        shop.reset();
-        QVERIFY(met);
-    }
-
     void addsClientsUntilEsc()
     {
         shop->addWorker(QStringLiteral("Yusuf"));
@@ -91,23 +71,20 @@ private Q_SLOTS:
                 QCOMPARE(title(form), QStringLiteral("Add New Client"));
                 QCOMPARE(control<forms::DatePicker>(form, "dateDob").value(), session.WorkingDate);
                 remove(); // a new record has nothing to delete
-                control<swTextBox>(form, "txtName").setFocus();
-                for (const char* typed : {"anita o'rao", "12 mill road", "pune", "mh", "9829000000"}) {
-                    typeText(QLatin1String(typed));
-                    press(Qt::Key_Return);
-                }
+                box(form, "txtName").setFocus();
+                typeFields({"anita o'rao", "12 mill road", "pune", "mh", "9829000000"});
                 QCOMPARE(focused(form), QStringLiteral("dateDob"));
                 control<forms::DatePicker>(form, "dateDob").setValue(QDate(1990, 5, 17));
                 press(Qt::Key_Return);
                 QCOMPARE(focused(form), QStringLiteral("Command1"));
                 onNextModal<frmEditClients>([](frmEditClients& next) {
                     for (const char* name : {"txtName", "txtAddress", "txtCity", "txtState", "txtMobile"})
-                        QCOMPARE(text(next, name), QString());
+                        QCOMPARE(box(next, name).Text(), QString());
                     QCOMPARE(control<forms::DatePicker>(next, "dateDob").value(), session.WorkingDate);
                     QCOMPARE(focused(next), QStringLiteral("txtName"));
                     save(); // without a name
                     for (const char* taken : {"ANITA O'RAO", "yusuf", "cash"}) {
-                        retype(next, "txtName", QLatin1String(taken));
+                        rename(next, taken);
                         press(Qt::Key_Tab);
                         save();
                         QCOMPARE(focused(next), QStringLiteral("txtName"));
@@ -144,13 +121,13 @@ private Q_SLOTS:
         inList<frmClients>([this](frmClients& list) {
             onNextModal<frmEditClients>([](frmEditClients& form) {
                 QCOMPARE(title(form), QStringLiteral("Edit Client Information"));
-                QCOMPARE(text(form, "txtName"), QStringLiteral("Bela"));
-                QCOMPARE(text(form, "txtMobile"), QStringLiteral("98290"));
-                retype(form, "txtName", QStringLiteral("BELA"));
+                QCOMPARE(box(form, "txtName").Text(), QStringLiteral("Bela"));
+                QCOMPARE(box(form, "txtMobile").Text(), QStringLiteral("98290"));
+                rename(form, "BELA");
                 save(); // another letter case alone is no other name
-                retype(form, "txtName", QStringLiteral("asha"));
+                rename(form, "asha");
                 save();
-                retype(form, "txtName", QStringLiteral("Chhaya"));
+                rename(form, "Chhaya");
                 save();
                 save(); // its own new name is not taken by another
                 press(Qt::Key_Escape);
@@ -251,10 +228,7 @@ private Q_SLOTS:
             onNextModal<frmEditWorker>([](frmEditWorker& form) {
                 QCOMPARE(title(form), QStringLiteral("Add New Worker"));
                 save();
-                for (const char* typed : {"yusuf", "a", "b", "c", "9"}) {
-                    typeText(QLatin1String(typed));
-                    press(Qt::Key_Return);
-                }
+                typeFields({"yusuf", "a", "b", "c", "9"});
                 QCOMPARE(focused(form), QStringLiteral("Command1"));
                 onNextModal<frmEditWorker>([](frmEditWorker&) { press(Qt::Key_Escape); });
                 press(Qt::Key_Return);
@@ -263,8 +237,8 @@ private Q_SLOTS:
             prompts->expect(QStringLiteral("New Worker Added."));
             press(Qt::Key_A, Qt::AltModifier);
             onNextModal<frmEditWorker>([](frmEditWorker& form) {
-                QCOMPARE(text(form, "txtCity"), QStringLiteral("B"));
-                retype(form, "txtMobile", QStringLiteral("77"));
+                QCOMPARE(box(form, "txtCity").Text(), QStringLiteral("B"));
+                box(form, "txtMobile").setText(QStringLiteral("77"));
                 save();
             });
             prompts->expect(QStringLiteral("Worker Information Updated."));
@@ -309,17 +283,17 @@ private Q_SLOTS:
         const qint32 id = shop->addWorker(QStringLiteral("Bb"));
         prompts->expect(QStringLiteral("Worker Information Updated."));
         edit<frmEditWorker>(id, [&](frmEditWorker& form) {
-            control<swTextBox>(form, "txtName").setText(name);
-            control<swTextBox>(form, "txtAddress").setText(name);
+            box(form, "txtName").setText(name);
+            box(form, "txtAddress").setText(name);
             save();
         });
         shop->reopen();
         inList<frmWorkers>([&](frmWorkers& list) {
-            control<swTextBox>(list, "txtSearch").setText(name);
+            box(list, "txtSearch").setText(name);
             QCOMPARE(control<forms::ListBox>(list, "lstSummary").Text(), name);
             onNextModal<frmEditWorker>([&](frmEditWorker& form) {
-                QCOMPARE(text(form, "txtName"), name);
-                QCOMPARE(text(form, "txtAddress"), name);
+                QCOMPARE(box(form, "txtName").Text(), name);
+                QCOMPARE(box(form, "txtAddress").Text(), name);
             });
             press(Qt::Key_Return);
         });
@@ -336,10 +310,6 @@ private Q_SLOTS:
             QVERIFY(list.isVisible());
         });
     }
-
-private:
-    std::unique_ptr<Shop> shop;
-    std::unique_ptr<Prompts> prompts;
 };
 
 QTEST_MAIN(tst_clients)

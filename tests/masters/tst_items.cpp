@@ -2,22 +2,14 @@
 #include "masters/frmEditItem.h"
 #include "masters/frmItems.h"
 #include "platform/forms/ListBox.h"
-#include "support/KeysTo.h"
-#include "support/Modal.h"
-#include "support/Prompts.h"
-#include "support/Shop.h"
-#include "ui/swTextBox.h"
+#include "support/ShopTest.h"
 #include "ui/swTextBoxMultiLine.h"
 
 #include <QTest>
 
 namespace {
 
-swTextBox& box(QWidget& form, const char* name) { return control<swTextBox>(form, name); }
 swTextBoxMultiLine& details(QWidget& form) { return control<swTextBoxMultiLine>(form, "txtItemDetails"); }
-QString focused(QWidget& form) { return form.focusWidget() ? form.focusWidget()->objectName() : QString(); }
-void save() { press(Qt::Key_S, Qt::AltModifier); }
-void remove() { press(Qt::Key_D, Qt::AltModifier); }
 
 void edit(qint32 id, std::function<void(frmEditItem&)> act)
 {
@@ -32,23 +24,10 @@ QVariant stored(qint32 id, const char* field)
 
 } // namespace
 
-class tst_items : public QObject
+class tst_items : public ShopTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init()
-    {
-        shop = std::make_unique<Shop>();
-        prompts = std::make_unique<Prompts>();
-    }
-    void cleanup()
-    {
-        const bool met = prompts->allMet();
-        prompts.reset();
-        shop.reset();
-        QVERIFY(met);
-    }
-
     void addsAnItemByKeysAlone()
     {
         shop->addItem(QStringLiteral("Trouser"));
@@ -218,10 +197,6 @@ private Q_SLOTS:
         QCOMPARE(Shop::count(QStringLiteral("Select * from Items")), 1);
         QCOMPARE(stored(used, "Name").toString(), QStringLiteral("SHIRT"));
     }
-
-private:
-    std::unique_ptr<Shop> shop;
-    std::unique_ptr<Prompts> prompts;
 };
 
 QTEST_MAIN(tst_items)

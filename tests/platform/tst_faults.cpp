@@ -228,6 +228,7 @@ void tst_faults::damagedPage()
         while (!rows.AtEOF())
             rows.MoveNext();
     });
+    QVERIFY(!rows.State());
     QCOMPARE(contents(m_path), bytes);
 }
 

@@ -18,17 +18,6 @@ constexpr int busyTimeoutMs = 5000;
 
 QString engineText(sqlite3* database) { return QString::fromUtf8(sqlite3_errmsg(database)); }
 
-/// Commits that survive a power cut; read back, as the engine goes on in silence when it cannot have its way.
-void makeDurable(Connection::Private& d)
-{
-    const bool truncate =
-        d.firstValue(QStringLiteral("PRAGMA journal_mode=TRUNCATE")).toString() == QLatin1String("truncate");
-    d.run(QStringLiteral("PRAGMA synchronous=FULL"));
-    constexpr int full = 2;
-    if (!truncate || d.firstValue(QStringLiteral("PRAGMA synchronous")).toInt() != full)
-        throw DatabaseError(QStringLiteral("The journal cannot be made safe."));
-}
-
 } // namespace
 
 sqlite3* Connection::Private::openHandle() const
@@ -86,6 +75,16 @@ QVariant Connection::Private::firstValue(const QString& sql)
     return step(statement) ? statement.column(0) : QVariant();
 }
 
+void Connection::Private::makeDurable()
+{
+    const bool truncate =
+        firstValue(QStringLiteral("PRAGMA journal_mode=TRUNCATE")).toString() == u"truncate";
+    run(QStringLiteral("PRAGMA synchronous=FULL"));
+    constexpr int full = 2;
+    if (!truncate || firstValue(QStringLiteral("PRAGMA synchronous")).toInt() != full)
+        throw DatabaseError(QStringLiteral("The journal cannot be made safe."));
+}
+
 Connection::Connection()
     : d(std::make_unique<Private>())
 {
@@ -117,7 +116,8 @@ void Connection::open(const QString& path, const QString& password, Mode mode)
 
 void Connection::openFile(const QString& path, const QString& password, int flags)
 {
-    const int code = sqlite3_open_v2(path.toUtf8().constData(), &d->database, flags, nullptr);
+    const int code =
+        sqlite3_open_v2(path.toUtf8().constData(), &d->database, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     try {
         if (code != SQLITE_OK)
             throw DatabaseError(engineText(d->database));
@@ -131,7 +131,7 @@ void Connection::openFile(const QString& path, const QString& password, int flag
         // Only this first read proves the password.
         d->firstValue(QStringLiteral("SELECT count(*) FROM sqlite_master"));
         if (flags & SQLITE_OPEN_READWRITE)
-            makeDurable(*d);
+            d->makeDurable();
         d->run(QStringLiteral("PRAGMA cache_size=-65536"));
         registerFunctions(d->database);
     } catch (const DatabaseError& error) {

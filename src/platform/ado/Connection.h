@@ -53,10 +53,9 @@ public:
     /// The engine's handle, for code that knows what it does (backup, benches, tests). Null when not open.
     sqlite3* handle() const;
 
-    struct Private;
-
 private:
     friend class Recordset;
+    struct Private;
     void openFile(const QString& path, const QString& password, int flags);
 
     std::unique_ptr<Private> d;

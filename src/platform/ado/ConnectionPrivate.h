@@ -33,6 +33,9 @@ struct Connection::Private
     void run(const QString& sql);
     /// The first value of the first row; nothing where there is no row.
     QVariant firstValue(const QString& sql);
+    /// Makes commits survive a power cut. Read back, as the engine goes on in silence when it cannot have its
+    /// way.
+    void makeDurable();
 
 private:
     [[noreturn]] void fail(const QString& text);

@@ -38,8 +38,6 @@ int findColumn(const Columns& columns, int hidden, Text name)
 
 } // namespace
 
-bool Row::isChanged() const { return std::find(changed.begin(), changed.end(), true) != changed.end(); }
-
 // The rows of the query
 
 void Recordset::Private::requireOpen() const
@@ -71,10 +69,17 @@ void Recordset::Private::runQuery()
     blockIsWhole = false;
     blockHasFirst = true;
     countInFile.reset();
-    at = At::Block;
+    at = At::Unread;
+    current.reset();
     std::erase_if(added, [](const RowPtr& row) { return row->key != 0; });
     statement = base().prepare(words.sql);
     columns = statement->columns();
+}
+
+void Recordset::Private::readBlock()
+{
+    if (at != At::Unread)
+        return;
     while (block.size() < rowsReadAhead && statement) {
         if (RowPtr row = nextFromFile())
             block.push_back(std::move(row));
@@ -106,7 +111,9 @@ RowPtr Recordset::Private::nextFromFile()
         if (base().step(*statement))
             return readRow(*statement);
     } catch (...) {
+        // Half a result must not pass for the whole.
         statement.reset();
+        close();
         throw;
     }
     endStatement();
@@ -120,7 +127,6 @@ RowPtr Recordset::Private::readRow(const Prepared& source) const
     auto row = std::make_shared<Row>();
     const size_t visible = columns->size() - static_cast<size_t>(hiddenColumns);
     row->values.reserve(visible);
-    row->changed.resize(visible);
     if (hiddenColumns > 0)
         row->key = source.column(0).toLongLong();
     for (size_t i = 0; i < visible; ++i)
@@ -134,11 +140,18 @@ void Recordset::Private::endStatement()
         base().statements.giveBack(std::move(statement));
 }
 
+void Recordset::Private::leaveQuery()
+{
+    endStatement();
+    blockHasFirst = blockHasFirst && at != At::Unread;
+}
+
 void Recordset::Private::takeInRest(const QString& table)
 {
     if (!statement ||
         (!table.isEmpty() && !words.table.isEmpty() && table.compare(words.table, Qt::CaseInsensitive) != 0))
         return;
+    readBlock();
     if (at == At::Stream) {
         block.assign(1, current);
         blockHasFirst = false;
@@ -170,10 +183,12 @@ void Recordset::Private::standOnAdded(size_t position)
 
 void Recordset::Private::moveFirst()
 {
+    readBlock();
     const bool blockServes = blockHasFirst && (blockIsWhole || at == At::Block);
-    if (!blockServes)
+    if (!blockServes) {
         runQuery();
-    else if (!block.empty())
+        readBlock();
+    } else if (!block.empty())
         standOn(At::Block, 0, block.front());
     else
         standOnAdded(0);
@@ -181,7 +196,9 @@ void Recordset::Private::moveFirst()
 
 void Recordset::Private::moveNext()
 {
+    readBlock();
     switch (at) {
+    case At::Unread:
     case At::End:
         throw NoCurrentRecordError();
     case At::Added:
@@ -209,7 +226,7 @@ void Recordset::Private::moveNext()
 void Recordset::Private::moveLast()
 {
     if (!added.empty()) {
-        endStatement();
+        leaveQuery();
         standOnAdded(added.size() - 1);
         return;
     }
@@ -222,7 +239,7 @@ void Recordset::Private::moveLast()
             standOn(At::Block, block.size() - 1, block.back());
         return;
     }
-    endStatement();
+    leaveQuery();
     auto turned = base().prepare(words.reversed);
     RowPtr last = base().step(*turned) ? readRow(*turned) : nullptr;
     base().statements.giveBack(std::move(turned));
@@ -231,6 +248,7 @@ void Recordset::Private::moveLast()
 
 int Recordset::Private::count()
 {
+    readBlock();
     if (blockIsWhole && blockHasFirst)
         return static_cast<int>(block.size() + added.size());
     if (!countInFile) {
@@ -249,14 +267,14 @@ int Recordset::Private::count()
 const QVariant& Recordset::Private::value(int column)
 {
     const auto place = static_cast<size_t>(column);
-    if (current->unread && !current->changed[place]) {
+    if (current->unread && !current->isChanged(place)) {
         auto rereading = base().prepare(QStringLiteral("SELECT rowid, * FROM ") + quotedName(words.table) +
                                         QStringLiteral(" WHERE rowid=?"));
         rereading->bind(1, QVariant(current->key));
         if (base().step(*rereading)) {
             RowPtr stored = readRow(*rereading);
             for (size_t i = 0; i < current->values.size(); ++i) {
-                if (!current->changed[i])
+                if (!current->isChanged(i))
                     current->values[i] = std::move(stored->values[i]);
             }
         }
@@ -271,6 +289,7 @@ void Recordset::Private::setValue(int column, const QVariant& stored)
     if (!current)
         throw NoCurrentRecordError();
     current->values[static_cast<size_t>(column)] = stored;
+    current->changed.resize(current->values.size());
     current->changed[static_cast<size_t>(column)] = true;
     if (std::find(unwritten.begin(), unwritten.end(), current) == unwritten.end())
         unwritten.push_back(current);
@@ -280,9 +299,9 @@ void Recordset::Private::write(const RowPtr& row)
 {
     if (row->key == 0)
         insert(*row);
-    else if (row->isChanged())
+    else if (!row->changed.empty())
         update(*row);
-    std::fill(row->changed.begin(), row->changed.end(), false);
+    row->changed.clear();
     std::erase(unwritten, row);
 }
 
@@ -290,7 +309,7 @@ void Recordset::Private::bindChanged(Prepared& target, const Row& row) const
 {
     int parameter = 0;
     for (size_t i = 0; i < row.values.size(); ++i) {
-        if (row.changed[i])
+        if (row.isChanged(i))
             target.bind(++parameter, row.values[i]);
     }
 }
@@ -300,7 +319,7 @@ void Recordset::Private::insert(Row& row)
     QStringList names;
     QStringList marks;
     for (size_t i = 0; i < row.values.size(); ++i) {
-        if (!row.changed[i])
+        if (!row.isChanged(i))
             continue;
         names << quotedName((*columns)[i + static_cast<size_t>(hiddenColumns)].name);
         marks << QStringLiteral("?");
@@ -322,7 +341,7 @@ void Recordset::Private::update(Row& row)
 {
     QStringList terms;
     for (size_t i = 0; i < row.values.size(); ++i) {
-        if (row.changed[i])
+        if (row.isChanged(i))
             terms << quotedName((*columns)[i + static_cast<size_t>(hiddenColumns)].name) +
                          QStringLiteral("=?");
     }
@@ -376,6 +395,7 @@ int Recordset::RecordCount()
 bool Recordset::AtEOF()
 {
     d->requireOpen();
+    d->readBlock();
     return d->at == Private::At::End;
 }
 
@@ -422,6 +442,7 @@ Field Recordset::fieldAt(int column, const QString& name)
         throw DatabaseError(
             QStringLiteral("Item cannot be found in the collection corresponding to the requested name: ") +
             name);
+    d->readBlock();
     if (!d->current)
         throw NoCurrentRecordError();
     return Field(*this, column);
@@ -450,10 +471,9 @@ void Recordset::AddNew()
 {
     d->requireOpen();
     d->requireWritable();
-    d->endStatement();
+    d->leaveQuery();
     auto row = std::make_shared<Row>();
     row->values.resize(static_cast<size_t>(FieldCount()));
-    row->changed.resize(row->values.size());
     d->unwritten.push_back(row);
     d->added.push_back(row);
     d->standOnAdded(d->added.size() - 1);
@@ -462,6 +482,7 @@ void Recordset::AddNew()
 void Recordset::Update()
 {
     d->requireOpen();
+    d->readBlock();
     if (!d->current)
         throw NoCurrentRecordError();
     const RowPtr row = d->current;

@@ -15,9 +15,9 @@ struct Row
     qint64 key = 0;      ///< the engine's row number; 0 for a row not yet written
     bool unread = false; ///< defaults of a row just added are read when one is asked for
     std::vector<QVariant> values;
-    std::vector<bool> changed;
+    std::vector<bool> changed; ///< empty while nothing is
 
-    bool isChanged() const;
+    bool isChanged(size_t column) const { return !changed.empty() && changed[column]; }
 };
 
 using RowPtr = std::shared_ptr<Row>;
@@ -30,9 +30,9 @@ struct Recordset::Private
     {
     }
 
-    /// Where the cursor stands. The rows of a result lie in `block` as far as they were read ahead; a long
-    /// result goes on in `statement`, row by row.
-    enum class At { Block, Stream, Last, Added, End };
+    /// Where the cursor stands; nothing is read before somebody asks where that is. The rows of a result lie
+    /// in `block` as far as they were read ahead; a long result goes on in `statement`, row by row.
+    enum class At { Unread, Block, Stream, Last, Added, End };
 
     Connection& connection;
     QString command;
@@ -61,12 +61,16 @@ struct Recordset::Private
     int columnIndex(QStringView name) const;
     int columnIndex(QLatin1StringView name) const;
 
-    /// Runs the query and reads its first rows.
+    /// Makes the query ready to be read from its first row on.
     void runQuery();
+    /// Reads the first rows, if that is still to be done.
+    void readBlock();
     void close();
     RowPtr nextFromFile();
     RowPtr readRow(const Prepared& source) const;
     void endStatement();
+    /// Ends the reading for a cursor that goes elsewhere: to the last row, to a new one.
+    void leaveQuery();
     /// Reads all rows still to come, if they come from the table; they stay as they are now, whatever is
     /// written next.
     void takeInRest(const QString& table);

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "support/KeysTo.h"
+#include "support/Modal.h"
+#include "support/Prompts.h"
+#include "support/Shop.h"
+#include "ui/swTextBox.h"
+
+#include <QObject>
+#include <memory>
+
+/// A test whose functions each begin in a fresh shop and must meet every prompt and screen that they expect.
+class ShopTest : public QObject
+{
+    Q_OBJECT
+protected:
+    std::unique_ptr<Shop> shop;
+    std::unique_ptr<Prompts> prompts;
+
+    /// Lays what all functions of the test need.
+    virtual void lay() {}
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+};
+
+inline swTextBox& box(QWidget& screen, const char* name) { return control<swTextBox>(screen, name); }
+/// The name of the control that has the focus.
+QString focused(const QWidget& screen);
+/// Press "&Save" and "&Delete".
+void save();
+void remove();
