@@ -121,12 +121,14 @@ void frmMsg::layOut()
     for (QPushButton* each : {ui->cmdOK, ui->cmdYes, ui->cmdNo})
         each->resize(button);
 
-    const int formHeight = button.height() + label.height() + twips(1500);
+    constexpr int titleBar = twips(420); // the form's height counts it
+    const int formHeight = button.height() + label.height() + twips(1500) - titleBar;
     const int formWidth = qMax(label.width() + twips(500), twips(4650));
     const int top = label.height() + twips(900);
     const int last = formWidth - (button.width() + twips(200));
     setFixedSize(formWidth, formHeight);
-    ui->Shape1->resize(formWidth, ui->Shape1->height());
+    const int margin = ui->Shape1->x();
+    ui->Shape1->resize(formWidth - 2 * margin, top - 2 * margin);
     ui->cmdOK->move(last, top);
     ui->cmdNo->move(last, top);
     ui->cmdYes->move(last - button.width() - twips(50), top);

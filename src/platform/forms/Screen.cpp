@@ -136,6 +136,8 @@ void Screen::present()
     }
     if (!focusWidget())
         focusNextPrevChild(true);
+    if (!testAttribute(Qt::WA_Resized))
+        adjustSize();
     resize(size().boundedTo(screen()->availableSize() * largestShare));
     show();
     activateWindow();
