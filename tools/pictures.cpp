@@ -1,0 +1,163 @@
+// Renders every screen, filled with believable data, to PNG: `pictures <folder> [font folder]`.
+#include "DemoShop.h"
+#include "accounts/frmAccountsList.h"
+#include "accounts/frmEditAccount.h"
+#include "accounts/frmTransiction.h"
+#include "core/DE.h"
+#include "core/Lookups.h"
+#include "core/Session.h"
+#include "core/frmAbout.h"
+#include "core/frmLogin.h"
+#include "core/frmMain.h"
+#include "core/frmMasters.h"
+#include "core/frmMenu.h"
+#include "core/frmShopINFO.h"
+#include "jobcards/JobCard.h"
+#include "jobcards/frmAddItem.h"
+#include "jobcards/frmEditJOB.h"
+#include "masters/frmClients.h"
+#include "masters/frmEditClients.h"
+#include "masters/frmEditItem.h"
+#include "masters/frmEditWorker.h"
+#include "masters/frmItems.h"
+#include "masters/frmWorkers.h"
+#include "platform/forms/ListBox.h"
+#include "platform/forms/Theme.h"
+#include "ui/ModOtherFUN.h"
+#include "ui/frmSelectDate.h"
+#include "ui/frmSelectFile.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTimer>
+
+namespace {
+
+using Prepare = std::function<void(forms::Screen&)>;
+
+QDir folder;
+
+/// Calls `open`, which shows a screen modally; takes the picture of the screen in front, and closes it.
+void picture(const char* name, const std::function<void()>& open, const Prepare& prepare = {})
+{
+    constexpr int settle = 250; // ms: fonts laid out, activation done
+    QTimer::singleShot(settle, [=] {
+        forms::Screen* screen = forms::Screen::front();
+        if (!screen)
+            qFatal("%s: no screen came up", name);
+        if (prepare)
+            prepare(*screen);
+        QTimer::singleShot(settle, screen, [=] {
+            screen->grab().save(folder.filePath(QString::fromLatin1(name) + QStringLiteral(".png")));
+            while (QWidget* popup = QApplication::activePopupWidget())
+                popup->close();
+            screen->unload();
+        });
+    });
+    open();
+}
+
+void selectInList(forms::Screen& screen)
+{
+    if (auto* list = screen.findChild<forms::ListBox*>(QStringLiteral("lstSummary")))
+        list->setListIndex(3);
+}
+
+/// The last of the showpiece's lines, in the line editor.
+void editLine()
+{
+    JobCard card;
+    card.CurrentJobID = demo::showpiece;
+    card.LoadLines();
+    frmAddItem().EditItemDetails(card.JobRows, GetAccountID(QStringLiteral("Rahul Mehta")), 2);
+}
+
+void message(const char* text, int kind, const char* language)
+{
+    session.Language = QString::fromLatin1(language);
+    SetSetting(0, session.Language);
+    ShowMsg(QString::fromLatin1(text), kind);
+    session.Language = QStringLiteral("English");
+    SetSetting(0, session.Language);
+}
+
+void takeAll()
+{
+    picture("masters", [] { frmMasters().showModal(); });
+    picture("reports", [] { frmMenu().showModal(); });
+    picture("about", [] { frmAbout().showModal(); });
+    picture("login", [] { frmLogin().Login(); });
+    picture("shop-info", [] { frmShopINFO().showModal(); });
+    picture(
+        "clients", [] { frmClients().showModal(); }, selectInList);
+    picture("client",
+            [] { frmEditClients().Edit(static_cast<qint16>(GetAccountID(QStringLiteral("Rahul Mehta")))); });
+    picture(
+        "workers", [] { frmWorkers().showModal(); }, selectInList);
+    picture("worker",
+            [] { frmEditWorker().Edit(static_cast<qint16>(GetAccountID(QStringLiteral("Mohan Das")))); });
+    picture(
+        "items", [] { frmItems().showModal(); }, selectInList);
+    picture("item", [] { frmEditItem().Edit(1); });
+    picture("accounts", [] { frmAccountsList().showModal(); });
+    picture("account", [] { frmEditAccount().ShowEdit(4); });
+    picture("voucher", [] {
+        bool saved = false;
+        frmTransiction().ShowAddNew(QStringLiteral("Rahul Mehta"), saved);
+    });
+    picture("job-card", [] { frmEditJOB().ShowEdit(demo::showpiece); });
+    picture("new-job-card", [] { frmEditJOB().ShowAddNew(); });
+    picture("item-line", editLine);
+    picture("select-date", [] {
+        QDate from(2024, 2, 1);
+        QDate to(2024, 2, 29);
+        frmSelectDate().SelectDate(from, to, 2);
+    });
+    picture("select-file", [] { frmSelectFile().SelFile(); });
+    picture("notice", [] { message("New Job Created.", 1, "English"); });
+    picture("question", [] { message("Are you sure to exit?", 2, "English"); });
+    picture("notice-hindi", [] { message("New Job Created.", 1, "Hindi"); });
+    picture("question-hindi", [] {
+        message("This Job has been registered.\r\nWould you like to Inform Client via SMS?", 2, "Hindi");
+    });
+}
+
+/// The screen that the pictures are taken on: that of a common counter computer, unless the caller chose a
+/// platform.
+void chooseScreen(const QTemporaryDir& temporary)
+{
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return;
+    QFile config(temporary.filePath(QStringLiteral("screen.json")));
+    if (!config.open(QIODevice::WriteOnly))
+        qFatal("cannot write %s", qPrintable(config.fileName()));
+    config.write(
+        R"({"screens":[{"name":"counter","x":0,"y":0,"width":1366,"height":768,"logicalDpi":96,"dpr":1}]})");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + config.fileName().toLocal8Bit());
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QTemporaryDir temporary;
+    chooseScreen(temporary);
+    QApplication application(argc, argv);
+    QApplication::setApplicationVersion(QStringLiteral("8.0"));
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() < 3)
+        qFatal("usage: pictures <folder> <program folder>");
+    folder.setPath(arguments[1]);
+    folder.mkpath(QStringLiteral("."));
+    const QString program = arguments[2];
+    forms::applyTheme(application, program + QStringLiteral("/fonts"));
+    demo::layShop(temporary.path());
+    QFile::copy(program + QStringLiteral("/Lang.mdb"), session.languageDatabasePath());
+    QTimer::singleShot(0, [] {
+        takeAll();
+        DE.close();
+        QCoreApplication::quit();
+    });
+    return QApplication::exec();
+}
