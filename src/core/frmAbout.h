@@ -11,6 +11,7 @@ class frmAbout;
 /// What the program is and which database it runs on.
 class frmAbout : public forms::Screen
 {
+    Q_OBJECT
 public:
     frmAbout();
     ~frmAbout() override;

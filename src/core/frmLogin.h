@@ -11,6 +11,7 @@ class frmLogin;
 /// Asks for the one user name and password of the shop (settings 8 and 9).
 class frmLogin : public forms::Screen
 {
+    Q_OBJECT
 public:
     frmLogin();
     ~frmLogin() override;

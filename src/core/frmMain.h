@@ -13,6 +13,7 @@ class frmMain;
 /// The main screen: the shop's commands, its working date and its wall. The program ends with it.
 class frmMain : public forms::Screen
 {
+    Q_OBJECT
 public:
     frmMain();
     ~frmMain() override;

@@ -11,6 +11,7 @@ class frmMasters;
 /// The way to the shop's lists: clients, workers, ledger accounts, items.
 class frmMasters : public MenuScreen
 {
+    Q_OBJECT
 public:
     frmMasters();
     ~frmMasters() override;

@@ -11,6 +11,7 @@ class frmMenu;
 /// The way to the reports. A report's command is alive once its screen is there.
 class frmMenu : public MenuScreen
 {
+    Q_OBJECT
 public:
     frmMenu();
     ~frmMenu() override;

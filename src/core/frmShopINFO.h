@@ -11,6 +11,7 @@ class frmShopINFO;
 /// The shop's profile, printed on every paper, and its one login account.
 class frmShopINFO : public forms::Screen
 {
+    Q_OBJECT
 public:
     frmShopINFO();
     ~frmShopINFO() override;
