@@ -22,10 +22,8 @@ bool frmMain::start()
 {
     if (values::Val(GetSetting(7, QStringLiteral("0"))) == 1 && !frmLogin().Login())
         return false;
-    // Lives as long as the program: it ends with this screen.
-    static std::unique_ptr<frmMain> screen;
-    screen = std::make_unique<frmMain>();
-    connect(qApp, &QCoreApplication::aboutToQuit, [] { screen.reset(); });
+    auto* screen = new frmMain;
+    connect(qApp, &QCoreApplication::aboutToQuit, screen, [screen] { delete screen; });
     screen->showModeless();
     return true;
 }

@@ -86,7 +86,7 @@ void tst_main::firstRunShowsTheShop()
     QVERIFY(main);
     QCOMPARE(control<QLabel>(*main, "lblShopName").text(), QStringLiteral("KORVANE"));
     QVERIFY(session.ShopName.isEmpty());
-    main->unload();
+    delete main;
 }
 
 void tst_main::startIsRefused_data()
@@ -139,7 +139,7 @@ void tst_main::picturesFolderCannotBeMade()
     QVERIFY(blocker.open(QIODevice::WriteOnly));
     blocker.close();
     QVERIFY(Main());
-    forms::Screen::front()->unload();
+    delete forms::Screen::front();
 }
 
 void tst_main::wallpaperThatIsNoPicture()
