@@ -81,7 +81,8 @@ void tst_main::firstRunShowsTheShop()
     QVERIFY(QFile::exists(session.databasePath()));
     QVERIFY(!QFile::exists(session.databasePath() + QStringLiteral(".new")));
     QVERIFY(QFileInfo(session.imagesFolder()).isDir());
-    QCOMPARE(Shop::value(QStringLiteral("Select Name from Shop where id=1")).toString(), QStringLiteral("KORVANE"));
+    QCOMPARE(Shop::value(QStringLiteral("Select Name from Shop where id=1")).toString(),
+             QStringLiteral("KORVANE"));
     auto* main = qobject_cast<frmMain*>(forms::Screen::front());
     QVERIFY(main);
     QCOMPARE(control<QLabel>(*main, "lblShopName").text(), QStringLiteral("KORVANE"));
@@ -94,7 +95,8 @@ void tst_main::startIsRefused_data()
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<QString>("version");
     QTest::newRow("empty") << QByteArray() << QString();
-    QTest::newRow("plain text") << QByteArray("These are the shop's clients: Asha, Ravi.").repeated(200) << QString();
+    QTest::newRow("plain text") << QByteArray("These are the shop's clients: Asha, Ravi.").repeated(200)
+                                << QString();
     QTest::newRow("older version") << QByteArray() << QStringLiteral("11");
 }
 
@@ -120,7 +122,9 @@ void tst_main::startIsRefused()
 
     if (version.isEmpty()) {
         // The engine's words differ by fault: what counts is that the file is named.
-        onNextModal<QMessageBox>([](QMessageBox& box) { QVERIFY2(box.text().contains(session.databasePath()), qPrintable(box.text())); });
+        onNextModal<QMessageBox>([](QMessageBox& box) {
+            QVERIFY2(box.text().contains(session.databasePath()), qPrintable(box.text()));
+        });
         m_prompts.reset();
     }
     QVERIFY(!Main());
@@ -292,7 +296,8 @@ void tst_main::passwordLock()
         m_prompts->expect(QStringLiteral("Shop Info Updated."));
         press(Qt::Key_S, Qt::AltModifier);
     });
-    QCOMPARE(GetSetting(7, QString()) + GetSetting(8, QString()) + GetSetting(9, QString()), QStringLiteral("1ashaneedle"));
+    QCOMPARE(GetSetting(7, QString()) + GetSetting(8, QString()) + GetSetting(9, QString()),
+             QStringLiteral("1ashaneedle"));
     edit([this](frmShopINFO& screen) {
         QCOMPARE(control<QLineEdit>(screen, "txtPassword").text(), QStringLiteral("needle"));
         control<QCheckBox>(screen, "Check1").click();
@@ -300,7 +305,8 @@ void tst_main::passwordLock()
         m_prompts->expect(QStringLiteral("Shop Info Updated."));
         press(Qt::Key_S, Qt::AltModifier);
     });
-    QCOMPARE(GetSetting(7, QString()) + GetSetting(8, QString()) + GetSetting(9, QString()), QStringLiteral("0"));
+    QCOMPARE(GetSetting(7, QString()) + GetSetting(8, QString()) + GetSetting(9, QString()),
+             QStringLiteral("0"));
 }
 
 QTEST_MAIN(tst_main)
