@@ -6,6 +6,7 @@
 #include "core/DE.h"
 #include "core/Lookups.h"
 #include "core/Session.h"
+#include "core/Settings.h"
 #include "core/frmAbout.h"
 #include "core/frmLogin.h"
 #include "core/frmMain.h"
@@ -103,7 +104,7 @@ void takeAll()
     picture("accounts", [] { frmAccountsList().showModal(); });
     picture("account", [] { frmEditAccount().ShowEdit(4); });
     picture("voucher", [] {
-        bool saved = false;
+        qint16 saved = 0;
         frmTransiction().ShowAddNew(QStringLiteral("Rahul Mehta"), saved);
     });
     picture("job-card", [] { frmEditJOB().ShowEdit(demo::showpiece); });
@@ -144,6 +145,7 @@ int main(int argc, char* argv[])
     const QTemporaryDir temporary;
     chooseScreen(temporary);
     QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationVersion(QStringLiteral("8.0"));
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 3)
