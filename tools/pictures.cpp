@@ -122,6 +122,11 @@ void takeAll()
     picture("question-hindi", [] {
         message("This Job has been registered.\r\nWould you like to Inform Client via SMS?", 2, "Hindi");
     });
+    // Last: the program ends with its main screen.
+    picture("main", [] {
+        frmMain screen;
+        screen.showModal();
+    });
 }
 
 /// The screen that the pictures are taken on: that of a common counter computer, unless the caller chose a

@@ -192,7 +192,7 @@ void tst_main::workingDate()
         QCOMPARE(GetSetting(1, QStringLiteral("never")), QStringLiteral("never"));
         press(Qt::Key_F2);
         QVERIFY(picker.hasFocus());
-        press(Qt::Key_Up);
+        press(Qt::Key_Down);
         QCOMPARE(session.WorkingDate, picker.value());
         QVERIFY(session.WorkingDate != QDate(2024, 2, 29));
         QCOMPARE(GetSetting(1, QString()), session.WorkingDate.toString(Qt::ISODate));

@@ -6,6 +6,12 @@
 
 namespace forms {
 
+namespace {
+
+constexpr int rowHeight = 32;
+
+} // namespace
+
 class ListView::Model : public QAbstractTableModel
 {
 public:
@@ -31,6 +37,8 @@ public:
             return m_rows[size_t(index.row())].cells.value(index.column());
         if (role == Qt::TextAlignmentRole)
             return alignment(index.column());
+        if (role == Qt::SizeHintRole)
+            return QSize(0, rowHeight);
         return {};
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
