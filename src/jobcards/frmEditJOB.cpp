@@ -43,6 +43,7 @@ frmEditJOB::frmEditJOB(QWidget* parent)
     for (forms::ComboBox* combo : {ui->cmbClient, ui->cmbAccount}) {
         onGotFocus(combo, [combo] {
             ComboSyncIndex(*combo);
+            combo->select(0, int(combo->text().size()));
             ComboDropDown(*combo);
         });
     }
@@ -86,6 +87,8 @@ void frmEditJOB::Form_Load()
     ui->lvItems->Clear();
     ui->picCancel->hide();
     m_card = JobCard();
+    CardChanged = false;
+    m_anotherCard = false;
     swSMS1 = std::make_unique<swSMS>(this);
     swSMS1->setObjectName(QStringLiteral("swSMS1"));
 }
@@ -104,20 +107,25 @@ void frmEditJOB::fillClients()
 
 void frmEditJOB::ShowAddNew()
 {
-    do {
-        m_anotherCard = false;
-        openWith([this] { showNewCard(); });
-    } while (m_anotherCard);
+    openWith([this] { showNewCard(); });
+    showCardsAskedFor();
 }
 
 bool frmEditJOB::ShowEdit(qint32 JobID)
 {
-    m_anotherCard = false;
     openWith([this, JobID] { showStoredCard(JobID); });
-    const bool changed = CardChanged;
-    if (m_anotherCard)
-        ShowAddNew();
-    return changed;
+    showCardsAskedFor();
+    return CardChanged;
+}
+
+/// One new card after the other, each on a fresh screen, for as long as the operator asks for the next.
+void frmEditJOB::showCardsAskedFor()
+{
+    for (bool another = m_anotherCard; another;) {
+        frmEditJOB fresh;
+        fresh.openWith([&fresh] { fresh.showNewCard(); });
+        another = fresh.m_anotherCard;
+    }
 }
 
 /// Shows the screen on the card that `fill` puts on it. A card that cannot be put on it isn't shown.
@@ -194,7 +202,6 @@ void frmEditJOB::showStoredCard(qint32 JobID)
 
 void frmEditJOB::showHead(const JobCardHead& head)
 {
-    CardChanged = false;
     ui->picBanner->setText(QStringLiteral("Welcome to ") + session.ShopName);
     ui->JobDate->setValue(head.Date);
     ui->cmbClient->setText(head.Client);

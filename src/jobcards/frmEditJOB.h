@@ -42,6 +42,7 @@ protected:
     void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
 
 private:
+    void showCardsAskedFor();
     void openWith(const std::function<void()>& fill);
     void showNewCard();
     void showStoredCard(qint32 JobID);

@@ -152,17 +152,9 @@ void tst_swSMS::failuresAreToldOnce()
     m_prompts->expect(QStringLiteral("No such file or directory"));
     sender()->SendSMS(-5, QStringLiteral("98"), QStringLiteral("nobody hears"));
 
-    // A modem that goes when all is sent is nobody's business.
+    // A modem that goes in the middle of a message is told of once, however often the system reports it.
     auto modem = std::make_unique<Modem>(device(QStringLiteral("ttyUSB0")));
     swSMS* sms = sender();
-    sms->SendSMS(1, QStringLiteral("98"), QStringLiteral("short"));
-    QTRY_VERIFY(modem->heard().endsWith("short\x1a"));
-    modem.reset();
-    QTRY_VERIFY(!sms->isOpen());
-
-    // One that goes in the middle of a message is told of once, however often the system reports it.
-    QVERIFY(QFile::remove(device(QStringLiteral("ttyUSB0"))));
-    modem = std::make_unique<Modem>(device(QStringLiteral("ttyUSB0")));
     sms->SendSMS(1, QStringLiteral("98"), QString(200000, QLatin1Char('x')));
     QVERIFY(sms->isOpen());
     m_prompts->expect(QStringLiteral("Input/output error"));
