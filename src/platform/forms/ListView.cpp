@@ -8,7 +8,7 @@ namespace forms {
 
 namespace {
 
-constexpr int rowHeight = 32;
+constexpr int heightOfRow = 32;
 
 } // namespace
 
@@ -38,7 +38,7 @@ public:
         if (role == Qt::TextAlignmentRole)
             return alignment(index.column());
         if (role == Qt::SizeHintRole)
-            return QSize(0, rowHeight);
+            return QSize(0, heightOfRow);
         return {};
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
