@@ -8,10 +8,7 @@
 #include "jobcards/frmAddItem.h"
 #include "platform/forms/ComboBox.h"
 #include "platform/values/Errors.h"
-#include "support/KeysTo.h"
-#include "support/Modal.h"
-#include "support/Prompts.h"
-#include "support/Shop.h"
+#include "support/ShopTest.h"
 #include "ui/frmSelectFile.h"
 #include "ui/swTextBoxMultiLine.h"
 
@@ -151,13 +148,10 @@ QStringList imageFiles() { return QDir(session.imagesFolder()).entryList(QDir::F
 
 } // namespace
 
-class tst_frmAddItem : public QObject
+class tst_frmAddItem : public ShopTest
 {
     Q_OBJECT
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void aLineByKeyboard();
     void measurementsOfTheLastOrder();
     void templateOfTheItem_data();
@@ -178,29 +172,19 @@ private Q_SLOTS:
     void pictureNames();
 
 private:
-    std::unique_ptr<Shop> m_shop;
-    std::unique_ptr<Prompts> m_prompts;
+    void lay() override;
+
     clsJobCardData m_rows;
     qint32 m_client = 0;
     qint32 m_shirt = 0;
 };
 
-void tst_frmAddItem::init()
+void tst_frmAddItem::lay()
 {
-    m_shop = std::make_unique<Shop>();
-    m_prompts = std::make_unique<Prompts>();
     m_rows = {};
-    m_client = m_shop->addClient("Asha O'Neil");
-    m_shirt = m_shop->addItem("Shirt", 150.5, 40, "Length\r\nChest=40");
-    m_shop->addItem("Lehenga", 900);
-}
-
-void tst_frmAddItem::cleanup()
-{
-    const bool met = m_prompts->allMet();
-    m_prompts.reset();
-    m_shop.reset();
-    QVERIFY(met);
+    m_client = shop->addClient("Asha O'Neil");
+    m_shirt = shop->addItem("Shirt", 150.5, 40, "Length\r\nChest=40");
+    shop->addItem("Lehenga", 900);
 }
 
 void tst_frmAddItem::aLineByKeyboard()
@@ -255,7 +239,7 @@ void tst_frmAddItem::aLineByKeyboard()
 
 void tst_frmAddItem::measurementsOfTheLastOrder()
 {
-    const qint32 other = m_shop->addClient("Other");
+    const qint32 other = shop->addClient("Other");
     orderBefore(m_client, m_shirt, QDate(2024, 1, 5), {"Length"}, {"28"}, "early");
     orderBefore(m_client, m_shirt, QDate(2023, 12, 1), {"Length", "Chest", "Cuff"}, {"29", "a=b"}, "later");
     orderBefore(other, m_shirt, QDate(2024, 2, 1), {"Length"}, {"99"}, "not hers");
@@ -292,7 +276,7 @@ void tst_frmAddItem::templateOfTheItem()
 {
     QFETCH(QString, details);
     QFETCH(QString, shown);
-    m_shop->addItem("Kurta", 75, 10, details);
+    shop->addItem("Kurta", 75, 10, details);
     openNew(m_rows, m_client, [&](Editor editor) {
         editor.choose("Kurta");
         QCOMPARE(editor.measurements(), shown);
@@ -310,7 +294,7 @@ void tst_frmAddItem::refusals()
 {
     const bool cancelled = openNew(m_rows, m_client, [this](Editor editor) {
         const auto refused = [&](const char* message, const char* field) {
-            m_prompts->expect(QString::fromLatin1(message));
+            prompts->expect(QString::fromLatin1(message));
             editor.click("Command1");
             QTRY_COMPARE(focusName(), QString::fromLatin1(field));
         };
@@ -358,7 +342,7 @@ void tst_frmAddItem::whatCannotBeHeldChangesNothing()
     QFETCH(QString, fees);
     QFETCH(QString, message);
     addRow(m_rows, "Shirt", m_shirt, "Length", "30");
-    m_prompts->expect(message);
+    prompts->expect(message);
     QVERIFY(openRow(m_rows, m_client, 1, [&](Editor editor) {
         editor.item.setText(item);
         editor.remark.setText("changed");
@@ -455,7 +439,7 @@ void tst_frmAddItem::measurementsComeBackAsStored()
 void tst_frmAddItem::aRowWhoseItemIsGone()
 {
     addRow(m_rows, "Shir", 99, "Length", "30");
-    m_prompts->expect(ado::NoCurrentRecordError().text());
+    prompts->expect(ado::NoCurrentRecordError().text());
     QVERIFY(openRow(m_rows, m_client, 1, [](Editor editor) {
         QCOMPARE(editor.item.text(), "Shir");
         editor.item.setFocus();
@@ -520,7 +504,7 @@ void tst_frmAddItem::coloursOfAllNumbers()
 
 void tst_frmAddItem::picturesLiveOnTheDisk()
 {
-    const QString source = picture(m_shop->folder() + "/photo.png");
+    const QString source = picture(shop->folder() + "/photo.png");
     QString stored;
     openNew(m_rows, m_client, [&](Editor editor) {
         editor.insert("Cancel");
@@ -536,7 +520,7 @@ void tst_frmAddItem::picturesLiveOnTheDisk()
     });
     static const QRegularExpression name(
         "/images/Asha O'Neil_\\d\\d_\\d\\d_\\d{4}_[1-7]_\\d_\\d\\d_1\\.bmp$");
-    QVERIFY2(stored.startsWith(m_shop->folder()) && name.match(stored).hasMatch(), qPrintable(stored));
+    QVERIFY2(stored.startsWith(shop->folder()) && name.match(stored).hasMatch(), qPrintable(stored));
     QCOMPARE(contents(stored), contents(source));
     QCOMPARE(m_rows.img2(1), stored);
 
@@ -553,13 +537,13 @@ void tst_frmAddItem::picturesLiveOnTheDisk()
 
 void tst_frmAddItem::picturesThatCannotBeTaken()
 {
-    const QString noPicture = m_shop->folder() + "/letter.jpg";
+    const QString noPicture = shop->folder() + "/letter.jpg";
     QFile letter(noPicture);
     QVERIFY(letter.open(QIODevice::WriteOnly) && letter.write("Dear client") > 0);
     letter.close();
-    const QString source = picture(m_shop->folder() + "/photo.png");
+    const QString source = picture(shop->folder() + "/photo.png");
     openNew(m_rows, m_client, [&](Editor editor) {
-        m_prompts->expect(noPicture + " is not a picture that can be shown.");
+        prompts->expect(noPicture + " is not a picture that can be shown.");
         editor.insert(noPicture);
         editor.insert(source);
         const QString kept = editor.path(2);
@@ -568,7 +552,7 @@ void tst_frmAddItem::picturesThatCannotBeTaken()
         QVERIFY(QDir(session.imagesFolder()).removeRecursively());
         QFile inTheWay(session.imagesFolder());
         QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-        m_prompts->expect("The folder for pictures cannot be made: " + session.imagesFolder());
+        prompts->expect("The folder for pictures cannot be made: " + session.imagesFolder());
         editor.insert(source);
         QCOMPARE(editor.path(2), kept);
         QVERIFY(editor.hasPicture(2));
@@ -578,7 +562,7 @@ void tst_frmAddItem::picturesThatCannotBeTaken()
 void tst_frmAddItem::cleanForm()
 {
     orderBefore(m_client, m_shirt, QDate(2024, 1, 5), {"Length"}, {"28"}, "note");
-    const QString source = picture(m_shop->folder() + "/photo.png");
+    const QString source = picture(shop->folder() + "/photo.png");
     openNew(m_rows, m_client, [&](Editor editor) {
         editor.click("Command2");
         QCOMPARE(editor.measurements(), QString());
