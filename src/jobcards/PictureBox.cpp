@@ -18,24 +18,28 @@ PictureBox::PictureBox(QWidget* parent)
 void PictureBox::load(const QString& path)
 {
     m_picture = forms::loadPicture(path, LargestShown);
+    m_unreadable = m_picture.isNull();
     update();
 }
 
 void PictureBox::clear()
 {
     m_picture = {};
+    m_unreadable = false;
     update();
 }
 
 void PictureBox::paintEvent(QPaintEvent* event)
 {
     QFrame::paintEvent(event);
+    QPainter painter(this);
+    const QRect place = contentsRect().adjusted(4, 4, -4, -4);
+    if (m_unreadable)
+        painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, QStringLiteral("No preview"));
     if (m_picture.isNull())
         return;
-    const QRect place = contentsRect().adjusted(4, 4, -4, -4);
     QRect shown({}, m_picture.size().scaled(place.size(), Qt::KeepAspectRatio));
     shown.moveCenter(place.center());
-    QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(shown, m_picture);
 }

@@ -10,7 +10,7 @@ class PictureBox : public QFrame
 public:
     explicit PictureBox(QWidget* parent = nullptr);
 
-    /// Shows the picture of a file, or nothing when it cannot be read.
+    /// Shows the picture of a file; says so when it is too large or damaged to be shown.
     void load(const QString& path);
     void clear();
     const QPixmap& picture() const { return m_picture; }
@@ -20,4 +20,5 @@ protected:
 
 private:
     QPixmap m_picture;
+    bool m_unreadable = false;
 };

@@ -57,6 +57,7 @@ frmAddItem::frmAddItem()
     for (QLineEdit* box : {ui->txtQnt, ui->txtFees})
         onKeyPress(box, [box](int& key) { key = EnterAsTab(key) == 0 ? 0 : NumbersOnly(box->text(), key); });
     onKeyPress(ui->txtRemark, [](int& key) { key = EnterAsTab(key); });
+    onGotFocus(ui->txtClientRemark, [this] { LastKey = 0; });
     onKeyPress(ui->txtClientRemark, [this](int& key) { txtClientRemark_KeyPress(key); });
     on(ui->picColor, &ColorBox::clicked, &frmAddItem::picColor_Click);
     on(ui->Command8, &QPushButton::clicked, &frmAddItem::Command8_Click);

@@ -1,15 +1,18 @@
 #include "platform/forms/Pictures.h"
 
+#include <QFileInfo>
 #include <QImageReader>
 
 namespace forms {
 
 namespace {
 
-/// Reads by content: the shop's pictures are all named .bmp.
+/// Reads by content: the shop's pictures are all named .bmp. What is no plain file (a pipe, say) is never
+/// opened.
 void aim(QImageReader& reader, const QString& path)
 {
-    reader.setFileName(path);
+    if (QFileInfo(path).isFile())
+        reader.setFileName(path);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
 }
