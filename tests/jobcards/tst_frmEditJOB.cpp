@@ -8,26 +8,20 @@
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/ListView.h"
-#include "support/KeysTo.h"
-#include "support/Modal.h"
-#include "support/Prompts.h"
-#include "support/Shop.h"
+#include "support/ShopTest.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
-#include <memory>
 
 /// The job card as the operator meets it.
-class tst_frmEditJOB : public QObject
+class tst_frmEditJOB : public ShopTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void wholeOrderByKeyboard();
     void savesOfOneCard();
     void refusals();
@@ -55,52 +49,30 @@ private:
     void addLine(frmEditJOB& job, const QString& item, const QString& qty, const QString& fees);
     void storeCard(const QString& client = QStringLiteral("Asha Rao"));
 
-    std::unique_ptr<Shop> m_shop;
-    std::unique_ptr<Prompts> m_prompts;
+    void lay() override;
+
     qint32 m_asha = 0;
 };
 
 namespace {
 
-QLineEdit& box(QWidget& screen, const char* name) { return control<QLineEdit>(screen, name); }
-QString shown(QWidget& screen, const char* name) { return box(screen, name).text(); }
+QLineEdit& field(QWidget& screen, const char* name) { return control<QLineEdit>(screen, name); }
+QString shown(QWidget& screen, const char* name) { return field(screen, name).text(); }
 QString label(QWidget& screen, const char* name) { return control<QLabel>(screen, name).text(); }
 void click(QWidget& screen, const char* name) { control<QPushButton>(screen, name).click(); }
 forms::ComboBox& combo(QWidget& screen, const char* name) { return control<forms::ComboBox>(screen, name); }
 forms::ListView& list(QWidget& screen) { return control<forms::ListView>(screen, "lvItems"); }
 
-/// Closes the list that the screen opened with, and waits for the screen to have the keys again.
-void closeList(frmEditJOB& job)
-{
-    QTRY_VERIFY(QApplication::activePopupWidget());
-    press(Qt::Key_Escape);
-    QTRY_COMPARE(QGuiApplication::focusWindow(), job.windowHandle());
-}
-
-/// The name of the control that has the focus; a box within a combo or picker counts as that.
-QString focused(QWidget& screen)
-{
-    QWidget* widget = screen.focusWidget();
-    while (widget && widget->objectName().startsWith(QLatin1String("qt_")))
-        widget = widget->parentWidget();
-    return widget ? widget->objectName() : QString();
-}
-
 } // namespace
 
-void tst_frmEditJOB::init()
+void tst_frmEditJOB::lay()
 {
-    m_shop.reset();
-    m_shop = std::make_unique<Shop>();
-    m_prompts = std::make_unique<Prompts>();
     session.ShopName = QStringLiteral("Needle & Co");
-    m_asha = m_shop->addClient(QStringLiteral("Asha Rao"));
-    m_shop->addClient(QStringLiteral("Balu"), QStringLiteral("0981"));
-    m_shop->addItem(QStringLiteral("Shirt"), 300, 120);
-    m_shop->addItem(QStringLiteral("Trouser"), 450, 150);
+    m_asha = shop->addClient(QStringLiteral("Asha Rao"));
+    shop->addClient(QStringLiteral("Balu"), QStringLiteral("0981"));
+    shop->addItem(QStringLiteral("Shirt"), 300, 120);
+    shop->addItem(QStringLiteral("Trouser"), 450, 150);
 }
-
-void tst_frmEditJOB::cleanup() { QVERIFY(m_prompts->allMet()); }
 
 void tst_frmEditJOB::onNewCard(const std::function<void(frmEditJOB&)>& act)
 {
@@ -118,8 +90,8 @@ void tst_frmEditJOB::addLine(frmEditJOB& job, const QString& item, const QString
 {
     onNextModal<frmAddItem>([&](frmAddItem& line) {
         combo(line, "cmbItems").setText(item);
-        box(line, "txtQnt").setText(qty);
-        box(line, "txtFees").setText(fees);
+        field(line, "txtQnt").setText(qty);
+        field(line, "txtFees").setText(fees);
         click(line, "Command1");
     });
     click(job, "Command4");
@@ -132,8 +104,8 @@ void tst_frmEditJOB::storeCard(const QString& client)
         addLine(job, QStringLiteral("Shirt"), QStringLiteral("2"), QStringLiteral("150.50"));
         addLine(job, QStringLiteral("Trouser"), QStringLiteral("1"), QStringLiteral("99"));
         combo(job, "cmbAccount").setText(QStringLiteral("Cash"));
-        box(job, "txtAmountPaid").setText(QStringLiteral("100"));
-        m_prompts->expect(QStringLiteral("New Job Created."));
+        field(job, "txtAmountPaid").setText(QStringLiteral("100"));
+        prompts->expect(QStringLiteral("New Job Created."));
         click(job, "Command1");
     });
 }
@@ -165,7 +137,7 @@ void tst_frmEditJOB::wholeOrderByKeyboard()
         onNextModal<frmAddItem>([&](frmAddItem& line) {
             typeText(QStringLiteral("shi"));
             press(Qt::Key_Return);
-            box(line, "txtQnt").setText(QStringLiteral("2"));
+            field(line, "txtQnt").setText(QStringLiteral("2"));
             click(line, "Command1");
         });
         press(Qt::Key_Return);
@@ -183,13 +155,13 @@ void tst_frmEditJOB::wholeOrderByKeyboard()
         QCOMPARE(shown(job, "txtAmount"), QStringLiteral("500.00"));
         press(Qt::Key_Return);
         QCOMPARE(focused(job), QStringLiteral("Command1"));
-        m_prompts->expect(QStringLiteral("New Job Created."));
+        prompts->expect(QStringLiteral("New Job Created."));
         press(Qt::Key_Return);
         QCOMPARE(label(job, "lblTitle"), QStringLiteral("Edit JOB Card"));
         press(Qt::Key_Escape);
         QVERIFY(!job.isVisible());
     });
-    m_shop->reopen();
+    shop->reopen();
     QCOMPARE(Shop::value(QStringLiteral("Select Remark from Jobs where ID=1000")).toString(),
              QStringLiteral("Wedding"));
     QCOMPARE(Shop::value(QStringLiteral("Select WorkerWagesDue from Jobs_Detail where JobID=1000")).toInt(),
@@ -203,7 +175,7 @@ void tst_frmEditJOB::savesOfOneCard()
     storeCard();
     session.RefreshLists = false;
     const bool changed = onStoredCard(1, [&](frmEditJOB& job) {
-        m_prompts->expect(QStringLiteral("Job Edited."));
+        prompts->expect(QStringLiteral("Job Edited."));
         click(job, "Command1");
         QCOMPARE(Shop::count(QStringLiteral("Select * from Jobs_Detail")), 2);
 
@@ -211,7 +183,7 @@ void tst_frmEditJOB::savesOfOneCard()
         click(job, "Command5");
         click(job, "Command5");
         addLine(job, QStringLiteral("Shirt"), QStringLiteral("1"), QStringLiteral("70"));
-        m_prompts->expect(QStringLiteral("near \",\": syntax error"));
+        prompts->expect(QStringLiteral("near \",\": syntax error"));
         click(job, "Command1");
         QCOMPARE(Shop::value(QStringLiteral("Select AmountDue from Jobs")).toInt(), 70);
         QCOMPARE(Shop::value(QStringLiteral("Select Amount from Postings where Sr=2")).toInt(), 400);
@@ -224,36 +196,36 @@ void tst_frmEditJOB::savesOfOneCard()
 void tst_frmEditJOB::refusals()
 {
     onNewCard([&](frmEditJOB& job) {
-        m_prompts->expect(QStringLiteral("Please Select Client!"));
+        prompts->expect(QStringLiteral("Please Select Client!"));
         click(job, "Command4");
         QCOMPARE(focused(job), QStringLiteral("cmbClient"));
-        closeList(job);
-        box(job, "txtRemark").setFocus();
-        m_prompts->expect(QStringLiteral("Please Select Client!"));
+        combo(job, "cmbClient").closeUp();
+        field(job, "txtRemark").setFocus();
+        prompts->expect(QStringLiteral("Please Select Client!"));
         click(job, "Command1");
         QCOMPARE(focused(job), QStringLiteral("cmbClient"));
 
         combo(job, "cmbClient").setText(QStringLiteral("Asha Rao"));
-        m_prompts->expect(QStringLiteral("Please Add Item!"));
+        prompts->expect(QStringLiteral("Please Add Item!"));
         click(job, "Command1");
         QCOMPARE(focused(job), QStringLiteral("Command4"));
 
         addLine(job, QStringLiteral("Shirt"), QStringLiteral("1"), QStringLiteral("100"));
-        box(job, "txtAmountPaid").setText(QStringLiteral("40"));
+        field(job, "txtAmountPaid").setText(QStringLiteral("40"));
         for (const char* account : {"", "Nowhere"}) {
             combo(job, "cmbAccount").setText(QLatin1String(account));
-            m_prompts->expect(QStringLiteral("Please Select Receipt Account!"));
+            prompts->expect(QStringLiteral("Please Select Receipt Account!"));
             click(job, "Command1");
             QCOMPARE(focused(job), QStringLiteral("cmbAccount"));
-            closeList(job);
-            box(job, "txtRemark").setFocus();
+            combo(job, "cmbAccount").closeUp();
+            field(job, "txtRemark").setFocus();
         }
         QCOMPARE(Shop::count(QStringLiteral("Select * from Jobs")), 0);
 
         // The client was removed from the list of names since the line was added.
         combo(job, "cmbClient").setText(QStringLiteral("Nobody"));
         list(job).setFocus();
-        m_prompts->expect(QStringLiteral("Please Select Client!"));
+        prompts->expect(QStringLiteral("Please Select Client!"));
         press(Qt::Key_Return);
     });
 }
@@ -264,12 +236,12 @@ void tst_frmEditJOB::numberTakenAndImpossibleAmounts()
     onNewCard([&](frmEditJOB& job) {
         combo(job, "cmbClient").setText(QStringLiteral("Asha Rao"));
         addLine(job, QStringLiteral("Shirt"), QStringLiteral("1"), QStringLiteral("100"));
-        const auto refused = [&](const char* field, const QString& text, const QString& message) {
-            const QString before = shown(job, field);
-            box(job, field).setText(text);
-            m_prompts->expect(message);
+        const auto refused = [&](const char* name, const QString& text, const QString& message) {
+            const QString before = shown(job, name);
+            field(job, name).setText(text);
+            prompts->expect(message);
             click(job, "Command1");
-            box(job, field).setText(before);
+            field(job, name).setText(before);
         };
         refused("txtJOBID", QStringLiteral("1"),
                 QStringLiteral("Job ID 1 is already taken by another job card. Nothing has been saved."));
@@ -280,9 +252,9 @@ void tst_frmEditJOB::numberTakenAndImpossibleAmounts()
         QCOMPARE(Shop::count(QStringLiteral("Select * from Jobs")), 1);
         QCOMPARE(label(job, "lblTitle"), QStringLiteral("Create New Job Card"));
 
-        box(job, "txtJOBID").setText(QStringLiteral("12.4 kg"));
-        box(job, "txtAmountPaid").clear();
-        m_prompts->expect(QStringLiteral("New Job Created."));
+        field(job, "txtJOBID").setText(QStringLiteral("12.4 kg"));
+        field(job, "txtAmountPaid").clear();
+        prompts->expect(QStringLiteral("New Job Created."));
         click(job, "Command1");
         QCOMPARE(shown(job, "txtJOBID"), QStringLiteral("12"));
     });
@@ -330,20 +302,20 @@ void tst_frmEditJOB::banner()
 
 void tst_frmEditJOB::failingLookupTellsOnce()
 {
-    m_shop->addClient(QStringLiteral("O'Neil"));
+    shop->addClient(QStringLiteral("O'Neil"));
     onNewCard([&](frmEditJOB& job) {
         typeText(QStringLiteral("o"));
         QCOMPARE(combo(job, "cmbClient").text(), QStringLiteral("O'Neil"));
         const auto refusal = QStringLiteral("Syntax error in the statement: ' is not closed: "
                                             "Select * from Accounts where Title='O'Neil'");
-        m_prompts->expect(refusal);
+        prompts->expect(refusal);
         press(Qt::Key_Return);
-        QVERIFY(m_prompts->allMet());
+        QVERIFY(prompts->allMet());
         QCOMPARE(focused(job), QStringLiteral("JobDate"));
         press(Qt::Key_Return);
         QCOMPARE(focused(job), QStringLiteral("DateDel"));
         QCOMPARE(label(job, "lblLastvisit"), QStringLiteral("Welcome to Needle & Co"));
-        m_prompts->expect(refusal);
+        prompts->expect(refusal);
         click(job, "Command4");
         QCOMPARE(list(job).rowCount(), 0);
     });
@@ -380,9 +352,9 @@ void tst_frmEditJOB::totalUnderTheTypingHand()
     QFETCH(QString, keys);
     QFETCH(QString, total);
     onNewCard([&](frmEditJOB& job) {
-        closeList(job);
-        box(job, "txtAmountDue").setFocus(Qt::TabFocusReason);
-        box(job, "txtAmountDue").selectAll();
+        combo(job, "cmbClient").closeUp();
+        field(job, "txtAmountDue").setFocus(Qt::TabFocusReason);
+        field(job, "txtAmountDue").selectAll();
         for (const QChar key : keys) {
             switch (key.unicode()) {
             case '<':
@@ -408,11 +380,11 @@ void tst_frmEditJOB::amountReceived()
         combo(job, "cmbClient").setText(QStringLiteral("Asha Rao"));
         addLine(job, QStringLiteral("Shirt"), QStringLiteral("2"), QStringLiteral("150.50"));
         QCOMPARE(shown(job, "txtAmountDue"), QStringLiteral("301.00"));
-        box(job, "txtAmountPaid").setFocus();
+        field(job, "txtAmountPaid").setFocus();
         typeText(QStringLiteral("1x0.5.0"));
         QCOMPARE(shown(job, "txtAmountPaid"), QStringLiteral("10.50"));
         QCOMPARE(shown(job, "txtAmount"), QStringLiteral("290.50"));
-        box(job, "txtAmountPaid").selectAll();
+        field(job, "txtAmountPaid").selectAll();
         typeText(QStringLiteral("302"));
         QCOMPARE(shown(job, "txtAmountPaid"), QStringLiteral("301.00"));
         QCOMPARE(shown(job, "txtAmount"), QStringLiteral("0.00"));
@@ -434,8 +406,8 @@ void tst_frmEditJOB::linesOfTheList()
         lines.selectRow(1);
         onNextModal<frmAddItem>([&](frmAddItem& line) {
             QCOMPARE(combo(line, "cmbItems").text(), QStringLiteral("Trouser"));
-            box(line, "txtFees").setText(QStringLiteral("100"));
-            box(line, "txtRemark").setText(QStringLiteral("wide"));
+            field(line, "txtFees").setText(QStringLiteral("100"));
+            field(line, "txtRemark").setText(QStringLiteral("wide"));
             click(line, "Command1");
         });
         lines.setFocus();
@@ -451,7 +423,7 @@ void tst_frmEditJOB::linesOfTheList()
         QCOMPARE(shown(job, "txtAmountDue"), QStringLiteral("602.00"));
         for (const char* idle : {"Command5", "Command6", "Command10"})
             click(job, idle);
-        m_prompts->expect(QStringLiteral("Please Add Item!"));
+        prompts->expect(QStringLiteral("Please Add Item!"));
         click(job, "Command1");
     });
     QCOMPARE(Shop::count(QStringLiteral("Select * from Jobs_Detail")), 2);
@@ -460,8 +432,9 @@ void tst_frmEditJOB::linesOfTheList()
 void tst_frmEditJOB::keysOfTheScreen()
 {
     onNewCard([&](frmEditJOB& job) {
-        closeList(job);
-        QVERIFY(job.isVisible());
+        QTRY_VERIFY(combo(job, "cmbClient").isDroppedDown());
+        press(Qt::Key_Escape); // the open list of clients first
+        QVERIFY(job.isVisible() && !combo(job, "cmbClient").isDroppedDown());
         press(Qt::Key_PageDown);
         QCOMPARE(focused(job), QStringLiteral("JobDate"));
         press(Qt::Key_PageUp);
@@ -470,10 +443,10 @@ void tst_frmEditJOB::keysOfTheScreen()
         QCOMPARE(focused(job), QStringLiteral("lvItems"));
         press(Qt::Key_Return); // an empty list lets the operator pass
         QVERIFY(focused(job) != QStringLiteral("lvItems"));
-        box(job, "txtRemark").setFocus();
+        field(job, "txtRemark").setFocus();
         press(Qt::Key_Backtab, Qt::ShiftModifier);
         QCOMPARE(focused(job), QStringLiteral("DateTrial"));
-        m_prompts->expect(QStringLiteral("Please Select Client!"));
+        prompts->expect(QStringLiteral("Please Select Client!"));
         press(Qt::Key_A, Qt::AltModifier);
         QCOMPARE(focused(job), QStringLiteral("cmbClient"));
         for (const char* later : {"Command2", "Command9", "Command11"})
@@ -488,8 +461,8 @@ void tst_frmEditJOB::clientAddedFromTheCard()
 {
     onNewCard([&](frmEditJOB& job) {
         onNextModal<frmEditClients>([&](frmEditClients& client) {
-            box(client, "txtName").setText(QStringLiteral("Chitra"));
-            m_prompts->expect(QStringLiteral("New Client Created."));
+            field(client, "txtName").setText(QStringLiteral("Chitra"));
+            prompts->expect(QStringLiteral("New Client Created."));
             click(client, "Command1");
         });
         press(Qt::Key_A, Qt::ControlModifier);
@@ -545,11 +518,11 @@ void tst_frmEditJOB::deleteAndCancelReason()
         click(job, "Command12");
         QVERIFY(!panel.isVisible());
 
-        m_prompts->expect(QStringLiteral("Are you sure to Delete!"), Answer::Esc);
+        prompts->expect(QStringLiteral("Are you sure to Delete!"), Answer::Esc);
         click(job, "Command7");
         QCOMPARE(Shop::count(QStringLiteral("Select * from Jobs")), 1);
-        m_prompts->expect(QStringLiteral("Are you sure to Delete!"), Answer::Yes);
-        m_prompts->expect(QStringLiteral("Deleted."));
+        prompts->expect(QStringLiteral("Are you sure to Delete!"), Answer::Yes);
+        prompts->expect(QStringLiteral("Deleted."));
         click(job, "Command7");
         QVERIFY(!job.isVisible());
     });
@@ -592,17 +565,17 @@ void tst_frmEditJOB::smsIsOfferedAfterEverySave()
     const auto question =
         QStringLiteral("This Job has been registered.\r\nWould you like to Inform Client via SMS?");
     onStoredCard(1, [&](frmEditJOB& job) {
-        m_prompts->expect(QStringLiteral("Job Edited."));
-        m_prompts->expect(question, Answer::No);
+        prompts->expect(QStringLiteral("Job Edited."));
+        prompts->expect(question, Answer::No);
         click(job, "Command1");
-        m_prompts->expect(QStringLiteral("Job Edited."));
-        m_prompts->expect(question, Answer::Yes);
-        m_prompts->expect(QStringLiteral("Mobile Number Not Found!\r\nSMS Sending has been Failed."));
+        prompts->expect(QStringLiteral("Job Edited."));
+        prompts->expect(question, Answer::Yes);
+        prompts->expect(QStringLiteral("Mobile Number Not Found!\r\nSMS Sending has been Failed."));
         click(job, "Command1");
         combo(job, "cmbClient").setText(QStringLiteral("Balu"));
-        m_prompts->expect(QStringLiteral("Job Edited."));
-        m_prompts->expect(question, Answer::Yes);
-        m_prompts->expect(QStringLiteral("Modem Com Port Error!\r\nSMS Sending has been Failed."));
+        prompts->expect(QStringLiteral("Job Edited."));
+        prompts->expect(question, Answer::Yes);
+        prompts->expect(QStringLiteral("Modem Com Port Error!\r\nSMS Sending has been Failed."));
         click(job, "Command1");
     });
 }
