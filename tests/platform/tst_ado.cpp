@@ -138,12 +138,15 @@ void tst_ado::rowsComeInOrderOfInsertion()
 void tst_ado::equalsComeInOrderOfInsertion()
 {
     addAmounts(40);
-    m_connection->Execute(QStringLiteral("CREATE INDEX Postings_Date ON Postings (Date, VID)"));
+    // Read through this index, the rows come by date.
+    m_connection->Execute(QStringLiteral("CREATE INDEX Postings_Date ON Postings (Date)"));
+    const QString sql =
+        QStringLiteral("Select * from Postings where Date between #1-1-2024# and #31-1-2024# order by Amount desc");
     Recordset rows(*m_connection);
-    rows.Open(QStringLiteral("Select * from Postings order by Amount desc"));
+    rows.Open(sql);
     for (int i = 1; i <= 40; ++i, rows.MoveNext())
         QCOMPARE(rows["Id"].integer(), i);
-    rows.Open(QStringLiteral("Select * from Postings order by Amount desc"));
+    rows.Open(sql);
     rows.MoveLast();
     QCOMPARE(rows["Id"].integer(), 40);
 }
