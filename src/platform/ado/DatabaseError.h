@@ -26,8 +26,7 @@ class NoCurrentRecordError : public DatabaseError
 {
 public:
     NoCurrentRecordError()
-        : DatabaseError(QStringLiteral("Either BOF or EOF is True, or the current record has been deleted. "
-                                       "Requested operation requires a current record."))
+        : DatabaseError(QStringLiteral("No current record: the query found no row, or all have been passed."))
     {
     }
 };

@@ -43,7 +43,7 @@ int findColumn(const Columns& columns, int hidden, Text name)
 void Recordset::Private::requireOpen() const
 {
     if (!open)
-        throw DatabaseError(QStringLiteral("Operation is not allowed when the object is closed."));
+        throw DatabaseError(QStringLiteral("The recordset is closed."));
 }
 
 void Recordset::Private::requireWritable() const
@@ -439,9 +439,7 @@ bool Recordset::HasField(const QString& name) const
 Field Recordset::fieldAt(int column, const QString& name)
 {
     if (column < 0 || column >= FieldCount())
-        throw DatabaseError(
-            QStringLiteral("Item cannot be found in the collection corresponding to the requested name: ") +
-            name);
+        throw DatabaseError(QStringLiteral("There is no field %1.").arg(name));
     d->readBlock();
     if (!d->current)
         throw NoCurrentRecordError();

@@ -26,12 +26,14 @@ public:
     QString text() const;
     /// Throws OverflowError above 32 bits.
     qint32 integer() const;
+    /// These throw TypeMismatchError for a text that is no number or date.
     double number() const;
     Currency money() const;
     QDate date() const;
 
     /// Sets the field of the current (or new) row; written by Update or UpdateBatch. Takes QString, int,
-    /// double, bool, QDate, Currency (through its QVariant) and Null.
+    /// double, bool, QDate, Currency (through its QVariant) and Null. Throws TypeMismatchError or
+    /// OverflowError for what the column cannot hold; the field then keeps its value.
     Field& operator=(const QVariant& value);
     Field& operator=(Currency value);
     template <typename Left, typename Right>
@@ -62,9 +64,11 @@ private:
 /// - A query without an order comes in order of insertion.
 /// - Field names match in any case; an unknown name throws DatabaseError.
 /// - Rows of "Select * from <one table> ..." can be written. Values are brought to their column's form on the
-/// way in: money
-///   to four decimals (half to even), dates to ISO text, integers checked for 32 bits. A required field left
-///   out is refused.
+///   way in: money to four decimals (half to even), dates to ISO text, integers checked for 32 bits.
+///   A required field left out is refused.
+/// - Up to 16 rows are read at once and hold no lock on the file; a longer result holds it until it is read
+///   to its end, closed, or left by MoveLast or AddNew. A write through the connection changes nothing in the
+///   rows still to come. A fault while reading closes the recordset.
 class Recordset
 {
 public:
@@ -74,8 +78,8 @@ public:
     Recordset(const Recordset&) = delete;
     Recordset& operator=(const Recordset&) = delete;
 
-    /// Runs the statement (closing first if open) and stands on the first row, if there is one. Throws
-    /// DatabaseError.
+    /// Closes first if open, then stands on the first row of the query, if there is one; the rows are read
+    /// when they are first asked for. Throws DatabaseError for what the engine does not take.
     void Open(const QString& sql);
     /// The same with the default source.
     void Open();
@@ -107,10 +111,13 @@ public:
     /// Writes the current row's changes. After it an autonumber of a new row can be read. Throws
     /// DatabaseError.
     void Update();
-    /// Writes all rows changed or added since the last write, as one commit.
+    /// Writes all rows changed or added since the last write, as one commit. A row that is refused stays to
+    /// be written, and those behind it; those before it are in the file. Closing drops what was not written.
     void UpdateBatch();
 
-    /// The child rows (chapter) of the current row of a SHAPE ... APPEND ({...} RELATE a TO b) AS name query.
+    /// The child rows (chapter) of the current row of a SHAPE query: those that APPEND relates to it, or
+    /// those that make up its group of a COMPUTE. The same object each time, opened anew for the row that is
+    /// current.
     Recordset& Chapter(const QString& name);
 
 private:

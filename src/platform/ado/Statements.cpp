@@ -38,7 +38,7 @@ Prepared::Prepared(sqlite3* database, const QString& sql)
                                   [](char c) { return c != ';' && !QChar::isSpace(static_cast<uchar>(c)); });
     if (!m_statement || more) {
         sqlite3_finalize(m_statement);
-        throw DatabaseError(QStringLiteral("Characters found after end of SQL statement."));
+        throw DatabaseError(QStringLiteral("Only one statement can be run at a time."));
     }
     m_columns = readColumns(m_statement);
 }
