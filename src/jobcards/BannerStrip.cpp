@@ -28,7 +28,14 @@ BannerStrip::BannerStrip(QWidget* parent)
 void BannerStrip::setText(const QString& text)
 {
     lblLastvisit->setText(text);
+    begin();
+}
+
+/// A new text begins its walk where all of it can be read.
+void BannerStrip::begin()
+{
     lblLastvisit->adjustSize();
+    lblLastvisit->move(qMax(0, (width() - lblLastvisit->width()) / 2), Padding);
 }
 
 QSize BannerStrip::sizeHint() const { return {0, lblLastvisit->sizeHint().height() + 2 * Padding}; }
@@ -36,7 +43,7 @@ QSize BannerStrip::sizeHint() const { return {0, lblLastvisit->sizeHint().height
 void BannerStrip::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    lblLastvisit->adjustSize();
+    begin();
     Timer1->start();
 }
 
@@ -44,12 +51,6 @@ void BannerStrip::hideEvent(QHideEvent* event)
 {
     Timer1->stop();
     QWidget::hideEvent(event);
-}
-
-void BannerStrip::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    lblLastvisit->move(lblLastvisit->x(), Padding);
 }
 
 void BannerStrip::Timer1_Timer()

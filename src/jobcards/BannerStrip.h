@@ -19,9 +19,9 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void begin();
     void Timer1_Timer();
 
     QLabel* lblLastvisit;

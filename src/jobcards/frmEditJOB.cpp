@@ -143,13 +143,14 @@ void frmEditJOB::openWith(const std::function<void()>& fill)
 
 void frmEditJOB::showNewCard()
 {
-    const int margin = values::CInt(values::Val(GetSetting(DeliveryMarginSetting, QStringLiteral("0"))));
+    const qint32 margin = values::CLng(values::Val(GetSetting(DeliveryMarginSetting, QStringLiteral("0"))));
     JobCardHead head;
     head.Date = session.WorkingDate;
     head.DeliveryDate = session.WorkingDate.addDays(margin);
     head.TrialDate = session.WorkingDate;
     showHead(head);
     ui->lblTitle->setText(QStringLiteral("Create New Job Card"));
+    ui->txtJOBID->setReadOnly(false);
     ui->txtJOBID->setText(QString::number(GetNewNum()));
     ui->cmbClient->setFocus();
 }
@@ -219,11 +220,12 @@ void frmEditJOB::showHead(const JobCardHead& head)
     showBalance();
 }
 
-/// What tells a stored card from a new one.
+/// What tells a stored card from a new one. Its number never changes again.
 void frmEditJOB::showMode()
 {
     if (m_card.EditMode != QStringLiteral("E"))
         return;
+    ui->txtJOBID->setReadOnly(true);
     ui->txtJOBID->setText(QString::number(m_card.CurrentJobID));
     ui->lblTitle->setText(QStringLiteral("Edit JOB Card"));
 }

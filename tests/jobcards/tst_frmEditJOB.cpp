@@ -484,6 +484,7 @@ void tst_frmEditJOB::storedCardIsShownWhole()
     onStoredCard(1, [&](frmEditJOB& job) {
         QCOMPARE(label(job, "lblTitle"), QStringLiteral("Edit JOB Card"));
         QCOMPARE(shown(job, "txtJOBID"), QStringLiteral("1"));
+        QVERIFY(field(job, "txtJOBID").isReadOnly()); // a card keeps its number
         QCOMPARE(combo(job, "cmbClient").text(), QStringLiteral("Asha Rao"));
         QCOMPARE(combo(job, "cmbAccount").text(), QStringLiteral("Cash"));
         QCOMPARE(control<forms::DatePicker>(job, "DateDel").value(), QDate(2024, 2, 15));
