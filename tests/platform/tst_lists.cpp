@@ -235,12 +235,30 @@ private Q_SLOTS:
             QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, entry.center());
             QTRY_COMPARE(clicked.count(), 1);
             QCOMPARE(screen.client.text(), QStringLiteral("bharat"));
+            QCOMPARE(screen.client.selLength(), 6);
             QVERIFY(!screen.client.isDroppedDown());
 
             // Clicking into the box opens the list, and it stays open when the button comes up.
             screen.remark.setFocus();
             QTest::mouseClick(screen.client.lineEdit(), Qt::LeftButton);
             QTRY_VERIFY(screen.client.isDroppedDown());
+            QCOMPARE(screen.client.selLength(), 6);
+        });
+        screen.showModal();
+    }
+
+    void wheelPassesOver()
+    {
+        OrderScreen screen;
+        screen.client.setListIndex(1);
+        screen.date.setValue({2024, 2, 10});
+        onNextModal<OrderScreen>([&](OrderScreen&) {
+            for (QWidget* each : std::initializer_list<QWidget*>{&screen.client, &screen.date}) {
+                QWheelEvent turn({5, 5}, each->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, {}, false);
+                QCoreApplication::sendEvent(each, &turn);
+            }
+            QCOMPARE(screen.client.ListIndex(), 1);
+            QCOMPARE(screen.date.value(), QDate(2024, 2, 10));
         });
         screen.showModal();
     }

@@ -1,4 +1,5 @@
 #include "platform/forms/Screen.h"
+#include "platform/forms/Theme.h"
 #include "support/KeysTo.h"
 #include "support/Modal.h"
 #include "ui/NumKey.h"
@@ -150,6 +151,23 @@ private Q_SLOTS:
             QCOMPARE(screen.note.Text(), QStringLiteral("long\r\nnotes"));
             QCOMPARE(noteGot.count(), 1);
         });
+    }
+
+    void focusedFieldStandsOnBlack()
+    {
+        forms::applyTheme(*qApp, {});
+        inScreen([](ClientScreen& screen) {
+            const auto ground = [](QWidget& field) {
+                return field.grab().toImage().pixelColor(field.width() - 20, field.height() / 2);
+            };
+            for (QWidget* field : std::initializer_list<QWidget*>{&screen.name, &screen.note}) {
+                field->setFocus();
+                QCOMPARE(ground(*field), QColor(Qt::black));
+                screen.fee.setFocus();
+                QCOMPARE(ground(*field), QColor(Qt::white));
+            }
+        });
+        qApp->setStyleSheet({});
     }
 
     void moneyFormatsItself()

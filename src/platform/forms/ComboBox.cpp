@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 #include <QStringListModel>
 #include <QWheelEvent>
+#include <utility>
 
 namespace forms {
 
@@ -30,7 +31,10 @@ ComboBox::ComboBox(QWidget* parent)
     // A typed text that happens to be an entry is no choice of that entry.
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     lineEdit()->installEventFilter(this);
-    connect(this, &QComboBox::activated, this, &ComboBox::clicked);
+    connect(this, &QComboBox::activated, this, [this] {
+        select(0, int(text().size())); // typing replaces the choice
+        Q_EMIT clicked();
+    });
     connect(this, &QComboBox::editTextChanged, this, &ComboBox::changed);
 }
 
@@ -119,6 +123,7 @@ bool ComboBox::isDroppedDown() const { return view()->isVisible(); }
 
 void ComboBox::showPopup()
 {
+    m_dropOnRelease = false;
     QComboBox::showPopup();
     if (!isEditable() || !isDroppedDown())
         return;
@@ -132,11 +137,18 @@ bool ComboBox::eventFilter(QObject* watched, QEvent* event)
 {
     const bool released = watched == lineEdit() && event->type() == QEvent::MouseButtonRelease;
     const bool handled = QComboBox::eventFilter(watched, event);
-    if (released && m_dropOnRelease) {
-        m_dropOnRelease = false;
+    if (released && std::exchange(m_selectOnRelease, false) && !lineEdit()->hasSelectedText())
+        lineEdit()->selectAll();
+    if (released && std::exchange(m_dropOnRelease, false))
         QMetaObject::invokeMethod(this, &ComboBox::dropDown, Qt::QueuedConnection);
-    }
     return handled;
+}
+
+/// The click that brings the focus selects the text, as the Tab key does.
+void ComboBox::focusInEvent(QFocusEvent* event)
+{
+    QComboBox::focusInEvent(event);
+    m_selectOnRelease = event->reason() == Qt::MouseFocusReason;
 }
 
 void ComboBox::focusOutEvent(QFocusEvent* event)

@@ -56,6 +56,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -65,6 +66,7 @@ private:
 
     QStringListModel* m_texts;
     bool m_dropOnRelease = false;
+    bool m_selectOnRelease = false;
 };
 
 } // namespace forms

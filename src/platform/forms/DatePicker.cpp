@@ -3,6 +3,7 @@
 #include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QLocale>
+#include <QWheelEvent>
 
 namespace forms {
 
@@ -35,6 +36,9 @@ void DatePicker::keyPressEvent(QKeyEvent* event)
     m_monthTyped = 0;
     QDateEdit::keyPressEvent(event);
 }
+
+/// The wheel of a mouse that passes over must not change a date.
+void DatePicker::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 /// Digits in the month: 1 waits for a second digit, anything that is whole moves on to the next part of the
 /// date.

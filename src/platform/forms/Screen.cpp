@@ -171,6 +171,8 @@ void Screen::unload()
     }
 }
 
+void Screen::done(int) { unload(); }
+
 void Screen::leaveChain() { std::erase(chain(), this); }
 
 Screen* Screen::front() { return chain().empty() ? nullptr : chain().back(); }

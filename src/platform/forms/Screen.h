@@ -91,6 +91,9 @@ public:
     /// The screen in front, or null.
     static Screen* front();
 
+    /// However QDialog ends, it is unload().
+    void done(int result) override;
+
 protected:
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
