@@ -37,10 +37,22 @@ void mainScreen(benchmark::State& state)
     race(state, QStringLiteral("start_shop"), {shopFolder, QStringLiteral(PROGRAM_FOLDER "/../bin/fonts")});
 }
 
+void residentMemory(benchmark::State& state)
+{
+    for (auto _ : state) {
+        QProcess program;
+        program.start(QStringLiteral(PROGRAM_FOLDER "/start_shop"),
+                      {shopFolder, QStringLiteral(PROGRAM_FOLDER "/../bin/fonts"), QStringLiteral("card")});
+        program.waitForFinished();
+        state.counters["resident_MB"] = program.readAllStandardOutput().trimmed().toDouble();
+    }
+}
+
 } // namespace
 
 BENCHMARK(bareWindow)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
 BENCHMARK(mainScreen)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
+BENCHMARK(residentMemory)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char* argv[])
 {

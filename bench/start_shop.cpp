@@ -2,20 +2,48 @@
 // it ends.
 #include "core/Session.h"
 #include "core/modMain.h"
+#include "jobcards/frmEditJOB.h"
 #include "platform/forms/Theme.h"
 
 #include <QApplication>
 #include <QEvent>
+#include <QFile>
+#include <QTimer>
 #include <QWidget>
+#include <cstdio>
 
 namespace {
+
+double residentMegabytes()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (status.open(QIODevice::ReadOnly))
+        for (const QByteArray& entry : status.readAll().split('\n'))
+            if (entry.startsWith("VmRSS:"))
+                return entry.mid(6).trimmed().split(' ').first().toDouble() / 1024;
+    return 0;
+}
+
+void openCard()
+{
+    frmEditJOB card;
+    QTimer::singleShot(500, &card, [&card] {
+        std::printf("%.1f\n", residentMegabytes());
+        card.unload();
+        QCoreApplication::quit();
+    });
+    card.ShowAddNew();
+}
 
 class EndWithFirstPicture : public QObject
 {
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint && watched->objectName() == QLatin1String("frmMain"))
-            QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+        if (event->type() != QEvent::Paint || watched->objectName() != QLatin1String("frmMain"))
+            return false;
+        qApp->removeEventFilter(this);
+        const bool card = QCoreApplication::arguments().value(3) == QLatin1String("card");
+        QTimer::singleShot(0, qApp, card ? &openCard : &QCoreApplication::quit);
         return false;
     }
 };
