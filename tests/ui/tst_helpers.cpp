@@ -103,6 +103,8 @@ private Q_SLOTS:
             QCOMPARE(screen.client.selLength(), 0);
             QCOMPARE(screen.client.selStart(), 10);
             QVERIFY(!screen.client.testAttribute(Qt::WA_SetCursor));
+            press(Qt::Key_Tab); // no character, so it isn't swallowed
+            QVERIFY(screen.remark.hasFocus());
         });
     }
 

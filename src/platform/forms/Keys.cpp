@@ -11,8 +11,6 @@ int ofControlCode(int code)
     switch (code) {
     case key::Backspace:
         return Qt::Key_Backspace;
-    case key::Tab:
-        return Qt::Key_Tab;
     case key::Enter:
         return Qt::Key_Return;
     case key::Escape:
@@ -37,7 +35,6 @@ int charCode(const QKeyEvent& event)
         return key::Backspace;
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
-        return key::Tab;
     case Qt::Key_Delete:
         return 0;
     default:

@@ -29,7 +29,7 @@ inline constexpr int F1 = 112; // F2 is 113, and so on
 } // namespace key
 
 /// The character code of a key event (Unicode beyond the control codes); 0 when the key makes no character.
-/// Alt with a letter makes none, nor does the Delete key.
+/// Alt with a letter makes none, nor do the Delete key and Tab.
 int charCode(const QKeyEvent& event);
 /// The key number of a key event; 0 for a key that has none.
 int keyNumber(const QKeyEvent& event);
