@@ -57,11 +57,8 @@ void frmMsg::Form_Load()
 {
     if (GetSetting(0, english) != hindi)
         return;
-    QFont font = ui->lblTitle->font();
-    font.setFamily(hindiFont);
-    font.setPointSizeF(forms::points(14));
-    font.setBold(true);
-    ui->lblTitle->setFont(font);
+    // A sheet of its own, for the screens' sheet gives headings another size and weight.
+    ui->lblTitle->setStyleSheet(QStringLiteral("font: bold %1pt '%2'").arg(forms::points(14)).arg(hindiFont));
     ui->lblTitle->setText(QStringLiteral("lqpuk"));
 }
 

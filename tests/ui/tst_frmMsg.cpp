@@ -156,8 +156,8 @@ private Q_SLOTS:
         const QString kruti = QStringLiteral("Kruti Dev 010");
         layHindi(m_shop->folder());
         speakHindi();
-        qApp->setStyleSheet(
-            QStringLiteral("QPushButton { padding: 7px } QLabel#lblTitle { font-size: 19pt }"));
+        qApp->setStyleSheet(QStringLiteral(
+            "QPushButton { padding: 7px } QLabel#lblTitle { font-size: 19pt; font-weight: 600 }"));
         show(QStringLiteral("Can't Delete!"), 2, [&](frmMsg& dialog) {
             auto& label = control<QLabel>(dialog, "lblMsg");
             QCOMPARE(label.text(), QStringLiteral("gVk ugha ldrs"));
@@ -169,7 +169,8 @@ private Q_SLOTS:
             QCOMPARE(family(control<QPushButton>(dialog, "cmdYes")), kruti);
             QCOMPARE(control<QLabel>(dialog, "lblTitle").text(), QStringLiteral("lqpuk"));
             QCOMPARE(family(control<QLabel>(dialog, "lblTitle")), kruti);
-            QVERIFY(control<QLabel>(dialog, "lblTitle").font().bold());
+            QCOMPARE(control<QLabel>(dialog, "lblTitle").font().weight(), QFont::Bold);
+            QCOMPARE(control<QLabel>(dialog, "lblTitle").font().pointSizeF(), forms::points(14));
         });
         show(QStringLiteral("No such sentence"), 2, [&](frmMsg& dialog) {
             QCOMPARE(control<QLabel>(dialog, "lblMsg").text(), QStringLiteral("No such sentence"));
