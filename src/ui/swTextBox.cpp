@@ -60,14 +60,21 @@ void swTextBox::keyPressEvent(QKeyEvent* event)
         [this](QKeyEvent* e) { QLineEdit::keyPressEvent(e); });
 }
 
+/// What stays of the text when a key replaces its selection.
+QString swTextBox::unselectedText() const
+{
+    QString rest = text();
+    return hasSelectedText() ? rest.remove(selectionStart(), selectionLength()) : rest;
+}
+
 int swTextBox::filterKey(int key)
 {
     if (m_autoTab && key == forms::key::Enter)
         return EnterAsTab(key);
     Q_EMIT KeyPress(key);
     if (m_boxType == boxes::Money)
-        return NumKey(text(), key);
-    const bool beginsWord = text().isEmpty() || m_lastKey == forms::key::Blank;
+        return NumKey(unselectedText(), key);
+    const bool beginsWord = unselectedText().isEmpty() || m_lastKey == forms::key::Blank;
     if (beginsWord && key >= forms::key::Blank)
         key = int(QChar::toUpper(char32_t(key)));
     m_lastKey = key;

@@ -94,8 +94,7 @@ private Q_SLOTS:
             QCOMPARE(screen.name.Text(), QStringLiteral("Mohan McDonald"));
             screen.name.setText(QStringLiteral("old name"));
             QCOMPARE(screen.name.Text(), QStringLiteral("old name"));
-            screen.name.selectAll();
-            press(Qt::Key_Backspace);
+            screen.name.selectAll(); // what replaces the whole name begins it
             typeText(QString(QChar(0xe9)));
             QCOMPARE(screen.name.Text(), QString(QChar(0xc9)));
         });
@@ -190,6 +189,10 @@ private Q_SLOTS:
             press(Qt::Key_Return);
             QVERIFY(screen.note.hasFocus());
             QCOMPARE(screen.fee.Text(), QStringLiteral("12.50"));
+            screen.fee.setFocus();
+            typeText(QStringLiteral(".5")); // the point that it replaces doesn't count
+            press(Qt::Key_Return);
+            QCOMPARE(screen.fee.Text(), QStringLiteral("0.50"));
 
             QGuiApplication::clipboard()->setText(QStringLiteral("twelve"));
             screen.fee.setFocus();
