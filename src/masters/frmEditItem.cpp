@@ -28,7 +28,7 @@ frmEditItem::frmEditItem()
 {
     ui->setupUi(this);
     setControls({ui->lblTitle, ui->txtName, ui->Command1, ui->Command2});
-    onKeyPress(ui->txtItemDetails, [this](int& key) { templateKey(key); });
+    onKeyDown(ui->txtItemDetails, [this](int& key) { templateKey(key); });
     onGotFocus(ui->txtItemDetails, [this] { m_afterEnter = false; });
     onLostFocus(ui->txtItemDetails, [this] { tidyTemplate(); });
 }
@@ -37,9 +37,8 @@ frmEditItem::~frmEditItem() = default;
 
 void frmEditItem::clear()
 {
-    ui->txtItemDetails->setText(QStringList{QStringLiteral("Measurement 1"), QStringLiteral("Measurement 2"),
-                                            QStringLiteral("Measurement 3=Default Value")}
-                                    .join(LineBreak));
+    ui->txtItemDetails->setText(
+        QStringLiteral("Measurement 1\r\nMeasurement 2\r\nMeasurement 3=Default Value"));
     for (swTextBox* box : {ui->txtFees, ui->txtWorkerFees, ui->txtProductionCap, ui->txtPendingOrdersBal})
         box->setText({});
 }

@@ -121,7 +121,7 @@ private Q_SLOTS:
         edit(shop->addItem(QStringLiteral("Shirt")), [](frmEditItem& form) {
             details(form).setFocus();
             press(Qt::Key_Return);
-            press(Qt::Key_Backspace);
+            press(Qt::Key_Up);
             press(Qt::Key_Return);
             QCOMPARE(focused(form), QStringLiteral("txtItemDetails"));
             press(Qt::Key_Return);
