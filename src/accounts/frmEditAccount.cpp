@@ -5,6 +5,7 @@
 #include "core/Session.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
+#include "ui/modLang.h"
 #include "ui_frmEditAccount.h"
 
 frmEditAccount::frmEditAccount()
@@ -41,6 +42,8 @@ void frmEditAccount::ShowEdit(qint16 id)
     accounts.Close();
     showModal();
 }
+
+void frmEditAccount::Form_Load() { SetFormLanguage(*this); }
 
 void frmEditAccount::Form_KeyPress(int& key)
 {

@@ -23,6 +23,7 @@ public:
     void ShowEdit(qint16 id);
 
 protected:
+    void Form_Load() override;
     void Form_KeyPress(int& key) override;
 
 private:

@@ -5,6 +5,7 @@
 #include "core/Session.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
+#include "ui/modLang.h"
 #include "ui_frmTransiction.h"
 
 namespace {
@@ -150,6 +151,8 @@ void frmTransiction::GetNewNum(qint32& n)
     vouchers.Close();
     n = values::toInt32(qint64(last) + 1);
 }
+
+void frmTransiction::Form_Load() { SetFormLanguage(*this); }
 
 void frmTransiction::Form_KeyPress(int& key)
 {

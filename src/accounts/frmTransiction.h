@@ -33,6 +33,7 @@ public:
     void SaveEdit();
 
 protected:
+    void Form_Load() override;
     void Form_KeyPress(int& key) override;
 
 private:

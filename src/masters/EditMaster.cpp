@@ -4,6 +4,7 @@
 #include "core/Lookups.h"
 #include "core/Session.h"
 #include "ui/ModOtherFUN.h"
+#include "ui/modLang.h"
 #include "ui/swTextBox.h"
 
 #include <QLabel>
@@ -50,6 +51,8 @@ void EditMaster::show(const QString& mode, const QString& title)
     m_controls.txtName->setFocus();
     showModal();
 }
+
+void EditMaster::Form_Load() { SetFormLanguage(*this); }
 
 void EditMaster::Form_KeyPress(int& key)
 {

@@ -43,6 +43,7 @@ protected:
     /// To be called once the controls stand.
     void setControls(const Controls& controls);
 
+    void Form_Load() override;
     void Form_KeyPress(int& key) override;
 
     /// Puts the fields, other than the name, to what a new record begins with.

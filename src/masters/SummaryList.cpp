@@ -5,6 +5,7 @@
 #include "core/Session.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
+#include "ui/modLang.h"
 #include "ui_SummaryList.h"
 
 SummaryList::SummaryList(const Kind& kind)
@@ -39,7 +40,11 @@ void SummaryList::setButtonCaptions(const QString& add, const QString& back)
     ui->Command2->setText(back);
 }
 
-void SummaryList::Form_Load() { session.RefreshLists = true; }
+void SummaryList::Form_Load()
+{
+    SetFormLanguage(*this);
+    session.RefreshLists = true;
+}
 
 void SummaryList::Form_Activate()
 {
