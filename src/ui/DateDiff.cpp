@@ -11,8 +11,6 @@ struct Span
     int days;
 };
 
-int lastDayOfMonth(QDate date) { return date.daysInMonth(); }
-
 int wholeYears(QDate from, QDate to)
 {
     if (from.year() == to.year())
@@ -23,12 +21,12 @@ int wholeYears(QDate from, QDate to)
 
 Span spanBetween(QDate from, QDate to)
 {
-    const bool short_ = to.day() < from.day();
+    const bool dayShort = to.day() < from.day();
     const int calendarMonths = (to.year() - from.year()) * 12 + to.month() - from.month();
-    Span span{wholeYears(from, to), (calendarMonths - (short_ ? 1 : 0)) % 12, to.day() - from.day()};
-    if (!short_)
+    Span span{wholeYears(from, to), (calendarMonths - (dayShort ? 1 : 0)) % 12, to.day() - from.day()};
+    if (!dayShort)
         return span;
-    if (to.day() == lastDayOfMonth(to)) { // a month's end counts as the whole month
+    if (to.day() == to.daysInMonth()) { // a month's end counts as the whole month
         span.days = 0;
         if (++span.months == 12) {
             span.months = 0;
@@ -37,7 +35,7 @@ Span spanBetween(QDate from, QDate to)
         return span;
     }
     const QDate monthBefore = QDate(to.year(), to.month(), 1).addMonths(-1);
-    const int reached = std::min(from.day(), lastDayOfMonth(monthBefore));
+    const int reached = std::min(from.day(), monthBefore.daysInMonth());
     span.days = int(QDate(monthBefore.year(), monthBefore.month(), reached).daysTo(to));
     return span;
 }

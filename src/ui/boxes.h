@@ -13,7 +13,7 @@ inline constexpr int Money = 1;
 /// The text as a box of that type shows it.
 QString shown(const QString& text, int boxType);
 
-/// Focus that comes from, or goes to, another control: not an open list, a menu or another window.
+/// Focus that comes from, or goes to, another control or window: not an open list or a menu.
 bool isRealFocus(const QFocusEvent& event);
 
 /// Offers a key-down by number and shift state; true when it was set to 0.

@@ -9,8 +9,6 @@ int findPrefix(const QStringList& texts, const QString& prefix, int startAfter)
 {
     if (prefix.isEmpty()) // begins every entry, and means none
         return -1;
-    if (prefix.isEmpty())
-        return -1;
     const int count = int(texts.size());
     const int start = startAfter >= 0 && startAfter < count ? startAfter : -1;
     for (int step = 1; step <= count; ++step) {
