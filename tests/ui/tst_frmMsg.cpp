@@ -2,16 +2,13 @@
 #include "core/Settings.h"
 #include "platform/ado/Connection.h"
 #include "platform/ado/DatabaseError.h"
-#include "platform/forms/ListView.h"
 #include "platform/forms/Metrics.h"
 #include "support/KeysTo.h"
 #include "support/Modal.h"
 #include "support/Shop.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/frmMsg.h"
-#include "ui/modChangeHeaderFont.h"
 
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -97,21 +94,11 @@ private Q_SLOTS:
         QTEST(result, "result");
     }
 
-    void shortForm()
-    {
-        onNextModal<frmMsg>([](frmMsg&) { press(Qt::Key_Return); });
-        QVERIFY(ShowMsg(QStringLiteral("Sure?"), 2));
-        onNextModal<frmMsg>([](frmMsg&) { press(Qt::Key_Escape); });
-        QVERIFY(!ShowMsg(QStringLiteral("Sure?"), 2));
-    }
-
     void sizesItselfToTheText_data()
     {
         QTest::addColumn<QString>("text");
         QTest::newRow("short") << QStringLiteral("Duplicate!");
         QTest::newRow("lines") << QStringLiteral("One\nTwo\nThree\nFour");
-        QTest::newRow("wide")
-            << QStringLiteral("This line is rather wide, wider than the least width. ").repeated(2);
         QTest::newRow("wider than the screen")
             << QStringLiteral("A very long story of a job card. ").repeated(30);
     }
@@ -199,17 +186,6 @@ private Q_SLOTS:
             QCOMPARE(forms::Screen::front(), &below);
         });
         below.showModal();
-    }
-
-    void headingsTakeTheFontOfAnotherList()
-    {
-        forms::ListView list;
-        forms::ListView fontList;
-        QFont font(QStringLiteral("Kruti Dev 010"), 14);
-        font.setBold(true);
-        fontList.header()->setFont(font);
-        ChangeHeaderFont(list, fontList, 0);
-        QCOMPARE(list.header()->font(), font);
     }
 
 private:
