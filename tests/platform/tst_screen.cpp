@@ -190,6 +190,8 @@ private Q_SLOTS:
         Counter screen;
         onNextModal<Counter>([&](Counter&) {
             screen.log.clear();
+            press(Qt::Key_Z, Qt::AltModifier); // no button's letter, and no text
+            QCOMPARE(screen.first.text(), QString());
             press(Qt::Key_S, Qt::AltModifier);
             QCOMPARE(screen.log, QStringList({"lost first", "got save", "saved"}));
             press(Qt::Key_Return);

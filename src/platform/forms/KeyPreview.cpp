@@ -43,6 +43,14 @@ void closeListForMnemonic(QWidget* target, const QKeyEvent& event)
         combo->closeUp();
 }
 
+/// Alt with a letter that is no mnemonic of the screen; a field would take the letter for typed.
+bool isStrayMnemonic(const QKeyEvent& event)
+{
+    const QString text = event.text();
+    return event.modifiers().testFlag(Qt::AltModifier) && charCode(event) == 0 && !text.isEmpty() &&
+           text.front().isPrint();
+}
+
 } // namespace
 
 void KeyPreview::install()
@@ -109,6 +117,8 @@ void KeyPreview::preview(Screen& screen, QWidget* target, const QKeyEvent& event
         if (screen.previewKeyDown(target, number, event.modifiers()) || gone())
             return;
     }
+    if (isStrayMnemonic(event))
+        return;
     const int code = charCode(event);
     int key = code;
     if (code != 0 && (screen.previewKeyPress(target, key) || gone()))
