@@ -47,11 +47,7 @@ void frmEditAccount::Form_Load() { SetFormLanguage(*this); }
 
 void frmEditAccount::Form_KeyPress(int& key)
 {
-    if (key == forms::key::Escape) {
-        key = 0;
-        unload();
-        return;
-    }
+    Screen::Form_KeyPress(key);
     key = EnterAsTab(key);
 }
 

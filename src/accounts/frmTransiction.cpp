@@ -154,14 +154,6 @@ void frmTransiction::GetNewNum(qint32& n)
 
 void frmTransiction::Form_Load() { SetFormLanguage(*this); }
 
-void frmTransiction::Form_KeyPress(int& key)
-{
-    if (key == forms::key::Escape) {
-        key = 0;
-        unload();
-    }
-}
-
 void frmTransiction::mirrorAmount()
 {
     ui->txtAmount2->setText(values::formatMoneyText(ui->txtAmount->Text()));

@@ -34,7 +34,6 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_KeyPress(int& key) override;
 
 private:
     struct Pair;

@@ -12,11 +12,4 @@ protected:
     {
         on(button, &Button::clicked, [] { T().showModal(); });
     }
-    void Form_KeyPress(int& key) override
-    {
-        if (key != forms::key::Escape)
-            return;
-        key = 0;
-        unload();
-    }
 };

@@ -23,11 +23,3 @@ void frmAbout::Form_Load()
     ui->lblDBVer->setText(QStringLiteral("Database Version : %1").arg(DatabaseVersion));
     ui->lblInfo->setText(QStringLiteral("Build Date : 2-March-2012"));
 }
-
-void frmAbout::Form_KeyPress(int& key)
-{
-    if (key == forms::key::Escape) {
-        key = 0;
-        unload();
-    }
-}

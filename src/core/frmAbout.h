@@ -18,7 +18,6 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_KeyPress(int& key) override;
 
 private:
     std::unique_ptr<Ui::frmAbout> ui;

@@ -23,11 +23,7 @@ bool frmLogin::Login()
 
 void frmLogin::Form_KeyPress(int& key)
 {
-    if (key == forms::key::Escape) {
-        key = 0;
-        unload();
-        return;
-    }
+    Screen::Form_KeyPress(key);
     key = EnterAsTab(key);
 }
 

@@ -37,11 +37,7 @@ void frmShopINFO::Form_Load()
 
 void frmShopINFO::Form_KeyPress(int& key)
 {
-    if (key == forms::key::Escape) {
-        key = 0;
-        unload();
-        return;
-    }
+    Screen::Form_KeyPress(key);
     key = EnterAsTab(key);
 }
 

@@ -213,14 +213,6 @@ void frmAddItem::addPair(const QString& line)
 
 // Keys
 
-void frmAddItem::Form_KeyPress(int& key)
-{
-    if (key == forms::key::Escape) {
-        key = 0;
-        unload();
-    }
-}
-
 void frmAddItem::Form_KeyDown(int& key, Qt::KeyboardModifiers) { key = ArrowsAsTab(key); }
 
 /// A second Enter straight after the first ends the note.

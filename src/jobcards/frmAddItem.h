@@ -38,7 +38,6 @@ public:
 protected:
     void Form_Load() override;
     void Form_Activate() override;
-    void Form_KeyPress(int& key) override;
     void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
 
 private:

@@ -234,11 +234,7 @@ void frmEditJOB::showMode()
 
 void frmEditJOB::Form_KeyPress(int& key)
 {
-    if (key == forms::key::Escape) {
-        key = 0;
-        unload();
-        return;
-    }
+    Screen::Form_KeyPress(key);
     key = EnterAsTab(key);
 }
 

@@ -54,14 +54,6 @@ void EditMaster::show(const QString& mode, const QString& title)
 
 void EditMaster::Form_Load() { SetFormLanguage(*this); }
 
-void EditMaster::Form_KeyPress(int& key)
-{
-    if (key == forms::key::Escape) {
-        key = 0;
-        unload();
-    }
-}
-
 void EditMaster::save()
 {
     const bool isNew = m_mode == QLatin1String("N");

@@ -44,7 +44,6 @@ protected:
     void setControls(const Controls& controls);
 
     void Form_Load() override;
-    void Form_KeyPress(int& key) override;
 
     /// Puts the fields, other than the name, to what a new record begins with.
     virtual void clear() = 0;

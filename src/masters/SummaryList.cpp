@@ -61,13 +61,11 @@ void SummaryList::Form_Activate()
 
 void SummaryList::Form_KeyPress(int& key)
 {
-    if (key == forms::key::Escape) {
-        key = 0;
-        unload();
-    } else if (key == forms::key::CtrlA) {
-        key = 0;
-        addRecord();
-    }
+    Screen::Form_KeyPress(key);
+    if (key != forms::key::CtrlA)
+        return;
+    key = 0;
+    addRecord();
 }
 
 void SummaryList::search(const QString& text)

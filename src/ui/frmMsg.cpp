@@ -136,9 +136,3 @@ void frmMsg::answer(qint16 result)
     MsgResult = result;
     unload();
 }
-
-void frmMsg::Form_KeyPress(int& key)
-{
-    if (key == forms::key::Escape)
-        unload();
-}

@@ -47,9 +47,3 @@ void frmSelectDate::select()
     m_confirmed = true;
     unload();
 }
-
-void frmSelectDate::Form_KeyPress(int& key)
-{
-    if (key == forms::key::Escape)
-        unload();
-}

@@ -23,9 +23,6 @@ public:
     /// and stay when the dialog is left without a choice.
     void SelectDate(QDate& fromDate, QDate& toDate, int mode);
 
-protected:
-    void Form_KeyPress(int& key) override;
-
 private:
     void followDateFrom();
     void select();

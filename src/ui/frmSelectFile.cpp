@@ -137,9 +137,3 @@ void frmSelectFile::preview(const QString& path)
     picture.setDevicePixelRatio(devicePixelRatio());
     ui->pic1->setPixmap(picture);
 }
-
-void frmSelectFile::Form_KeyPress(int& key)
-{
-    if (key == forms::key::Escape)
-        unload();
-}

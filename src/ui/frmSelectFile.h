@@ -22,7 +22,6 @@ public:
 
 protected:
     void Form_Load() override;
-    void Form_KeyPress(int& key) override;
 
 private:
     void openDrive();

@@ -173,6 +173,14 @@ void Screen::unload()
 
 void Screen::done(int) { unload(); }
 
+void Screen::Form_KeyPress(int& key)
+{
+    if (key != key::Escape)
+        return;
+    key = 0;
+    unload();
+}
+
 void Screen::leaveChain() { std::erase(chain(), this); }
 
 Screen* Screen::front() { return chain().empty() ? nullptr : chain().back(); }

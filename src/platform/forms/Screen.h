@@ -98,7 +98,8 @@ protected:
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     virtual void Form_Unload() {}
-    virtual void Form_KeyPress(int& key) { Q_UNUSED(key) }
+    /// Esc leaves the screen.
+    virtual void Form_KeyPress(int& key);
     virtual void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers)
     {
         Q_UNUSED(key)
