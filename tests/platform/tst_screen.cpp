@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -201,6 +202,23 @@ private Q_SLOTS:
             QCOMPARE(screen.log.count(QStringLiteral("saved")), 2);
             press(Qt::Key_B, Qt::AltModifier);
             QVERIFY(!screen.isLoaded());
+        });
+        screen.showModal();
+    }
+
+    void largerThanTheDisplay()
+    {
+        Counter screen;
+        screen.note.setMinimumSize(screen.screen()->size());
+        onNextModal<Counter>([&](Counter&) {
+            QVERIFY(screen.screen()->geometry().contains(screen.geometry()));
+            for (QWidget* each : std::initializer_list<QWidget*>{&screen.save, &screen.first}) {
+                each->setFocus();
+                const QPoint middle = each->mapTo(&screen, each->rect().center());
+                QVERIFY(screen.rect().contains(middle));
+            }
+            sendTab();
+            QVERIFY(screen.second.hasFocus());
         });
         screen.showModal();
     }

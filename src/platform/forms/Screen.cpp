@@ -10,6 +10,8 @@
 #include <QEventLoop>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
 
@@ -19,6 +21,8 @@ namespace {
 
 /// The part of a small display that a screen may take; the rest is its frame's.
 constexpr double largestShare = 0.97;
+/// What is kept in sight around a control that has the focus, in pixels.
+constexpr int around = 16;
 
 /// The screens that stand on each other, the one in front last.
 std::vector<Screen*>& chain()
@@ -138,10 +142,34 @@ void Screen::present()
         focusNextPrevChild(true);
     if (!testAttribute(Qt::WA_Resized))
         adjustSize();
-    resize(size().boundedTo(screen()->availableSize() * largestShare));
+    fitDisplay();
     show();
     activateWindow();
     activate();
+}
+
+/// Makes the screen no larger than the display; content that needs more room moves into a scrolling area.
+void Screen::fitDisplay()
+{
+    const QSize room = screen()->availableSize() * largestShare;
+    const QSize wanted = size().expandedTo(minimumSizeHint()).boundedTo(room);
+    const bool fits = minimumSizeHint().boundedTo(room) == minimumSizeHint();
+    if (!fits && !m_scroller && layout()) {
+        m_scroller = new QScrollArea(this);
+        m_scroller->setFrameShape(QFrame::NoFrame);
+        m_scroller->setFocusPolicy(Qt::NoFocus);
+        m_scroller->setWidgetResizable(true);
+        auto* content = new QWidget;
+        m_scroller->setWidget(content);
+        content->setLayout(layout()); // and the controls with it
+        content->setAutoFillBackground(false);
+        m_scroller->viewport()->setAutoFillBackground(false);
+        auto* column = new QVBoxLayout(this);
+        column->setContentsMargins({});
+        column->addWidget(m_scroller);
+        column->activate(); // the content's least size is the screen's no longer
+    }
+    resize(wanted);
 }
 
 void Screen::activate()
@@ -259,6 +287,11 @@ bool Screen::swallowed(int& key, const std::function<void()>& screens,
 
 void Screen::focusArrived(QWidget* target)
 {
+    if (m_scroller) {
+        const QRect control(target->mapTo(m_scroller->widget(), QPoint()), target->size());
+        m_scroller->ensureVisible(control.center().x(), control.center().y(), control.width() / 2 + around,
+                                  control.height() / 2 + around);
+    }
     if (m_focused == target)
         return;
     const QPointer<Screen> self = this;

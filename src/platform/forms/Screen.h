@@ -11,6 +11,7 @@
 #include <vector>
 
 class QEventLoop;
+class QScrollArea;
 
 namespace forms {
 
@@ -69,6 +70,9 @@ void call(Procedure& procedure, Args&... args)
 /// Form_KeyPress and the control's onKeyPress; then the control itself. Each can change a character code, or
 /// set 0 to swallow the key. Keys typed while a combo's list is open take the same way to the combo; Esc then
 /// closes the list only. Enter on a focused push button presses it, and is no key press for the screen.
+///
+/// A screen whose content is larger than the display scrolls, and keeps the control that has the focus in
+/// sight.
 class Screen : public QDialog
 {
     Q_OBJECT
@@ -154,6 +158,7 @@ private:
     };
 
     void present();
+    void fitDisplay();
     void activate();
     void leaveChain();
     ControlEvents& eventsOf(QWidget* control);
@@ -171,6 +176,7 @@ private:
     bool m_notice = false;
     QPointer<QEventLoop> m_loop;
     QPointer<QWidget> m_focused;
+    QScrollArea* m_scroller = nullptr;
     std::vector<ControlEvents> m_events;
 };
 
