@@ -14,6 +14,7 @@
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
+#include "ui/modLang.h"
 #include "ui_frmMain.h"
 
 #include <QSignalBlocker>
@@ -50,6 +51,7 @@ frmMain::~frmMain() = default;
 
 void frmMain::Form_Load()
 {
+    SetFormLanguage(*this);
     SetWall();
     setWindowState(Qt::WindowMaximized);
 }

@@ -3,6 +3,7 @@
 #include "core/DE.h"
 #include "core/Settings.h"
 #include "ui/ModOtherFUN.h"
+#include "ui/modLang.h"
 #include "ui_frmShopINFO.h"
 
 frmShopINFO::frmShopINFO()
@@ -17,6 +18,7 @@ frmShopINFO::~frmShopINFO() = default;
 
 void frmShopINFO::Form_Load()
 {
+    SetFormLanguage(*this);
     ado::Recordset& shop = DE.rsSHOP;
     shop.Open(QStringLiteral("Select * from Shop where id=1"));
     ui->txtName->setText(shop["Name"].text());

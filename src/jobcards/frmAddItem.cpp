@@ -8,6 +8,7 @@
 #include "platform/values/Dates.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/frmSelectFile.h"
+#include "ui/modLang.h"
 #include "ui_frmAddItem.h"
 
 #include <QColorDialog>
@@ -100,6 +101,7 @@ bool frmAddItem::show(clsJobCardData& rows, qint32 clientID)
 
 void frmAddItem::Form_Load()
 {
+    SetFormLanguage(*this);
     FillCombo(QStringLiteral("Name"), QStringLiteral("Items"), *ui->cmbItems, DE.rsITEMS);
 }
 

@@ -12,6 +12,7 @@
 #include "platform/values/Numbers.h"
 #include "ui/DateDiff.h"
 #include "ui/ModOtherFUN.h"
+#include "ui/modLang.h"
 #include "ui_frmEditJOB.h"
 
 namespace {
@@ -81,6 +82,7 @@ frmEditJOB::~frmEditJOB() = default;
 
 void frmEditJOB::Form_Load()
 {
+    SetFormLanguage(*this);
     fillClients();
     FillList(QStringLiteral("Title"), QStringLiteral("Accounts"),
              QStringLiteral(" where type=2 and nature=0 "), *ui->cmbAccount, DE.rsaccounts);
