@@ -152,48 +152,55 @@ void ItemDetails::SetFocusToList()
 /// A hidden proxy would hold the Tab key up in front of an empty grid.
 void ItemDetails::updateFocusProxy() { setFocusProxy(m_count > 0 ? m_rows.front().txtValue.get() : nullptr); }
 
-/// A row that lies below the first panelful is scrolled to the top. Rows above that line leave the scroll bar
-/// alone; where one would stay out of sight the panel is moved just as far as it takes to see it.
+/// A row that lies below the first panelful is scrolled to the top, as far as the bar reaches. Rows above
+/// that line leave the scroll bar alone; where one would stay out of sight the panel is moved just as far as
+/// it takes to see it.
 void ItemDetails::rowGotFocus(size_t index)
 {
     const int top = rowTop(index);
     const int visible = twipsOf(Picture2->height());
-    if (top > visible)
+    if (top > visible && top <= VScroll1->maximum())
         VScroll1->setValue(top);
     const int highest = rowTop(index + 1) - visible;
-    movePanel(qBound(highest, VScroll1->value(), qMax(highest, top - RowGap)));
+    movePanel(qBound(highest, VScroll1->value(), qMax(highest, top)));
 }
 
 void ItemDetails::lblGotFocus(QLabel& label) { paint(label, true); }
 
 void ItemDetails::lbllostFocus(QLabel& label) { paint(label, false); }
 
-/// The captions and the space between the rows take the wheel too.
+/// The wheel turns as far as the last row, also where the bar does not reach it.
 bool ItemDetails::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::Wheel) {
         const int turned = static_cast<QWheelEvent*>(event)->angleDelta().y();
-        VScroll1->setValue(VScroll1->value() - turned * VScroll1->singleStep() / 120);
-        movePanel(VScroll1->value());
+        const int shift =
+            qBound(0, m_shift - turned * VScroll1->singleStep() / 120, qMax(m_shift, hiddenHeight()));
+        VScroll1->setValue(shift);
+        movePanel(shift);
         return true;
     }
     return QWidget::eventFilter(watched, event);
 }
 
-void ItemDetails::movePanel(int shift) { Picture1->move(0, -forms::twips(shift)); }
+void ItemDetails::movePanel(int shift)
+{
+    m_shift = shift;
+    Picture1->move(0, -forms::twips(shift));
+}
 
-/// The bar reaches a third of the panel, or as far as the last row needs; it shows when the rows do not fit.
+/// The bar reaches a third of the panel; it shows when the rows do not fit.
 void ItemDetails::updateScrollBar()
 {
-    const int beyond = contentHeight() - twipsOf(Picture2->height());
-    VScroll1->setMaximum(qMax(values::CLng(m_panelHeight / 3.0), beyond));
+    VScroll1->setMaximum(values::CLng(m_panelHeight / 3.0));
     const int step = values::CLng(m_panelHeight / qMax(1.0, static_cast<double>(m_count)));
     VScroll1->setPageStep(step);
     VScroll1->setSingleStep(step);
-    VScroll1->setVisible(beyond > 0);
-    if (beyond <= 0)
+    const bool scrolls = hiddenHeight() > 0;
+    VScroll1->setVisible(scrolls);
+    if (!scrolls)
         VScroll1->setValue(0);
-    Picture1->resize(Picture2->width(), forms::twips(qMax(m_panelHeight, contentHeight())));
+    Picture1->resize(Picture2->width(), forms::twips(m_panelHeight));
 }
 
 // Layout
@@ -258,4 +265,8 @@ int ItemDetails::rowTop(size_t index) const
     return RowGap + static_cast<int>(index) * (rowHeight() + RowGap);
 }
 
-int ItemDetails::contentHeight() const { return m_count > 0 ? rowTop(static_cast<size_t>(m_count)) : 0; }
+/// How much of the rows does not fit; 0 or less when all are in sight.
+int ItemDetails::hiddenHeight() const
+{
+    return m_count > 0 ? rowTop(static_cast<size_t>(m_count)) - twipsOf(Picture2->height()) : 0;
+}

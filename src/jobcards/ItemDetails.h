@@ -62,7 +62,7 @@ private:
     void placeRow(size_t index);
     int rowHeight() const;
     int rowTop(size_t index) const;
-    int contentHeight() const;
+    int hiddenHeight() const;
     void updateScrollBar();
     void movePanel(int shift);
 
@@ -72,5 +72,6 @@ private:
     std::vector<Row> m_rows;
     qint16 m_count = 0;
     int m_panelHeight;
+    int m_shift = 0; ///< of the panel, upwards
     QString m_language;
 };
