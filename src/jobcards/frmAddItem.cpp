@@ -74,29 +74,28 @@ frmAddItem::~frmAddItem() = default;
 
 bool frmAddItem::ItemDetails(clsJobCardData& rows, qint32 clientID)
 {
-    LineMode = QStringLiteral("N");
-    load();
-    return show(rows, clientID);
+    prepare(QStringLiteral("N"), rows, clientID);
+    showModal();
+    return LineCancelled;
 }
 
 bool frmAddItem::EditItemDetails(clsJobCardData& rows, qint32 clientID, qint32 rowIndex)
 {
-    LineMode = QStringLiteral("E");
-    JobRows = &rows;
+    prepare(QStringLiteral("E"), rows, clientID);
     RowIndex = rowIndex;
-    load();
     showRow();
-    return show(rows, clientID);
-}
-
-bool frmAddItem::show(clsJobCardData& rows, qint32 clientID)
-{
-    LineCancelled = true;
-    JobRows = &rows;
-    ClientID = clientID;
-    ui->lblClint->setText(GetAccountTitle(clientID));
     showModal();
     return LineCancelled;
+}
+
+void frmAddItem::prepare(const QString& mode, clsJobCardData& rows, qint32 clientID)
+{
+    LineCancelled = true;
+    LineMode = mode;
+    JobRows = &rows;
+    ClientID = clientID;
+    load();
+    ui->lblClint->setText(GetAccountTitle(clientID));
 }
 
 void frmAddItem::Form_Load()
@@ -278,6 +277,7 @@ void frmAddItem::Command2_Click()
 
 // OK
 
+/// A line that could not be written counts as cancelled: the card must not list a row that it does not hold.
 void frmAddItem::Command1_Click()
 {
     if (refuses(ui->cmbItems->text().isEmpty(), QStringLiteral("Please Select Item!"), *ui->cmbItems) ||

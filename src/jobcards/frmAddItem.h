@@ -41,7 +41,7 @@ protected:
     void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
 
 private:
-    bool show(clsJobCardData& rows, qint32 clientID);
+    void prepare(const QString& mode, clsJobCardData& rows, qint32 clientID);
     void showRow();
 
     void cmbItems_GotFocus();
