@@ -316,10 +316,12 @@ private Q_SLOTS:
             press(Qt::Key_Return);
             QCOMPARE(screen.keys, QList<int>({13}));
 
-            picker.calendarWidget()->parentWidget()->show();
-            picker.calendarWidget()->parentWidget()->close();
+            QTest::mouseClick(&picker, Qt::LeftButton, {}, {picker.width() - 8, picker.height() / 2});
+            QVERIFY(picker.calendarWidget()->isVisible());
+            press(Qt::Key_Escape);
+            QVERIFY(!picker.calendarWidget()->isVisible());
             QCOMPARE(closed.count(), 1);
-            QVERIFY(picker.hasFocus());
+            QVERIFY(screen.focusWidget() == &picker);
         });
         screen.showModal();
     }

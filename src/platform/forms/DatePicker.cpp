@@ -13,10 +13,6 @@ DatePicker::DatePicker(QWidget* parent)
     setLocale(QLocale::c());
     setCalendarPopup(true);
     setCustomFormat(QStringLiteral("dd-MMM-yyyy"));
-    calendarWidget()->setLocale(QLocale::c());
-    calendarWidget()->setFirstDayOfWeek(Qt::Monday);
-    calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    calendarWidget()->parentWidget()->installEventFilter(this);
     connect(this, &QDateEdit::dateChanged, this, &DatePicker::changed);
 }
 
@@ -24,9 +20,22 @@ void DatePicker::setCustomFormat(const QString& pattern) { setDisplayFormat(patt
 
 bool DatePicker::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == calendarWidget()->parentWidget() && event->type() == QEvent::Hide)
+    if (watched == m_popup && event->type() == QEvent::Hide)
         Q_EMIT calendarClosed();
     return QDateEdit::eventFilter(watched, event);
+}
+
+/// The calendar is made at the first press of the mouse, which may open it: most pickers never do.
+void DatePicker::mousePressEvent(QMouseEvent* event)
+{
+    if (!m_popup) {
+        calendarWidget()->setLocale(QLocale::c());
+        calendarWidget()->setFirstDayOfWeek(Qt::Monday);
+        calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+        m_popup = calendarWidget()->parentWidget();
+        m_popup->installEventFilter(this);
+    }
+    QDateEdit::mousePressEvent(event);
 }
 
 void DatePicker::keyPressEvent(QKeyEvent* event)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateEdit>
+#include <QPointer>
 
 namespace forms {
 
@@ -25,11 +26,13 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
     bool typeMonth(const QKeyEvent& event);
 
+    QPointer<QWidget> m_popup; // of the calendar
     int m_monthTyped = 0;
 };
 
