@@ -1,6 +1,7 @@
 #include "core/frmAbout.h"
 
 #include "core/Schema.h"
+#include "platform/forms/Icons.h"
 #include "ui_frmAbout.h"
 
 #include <QCoreApplication>
@@ -10,7 +11,7 @@ frmAbout::frmAbout()
     : ui(std::make_unique<Ui::frmAbout>())
 {
     ui->setupUi(this);
-    ui->Image1->setPixmap(QIcon(QStringLiteral(":/icons/app.svg")).pixmap(104, 104));
+    ui->Image1->setPixmap(forms::picture(QStringLiteral("app"), 104));
     on(ui->Command1, &QPushButton::clicked, &frmAbout::unload);
 }
 

@@ -1,6 +1,7 @@
 #include "core/frmLogin.h"
 
 #include "core/Settings.h"
+#include "platform/forms/Icons.h"
 #include "ui/ModOtherFUN.h"
 #include "ui_frmLogin.h"
 
@@ -8,7 +9,7 @@ frmLogin::frmLogin()
     : ui(std::make_unique<Ui::frmLogin>())
 {
     ui->setupUi(this);
-    ui->Image1->setPixmap(QIcon(QStringLiteral(":/icons/login.svg")).pixmap(104, 104));
+    ui->Image1->setPixmap(forms::picture(QStringLiteral("login"), 104));
     on(ui->Command1, &QPushButton::clicked, &frmLogin::Command1_Click);
 }
 

@@ -35,7 +35,7 @@ frmMain::frmMain()
     ui->setupUi(this);
     setWindowFlags(Qt::Window);
     forms::applyIcons(*this, forms::iconLight);
-    ui->Image2->setPixmap(QIcon(QStringLiteral(":/icons/app.svg")).pixmap(48, 48));
+    ui->Image2->setPixmap(forms::picture(QStringLiteral("app"), 48));
     MyWall = new Wallpaper(ui->Picture1);
 
     on(ui->cmdCreateJOB, &QPushButton::clicked, [] { frmEditJOB().ShowAddNew(); });

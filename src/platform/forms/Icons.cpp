@@ -12,10 +12,18 @@ namespace {
 
 constexpr int iconSize = 24;
 
-QPixmap draw(const QByteArray& svg, qreal ratio, qreal opacity)
+/// The drawing of an icon; empty where there is none.
+QByteArray drawingOf(const QString& name)
+{
+    QFile file(QStringLiteral(":/icons/") + name + QStringLiteral(".svg"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QPixmap draw(const QByteArray& svg, int size, qreal opacity = 1)
 {
     QSvgRenderer drawing(svg);
-    QPixmap pixmap(QSize(iconSize, iconSize) * ratio);
+    const qreal ratio = qApp->devicePixelRatio();
+    QPixmap pixmap(QSize(size, size) * ratio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setOpacity(opacity);
@@ -27,16 +35,16 @@ QPixmap draw(const QByteArray& svg, qreal ratio, qreal opacity)
 
 } // namespace
 
+QPixmap picture(const QString& name, int size) { return draw(drawingOf(name), size); }
+
 QIcon lineIcon(const QString& name, const QColor& colour)
 {
-    QFile file(QStringLiteral(":/icons/") + name + QStringLiteral(".svg"));
-    if (!file.open(QIODevice::ReadOnly))
+    QByteArray svg = drawingOf(name);
+    if (svg.isEmpty())
         return {};
-    QByteArray svg = file.readAll();
     svg.replace(iconInk.name().toUpper().toLatin1(), colour.name().toLatin1());
-    const qreal ratio = qApp->devicePixelRatio();
-    QIcon icon(draw(svg, ratio, 1));
-    icon.addPixmap(draw(svg, ratio, 0.35), QIcon::Disabled);
+    QIcon icon(draw(svg, iconSize));
+    icon.addPixmap(draw(svg, iconSize, 0.35), QIcon::Disabled);
     return icon;
 }
 

@@ -3,10 +3,14 @@
 #include <QColor>
 
 class QIcon;
+class QPixmap;
 class QString;
 class QWidget;
 
 namespace forms {
+
+/// One of the drawings of the resources (":/icons/<name>.svg"), `size` pixels of the layout wide and high.
+QPixmap picture(const QString& name, int size);
 
 /// One of the line icons of the resources (":/icons/<name>.svg"), its lines drawn in `colour`.
 QIcon lineIcon(const QString& name, const QColor& colour);
