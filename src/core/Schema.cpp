@@ -5,6 +5,7 @@
 #include "core/Settings.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -29,6 +30,9 @@ constexpr const char* Integer = "INTEGER";
 constexpr const char* Money = "MONEY";
 constexpr const char* Double = "DOUBLE";
 constexpr const char* Date = "DATE";
+/// What the engine puts behind a file's name to call its journal.
+const QString journal = QStringLiteral("-journal");
+
 constexpr Column Id{"Id", Integer, Rule::Autonumber};
 
 const std::vector<Table>& tables()
@@ -221,24 +225,34 @@ QString databasePassword() { return QStringLiteral("measuretwicecut"); }
 
 void CreateDatabase()
 {
+    const QString path = session.databasePath();
+    if (QFileInfo::exists(path))
+        throw ado::DatabaseError(path + QStringLiteral(": there is something else of this name."));
     // Built under another name: a power cut on the way leaves no half-made shop under the real one.
-    const QString building = session.databasePath() + QStringLiteral(".new");
-    QFile::remove(building);
-    DE.connection().create(building, databasePassword());
+    const QString building = path + QStringLiteral(".new");
+    const auto clearAway = [&] {
+        DE.close();
+        QFile::remove(building);
+        QFile::remove(building + journal);
+    };
+    clearAway();
     try {
+        DE.connection().create(building, databasePassword());
         DE.connection().writeBatch([] {
             for (const Table& table : tables())
                 createTable(table);
             SetSetting(16, QString::number(DatabaseVersion));
             addBuiltInAccounts();
         });
-    } catch (...) {
         DE.close();
-        QFile::remove(building);
+        // The journal of a database that is gone would be played back into this one.
+        QFile::rename(path + journal, path + QStringLiteral(".lost") + journal);
+        QFile file(building);
+        if (!file.rename(path))
+            throw ado::DatabaseError(path + QStringLiteral(": ") + file.errorString());
+    } catch (...) {
+        clearAway();
         throw;
     }
-    DE.close();
-    QFile file(building);
-    if (!file.rename(session.databasePath()))
-        throw ado::DatabaseError(session.databasePath() + QStringLiteral(": ") + file.errorString());
+    clearAway();
 }

@@ -6,6 +6,7 @@
 #include "core/Startup.h"
 #include "support/Shop.h"
 
+#include <QDir>
 #include <QTest>
 
 namespace {
@@ -42,6 +43,7 @@ class tst_store : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void firstRun();
+    void creationAmongRemains();
     void requiredColumns();
     void versionIsChecked();
     void settings();
@@ -73,6 +75,31 @@ void tst_store::firstRun()
         QCOMPARE(accounts["ReadOnly"].integer(), 1);
     }
     QVERIFY(accounts.AtEOF());
+}
+
+/// What a lost database has left behind does the new one no harm, and nothing of the making stays.
+void tst_store::creationAmongRemains()
+{
+    Shop shop;
+    const QString path = session.databasePath();
+    const QString journal = path + QStringLiteral("-journal");
+    DE.connection().Execute(QStringLiteral("PRAGMA cache_size=5"));
+    DE.connection().writeBatch([&] {
+        for (int i = 0; i < 300; ++i)
+            SetSetting(100 + i, QString(500, u'x'));
+        QVERIFY(QFile::copy(journal, path + QStringLiteral(".cut"))); // as a power cut leaves it now
+    });
+    DE.close();
+    QVERIFY(QFile::remove(path) && QFile::remove(journal));
+    QVERIFY(QFile::rename(path + QStringLiteral(".cut"), journal));
+    CreateDatabase();
+    DE.open(path);
+    QCOMPARE(GetSetting(16, QString()), QStringLiteral("12"));
+    DE.close();
+
+    QVERIFY(QFile::remove(path) && QDir().mkdir(path));
+    QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, CreateDatabase());
+    QCOMPARE(QDir(shop.folder()).entryList({QStringLiteral("data.mdb.new*")}), QStringList());
 }
 
 void tst_store::requiredColumns()
