@@ -10,25 +10,42 @@ void DataEnvironment::close() { m_connection.close(); }
 
 void DataEnvironment::ensureIndexes()
 {
-    static const char* const indexes[] = {
-        "Accounts_Title ON Accounts (Title)",
-        "Accounts_Type ON Accounts (Type, Title)",
-        "Items_Name ON ITEMS (NAME)",
-        "Jobs_Id ON JOBS (Id)",
-        "Jobs_Clint ON JOBS (ClintID)",
-        "Jobs_Detail_Job ON JOBS_DETAIL (JobID)",
-        "Jobs_Detail_Clint ON JOBS_DETAIL (ClintID, ItemID)",
-        "Jobs_Detail_Item ON JOBS_DETAIL (ItemID)",
-        "Jobs_Detail_Worker ON JOBS_DETAIL (WorkerID)",
-        "Postings_Account ON postings (AccID)",
-        "Postings_Reference ON postings (RefID)",
-        "Postings_Voucher ON postings (VID, Vtype)",
-        "Settings_Setting ON Settings (SETTING)",
+    struct Index
+    {
+        const char* name;
+        const char* columns;
+    };
+    static constexpr Index indexes[] = {
+        {"Accounts_Title", "Accounts (Title)"},
+        {"Accounts_Type", "Accounts (Type, Title)"},
+        {"Items_Name", "ITEMS (NAME)"},
+        {"Jobs_Id", "JOBS (Id)"},
+        {"Jobs_Clint", "JOBS (ClintID)"},
+        {"Jobs_Detail_Job", "JOBS_DETAIL (JobID)"},
+        {"Jobs_Detail_Clint", "JOBS_DETAIL (ClintID, ItemID)"},
+        {"Jobs_Detail_Item", "JOBS_DETAIL (ItemID)"},
+        {"Jobs_Detail_Worker", "JOBS_DETAIL (WorkerID)"},
+        {"Postings_Account", "postings (AccID)"},
+        {"Postings_Reference", "postings (RefID)"},
+        {"Postings_Voucher", "postings (VID, Vtype)"},
+        {"Settings_Setting", "Settings (SETTING)"},
     };
     try {
-        m_connection.writeBatch([this] {
-            for (const char* index : indexes)
-                m_connection.Execute(QStringLiteral("CREATE INDEX IF NOT EXISTS ") + QLatin1String(index));
+        QStringList present;
+        ado::Recordset names(m_connection);
+        for (names.Open(QStringLiteral("Select name from sqlite_master where type='index'")); !names.AtEOF();
+             names.MoveNext())
+            present << names[0].text();
+        names.Close();
+        QStringList statements;
+        for (const Index& index : indexes)
+            if (const QLatin1String name(index.name); !present.contains(name))
+                statements << QStringLiteral("CREATE INDEX %1 ON %2").arg(name, QLatin1String(index.columns));
+        if (statements.isEmpty()) // the usual start takes no lock on the file
+            return;
+        m_connection.writeBatch([&] {
+            for (const QString& statement : statements)
+                m_connection.Execute(statement);
         });
     } catch (const ado::DatabaseError&) {
         // Without them every look-up still finds the same rows.
