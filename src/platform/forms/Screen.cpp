@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -120,6 +121,8 @@ void Screen::load()
         button->setAutoDefault(false);
         button->setDefault(false);
     }
+    for (QLabel* label : findChildren<QLabel*>()) // what an operator has typed is never markup
+        label->setTextFormat(Qt::PlainText);
     try {
         Form_Load();
     } catch (...) {
