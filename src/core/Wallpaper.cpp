@@ -1,8 +1,11 @@
 #include "core/Wallpaper.h"
 
+#include "platform/forms/Pictures.h"
+
 #include <QEvent>
 #include <QImageReader>
 #include <QPainter>
+#include <QScreen>
 #include <QSvgRenderer>
 
 Wallpaper::Wallpaper(QWidget* desktop)
@@ -15,8 +18,18 @@ Wallpaper::Wallpaper(QWidget* desktop)
 
 void Wallpaper::loadPicture(const QString& path)
 {
+    if (!forms::isPicture(path))
+        return;
     QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
+    // Of a picture larger than the display only the middle is taken in: a square, as it may yet be turned.
+    const QSize display = screen()->virtualSize();
+    const int side = qMax(display.width(), display.height());
+    const QRect whole({}, reader.size());
+    QRect middle(0, 0, side, side);
+    middle.moveCenter(whole.center());
+    reader.setClipRect(middle & whole);
     const QImage picture = reader.read();
     if (picture.isNull())
         return;
