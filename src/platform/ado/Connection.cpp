@@ -39,9 +39,27 @@ bool Connection::Private::step(Prepared& statement)
         return true;
     if (code == SQLITE_DONE)
         return false;
-    const QString text = engineText(database);
+    const QString text = faultText(code);
     statement.reset();
     fail(text);
+}
+
+/// The engine's text; a fault of the file, not of the statement, names the file.
+QString Connection::Private::faultText(int code) const
+{
+    const QString text = engineText(database);
+    switch (code & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_READONLY:
+    case SQLITE_IOERR:
+    case SQLITE_CORRUPT:
+    case SQLITE_FULL:
+    case SQLITE_CANTOPEN:
+    case SQLITE_NOTADB:
+        return path.isEmpty() ? text : path + QStringLiteral(": ") + text;
+    default:
+        return text;
+    }
 }
 
 void Connection::Private::fail(const QString& text)

@@ -38,6 +38,7 @@ struct Connection::Private
     void makeDurable();
 
 private:
+    QString faultText(int code) const;
     [[noreturn]] void fail(const QString& text);
 };
 
