@@ -9,6 +9,7 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -327,6 +328,17 @@ void Screen::closeEvent(QCloseEvent* event)
 void Screen::keyPressEvent(QKeyEvent* event) { event->ignore(); }
 
 /// Stands over the middle of the screen below.
+/// A fine line around the screen: where no window manager frames it, it still stands off from the one below.
+void Screen::paintEvent(QPaintEvent* event)
+{
+    QDialog::paintEvent(event);
+    if (isMaximized())
+        return;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
 void Screen::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);

@@ -40,6 +40,7 @@ QPalette palette()
     colours.setColor(QPalette::HighlightedText, Qt::white);
     colours.setColor(QPalette::Disabled, QPalette::Text, QColor(0x8A, 0x84, 0x7A));
     colours.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x8A, 0x84, 0x7A));
+    colours.setColor(QPalette::Mid, QColor(0x9A, 0x94, 0x8A));
     colours.setColor(QPalette::PlaceholderText, QColor(0x8A, 0x84, 0x7A));
     return colours;
 }
