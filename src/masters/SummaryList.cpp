@@ -16,6 +16,7 @@ SummaryList::SummaryList(const Kind& kind)
     ui->setupUi(this);
     setWindowTitle(kind.title);
     ui->lblTitle->setText(kind.title);
+    ui->lstSummary->setAccessibleName(kind.title);
 
     on(ui->txtSearch, &swTextBox::Change, [this] { search(ui->txtSearch->Text()); });
     onKeyDown(ui->txtSearch, [this](int& key) { ListSearch(*ui->lstSummary, key); });
