@@ -50,8 +50,8 @@ void residentMemory(benchmark::State& state)
 
 } // namespace
 
-BENCHMARK(bareWindow)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
-BENCHMARK(mainScreen)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
+BENCHMARK(bareWindow)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(4)->Repetitions(8);
+BENCHMARK(mainScreen)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(4)->Repetitions(8);
 BENCHMARK(residentMemory)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char* argv[])

@@ -1,5 +1,5 @@
-// Preloaded by ./run on a machine with no display. Qt's VNC platform listens on every address of the machine; what asks
-// for every address gets the loopback one here, so that only this machine can look at the shop.
+// Preloaded by ./run on a machine with no display. Qt's VNC platform listens on every address of the machine;
+// what asks for every address gets the loopback one here, so that only this machine can look at the shop.
 
 #include <arpa/inet.h>
 #include <cstdlib>
@@ -13,10 +13,7 @@ namespace {
 using Bind = int (*)(int, const sockaddr*, socklen_t);
 
 // What the program starts needs none of this.
-[[gnu::constructor]] void keepToThisProcess()
-{
-    unsetenv("LD_PRELOAD");
-}
+[[gnu::constructor]] void keepToThisProcess() { unsetenv("LD_PRELOAD"); }
 
 } // namespace
 
