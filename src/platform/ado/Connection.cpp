@@ -171,8 +171,6 @@ void Connection::close()
 
 bool Connection::isOpen() const { return d->database != nullptr; }
 
-QString Connection::path() const { return d->path; }
-
 sqlite3* Connection::handle() const { return d->database; }
 
 int Connection::Execute(const QString& sql)

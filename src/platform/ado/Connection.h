@@ -37,7 +37,6 @@ public:
     /// Closes the handle; recordsets still open on it are closed. No fault if it is not open.
     void close();
     bool isOpen() const;
-    QString path() const;
 
     /// Runs one statement in the system's dialect and returns the number of rows it changed. Throws
     /// DatabaseError.

@@ -28,7 +28,7 @@ struct Clauses
             else if (depth == 0)
                 note(words, i);
         }
-        end = std::min({where, order, limit, words.size()});
+        end = std::min({where, order, words.size()});
         bool named = from != none && from + 1 < end;
         if (named) {
             const Word& table = words[from + 1];
@@ -39,13 +39,12 @@ struct Clauses
         }
         plain = named && !combined;
         all = plain && from == 2 && words[1].is(QLatin1StringView("*"));
-        body = std::min({order, limit, words.size()});
+        body = std::min(order, words.size());
     }
 
     size_t from = none;
     size_t where = none;
     size_t order = none;
-    size_t limit = none;
     size_t end = none;  ///< behind the tables
     size_t body = none; ///< behind the conditions
     bool plain = false; ///< one row of one table is one row of the result
@@ -71,8 +70,6 @@ private:
             first(where);
         else if (isWord("order") && ordering)
             first(order);
-        else if (isWord("limit"))
-            first(limit);
         else if (from == none && called && std::any_of(aggregates.begin(), aggregates.end(), isWord))
             combined = true;
         else if (std::any_of(combining.begin(), combining.end(), isWord))
@@ -83,13 +80,13 @@ private:
 };
 
 /// The terms of an ORDER BY, each turned round.
-QString reversedOrder(const Words& words, size_t first, size_t last)
+QString reversedOrder(const Words& words, size_t first)
 {
     QStringList terms;
     int depth = 0;
     size_t begin = first;
-    for (size_t i = first; i <= last; ++i) {
-        const bool atEnd = i == last;
+    for (size_t i = first; i <= words.size(); ++i) {
+        const bool atEnd = i == words.size();
         if (!atEnd && words[i].is(QLatin1StringView("(")))
             ++depth;
         else if (!atEnd && words[i].is(QLatin1StringView(")")))
@@ -125,20 +122,13 @@ Statement translateSelect(const Words& words)
         statement.table = words[clauses.from + 1].unquoted();
         head = QStringLiteral("SELECT rowid, * ") + join(words, clauses.from, clauses.body);
     }
-    const bool limited = clauses.limit != none;
-    const size_t orderEnd = limited ? clauses.limit : words.size();
     // Equals come in order of insertion too, whatever index serves the order.
     const bool ordered = clauses.order != none;
     statement.sql = head + u' ' +
-                    (ordered ? join(words, clauses.order, orderEnd) + QStringLiteral(", rowid")
+                    (ordered ? join(words, clauses.order, words.size()) + QStringLiteral(", rowid")
                              : QStringLiteral("ORDER BY rowid"));
-    if (limited) {
-        statement.sql += u' ' + join(words, clauses.limit, words.size());
-        statement.countSql = QStringLiteral("SELECT count(*) FROM (") + statement.sql + u')';
-        return statement;
-    }
     const QString turned =
-        ordered ? reversedOrder(words, clauses.order + 2, orderEnd) + QStringLiteral(", ") : QString();
+        ordered ? reversedOrder(words, clauses.order + 2) + QStringLiteral(", ") : QString();
     statement.reversed = head + QStringLiteral(" ORDER BY ") + turned + QStringLiteral("rowid DESC LIMIT 1");
     statement.countSql = QStringLiteral("SELECT count(*) ") + join(words, clauses.from, clauses.body);
     return statement;
@@ -179,7 +169,7 @@ QString withCondition(const QString& select, const QString& condition)
 {
     const Words words = wordsOf(select);
     const Clauses clauses(words);
-    if (!clauses.plain || clauses.limit != none)
+    if (!clauses.plain)
         return QStringLiteral("SELECT * FROM (%1) WHERE %2").arg(join(words), condition);
     QString sql = join(words, 0, clauses.end) + QStringLiteral(" WHERE ") + condition;
     if (clauses.where != none)

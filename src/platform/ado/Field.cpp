@@ -13,10 +13,7 @@ const QVariant& Field::stored() const
     return m_owner.d->value(m_column);
 }
 
-ColumnType Field::type() const
-{
-    return (*m_owner.d->columns)[static_cast<size_t>(m_column + m_owner.d->hiddenColumns)].type;
-}
+ColumnType Field::type() const { return m_owner.d->column(static_cast<size_t>(m_column)).type; }
 
 bool Field::isNull() const { return !stored().isValid(); }
 

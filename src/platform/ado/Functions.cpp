@@ -78,22 +78,21 @@ void datePart(sqlite3_context* context, int, sqlite3_value** arguments)
 }
 
 /// Matches case-folded text with a case-folded pattern: "%" any run of characters, "_" any one.
-bool matches(QStringView pattern, QStringView text, QChar escape)
+bool matches(QStringView pattern, QStringView text)
 {
     qsizetype p = 0;
     qsizetype t = 0;
     qsizetype afterRun = -1;
     qsizetype runText = 0;
     while (t < text.size()) {
-        const bool escaped = !escape.isNull() && p + 1 < pattern.size() && pattern[p] == escape;
-        if (p < pattern.size() && !escaped && pattern[p] == u'%') {
+        if (p < pattern.size() && pattern[p] == u'%') {
             afterRun = ++p;
             runText = t;
-        } else if (p < pattern.size() && !escaped && pattern[p] == u'_') {
+        } else if (p < pattern.size() && pattern[p] == u'_') {
             ++p;
             t += text[t].isHighSurrogate() && t + 1 < text.size() ? 2 : 1;
-        } else if (p < pattern.size() && pattern[escaped ? p + 1 : p] == text[t]) {
-            p += escaped ? 2 : 1;
+        } else if (p < pattern.size() && pattern[p] == text[t]) {
+            ++p;
             ++t;
         } else if (afterRun >= 0) {
             p = afterRun;
@@ -113,33 +112,22 @@ QString foldedText(sqlite3_value* value)
     return QString::fromUtf16(text, sqlite3_value_bytes16(value) / 2).toCaseFolded();
 }
 
-/// `text LIKE pattern [ESCAPE c]` calls like(pattern, text[, c]).
-void like(sqlite3_context* context, int count, sqlite3_value** arguments)
+/// `text LIKE pattern` calls like(pattern, text).
+void like(sqlite3_context* context, int, sqlite3_value** arguments)
 {
-    for (int i = 0; i < count; ++i) {
-        if (sqlite3_value_type(arguments[i]) == SQLITE_NULL) {
-            sqlite3_result_null(context);
-            return;
-        }
-    }
-    QChar escape;
-    if (count == 3) {
-        const QString text = foldedText(arguments[2]);
-        if (text.size() != 1) {
-            sqlite3_result_error(context, "ESCAPE expression must be a single character", -1);
-            return;
-        }
-        escape = text[0];
-    }
-    sqlite3_result_int(context, matches(foldedText(arguments[0]), foldedText(arguments[1]), escape) ? 1 : 0);
+    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL)
+        sqlite3_result_null(context);
+    else
+        sqlite3_result_int(context, matches(foldedText(arguments[0]), foldedText(arguments[1])) ? 1 : 0);
 }
 
 using Scalar = void (*)(sqlite3_context*, int, sqlite3_value**);
 
-void addScalar(sqlite3* database, const char* name, int arguments, Scalar function)
+void add(sqlite3* database, const char* name, int arguments, Scalar scalar, Scalar step = nullptr,
+         void (*final)(sqlite3_context*) = nullptr)
 {
     const int code = sqlite3_create_function_v2(database, name, arguments, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
-                                                nullptr, function, nullptr, nullptr, nullptr);
+                                                nullptr, scalar, step, final, nullptr);
     if (code != SQLITE_OK)
         throw std::bad_alloc();
 }
@@ -148,15 +136,10 @@ void addScalar(sqlite3* database, const char* name, int arguments, Scalar functi
 
 void registerFunctions(sqlite3* database)
 {
-    addScalar(database, "year", 1, datePart<0, 4>);
-    addScalar(database, "month", 1, datePart<5, 2>);
-    addScalar(database, "day", 1, datePart<8, 2>);
-    addScalar(database, "like", 2, like);
-    addScalar(database, "like", 3, like);
-    const int code = sqlite3_create_function_v2(database, "sum", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
-                                                nullptr, nullptr, sumStep, sumFinal, nullptr);
-    if (code != SQLITE_OK)
-        throw std::bad_alloc();
+    add(database, "month", 1, datePart<5, 2>);
+    add(database, "day", 1, datePart<8, 2>);
+    add(database, "like", 2, like);
+    add(database, "sum", 1, nullptr, sumStep, sumFinal);
 }
 
 } // namespace ado

@@ -9,9 +9,6 @@ namespace ado {
 
 namespace {
 
-/// A result of up to so many rows is read at once and keeps no lock on the file.
-constexpr size_t rowsReadAhead = 16;
-
 QString quotedName(const QString& name) { return u'`' + name + u'`'; }
 
 /// A stored value as a literal of the system's SQL.
@@ -24,243 +21,7 @@ QString literal(const QVariant& stored)
     return u'\'' + stored.toString().replace(u'\'', QLatin1String("''")) + u'\'';
 }
 
-template <typename Text>
-int findColumn(const Columns& columns, int hidden, Text name)
-{
-    const auto first = columns.begin() + hidden;
-    const auto found = std::find_if(first, columns.end(), [name](const Column& column) {
-        return column.name.size() == name.size() && column.name.compare(name, Qt::CaseInsensitive) == 0;
-    });
-    if (found == columns.end())
-        return -1;
-    return static_cast<int>(found - first);
-}
-
 } // namespace
-
-// The rows of the query
-
-void Recordset::Private::requireOpen() const
-{
-    if (!open)
-        throw DatabaseError(QStringLiteral("The recordset is closed."));
-}
-
-void Recordset::Private::requireWritable() const
-{
-    if (words.table.isEmpty())
-        throw DatabaseError(QStringLiteral("The rows of this query cannot be written."));
-}
-
-int Recordset::Private::columnIndex(QStringView name) const
-{
-    return findColumn(*columns, hiddenColumns, name);
-}
-
-int Recordset::Private::columnIndex(QLatin1StringView name) const
-{
-    return findColumn(*columns, hiddenColumns, name);
-}
-
-void Recordset::Private::runQuery()
-{
-    endStatement();
-    block.clear();
-    blockIsWhole = false;
-    blockHasFirst = true;
-    countInFile.reset();
-    at = At::Unread;
-    current.reset();
-    std::erase_if(added, [](const RowPtr& row) { return row->key != 0; });
-    statement = base().prepare(words.sql);
-    columns = statement->columns();
-}
-
-void Recordset::Private::readBlock()
-{
-    if (at != At::Unread)
-        return;
-    while (block.size() < rowsReadAhead && statement) {
-        if (RowPtr row = nextFromFile())
-            block.push_back(std::move(row));
-    }
-    if (!block.empty())
-        standOn(At::Block, 0, block.front());
-    else
-        standOnAdded(0);
-}
-
-void Recordset::Private::close()
-{
-    if (!open)
-        return;
-    open = false;
-    chapter.reset();
-    endStatement();
-    std::erase_if(base().recordsets, [this](const Recordset* other) { return other->d.get() == this; });
-    block.clear();
-    added.clear();
-    unwritten.clear();
-    current.reset();
-    at = At::End;
-}
-
-RowPtr Recordset::Private::nextFromFile()
-{
-    try {
-        if (base().step(*statement))
-            return readRow(*statement);
-    } catch (...) {
-        // Half a result must not pass for the whole.
-        statement.reset();
-        close();
-        throw;
-    }
-    endStatement();
-    if (at != At::Stream)
-        blockIsWhole = true;
-    return nullptr;
-}
-
-RowPtr Recordset::Private::readRow(const Prepared& source) const
-{
-    auto row = std::make_shared<Row>();
-    const size_t visible = columns->size() - static_cast<size_t>(hiddenColumns);
-    row->values.reserve(visible);
-    if (hiddenColumns > 0)
-        row->key = source.column(0).toLongLong();
-    for (size_t i = 0; i < visible; ++i)
-        row->values.push_back(source.column(static_cast<int>(i) + hiddenColumns));
-    return row;
-}
-
-void Recordset::Private::endStatement()
-{
-    if (statement)
-        base().statements.giveBack(std::move(statement));
-}
-
-void Recordset::Private::leaveQuery()
-{
-    endStatement();
-    blockHasFirst = blockHasFirst && at != At::Unread;
-}
-
-void Recordset::Private::takeInRest(const QString& table)
-{
-    if (!statement ||
-        (!table.isEmpty() && !words.table.isEmpty() && table.compare(words.table, Qt::CaseInsensitive) != 0))
-        return;
-    readBlock();
-    if (at == At::Stream) {
-        block.assign(1, current);
-        blockHasFirst = false;
-        at = At::Block;
-        index = 0;
-    }
-    while (statement) {
-        if (RowPtr row = nextFromFile())
-            block.push_back(std::move(row));
-    }
-}
-
-// The cursor
-
-void Recordset::Private::standOn(At place, size_t position, RowPtr row)
-{
-    at = place;
-    index = position;
-    current = std::move(row);
-}
-
-void Recordset::Private::standOnAdded(size_t position)
-{
-    if (position < added.size())
-        standOn(At::Added, position, added[position]);
-    else
-        standOn(At::End, 0, nullptr);
-}
-
-void Recordset::Private::moveFirst()
-{
-    readBlock();
-    const bool blockServes = blockHasFirst && (blockIsWhole || at == At::Block);
-    if (!blockServes) {
-        runQuery();
-        readBlock();
-    } else if (!block.empty())
-        standOn(At::Block, 0, block.front());
-    else
-        standOnAdded(0);
-}
-
-void Recordset::Private::moveNext()
-{
-    readBlock();
-    switch (at) {
-    case At::Unread:
-    case At::End:
-        throw NoCurrentRecordError();
-    case At::Added:
-        standOnAdded(index + 1);
-        return;
-    case At::Last:
-        standOnAdded(0);
-        return;
-    case At::Block:
-        if (index + 1 < block.size()) {
-            standOn(At::Block, index + 1, block[index + 1]);
-            return;
-        }
-        break;
-    case At::Stream:
-        break;
-    }
-    RowPtr row = statement ? nextFromFile() : nullptr;
-    if (row)
-        standOn(At::Stream, 0, std::move(row));
-    else
-        standOnAdded(0);
-}
-
-void Recordset::Private::moveLast()
-{
-    if (!added.empty()) {
-        leaveQuery();
-        standOnAdded(added.size() - 1);
-        return;
-    }
-    if (!blockIsWhole && words.reversed.isEmpty())
-        takeInRest({});
-    if (blockIsWhole) {
-        if (block.empty())
-            standOn(At::End, 0, nullptr);
-        else
-            standOn(At::Block, block.size() - 1, block.back());
-        return;
-    }
-    leaveQuery();
-    auto turned = base().prepare(words.reversed);
-    RowPtr last = base().step(*turned) ? readRow(*turned) : nullptr;
-    base().statements.giveBack(std::move(turned));
-    standOn(last ? At::Last : At::End, 0, last);
-}
-
-int Recordset::Private::count()
-{
-    readBlock();
-    if (blockIsWhole && blockHasFirst)
-        return static_cast<int>(block.size() + added.size());
-    if (!countInFile) {
-        auto counting = base().prepare(words.countSql);
-        base().step(*counting);
-        const auto written =
-            std::count_if(added.begin(), added.end(), [](const RowPtr& row) { return row->key != 0; });
-        countInFile = counting->column(0).toInt() - static_cast<int>(written);
-        base().statements.giveBack(std::move(counting));
-    }
-    return *countInFile + static_cast<int>(added.size());
-}
 
 // Values and writes
 
@@ -321,7 +82,7 @@ void Recordset::Private::insert(Row& row)
     for (size_t i = 0; i < row.values.size(); ++i) {
         if (!row.isChanged(i))
             continue;
-        names << quotedName((*columns)[i + static_cast<size_t>(hiddenColumns)].name);
+        names << quotedName(column(i).name);
         marks << QStringLiteral("?");
     }
     const QString target = QStringLiteral("INSERT INTO ") + quotedName(words.table);
@@ -342,8 +103,7 @@ void Recordset::Private::update(Row& row)
     QStringList terms;
     for (size_t i = 0; i < row.values.size(); ++i) {
         if (row.isChanged(i))
-            terms << quotedName((*columns)[i + static_cast<size_t>(hiddenColumns)].name) +
-                         QStringLiteral("=?");
+            terms << quotedName(column(i).name) + QStringLiteral("=?");
     }
     auto updating =
         base().prepare(QStringLiteral("UPDATE ") + quotedName(words.table) + QStringLiteral(" SET ") +
@@ -427,36 +187,23 @@ QString Recordset::FieldName(int column) const
 {
     if (column < 0 || column >= FieldCount())
         throw SubscriptError();
-    return (*d->columns)[static_cast<size_t>(column + d->hiddenColumns)].name;
+    return d->column(static_cast<size_t>(column)).name;
 }
 
-bool Recordset::HasField(const QString& name) const
-{
-    d->requireOpen();
-    return d->columnIndex(QStringView(name)) >= 0;
-}
-
-Field Recordset::fieldAt(int column, const QString& name)
+Field Recordset::fieldAt(int column, QAnyStringView name)
 {
     if (column < 0 || column >= FieldCount())
-        throw DatabaseError(QStringLiteral("There is no field %1.").arg(name));
+        throw DatabaseError(QStringLiteral("There is no field %1.").arg(name.toString()));
     d->readBlock();
     if (!d->current)
         throw NoCurrentRecordError();
     return Field(*this, column);
 }
 
-Field Recordset::operator[](const QString& name)
+Field Recordset::operator[](QAnyStringView name)
 {
     d->requireOpen();
-    return fieldAt(d->columnIndex(QStringView(name)), name);
-}
-
-Field Recordset::operator[](const char* name)
-{
-    d->requireOpen();
-    const QLatin1StringView text(name);
-    return fieldAt(d->columnIndex(text), text);
+    return fieldAt(d->columnIndex(name), name);
 }
 
 Field Recordset::operator[](int column)

@@ -3,6 +3,7 @@
 #include "platform/ado/Connection.h"
 #include "platform/values/Currency.h"
 
+#include <QAnyStringView>
 #include <QDate>
 #include <QString>
 #include <QVariant>
@@ -100,10 +101,8 @@ public:
     /// Number, names of the columns.
     int FieldCount() const;
     QString FieldName(int column) const;
-    bool HasField(const QString& name) const;
     /// Throws NoCurrentRecordError when there is no current row.
-    Field operator[](const QString& name);
-    Field operator[](const char* name);
+    Field operator[](QAnyStringView name);
     Field operator[](int column);
 
     /// Begins a new row; it becomes the current one.
@@ -124,7 +123,7 @@ private:
     friend class Field;
     friend class Connection;
     struct Private;
-    Field fieldAt(int column, const QString& name);
+    Field fieldAt(int column, QAnyStringView name);
 
     std::unique_ptr<Private> d;
 };

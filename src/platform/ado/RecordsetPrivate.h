@@ -58,8 +58,9 @@ struct Recordset::Private
 
     void requireOpen() const;
     void requireWritable() const;
-    int columnIndex(QStringView name) const;
-    int columnIndex(QLatin1StringView name) const;
+    /// -1 for a name that no column has.
+    int columnIndex(QAnyStringView name) const;
+    const Column& column(size_t place) const;
 
     /// Makes the query ready to be read from its first row on.
     void runQuery();

@@ -136,13 +136,12 @@ std::optional<QString> storedDate(const QString& text)
     const qsizetype colon = text.indexOf(u':');
     if (colon < 0)
         return values::CStr(date);
-    const QString time = text.mid(colon < 2 ? 0 : colon - 2).trimmed().toUpper();
+    QString time = text.mid(colon - 2).trimmed().toUpper();
+    if (time.startsWith(u'T'))
+        time.remove(0, 1);
     for (const char* form : {"h:m:s AP", "h:m AP", "H:m:s", "H:m", "H:m:s.z"}) {
-        QString digits = time;
-        if (digits.startsWith(u'T'))
-            digits.remove(0, 1);
-        if (const QTime parsed = QTime::fromString(digits, QLatin1String(form)); parsed.isValid())
-            return dateWithTime(QDateTime(date, QTime(parsed.hour(), parsed.minute(), parsed.second())));
+        if (const QTime parsed = QTime::fromString(time, QLatin1String(form)); parsed.isValid())
+            return dateWithTime(QDateTime(date, parsed));
     }
     return std::nullopt;
 }
