@@ -1,6 +1,8 @@
 #include "jobcards/BannerStrip.h"
 
 #include <QLabel>
+#include <QPainter>
+#include <QStaticText>
 #include <QTimer>
 
 namespace {
@@ -9,11 +11,33 @@ constexpr int Tick = 16; // milliseconds: 60 steps a second
 constexpr int Step = 1;  // pixels
 constexpr int Padding = 7;
 
+/// A label that lays out its text once, and not again at each step: a greeting can be thousands of letters
+/// long.
+class Greeting : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        if (m_laidOut.text() != text()) {
+            m_laidOut.setTextFormat(Qt::PlainText);
+            m_laidOut.setText(text());
+        }
+        QPainter painter(this);
+        painter.drawStaticText(contentsRect().topLeft(), m_laidOut);
+    }
+
+private:
+    QStaticText m_laidOut;
+};
+
 } // namespace
 
 BannerStrip::BannerStrip(QWidget* parent)
     : QWidget(parent)
-    , lblLastvisit(new QLabel(this))
+    , lblLastvisit(new Greeting(this))
     , Timer1(new QTimer(this))
 {
     setAttribute(Qt::WA_StyledBackground);
