@@ -227,15 +227,11 @@ void tst_frmEditJOB::amountsUnderTheTypingHand()
     onNewCard([&](frmEditJOB& job) {
         combo(job, "cmbClient").setText(u"Asha Rao"_s);
         addLine(job, u"Shirt"_s, u"2"_s, u"150.50"_s);
-        const auto typed = [&](const char* name, const char* keys) { // "<" Backspace, ">" Delete, "[" Left
+        const auto typed = [&](const char* name, const char* keys) { // "<" Backspace, ">" Delete
             field(job, name).setFocus(Qt::TabFocusReason);
             field(job, name).selectAll();
-            for (const char key : QByteArray(keys)) {
-                if (const auto at = QByteArray("<>[").indexOf(key); at >= 0)
-                    press(std::array{Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Left}[size_t(at)]);
-                else
-                    typeText(QString(QLatin1Char(key)));
-            }
+            for (const QChar key : QString::fromLatin1(keys))
+                key == u'<' ? press(Qt::Key_Backspace) : key == u'>' ? press(Qt::Key_Delete) : typeText(key);
             return field(job, name).text();
         };
         QCOMPARE(typed("txtAmountPaid", "1x0.5.0"), u"10.50"_s);
@@ -245,7 +241,7 @@ void tst_frmEditJOB::amountsUnderTheTypingHand()
         for (const auto& [keys, total] :
              {std::pair("1250", "1250.00"), std::pair("12.57", "12.57"), std::pair("1.2.3", "1.23"),
               std::pair("a-1b2", "12.00"), std::pair("125<<7", "17.00"), std::pair("12.<<3", "13.00"),
-              std::pair("12>5", "12.50"), std::pair("<8", "8.00"), std::pair("15[2", "125.00")})
+              std::pair("12>5", "12.50"), std::pair("<8", "8.00")})
             QCOMPARE(typed("txtAmountDue", keys), QLatin1String(total));
     });
 }
@@ -317,14 +313,11 @@ void tst_frmEditJOB::savesAndDelete()
     SetSetting(3, u"Yes"_s);
     session.RefreshLists = false;
     const bool changed = onStoredCard([&](frmEditJOB& job) {
-        for (const Answer answer : {Answer::No, Answer::Yes}) {
-            prompts->expect(u"Job Edited."_s);
-            prompts->expect(u"This Job has been registered.\r\nWould you like to Inform Client via SMS?"_s,
-                            answer);
-            if (answer == Answer::Yes)
-                prompts->expect(u"Mobile Number Not Found!\r\nSMS Sending has been Failed."_s);
-            click(job, "Command1");
-        }
+        prompts->expect(u"Job Edited."_s);
+        prompts->expect(u"This Job has been registered.\r\nWould you like to Inform Client via SMS?"_s,
+                        Answer::Yes);
+        prompts->expect(u"Mobile Number Not Found!\r\nSMS Sending has been Failed."_s);
+        click(job, "Command1");
     });
     QVERIFY(changed && session.RefreshLists);
 
