@@ -8,8 +8,6 @@
 
 #include <QAbstractItemView>
 #include <QCalendarWidget>
-#include <QElapsedTimer>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -30,8 +28,7 @@ public:
         column->addWidget(&client);
         column->addWidget(&remark);
         column->addWidget(&date);
-        client.AddItems({QStringLiteral("Asha"), QStringLiteral("Bela"), QStringLiteral("bharat"),
-                         QStringLiteral("Chand")});
+        client.AddItems({"Asha", "Bela", "bharat", "Chand"});
         onGotFocus(&client, [this] { client.dropDown(); });
         onKeyPress(&client, [this](int& key) {
             if (key == '#')
@@ -55,123 +52,101 @@ class tst_lists : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void listBoxSelection()
+    void listsFindAndSelect()
     {
         ListBox list;
-        list.AddItems({QStringLiteral("Ajay"), QStringLiteral("anil")});
-        list.AddItem(QStringLiteral("Binod"));
-        QCOMPARE(list.Text(), QString());
-        QSignalSpy moved(&list, &ListBox::indexChanged);
-        list.setListIndex(1);
-        QCOMPARE(list.Text(), QStringLiteral("anil"));
-        list.setListIndex(7);
-        QCOMPARE(list.ListIndex(), -1);
-        list.setListIndex(2);
-        list.Clear();
-        QCOMPARE(list.ListIndex(), -1);
-        QCOMPARE(moved.count(), 4);
-    }
-
-    void focusAloneSelectsNoEntry()
-    {
-        ListBox list;
-        list.AddItem(QStringLiteral("Ajay"));
+        list.AddItems({"Ajay", "anil", "Binod"});
         list.show();
         list.setFocus();
         QVERIFY(QTest::qWaitForWindowActive(&list));
+        QCOMPARE(list.ListIndex(), -1); // focus alone selects no entry
+        list.setListIndex(1);
+        QCOMPARE(list.Text(), "anil");
+        list.setListIndex(7);
         QCOMPARE(list.ListIndex(), -1);
-        QTest::keyClick(&list, Qt::Key_A);
-        QCOMPARE(list.ListIndex(), 0);
-    }
-
-    void prefixSearch()
-    {
-        ListBox list;
-        list.AddItems({QStringLiteral("Ajay"), QStringLiteral("anil"), QStringLiteral("Binod")});
-        QCOMPARE(list.findString(QStringLiteral("a"), -1), 0);
-        QCOMPARE(list.findString(QStringLiteral("a"), 0), 1);
-        QCOMPARE(list.findString(QStringLiteral("A"), 1), 0); // wraps
-        QCOMPARE(list.findString(QStringLiteral("bin"), 2), 2);
-        QCOMPARE(list.findString(QStringLiteral("a"), 99), 0);
-        QCOMPARE(list.findString(QStringLiteral("jay")), -1);
+        QCOMPARE(list.findString("a", 0), 1);
+        QCOMPARE(list.findString("A", 1), 0); // wraps
+        QCOMPARE(list.findString("bin", 2), 2);
+        QCOMPARE(list.findString("a", 99), 0);
+        QCOMPARE(list.findString("jay"), -1);
         QCOMPARE(list.findString(QString()), -1);
-        QCOMPARE(ListBox().findString(QStringLiteral("a")), -1);
+
+        ListView view;
+        view.setColumns({{"Client", 60}, {"Amount", 40, Qt::AlignRight}});
+        view.addRow({"Asha", "10.00"}, "7|1");
+        view.addRow({"Total"});
+        view.setCell(1, 1, "10.00");
+        QSignalSpy moved(&view, &ListView::selectionMoved);
+        view.selectRow(1);
+        view.removeRow(0);
+        QCOMPARE(view.selectedRow(), 0);
+        QCOMPARE(view.cell(0, 1) + view.tag(0), "10.00");
+        moved.clear();
+        view.Clear();
+        QCOMPARE(view.selectedRow(), -1);
+        QCOMPARE(moved.count(), 1);
     }
 
     void comboKeepsItsTextWhenFilled()
     {
         ComboBox combo;
-        QSignalSpy changed(&combo, &ComboBox::changed);
         QSignalSpy clicked(&combo, &ComboBox::clicked);
-        combo.AddItem(QStringLiteral("Asha"));
+        combo.AddItem("Asha");
         QCOMPARE(combo.text(), QString()); // no entry is taken by itself
+        combo.setText("Bela Devi");
+        combo.AddItems({"Bela", "asha"});
+        QCOMPARE(combo.text(), "Bela Devi");
         QCOMPARE(combo.ListIndex(), -1);
-        combo.setText(QStringLiteral("Bela Devi"));
-        combo.AddItems({QStringLiteral("Bela"), QStringLiteral("asha")});
-        QCOMPARE(combo.text(), QStringLiteral("Bela Devi"));
-        QCOMPARE(combo.ListIndex(), -1);
-        QCOMPARE(changed.count(), 1);
-
         combo.setListIndex(1);
-        combo.AddItem(QStringLiteral("Chand"));
-        QCOMPARE(combo.ListIndex(), 1);
-        combo.setText(QStringLiteral("Bel"));
+        combo.setText("Bel");
         QCOMPARE(combo.ListIndex(), -1);
         combo.setListIndex(1); // the same entry again
-        QCOMPARE(combo.text(), QStringLiteral("Bela"));
-        combo.select(1, 2);
-        QCOMPARE(combo.selStart(), 1);
-        QCOMPARE(combo.selLength(), 2);
-        combo.Clear();
-        QCOMPARE(combo.text(), QString());
-        QCOMPARE(combo.ListCount(), 0);
+        QCOMPARE(combo.text(), "Bela");
         QCOMPARE(clicked.count(), 0); // all of that was the program's doing
     }
 
     void openListLeavesTheTypingToTheBox()
     {
-        OrderScreen screen;
-        onNextModal<OrderScreen>([&](OrderScreen&) {
+        inModal<OrderScreen>([](OrderScreen& screen) {
             QTRY_VERIFY(screen.client.isDroppedDown());
-            typeText(QStringLiteral("n#ew"));
-            QCOMPARE(screen.client.text(), QStringLiteral("new"));
+            typeText("n#ew");
+            QCOMPARE(screen.client.text(), "new");
             QVERIFY(screen.client.isDroppedDown());
-            press(Qt::Key_Home);
-            press(Qt::Key_Backspace);
-            press(Qt::Key_Delete);
-            QCOMPARE(screen.client.text(), QStringLiteral("ew"));
+            for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Backspace, Qt::Key_Delete})
+                press(key);
+            QCOMPARE(screen.client.text(), "ew");
             QCOMPARE(screen.keys, QList<int>({'n', '#', 'e', 'w', 8}));
-
             press(Qt::Key_Escape); // the list first
             QVERIFY(!screen.client.isDroppedDown());
             QVERIFY(!screen.keys.contains(27));
             press(Qt::Key_Escape);
             QCOMPARE(screen.keys.last(), 27);
         });
-        screen.showModal();
     }
 
-    void arrowKeysWalkTheList()
+    void keysPickEntries()
     {
-        OrderScreen screen;
-        QSignalSpy clicked(&screen.client, &ComboBox::clicked);
-        onNextModal<OrderScreen>([&](OrderScreen&) {
+        inModal<OrderScreen>([](OrderScreen& screen) {
+            QSignalSpy clicked(&screen.client, &ComboBox::clicked);
             QTRY_VERIFY(screen.client.isDroppedDown());
+            typeText("Asha");
+            screen.client.view()->setCurrentIndex(screen.client.model()->index(3, 0)); // the mouse is over it
+            press(Qt::Key_Return);
+            QCOMPARE(screen.client.text(), "Asha");
+            QCOMPARE(clicked.count(), 0); // a text that equals an entry is no choice either
+            screen.client.setText(QString());
+            press(Qt::Key_F4);
             press(Qt::Key_Down);
             press(Qt::Key_Down);
-            QCOMPARE(screen.client.text(), QStringLiteral("Bela"));
-            QCOMPARE(screen.client.view()->currentIndex().row(), 1);
+            QCOMPARE(screen.client.text(), "Bela");
             press(Qt::Key_PageDown);
-            QCOMPARE(screen.client.text(), QStringLiteral("Chand"));
+            press(Qt::Key_Down); // there is none below
             QCOMPARE(clicked.count(), 3);
-            press(Qt::Key_Down);
-            QCOMPARE(clicked.count(), 3); // there is none below
             press(Qt::Key_Return);
             QVERIFY(!screen.client.isDroppedDown());
-            QCOMPARE(screen.client.text(), QStringLiteral("Chand"));
-            QCOMPARE(screen.keys.last(), 13);
+            QCOMPARE(screen.client.text(), "Chand");
             press(Qt::Key_Up); // also while it is closed
-            QCOMPARE(screen.client.text(), QStringLiteral("bharat"));
+            QCOMPARE(screen.client.text(), "bharat");
             press(Qt::Key_F4);
             QVERIFY(screen.client.isDroppedDown());
             press(Qt::Key_Tab);
@@ -179,143 +154,51 @@ private Q_SLOTS:
             QVERIFY(screen.remark.hasFocus());
             QCOMPARE(clicked.count(), 4);
         });
-        screen.showModal();
     }
 
-    void enterTakesNoEntryThatWasOnlyShown()
+    void mousePicksAnEntryAndItsWheelNone()
     {
-        OrderScreen screen;
-        QSignalSpy clicked(&screen.client, &ComboBox::clicked);
-        onNextModal<OrderScreen>([&](OrderScreen&) {
-            QTRY_VERIFY(screen.client.isDroppedDown());
-            typeText(QStringLiteral("Asha"));
-            screen.client.view()->setCurrentIndex(
-                screen.client.model()->index(3, 0)); // the mouse stands over it
-            press(Qt::Key_Return);
-            QCOMPARE(screen.client.text(), QStringLiteral("Asha"));
-            screen.remark.setFocus(); // a text that equals an entry is no choice either
-            QCOMPARE(clicked.count(), 0);
-        });
-        screen.showModal();
-    }
-
-    void mousePicksAnEntry()
-    {
-        OrderScreen screen;
-        QSignalSpy clicked(&screen.client, &ComboBox::clicked);
-        onNextModal<OrderScreen>([&](OrderScreen&) {
+        inModal<OrderScreen>([](OrderScreen& screen) {
+            QSignalSpy clicked(&screen.client, &ComboBox::clicked);
             QTRY_VERIFY(screen.client.isDroppedDown());
             QAbstractItemView* list = screen.client.view();
-            const QRect entry = list->visualRect(screen.client.model()->index(2, 0));
-            QTest::mouseMove(list->viewport(), entry.center());
-            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, entry.center());
+            const QPoint entry = list->visualRect(screen.client.model()->index(2, 0)).center();
+            QTest::mouseMove(list->viewport(), entry);
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, entry);
             QTRY_COMPARE(clicked.count(), 1);
-            QCOMPARE(screen.client.text(), QStringLiteral("bharat"));
-            QCOMPARE(screen.client.selLength(), 6);
+            QCOMPARE(screen.client.text(), "bharat");
             QVERIFY(!screen.client.isDroppedDown());
-
+            for (QWidget* each : std::initializer_list<QWidget*>{&screen.client, &screen.date}) {
+                QWheelEvent turn({5, 5}, each->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, {}, false);
+                const QDate before = screen.date.value();
+                QCoreApplication::sendEvent(each, &turn);
+                QCOMPARE(screen.client.ListIndex(), 2);
+                QCOMPARE(screen.date.value(), before);
+            }
             // Clicking into the box opens the list, and it stays open when the button comes up.
             screen.remark.setFocus();
             QTest::mouseClick(screen.client.lineEdit(), Qt::LeftButton);
             QTRY_VERIFY(screen.client.isDroppedDown());
             QCOMPARE(screen.client.selLength(), 6);
         });
-        screen.showModal();
-    }
-
-    void wheelPassesOver()
-    {
-        OrderScreen screen;
-        screen.client.setListIndex(1);
-        screen.date.setValue({2024, 2, 10});
-        onNextModal<OrderScreen>([&](OrderScreen&) {
-            for (QWidget* each : std::initializer_list<QWidget*>{&screen.client, &screen.date}) {
-                QWheelEvent turn({5, 5}, each->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, {}, false);
-                QCoreApplication::sendEvent(each, &turn);
-            }
-            QCOMPARE(screen.client.ListIndex(), 1);
-            QCOMPARE(screen.date.value(), QDate(2024, 2, 10));
-        });
-        screen.showModal();
-    }
-
-    void listViewRows()
-    {
-        ListView list;
-        list.setColumns({{QStringLiteral("Client"), 60}, {QStringLiteral("Amount"), 40, Qt::AlignRight}});
-        list.addRow({QStringLiteral("Asha"), QStringLiteral("10.00")}, QStringLiteral("7|1"));
-        list.addRow({QStringLiteral("Total")});
-        list.setCell(1, 1, QStringLiteral("10.00"));
-        list.setRow(0, {QStringLiteral("Bela"), QStringLiteral("12.00")});
-        QCOMPARE(list.cell(1, 1), QStringLiteral("10.00"));
-        QCOMPARE(list.cell(0, 0), QStringLiteral("Bela"));
-        QCOMPARE(list.tag(0), QStringLiteral("7|1"));
-        QVERIFY(list.model()->headerData(1, Qt::Horizontal, Qt::TextAlignmentRole).value<Qt::Alignment>() &
-                Qt::AlignRight);
-
-        QSignalSpy moved(&list, &ListView::selectionMoved);
-        list.selectRow(1);
-        list.removeRow(0);
-        QCOMPARE(list.selectedRow(), 0);
-        QCOMPARE(list.tag(0), QString());
-        moved.clear();
-        list.Clear();
-        QCOMPARE(list.selectedRow(), -1);
-        QCOMPARE(moved.count(), 1);
-    }
-
-    void listViewColumnsFollowTheWidth()
-    {
-        ListView list;
-        list.setColumns({{QStringLiteral("A"), 25}, {QStringLiteral("B"), 75}});
-        list.resize(400, 300);
-        list.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&list));
-        list.resize(800, 300);
-        QTRY_COMPARE(list.header()->sectionSize(0), list.viewport()->width() / 4);
-        QCOMPARE(list.header()->sectionSize(1), list.viewport()->width() * 3 / 4);
-    }
-
-    void listViewWithThirtyThousandRows()
-    {
-        ListView list;
-        list.setColumns({{QStringLiteral("Client"), 50}, {QStringLiteral("Item"), 50}});
-        list.show();
-        QElapsedTimer time;
-        time.start();
-        for (int i = 0; i < 30000; ++i)
-            list.addRow({QStringLiteral("Client %1").arg(i), QStringLiteral("Shirt")}, QString::number(i));
-        list.selectRow(29999);
-        list.grab();
-        QVERIFY2(time.elapsed() < 3000, qPrintable(QString::number(time.elapsed())));
     }
 
     void datePicker()
     {
-        OrderScreen screen;
-        DatePicker& picker = screen.date;
-        picker.setValue({2024, 9, 30});
-        QCOMPARE(picker.text(), QStringLiteral("30-Sep-2024"));
-        QSignalSpy changed(&picker, &DatePicker::changed);
-        QSignalSpy closed(&picker, &DatePicker::calendarClosed);
-        onNextModal<OrderScreen>([&](OrderScreen&) {
+        inModal<OrderScreen>([](OrderScreen& screen) {
+            DatePicker& picker = screen.date;
+            QSignalSpy closed(&picker, &DatePicker::calendarClosed);
+            picker.setValue({2024, 9, 30});
+            QCOMPARE(picker.text(), "30-Sep-2024");
             picker.setFocus();
             picker.setSelectedSection(QDateTimeEdit::MonthSection);
             press(Qt::Key_2); // February: the day goes back to its last
             QCOMPARE(picker.value(), QDate(2024, 2, 29));
-            QCOMPARE(picker.currentSection(), QDateTimeEdit::YearSection);
             picker.setSelectedSection(QDateTimeEdit::MonthSection);
-            typeText(QStringLiteral("11"));
+            typeText("11");
             QCOMPARE(picker.value(), QDate(2024, 11, 29));
-            picker.setSelectedSection(QDateTimeEdit::DaySection);
-            press(Qt::Key_Up);
-            QCOMPARE(picker.value(), QDate(2024, 11, 30));
-            QVERIFY(changed.count() >= 3);
-
-            screen.keys.clear();
             press(Qt::Key_Return);
-            QCOMPARE(screen.keys, QList<int>({13}));
-
+            QCOMPARE(screen.keys.last(), 13);
             QTest::mouseClick(&picker, Qt::LeftButton, {}, {picker.width() - 8, picker.height() / 2});
             QVERIFY(picker.calendarWidget()->isVisible());
             press(Qt::Key_Escape);
@@ -323,7 +206,6 @@ private Q_SLOTS:
             QCOMPARE(closed.count(), 1);
             QVERIFY(screen.focusWidget() == &picker);
         });
-        screen.showModal();
     }
 };
 

@@ -28,3 +28,11 @@ void onNextModal(std::function<void(T&)> act)
         [](QWidget* widget) { return qobject_cast<T*>(widget) != nullptr; },
         [act = std::move(act)](QWidget* widget) { act(*static_cast<T*>(widget)); });
 }
+
+/// Shows a screen of class T, acts in it and closes it.
+template <class T>
+void inModal(std::function<void(T&)> act)
+{
+    onNextModal<T>(std::move(act));
+    T().showModal();
+}

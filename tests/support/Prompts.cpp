@@ -42,6 +42,12 @@ Prompts::~Prompts()
 
 void Prompts::expect(const QString& text, Answer answer) { m_expected.push_back({text, answer}); }
 
+void Prompts::expectAll(const QStringList& notices)
+{
+    for (const QString& text : notices)
+        expect(text);
+}
+
 bool Prompts::allMet()
 {
     for (const Expected& unused : m_expected)

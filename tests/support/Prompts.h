@@ -20,6 +20,8 @@ public:
     ~Prompts() override;
 
     void expect(const QString& text, Answer answer = Answer::Ok);
+    /// Expects notices, each left by OK.
+    void expectAll(const QStringList& notices);
     /// True when every expected prompt has come, and every act of onNextModal has met its screen. Tells what
     /// hasn't, and forgets it. For the test's cleanup.
     bool allMet();

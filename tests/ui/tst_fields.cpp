@@ -1,0 +1,237 @@
+#include "platform/forms/ListBox.h"
+#include "platform/forms/Screen.h"
+#include "support/KeysTo.h"
+#include "support/Modal.h"
+#include "ui/ModOtherFUN.h"
+#include "ui/NumKey.h"
+#include "ui/cSendKeys.h"
+#include "ui/swComboBox.h"
+#include "ui/swTextBox.h"
+#include "ui/swTextBoxMultiLine.h"
+
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace {
+
+/// A combo of clients that completes itself, fields of each kind, and a list with its search box.
+class EntryScreen : public forms::Screen
+{
+    Q_OBJECT
+public:
+    EntryScreen()
+    {
+        auto* column = new QVBoxLayout(this);
+        for (QWidget* each : std::initializer_list<QWidget*>{&name, &fee, &note, &client, &search, &list})
+            column->addWidget(each);
+        fee.setBoxType(1);
+        client.AddItems({"Ajay", "Anil Kumar", "anil Verma", "Bela"});
+        list.AddItems({"Coat", "Kurta", "Shirt"});
+        on(&name, &swTextBox::KeyPress, [](int& key) {
+            if (key == '*')
+                key = 0;
+        });
+        onKeyPress(&client, [this](int& key) {
+            key = AutoSearchCombo(client, key);
+            passed += key;
+        });
+        onKeyDown(&search, [this](int& key) { ListSearch(list, key); });
+    }
+
+    swTextBox name;
+    swTextBox fee;
+    swTextBoxMultiLine note;
+    swComboBox client;
+    QLineEdit search;
+    forms::ListBox list;
+    QList<int> passed;
+    QList<QPair<int, Qt::KeyboardModifiers>> keys;
+
+protected:
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override
+    {
+        if (key != 0) // not the held keys themselves
+            keys += qMakePair(key, modifiers);
+        key = ArrowsAsTab(key);
+    }
+};
+
+} // namespace
+
+class tst_fields : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void cleanup() { QCOMPARE(modal::pending(), 0); }
+
+    void namesBeginWithCapitals()
+    {
+        inModal<EntryScreen>([](EntryScreen& screen) {
+            typeText("mohan mc*Donald");
+            QCOMPARE(screen.name.Text(), "Mohan McDonald");
+            press(Qt::Key_Return);
+            QVERIFY(screen.fee.hasFocus());
+            press(Qt::Key_PageUp);
+            QCOMPARE(screen.name.selectedText(), "Mohan McDonald");
+            typeText(QString(QChar(0xe9))); // what replaces the whole name begins it
+            QCOMPARE(screen.name.Text(), QString(QChar(0xc9)));
+            screen.name.setAutoTab(false);
+            press(Qt::Key_Return);
+            QVERIFY(screen.name.hasFocus());
+            press(Qt::Key_PageDown);
+            QVERIFY(screen.fee.hasFocus());
+        });
+    }
+
+    void moneyFormatsItself()
+    {
+        for (const int passes : {int('0'), int('9'), 8, 12})
+            QCOMPARE(NumKey("1.2", passes), passes);
+        for (const int dropped : {int('.'), int('-'), int('e'), int(','), 13, 0x966})
+            QCOMPARE(NumKey("1.2", dropped), 0);
+        inModal<EntryScreen>([](EntryScreen& screen) {
+            screen.fee.setFocus();
+            typeText("1x2.5.5");
+            QCOMPARE(screen.fee.Text(), "12.55");
+            press(Qt::Key_Backspace);
+            press(Qt::Key_Return);
+            QVERIFY(screen.note.hasFocus());
+            QCOMPARE(screen.fee.Text(), "12.50");
+            screen.fee.setFocus();
+            typeText(".5"); // the point that it replaces doesn't count
+            screen.note.setFocus();
+            QCOMPARE(screen.fee.Text(), "0.50");
+            screen.fee.QLineEdit::setText("twelve"); // as pasted
+            screen.fee.setFocus();
+            screen.note.setFocus();
+            QCOMPARE(screen.fee.Text(), "0.00");
+            screen.fee.setText(QString());
+            QCOMPARE(screen.fee.Text(), QString());
+        });
+    }
+
+    void notesKeepTheirLines()
+    {
+        inModal<EntryScreen>([](EntryScreen& screen) {
+            screen.note.setFocus();
+            typeText("two ");
+            press(Qt::Key_Return);
+            typeText("lines");
+            QCOMPARE(screen.note.Text(), "two \r\nlines");
+            press(Qt::Key_Tab);
+            QVERIFY(screen.client.hasFocus());
+        });
+    }
+
+    void comboCompletesNames()
+    {
+        inModal<EntryScreen>([](EntryScreen& screen) {
+            swComboBox& client = screen.client;
+            const auto typed = [&client](const char* text) {
+                typeText(text);
+                return client.text().insert(client.selStart(), '|');
+            };
+            client.setFocus();
+            QCOMPARE(typed("a"), "A|jay");
+            QVERIFY(client.isDroppedDown());
+            QCOMPARE(typed("n"), "An|il Kumar");
+            QCOMPARE(typed("z"), "An|il Kumar"); // no such name: a beep, and nothing else
+            QCOMPARE(typed("il v"), "anil V|erma");
+            QCOMPARE(client.ListIndex(), 2);
+            press(Qt::Key_Backspace); // cuts at the selection
+            QCOMPARE(client.text(), "anil V");
+            press(Qt::Key_Backspace);
+            QCOMPARE(typed(""), "anil |");
+            QCOMPARE(typed("k"), "Anil K|umar");
+            client.select(0, 10); // all of it selected: Backspace takes the last letter
+            press(Qt::Key_Backspace);
+            QCOMPARE(client.text(), "Anil Kuma");
+            QCOMPARE(screen.passed.count(0), screen.passed.size()); // the box itself gets no key
+            press(Qt::Key_Return);
+            QCOMPARE(screen.passed.last(), 13);
+            press(Qt::Key_Tab); // no character, so it isn't swallowed
+            QVERIFY(screen.search.hasFocus());
+
+            client.setText("ANIL V");
+            ComboSyncIndex(client);
+            QCOMPARE(client.text(), "anil Verma");
+            QCOMPARE(client.selLength(), 10);
+            client.setText("Zoya");
+            ComboSyncIndex(client);
+            QCOMPARE(client.ListIndex(), -1);
+            QCOMPARE(client.text(), "Zoya");
+        });
+    }
+
+    void listFollowsTheSearchBox()
+    {
+        inModal<EntryScreen>([](EntryScreen& screen) {
+            screen.search.setFocus();
+            const auto entryAfter = [&screen](Qt::Key key) {
+                press(key);
+                return screen.list.ListIndex();
+            };
+            QCOMPARE(entryAfter(Qt::Key_Up), -1);
+            QCOMPARE(entryAfter(Qt::Key_Down), 0);
+            QCOMPARE(entryAfter(Qt::Key_End), 2);
+            QCOMPARE(entryAfter(Qt::Key_Down), 2);
+            QCOMPARE(entryAfter(Qt::Key_Home), 0);
+            QCOMPARE(entryAfter(Qt::Key_Up), 0);
+            QVERIFY(screen.search.hasFocus());
+            screen.list.Clear();
+            QCOMPARE(entryAfter(Qt::Key_End), -1);
+        });
+    }
+
+    void sendKeysNotation()
+    {
+        inModal<EntryScreen>([](EntryScreen& screen) {
+            cSendKeys keys;
+            screen.search.setFocus();
+            keys.SendKeys("ab C{x 3}{+}{}}{~}");
+            QCOMPARE(screen.search.text(), "ab Cxxx+}~");
+            keys.SendKeys("{bs 2}{home}{Delete}{END}+(dE)f+g");
+            QCOMPARE(screen.search.text(), "b Cxxx+DEfG");
+            screen.keys.clear();
+            keys.SendKeys("^(a{F16})%{f2}~");
+            QCOMPARE(screen.keys, (QList<QPair<int, Qt::KeyboardModifiers>>{{'A', Qt::ControlModifier},
+                                                                            {127, Qt::ControlModifier},
+                                                                            {113, Qt::AltModifier},
+                                                                            {13, Qt::NoModifier}}));
+            keys.SendKeys("+{tab 2}");
+            QVERIFY(screen.note.hasFocus());
+            keys.SendKeys("later", false);
+            QCOMPARE(screen.note.Text(), QString());
+            QTRY_COMPARE(screen.note.Text(), "later");
+        });
+    }
+
+    void sendKeysErrors_data()
+    {
+        QTest::addColumn<QString>("error");
+        const auto row = [](const char* keys, const char* error) { QTest::newRow(keys) << error; };
+        row("{TAB x}", "Invalid sendkeys command; key repetitions 'x' is invalid near position 1");
+        row("a{TAB }", "Invalid sendkeys command; key repetitions '' is invalid near position 2");
+        row("ab)", "Invalid sendkeys command: unmatched ) at position 3");
+        row("ab{", "Invalid sendkeys command; opening { without content or closing } at position 3");
+        row("{TAB", "Invalid sendkeys command; opening { without closing } at position 1");
+        row("+((a)", "Invalid sendkeys command: more open brackets than close brackets.");
+        row("{f17}", "Key f17 could not be interpreted.");
+    }
+    void sendKeysErrors()
+    {
+        inModal<EntryScreen>([](EntryScreen& screen) {
+            QString text;
+            try {
+                cSendKeys().SendKeys(QTest::currentDataTag());
+            } catch (const cSendKeys::Error& error) {
+                text = error.text();
+            }
+            QTEST(text, "error");
+            QCOMPARE(screen.name.text(), QString()); // nothing is typed of a text that cannot be read
+        });
+    }
+};
+
+QTEST_MAIN(tst_fields)
+#include "tst_fields.moc"
