@@ -113,34 +113,6 @@ private Q_SLOTS:
         });
     }
 
-    void takesAmountsAsTheyCome_data()
-    {
-        QTest::addColumn<QString>("entered");
-        QTest::addColumn<QString>("prompt");
-        QTest::addColumn<double>("fees");
-        QTest::newRow("letters") << "abc"
-                                 << "Item Edited." << 0.0;
-        QTest::newRow("two dots") << "1.2.3"
-                                  << "Item Edited." << 1.2;
-        QTest::newRow("negative") << "-5"
-                                  << "Item Edited." << -5.0;
-        QTest::newRow("too large for money") << "999999999999999"
-                                             << "Overflow" << 100.0;
-    }
-    void takesAmountsAsTheyCome()
-    {
-        QFETCH(QString, entered);
-        QFETCH(QString, prompt);
-        prompts->expect(prompt);
-        edit(shop->addItem("Shirt", 100), [&](frmEditItem& form) {
-            box(form, "txtFees").QLineEdit::setText(entered); // as pasted
-            box(form, "txtProductionCap").setText("many");
-            save();
-        });
-        QTEST(Shop::value("Select Fees from Items").toDouble(), "fees");
-        QCOMPARE(Shop::value("Select ProdcutionCap from Items").isNull(), prompt == "Overflow");
-    }
-
     void renamesAndDeletes()
     {
         const qint32 used = shop->addItem("Shirt");
