@@ -176,21 +176,6 @@ private Q_SLOTS:
                  1);
     }
 
-    void handsANewClientToTheJobCard()
-    {
-        QString title;
-        prompts->expect("New Client Created.");
-        onNextModal<frmEditClients>([](frmEditClients&) {
-            typeText("dina");
-            save();
-        });
-        frmEditClients().AddNewFromJobCard(title);
-        QCOMPARE(title, "Dina");
-        onNextModal<frmEditClients>([](frmEditClients&) { press(Qt::Key_Escape); });
-        frmEditClients().AddNewFromJobCard(title);
-        QCOMPARE(title, QString());
-    }
-
     void takesAnyName_data()
     {
         QTest::addColumn<QString>("name");
