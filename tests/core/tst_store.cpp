@@ -14,7 +14,7 @@ namespace {
 /// A list that remembers what it was filled with.
 struct Texts : ListTarget
 {
-    QStringList all{QStringLiteral("left over")};
+    QStringList all{"left over"};
 
     void Clear() override { all.clear(); }
     void AddItems(const QStringList& texts) override { all += texts; }
@@ -23,7 +23,7 @@ struct Texts : ListTarget
 void post(qint32 account, const QDate& date, double amount, int status = 0)
 {
     ado::Recordset rows(DE.connection());
-    rows.Open(QStringLiteral("Select * from Postings order by ID"));
+    rows.Open("Select * from Postings order by ID");
     rows.AddNew();
     rows["Vtype"] = 2;
     rows["Date"] = date;
@@ -49,7 +49,6 @@ private Q_SLOTS:
     void settings();
     void sessionDefaults();
     void namesAndNumbers();
-    void fieldValueExists();
     void lists();
     void balances();
 };
@@ -59,14 +58,13 @@ void tst_store::firstRun()
     Shop shop;
     for (const char* table : {"SHOP", "ITEMS", "JOBS", "JOBS_DETAIL", "tmpHead", "tmpBody", "postings",
                               "rank", "wagesregister", "accountbook"})
-        QCOMPARE(Shop::count(QStringLiteral("Select * from ") + QLatin1String(table)), 0);
-    QCOMPARE(Shop::count(QStringLiteral("Select * from Settings")), 1);
-    QCOMPARE(GetSetting(16, QString()), QStringLiteral("12"));
+        QCOMPARE(Shop::count("Select * from " + QLatin1String(table)), 0);
+    QCOMPARE(Shop::count("Select * from Settings"), 1);
+    QCOMPARE(GetSetting(16, QString()), "12");
 
     ado::Recordset accounts(DE.connection());
-    accounts.Open(QStringLiteral("Select * from accounts order by id"));
-    const QStringList titles{QStringLiteral("Wages"), QStringLiteral("Sales"), QStringLiteral("Purchase"),
-                             QStringLiteral("Cash")};
+    accounts.Open("Select * from accounts order by id");
+    const QStringList titles{"Wages", "Sales", "Purchase", "Cash"};
     for (int i = 0; i < 4; ++i, accounts.MoveNext()) {
         QCOMPARE(accounts["Id"].integer(), i + 1);
         QCOMPARE(accounts["Title"].text(), titles[i]);
@@ -82,24 +80,24 @@ void tst_store::creationAmongRemains()
 {
     Shop shop;
     const QString path = session.databasePath();
-    const QString journal = path + QStringLiteral("-journal");
-    DE.connection().Execute(QStringLiteral("PRAGMA cache_size=5"));
+    const QString journal = path + "-journal";
+    DE.connection().Execute("PRAGMA cache_size=5");
     DE.connection().writeBatch([&] {
         for (int i = 0; i < 300; ++i)
             SetSetting(100 + i, QString(500, u'x'));
-        QVERIFY(QFile::copy(journal, path + QStringLiteral(".cut"))); // as a power cut leaves it now
+        QVERIFY(QFile::copy(journal, path + ".cut")); // as a power cut leaves it now
     });
     DE.close();
     QVERIFY(QFile::remove(path) && QFile::remove(journal));
-    QVERIFY(QFile::rename(path + QStringLiteral(".cut"), journal));
+    QVERIFY(QFile::rename(path + ".cut", journal));
     CreateDatabase();
     DE.open(path);
-    QCOMPARE(GetSetting(16, QString()), QStringLiteral("12"));
+    QCOMPARE(GetSetting(16, QString()), "12");
     DE.close();
 
     QVERIFY(QFile::remove(path) && QDir().mkdir(path));
     QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, CreateDatabase());
-    QCOMPARE(QDir(shop.folder()).entryList({QStringLiteral("data.mdb.new*")}), QStringList());
+    QCOMPARE(QDir(shop.folder()).entryList({"data.mdb.new*"}), QStringList());
 }
 
 void tst_store::requiredColumns()
@@ -107,7 +105,7 @@ void tst_store::requiredColumns()
     Shop shop;
     ado::Recordset jobs(DE.connection());
     const auto add = [&jobs](bool withRemark) {
-        jobs.Open(QStringLiteral("Select * from JOBS"));
+        jobs.Open("Select * from JOBS");
         jobs.AddNew();
         for (const char* date : {"DATE", "DeliveryDate", "trialdate"})
             jobs[date] = QDate(2024, 2, 10);
@@ -124,7 +122,7 @@ void tst_store::requiredColumns()
     add(true);
     // Without a number of the program's own choice each card would get number 1: nothing in the file forbids
     // it.
-    QCOMPARE(Shop::count(QStringLiteral("Select * from jobs where id=1")), 2);
+    QCOMPARE(Shop::count("Select * from jobs where id=1"), 2);
 }
 
 void tst_store::versionIsChecked()
@@ -135,23 +133,23 @@ void tst_store::versionIsChecked()
         SetSetting(16, QString::fromLatin1(version));
         QVERIFY(!CheckDatabaseVersion());
     }
-    DE.connection().Execute(QStringLiteral("Delete * from Settings"));
+    DE.connection().Execute("Delete * from Settings");
     QVERIFY(!CheckDatabaseVersion());
 }
 
 void tst_store::settings()
 {
     Shop shop;
-    QCOMPARE(GetSetting(6, QStringLiteral("as the reader says")), QStringLiteral("as the reader says"));
-    QCOMPARE(Shop::count(QStringLiteral("Select * from settings")), 1);
-    const QString tagLine = QStringLiteral("The tailor's 100% choice \u2702 'since' 1985\r\nविशेष");
-    SetSetting(6, QStringLiteral("first"));
+    QCOMPARE(GetSetting(6, "as the reader says"), "as the reader says");
+    QCOMPARE(Shop::count("Select * from settings"), 1);
+    const QString tagLine = "The tailor's 100% choice \u2702 'since' 1985\r\nविशेष";
+    SetSetting(6, "first");
     SetSetting(6, tagLine);
     shop.reopen();
     QCOMPARE(GetSetting(6, QString()), tagLine);
-    QCOMPARE(Shop::count(QStringLiteral("Select * from settings where SETTING='6'")), 1);
+    QCOMPARE(Shop::count("Select * from settings where SETTING='6'"), 1);
     SetSetting(6, QString());
-    QCOMPARE(GetSetting(6, QStringLiteral("default")), QString());
+    QCOMPARE(GetSetting(6, "default"), QString());
 }
 
 void tst_store::sessionDefaults()
@@ -159,49 +157,45 @@ void tst_store::sessionDefaults()
     Shop shop;
     LoadSessionDefaults();
     QCOMPARE(session.WorkingDate, QDate(2011, 4, 1));
-    QCOMPARE(session.Language, QStringLiteral("English"));
+    QCOMPARE(session.Language, "English");
 
-    SetSetting(0, QStringLiteral("Hindi"));
-    SetSetting(1, QStringLiteral("2023-12-31"));
+    SetSetting(0, "Hindi");
+    SetSetting(1, "2023-12-31");
     LoadSessionDefaults();
     QCOMPARE(session.WorkingDate, QDate(2023, 12, 31));
-    QCOMPARE(session.Language, QStringLiteral("Hindi"));
+    QCOMPARE(session.Language, "Hindi");
 
-    SetSetting(1, QStringLiteral("no date at all"));
+    SetSetting(1, "no date at all");
     LoadSessionDefaults();
     QCOMPARE(session.WorkingDate, QDate(2011, 4, 1));
 
-    SetSetting(22, QStringLiteral("1"));
+    SetSetting(22, "1");
     LoadSessionDefaults();
     QCOMPARE(session.WorkingDate, QDate::currentDate());
-    QCOMPARE(GetSetting(1, QString()), QStringLiteral("no date at all"));
+    QCOMPARE(GetSetting(1, QString()), "no date at all");
 }
 
 void tst_store::namesAndNumbers()
 {
     Shop shop;
-    const qint32 client = shop.addClient(QStringLiteral("Asha Rao"));
-    const qint32 shirt = shop.addItem(QStringLiteral("Men's Shirt"), 450.5, 120);
-    QCOMPARE(GetAccountID(QStringLiteral("asha rao")), client);
-    QCOMPARE(GetAccountTitle(client), QStringLiteral("Asha Rao"));
+    const qint32 client = shop.addClient("Asha Rao");
+    const qint32 shirt = shop.addItem("Men's Shirt", 450.5, 120);
+    QCOMPARE(GetAccountID("asha rao"), client);
+    QCOMPARE(GetAccountTitle(client), "Asha Rao");
     QCOMPARE(GetItemFees(shirt), 450.5);
-    QCOMPARE(GetItemName(shirt), QStringLiteral("Men's Shirt"));
-    QCOMPARE(GetItemID(QStringLiteral("Men's Shirt")), shirt);
-    QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, GetItemWorkerFees(QStringLiteral("Men's Shirt")));
-    QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, GetAccountID(QStringLiteral("D'Souza")));
-    QVERIFY_THROWS_EXCEPTION(ado::NoCurrentRecordError, GetAccountID(QStringLiteral("Nobody")));
+    QCOMPARE(GetItemName(shirt), "Men's Shirt");
+    QCOMPARE(GetItemID("Men's Shirt"), shirt);
+    QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, GetItemWorkerFees("Men's Shirt"));
+    QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, GetAccountID("D'Souza"));
+    QVERIFY_THROWS_EXCEPTION(ado::NoCurrentRecordError, GetAccountID("Nobody"));
     QVERIFY_THROWS_EXCEPTION(ado::NoCurrentRecordError, GetItemName(999));
-}
 
-void tst_store::fieldValueExists()
-{
-    Shop shop;
-    const qint32 client = shop.addClient(QStringLiteral("D'Souza"));
+    const qint32 souza = shop.addClient("D'Souza");
     const auto find = [](const char* title, const char* field) {
-        return FieldValueExists(QString::fromUtf8(title), QStringLiteral("Title"), QString::fromLatin1(field),
-                                QStringLiteral("Accounts"), DE.rsaccounts);
+        return FieldValueExists(QString::fromUtf8(title), "Title", QString::fromLatin1(field), "Accounts",
+                                DE.rsaccounts);
     };
-    QCOMPARE(find("d'souza", "ID").toInt(), client);
+    QCOMPARE(find("d'souza", "ID").toInt(), souza);
     QVERIFY(DE.rsaccounts.State());
     QCOMPARE(find("D'Souza", "DOB").toInt(), -1);
     QCOMPARE(find("D_Souza", "ID").toInt(), -1);
@@ -213,12 +207,11 @@ void tst_store::lists()
     Shop shop;
     for (const char* name : {"ravi", "Anil", "zoya"})
         shop.addClient(QString::fromLatin1(name));
-    shop.addWorker(QStringLiteral("Mohan"));
+    shop.addWorker("Mohan");
     Texts list;
-    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where Type=0"), list,
-             DE.rsaccounts);
-    QCOMPARE(list.all, QStringList({QStringLiteral("Anil"), QStringLiteral("ravi"), QStringLiteral("zoya")}));
-    FillCombo(QStringLiteral("Name"), QStringLiteral("Items"), list, DE.rsITEMS);
+    FillList("Title", "Accounts", " where Type=0", list, DE.rsaccounts);
+    QCOMPARE(list.all, QStringList({"Anil", "ravi", "zoya"}));
+    FillCombo("Name", "Items", list, DE.rsITEMS);
     QVERIFY(list.all.isEmpty());
     QVERIFY(!DE.rsaccounts.State());
 }
@@ -227,7 +220,7 @@ void tst_store::balances()
 {
     Shop shop;
     const QDate day = session.WorkingDate;
-    const qint16 account = static_cast<qint16>(shop.addClient(QStringLiteral("Asha")));
+    const qint16 account = static_cast<qint16>(shop.addClient("Asha"));
     QCOMPARE(GetBalance(account, day), 0.0);
     post(account, day, 0.10);
     post(account, day, 0.20);

@@ -33,15 +33,31 @@ QStringList names(const clsJobCardData& rows)
     return all;
 }
 
-/// Every field of a row, as the getters give them.
-QVariantList fields(const clsJobCardData& rows, int i)
+/// Calls `act` with the setter and the getter of every field.
+template <class Act>
+void eachField(const Act& act)
 {
-    QVariantList all{rows.Sr(i), rows.ItemName(i), rows.ItemID(i), rows.Qty(i), rows.Fees(i), rows.Amount(i)};
-    all << rows.Remarks(i) << rows.ItemDetails(i) << rows.ItemDetailsValue(i) << rows.WorkerID(i)
-        << rows.WorkerName(i) << rows.JobDelDate(i) << rows.CompletedDate(i) << rows.AltDate(i)
-        << rows.DelToCustDate(i) << rows.DoneByWorker(i) << rows.WorkerWagesDue(i) << rows.MarkAsPaid(i)
-        << rows.Loc(i) << rows.img1(i) << rows.img2(i) << rows.Color(i) << rows.Score(i)
-        << rows.ClientFeedBack(i) << rows.ClientRemarks(i);
+    using C = clsJobCardData;
+    const auto all = [&act](auto... field) { (act(field.first, field.second), ...); };
+    all(std::pair(&C::SetSr, &C::Sr), std::pair(&C::SetItemName, &C::ItemName),
+        std::pair(&C::SetItemID, &C::ItemID), std::pair(&C::SetQty, &C::Qty),
+        std::pair(&C::SetFees, &C::Fees), std::pair(&C::SetAmount, &C::Amount),
+        std::pair(&C::SetRemarks, &C::Remarks), std::pair(&C::SetItemDetails, &C::ItemDetails),
+        std::pair(&C::SetItemDetailsValue, &C::ItemDetailsValue), std::pair(&C::SetWorkerID, &C::WorkerID),
+        std::pair(&C::SetWorkerName, &C::WorkerName), std::pair(&C::SetJobDelDate, &C::JobDelDate),
+        std::pair(&C::SetCompletedDate, &C::CompletedDate), std::pair(&C::SetAltDate, &C::AltDate),
+        std::pair(&C::SetDelToCustDate, &C::DelToCustDate), std::pair(&C::SetDoneByWorker, &C::DoneByWorker),
+        std::pair(&C::SetWorkerWagesDue, &C::WorkerWagesDue), std::pair(&C::setMarkAsPaid, &C::MarkAsPaid),
+        std::pair(&C::SetLoc, &C::Loc), std::pair(&C::SetImg1, &C::img1), std::pair(&C::SetImg2, &C::img2),
+        std::pair(&C::SetColor, &C::Color), std::pair(&C::SetScore, &C::Score),
+        std::pair(&C::SetClientFeedBack, &C::ClientFeedBack),
+        std::pair(&C::SetClientRemarks, &C::ClientRemarks));
+}
+
+QVariantList fields(const clsJobCardData& rows, int row)
+{
+    QVariantList all;
+    eachField([&](auto, auto get) { all << QVariant((rows.*get)(row)); });
     return all;
 }
 
@@ -54,9 +70,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void everyFieldHasItsOwnPlace();
-    void rowNumbersOutsideTheCard();
     void removeMovesTheRowsUp();
-    void numbersPast16BitsChangeNothing();
+    void whatDoesNotFitChangesNothing();
 
 private:
     QStringList m_notices;
@@ -86,32 +101,7 @@ void tst_clsJobCardData::everyFieldHasItsOwnPlace()
     addNamedRow(rows, "first");
     addNamedRow(rows, "second");
     const QVariantList first = fields(rows, 1);
-    rows.SetSr(2, wanted.Sr(1));
-    rows.SetItemName(2, wanted.ItemName(1));
-    rows.SetItemID(2, wanted.ItemID(1));
-    rows.SetQty(2, wanted.Qty(1));
-    rows.SetFees(2, wanted.Fees(1));
-    rows.SetAmount(2, wanted.Amount(1));
-    rows.SetRemarks(2, wanted.Remarks(1));
-    rows.SetItemDetails(2, wanted.ItemDetails(1));
-    rows.SetItemDetailsValue(2, wanted.ItemDetailsValue(1));
-    rows.SetWorkerID(2, wanted.WorkerID(1));
-    rows.SetWorkerName(2, wanted.WorkerName(1));
-    rows.SetJobDelDate(2, wanted.JobDelDate(1));
-    rows.SetCompletedDate(2, wanted.CompletedDate(1));
-    rows.SetAltDate(2, wanted.AltDate(1));
-    rows.SetDelToCustDate(2, wanted.DelToCustDate(1));
-    rows.SetDoneByWorker(2, wanted.DoneByWorker(1));
-    rows.SetWorkerWagesDue(2, wanted.WorkerWagesDue(1));
-    rows.setMarkAsPaid(2, wanted.MarkAsPaid(1));
-    rows.SetLoc(2, wanted.Loc(1));
-    rows.SetImg1(2, wanted.img1(1));
-    rows.SetImg2(2, wanted.img2(1));
-    rows.SetColor(2, wanted.Color(1));
-    rows.SetScore(2, wanted.Score(1));
-    rows.SetClientFeedBack(2, wanted.ClientFeedBack(1));
-    rows.SetClientRemarks(2, wanted.ClientRemarks(1));
-
+    eachField([&](auto set, auto get) { (rows.*set)(2, (wanted.*get)(1)); });
     QCOMPARE(fields(rows, 2), full);
     QCOMPARE(fields(rows, 1), first);
 
@@ -122,31 +112,6 @@ void tst_clsJobCardData::everyFieldHasItsOwnPlace()
     QCOMPARE(rows.ItemName(2), "name 1");
 }
 
-void tst_clsJobCardData::rowNumbersOutsideTheCard()
-{
-    clsJobCardData rows;
-    const QVariantList nothing = fields(rows, 0);
-    QVERIFY2(m_notices.isEmpty(), "row 0 is there, and empty");
-    QCOMPARE(rows.Score(0), 0);
-
-    QCOMPARE(fields(rows, 1), nothing);
-    QCOMPARE(m_notices, QStringList(25, "Index Out of Bound!"));
-
-    addNamedRow(rows, "only");
-    m_notices.clear();
-    rows.SetItemName(2, "beyond");
-    rows.SetFees(2, 9);
-    QCOMPARE(m_notices, QStringList(2, "Index Out of Bound!"));
-    QCOMPARE(names(rows), QStringList{"only"});
-
-    QVERIFY_THROWS_EXCEPTION(SubscriptError, (void)rows.ItemName(-1));
-    QVERIFY_THROWS_EXCEPTION(SubscriptError, rows.SetItemName(-1, "x"));
-    QVERIFY_THROWS_EXCEPTION(SubscriptError, rows.Copy(2));
-    QVERIFY_THROWS_EXCEPTION(SubscriptError, rows.Copy(-1));
-    rows.SetRowCount(5);
-    QVERIFY_THROWS_EXCEPTION(SubscriptError, rows.ItemName(4));
-}
-
 void tst_clsJobCardData::removeMovesTheRowsUp()
 {
     clsJobCardData rows;
@@ -155,38 +120,37 @@ void tst_clsJobCardData::removeMovesTheRowsUp()
     rows.RemoveRow(2);
     QCOMPARE(names(rows), QStringList({"a", "c", "d"}));
     rows.RemoveRow(3);
-    QCOMPARE(names(rows), QStringList({"a", "c"}));
     rows.RemoveRow(3);
     rows.RemoveRow(100'000);
     QCOMPARE(names(rows), QStringList({"a", "c"}));
     QVERIFY(m_notices.isEmpty());
 
     QVERIFY_THROWS_EXCEPTION(SubscriptError, rows.RemoveRow(0));
-    QVERIFY_THROWS_EXCEPTION(SubscriptError, rows.RemoveRow(-1));
     QCOMPARE(names(rows), QStringList({"a", "c"}));
-
-    rows.RemoveRow(1);
-    rows.RemoveRow(1);
-    QCOMPARE(rows.RowCount(), 0);
-    QCOMPARE(rows.ItemName(0), QString());
 }
 
-void tst_clsJobCardData::numbersPast16BitsChangeNothing()
+void tst_clsJobCardData::whatDoesNotFitChangesNothing()
 {
     clsJobCardData rows;
-    addNamedRow(rows, "stored", 32767);
-    QVERIFY_THROWS_EXCEPTION(OverflowError, addNamedRow(rows, "too high", 32768));
-    QCOMPARE(names(rows), QStringList{"stored"});
+    const QVariantList nothing = fields(rows, 0);
+    QVERIFY2(m_notices.isEmpty(), "row 0 is there, and empty");
+    QCOMPARE(fields(rows, 1), nothing);
+    QCOMPARE(m_notices, QStringList(25, "Index Out of Bound!"));
 
+    addNamedRow(rows, "only", 32767);
     const QVariantList before = fields(rows, 1);
-    QVERIFY_THROWS_EXCEPTION(OverflowError, rows.SetSr(1, 32768));
+    rows.SetItemName(2, "beyond");
+    QCOMPARE(m_notices.size(), 26);
+    for (int row : {-1, 2})
+        QVERIFY_THROWS_EXCEPTION(SubscriptError, rows.Copy(row));
+    QVERIFY_THROWS_EXCEPTION(SubscriptError, rows.SetItemName(-1, "x"));
+    QVERIFY_THROWS_EXCEPTION(OverflowError, addNamedRow(rows, "too high", 32768));
     QVERIFY_THROWS_EXCEPTION(OverflowError, rows.SetQty(1, -32769));
-    QVERIFY_THROWS_EXCEPTION(OverflowError, rows.SetScore(1, 100'000));
     QVERIFY_THROWS_EXCEPTION(OverflowError, rows.ItemName(65'537));
+    QCOMPARE(names(rows), QStringList{"only"});
     QCOMPARE(fields(rows, 1), before);
 
-    rows.RemoveRow(1);
-    for (int n = 1; n <= 32'767; ++n)
+    for (int n = 2; n <= 32'767; ++n)
         addNamedRow(rows, {}, n);
     QVERIFY_THROWS_EXCEPTION(OverflowError, addNamedRow(rows, "one more"));
     QVERIFY_THROWS_EXCEPTION(OverflowError, rows.Copy(1));
