@@ -12,6 +12,7 @@
 #include "core/frmMain.h"
 #include "core/frmMasters.h"
 #include "core/frmMenu.h"
+#include "core/frmSettings.h"
 #include "core/frmShopINFO.h"
 #include "jobcards/JobCard.h"
 #include "jobcards/frmAddItem.h"
@@ -90,6 +91,15 @@ void takeAll()
     picture("about", [] { frmAbout().showModal(); });
     picture("login", [] { frmLogin().Login(); });
     picture("shop-info", [] { frmShopINFO().showModal(); });
+    for (const char* tab : {"General", "Printing", "SMS", "Backup"})
+        picture(
+            qPrintable(QStringLiteral("settings-") + QString::fromLatin1(tab).toLower()),
+            [] { frmSettings().showModal(); },
+            [tab](forms::Screen& screen) {
+                auto* tabs = screen.findChild<QTabWidget*>(QStringLiteral("SSTab1"));
+                tabs->setCurrentWidget(
+                    tabs->findChild<QWidget*>(QStringLiteral("page") + QLatin1String(tab)));
+            });
     picture(
         "clients", [] { frmClients().showModal(); }, selectInList);
     picture("client",

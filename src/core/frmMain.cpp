@@ -8,6 +8,7 @@
 #include "core/frmLogin.h"
 #include "core/frmMasters.h"
 #include "core/frmMenu.h"
+#include "core/frmSettings.h"
 #include "core/frmShopINFO.h"
 #include "jobcards/frmEditJOB.h"
 #include "platform/forms/Icons.h"
@@ -42,6 +43,7 @@ frmMain::frmMain()
     on(ui->cmdCreateNewClint, &QPushButton::clicked, [] { frmMasters().showModal(); });
     on(ui->Command8, &QPushButton::clicked, [] { frmMenu().showModal(); });
     on(ui->Command5, &QPushButton::clicked, [] { frmShopINFO().showModal(); });
+    on(ui->Command7, &QPushButton::clicked, [] { frmSettings().showModal(); });
     on(ui->Command4, &QPushButton::clicked, [] { frmAbout().showModal(); });
     on(ui->TodayDate, &forms::DatePicker::changed, &frmMain::TodayDate_Change);
     on(ui->TodayDate, &forms::DatePicker::calendarClosed, &frmMain::TodayDate_Change);

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/forms/Screen.h"
+
+#include <memory>
+
+class QLineEdit;
+
+namespace Ui {
+class frmSettings;
+}
+
+/// The options of the shop, on four tabs. "&Save" writes all of them at once; the backup folder alone is
+/// written when it is picked.
+class frmSettings : public forms::Screen
+{
+    Q_OBJECT
+public:
+    frmSettings();
+    ~frmSettings() override;
+
+protected:
+    void Form_Load() override;
+    void Form_KeyPress(int& key) override;
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
+
+private:
+    void txtSMSTitle_KeyPress(int& key);
+    void selectPicture(QLineEdit& box);
+    void Command8_Click();
+    void Command1_Click();
+    void writeSettings();
+
+    const std::unique_ptr<Ui::frmSettings> ui;
+};
