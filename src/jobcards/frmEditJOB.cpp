@@ -10,6 +10,7 @@
 #include "platform/values/Dates.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Numbers.h"
+#include "registers/frmSearchClient.h"
 #include "ui/DateDiff.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
@@ -72,6 +73,7 @@ frmEditJOB::frmEditJOB(QWidget* parent)
     on(ui->Command6, &QPushButton::clicked, &frmEditJOB::Command6_Click);
     on(ui->Command7, &QPushButton::clicked, &frmEditJOB::Command7_Click);
     on(ui->Command8, &QPushButton::clicked, &frmEditJOB::Command8_Click);
+    on(ui->Command9, &QPushButton::clicked, &frmEditJOB::Command9_Click);
     on(ui->Command10, &QPushButton::clicked, &frmEditJOB::Command10_Click);
     on(ui->Command12, &QPushButton::clicked, &frmEditJOB::Command12_Click);
 }
@@ -365,6 +367,16 @@ void frmEditJOB::DoTotal()
         total += values::Val(ui->lvItems->cell(row, AmountColumn));
     ui->txtAmountDue->setText(money(total));
     showBalance();
+}
+
+void frmEditJOB::Command9_Click()
+{
+    QString client;
+    SearchClient(client);
+    if (client.isEmpty())
+        return;
+    ui->cmbClient->setText(client);
+    ui->cmbClient->setFocus();
 }
 
 // Lines

@@ -70,6 +70,7 @@ private:
     void Command6_Click();
     void Command7_Click();
     void Command8_Click();
+    void Command9_Click();
     void Command10_Click();
     void Command12_Click();
 

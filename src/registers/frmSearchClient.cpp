@@ -1,0 +1,124 @@
+#include "registers/frmSearchClient.h"
+
+#include "core/DE.h"
+#include "core/Settings.h"
+#include "ui/modLang.h"
+#include "ui_frmSearchClient.h"
+
+namespace {
+
+constexpr qint32 ShowAllJobsSetting = 28;
+
+} // namespace
+
+frmSearchClient::frmSearchClient()
+    : ui(std::make_unique<Ui::frmSearchClient>())
+{
+    ui->setupUi(this);
+    ui->lvResults->setColumns({{QStringLiteral("Name"), 34},
+                               {QStringLiteral("Address"), 32},
+                               {QStringLiteral("City"), 16},
+                               {QStringLiteral("Mobile"), 17}});
+    ui->fmQuery->hide();
+
+    const auto chooseOnEnter = [this](int& key) {
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        choose();
+    };
+    const std::pair<swTextBox*, QString> boxes[] = {{ui->txtName, QStringLiteral("Title")},
+                                                    {ui->txtAddress, QStringLiteral("Address")},
+                                                    {ui->txtCity, QStringLiteral("City")},
+                                                    {ui->txtState, QStringLiteral("State")},
+                                                    {ui->txtMobile, QStringLiteral("Mobile")}};
+    for (const auto& [typed, field] : boxes) {
+        on(typed, &swTextBox::Change, [this, box = typed, name = field] {
+            SearchText(box->Text(), name);
+            FindListItem(box->Text());
+        });
+        onKeyDown(typed, [this](int& key) { ScrollLV(key); });
+        onKeyPress(typed, chooseOnEnter);
+    }
+    onKeyPress(ui->lvResults, chooseOnEnter);
+    on(ui->lvResults, &forms::ListView::dblClicked, &frmSearchClient::choose);
+    on(ui->opShowAllUndel, &QCheckBox::clicked,
+       [this] { SetSetting(ShowAllJobsSetting, allJobs() ? QStringLiteral("1") : QStringLiteral("0")); });
+    on(ui->Command1, &QPushButton::clicked, &frmSearchClient::choose);
+    on(ui->Command2, &QPushButton::clicked, &frmSearchClient::unload);
+}
+
+frmSearchClient::~frmSearchClient() = default;
+
+void frmSearchClient::Form_Load()
+{
+    SetFormLanguage(*this);
+    ui->opShowAllUndel->setChecked(GetSetting(ShowAllJobsSetting, QStringLiteral("0")) == QLatin1String("1"));
+}
+
+void frmSearchClient::offerAllJobs() { ui->fmQuery->show(); }
+
+bool frmSearchClient::allJobs() const { return ui->opShowAllUndel->isChecked(); }
+
+void frmSearchClient::SearchText(const QString& text, const QString& field)
+{
+    ui->lvResults->Clear();
+    if (text.isEmpty())
+        return;
+    ado::Recordset& found = DE.rsaccounts;
+    found.Open(QStringLiteral("Select * from Accounts  where type=%1 and ").arg(0) + field +
+               QStringLiteral(" like '%") + QString(text).replace(u'\'', QLatin1String("''")) +
+               QStringLiteral("%'"));
+    for (; !found.AtEOF(); found.MoveNext())
+        ui->lvResults->addRow(
+            {found["Title"].text(), found["Address"].text(), found["City"].text(), found["Mobile"].text()});
+    found.Close();
+}
+
+void frmSearchClient::FindListItem(const QString& text)
+{
+    const QString wanted = text.trimmed().toUpper();
+    forms::ListView& list = *ui->lvResults;
+    int row = 0;
+    while (row < list.rowCount() && list.cell(row, 0).left(text.size()).trimmed().toUpper() != wanted)
+        ++row;
+    list.selectRow(row);
+}
+
+void frmSearchClient::ScrollLV(int& key)
+{
+    if (key != forms::key::Up && key != forms::key::Down)
+        return;
+    const int step = key == forms::key::Up ? -1 : 1;
+    key = 0;
+    if (const int rows = ui->lvResults->rowCount(); rows > 0)
+        ui->lvResults->selectRow(qBound(0, ui->lvResults->selectedRow() + step, rows - 1));
+}
+
+void frmSearchClient::choose()
+{
+    const int row = ui->lvResults->selectedRow();
+    if (row < 0)
+        return;
+    m_chosen = ui->lvResults->cell(row, 0);
+    unload();
+}
+
+void SearchClient(QString& result)
+{
+    result.clear();
+    frmSearchClient search;
+    search.showModal();
+    result = search.chosen();
+}
+
+void SearchClient2(qint16& showAll, QString& result)
+{
+    result.clear();
+    frmSearchClient search;
+    search.offerAllJobs();
+    search.showModal();
+    result = search.chosen();
+    if (!result.isEmpty())
+        showAll = search.allJobs() ? 1 : 0;
+}

@@ -1,0 +1,130 @@
+#include "core/Settings.h"
+#include "jobcards/frmEditJOB.h"
+#include "platform/forms/ComboBox.h"
+#include "platform/forms/ListView.h"
+#include "registers/frmSearchClient.h"
+#include "support/ShopTest.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+forms::ListView& results(QWidget& screen) { return control<forms::ListView>(screen, "lvResults"); }
+
+QStringList names(QWidget& screen)
+{
+    QStringList names;
+    for (int row = 0; row < results(screen).rowCount(); ++row)
+        names << results(screen).cell(row, 0);
+    return names;
+}
+
+/// Types over what stands in the box.
+void typeInto(QWidget& screen, const char* name, const QString& text)
+{
+    box(screen, name).setFocus();
+    box(screen, name).selectAll();
+    typeText(text);
+}
+
+} // namespace
+
+class tst_frmSearchClient : public ShopTest
+{
+    Q_OBJECT
+
+    void lay() override
+    {
+        for (const auto& name : {u"Ravi Roy"_s, u"D'Souza"_s, u"100% Cotton"_s, u"मीरा देवी"_s, u"Roy Das"_s})
+            shop->addClient(name, u"98290%1"_s.arg(name.size()));
+        shop->addWorker(u"Royston"_s);
+    }
+
+private Q_SLOTS:
+    void findsByAnyPartOfAField_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("found");
+        QTest::addColumn<int>("selected");
+        const char* name = "txtName";
+        QTest::newRow("no worker; the first name that begins so")
+            << name << u"roy"_s << QStringList{u"Ravi Roy"_s, u"Roy Das"_s} << 1;
+        QTest::newRow("apostrophe") << name << u"'"_s << QStringList{u"D'Souza"_s} << -1;
+        QTest::newRow("wildcards") << name << u"1_0%c"_s << QStringList{u"100% Cotton"_s} << -1;
+        QTest::newRow("Hindi") << name << u"मीरा"_s << QStringList{u"मीरा देवी"_s} << 0;
+        QTest::newRow("another field")
+            << "txtMobile" << u"907"_s << QStringList{u"D'Souza"_s, u"Roy Das"_s} << -1;
+        QTest::newRow("nobody") << "txtCity" << u"x"_s << QStringList() << -1;
+    }
+    void findsByAnyPartOfAField()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, text);
+        inModal<frmSearchClient>([&](frmSearchClient& search) {
+            typeInto(search, "txtAddress", u"left over"_s); // boxes are not combined
+            typeInto(search, field.toLatin1(), text);
+            QTEST(names(search), "found");
+            QTEST(results(search).selectedRow(), "selected");
+            QCOMPARE(focused(search), field);
+        });
+    }
+
+    void walksTheListFromTheBox()
+    {
+        QString client = u"old"_s;
+        qint16 showAll = 7;
+        onNextModal<frmSearchClient>([](frmSearchClient& search) {
+            press(Qt::Key_Return); // nothing to take: it stays open
+            QVERIFY(search.isVisible());
+            typeInto(search, "txtMobile", u"98290"_s);
+            const auto walked = [&](Qt::Key key) {
+                press(key);
+                return results(search).selectedRow();
+            };
+            QCOMPARE(walked(Qt::Key_Down), 0);
+            QCOMPARE(walked(Qt::Key_Up), 0);
+            for (int i = 0; i < 6; ++i)
+                press(Qt::Key_Down);
+            QCOMPARE(walked(Qt::Key_Up), 3);
+            QCOMPARE(focused(search), u"txtMobile"_s);
+            control<QCheckBox>(search, "opShowAllUndel").click();
+            press(Qt::Key_Return);
+            QVERIFY(!search.isVisible());
+        });
+        SearchClient2(showAll, client);
+        QCOMPARE(client, u"मीरा देवी"_s);
+        QCOMPARE(showAll, 1);
+        QCOMPARE(GetSetting(28, {}), u"1"_s);
+
+        onNextModal<frmSearchClient>([](frmSearchClient& search) {
+            QVERIFY(control<QCheckBox>(search, "opShowAllUndel").isChecked());
+            typeInto(search, "txtName", u"r"_s);
+            press(Qt::Key_Escape);
+        });
+        SearchClient2(showAll, client);
+        QCOMPARE(client, QString());
+    }
+
+    void servesTheJobCard()
+    {
+        onNextModal<frmEditJOB>([](frmEditJOB& job) {
+            onNextModal<frmSearchClient>([](frmSearchClient& search) {
+                QVERIFY(!control<QCheckBox>(search, "opShowAllUndel").isVisible());
+                typeText(u"roy d"_s);
+                press(Qt::Key_Return);
+            });
+            press(Qt::Key_Q, Qt::AltModifier);
+            QCOMPARE(control<forms::ComboBox>(job, "cmbClient").text(), u"Roy Das"_s);
+            QTRY_COMPARE(focused(job), u"cmbClient"_s);
+        });
+        frmEditJOB().ShowAddNew();
+    }
+};
+
+QTEST_MAIN(tst_frmSearchClient)
+#include "tst_frmSearchClient.moc"
