@@ -8,6 +8,7 @@ struct Session
 {
     QString Language = QStringLiteral("English"); ///< "English" or "Hindi"; setting 0
     QDate WorkingDate;         ///< the shop's current day; records are stamped with it, never with the clock
+    QDate TodayDate;           ///< the date that the main screen shows; the registers stamp with it
     bool RefreshLists = false; ///< a list brought back to the front may be out of date
 
     // The shop's printed lines, copies of the one row of `SHOP`.

@@ -96,6 +96,7 @@ void frmMain::RefershINFO()
     shop.Close();
     const QSignalBlocker quiet(ui->TodayDate);
     ui->TodayDate->setValue(session.WorkingDate);
+    session.TodayDate = ui->TodayDate->value();
 }
 
 void frmMain::Form_KeyPress(int& key)
@@ -119,7 +120,8 @@ void frmMain::Form_KeyDown(int& key, Qt::KeyboardModifiers)
 /// The shop can be back-dated for a session; the next start remembers the day.
 void frmMain::TodayDate_Change()
 {
-    session.WorkingDate = ui->TodayDate->value();
+    session.TodayDate = ui->TodayDate->value();
+    session.WorkingDate = session.TodayDate;
     SetSetting(1, values::CStr(session.WorkingDate));
 }
 

@@ -8,7 +8,9 @@
 
 #include <QAbstractItemView>
 #include <QCalendarWidget>
+#include <QContextMenuEvent>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
@@ -85,6 +87,49 @@ private Q_SLOTS:
         view.Clear();
         QCOMPARE(view.selectedRow(), -1);
         QCOMPARE(moved.count(), 1);
+    }
+
+    void rowsAreLaidFilteredAndAskedForAMenu()
+    {
+        ListView view;
+        view.setColumns({{"Client", 50, Qt::AlignLeft, 300}, {"City", 10}, {"Balance", ListView::rest}});
+        std::vector<ListView::Row> rows;
+        for (int i = 0; i < 30000; ++i)
+            rows.push_back({{QString::number(i), "Agra"}, QString::number(i), {}});
+        rows.push_back({{"Total"}, {}, {{0, {"all\nrows", {}, true, Qt::red}}}});
+        view.setRows(std::move(rows));
+        QCOMPARE(view.rowCount(), 30001);
+        view.selectRow(7);
+        QSignalSpy reset(view.model(), &QAbstractItemModel::modelReset);
+        view.keepRows([](const ListView::Row& row) { return row.tag.isEmpty() || row.tag.endsWith("99"); });
+        QCOMPARE(reset.count(), 1);
+        QCOMPARE(view.rowCount(), 301);
+        QCOMPARE(view.selectedRow(), -1);
+        const QModelIndex total = view.model()->index(300, 0);
+        QVERIFY(total.data(Qt::FontRole).value<QFont>().bold());
+        QCOMPARE(total.data(Qt::ForegroundRole), QColor(Qt::red));
+
+        view.resize(420, 300);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowActive(&view));
+        QCOMPARE(view.columnWidth(0), 300); // more than its share
+        const int rest = view.viewport()->width() - view.columnWidth(0) - view.columnWidth(1);
+        QCOMPARE(view.columnWidth(2), rest);
+        view.resize(300, 300);
+        QTRY_VERIFY(view.horizontalScrollBar()->maximum() > 0);
+
+        QSignalSpy asked(&view, &ListView::menuAsked);
+        view.selectRow(300);
+        press(Qt::Key_Menu);
+        press(Qt::Key_F10, Qt::ShiftModifier);
+        const QPoint third = view.visualRect(view.model()->index(298, 0)).center();
+        QContextMenuEvent click(QContextMenuEvent::Mouse, third, view.viewport()->mapToGlobal(third));
+        QTest::mouseClick(view.viewport(), Qt::RightButton, {}, third);
+        QApplication::sendEvent(view.viewport(), &click);
+        QCOMPARE(asked.count(), 3);
+        QCOMPARE(asked[0][0], 300);
+        QCOMPARE(asked[2][0], 298);
+        QCOMPARE(view.selectedRow(), 298);
     }
 
     void comboKeepsItsTextWhenFilled()

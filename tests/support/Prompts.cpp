@@ -4,7 +4,9 @@
 #include "ui/frmMsg.h"
 
 #include <QApplication>
+#include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -40,7 +42,12 @@ Prompts::~Prompts()
         fail(QStringLiteral("Expected prompts are left over"));
 }
 
-void Prompts::expect(const QString& text, Answer answer) { m_expected.push_back({text, answer}); }
+void Prompts::expect(const QString& text, Answer answer) { m_expected.push_back({text, answer, {}}); }
+
+void Prompts::expectInput(const QString& prompt, const QString& typed, Answer answer)
+{
+    m_expected.push_back({prompt, answer, typed});
+}
 
 void Prompts::expectAll(const QStringList& notices)
 {
@@ -69,24 +76,26 @@ void Prompts::look()
         answer(*dialog);
     else if (auto* box = qobject_cast<QMessageBox*>(front))
         answer(*box);
+    else if (auto* input = qobject_cast<QInputDialog*>(front))
+        answer(*input);
 }
 
-Answer Prompts::answerTo(const QString& text)
+Prompts::Expected Prompts::answerTo(const QString& text)
 {
     if (m_expected.empty()) {
         fail(QStringLiteral("Unexpected prompt: ") + text);
-        return Answer::Esc;
+        return {text, Answer::Esc, {}};
     }
     const Expected next = m_expected.front();
     m_expected.pop_front();
     if (next.text != text)
         fail(QStringLiteral("Prompt: %1\nexpected: %2").arg(text, next.text));
-    return next.answer;
+    return next;
 }
 
 void Prompts::answer(frmMsg& dialog)
 {
-    const Answer given = answerTo(dialog.findChild<QLabel*>(QStringLiteral("lblMsg"))->text());
+    const Answer given = answerTo(dialog.findChild<QLabel*>(QStringLiteral("lblMsg"))->text()).answer;
     const QString name = given == Answer::Ok    ? QStringLiteral("cmdOK")
                          : given == Answer::Yes ? QStringLiteral("cmdYes")
                                                 : QStringLiteral("cmdNo");
@@ -95,9 +104,16 @@ void Prompts::answer(frmMsg& dialog)
 
 void Prompts::answer(QMessageBox& box)
 {
-    const Answer given = answerTo(box.text());
+    const Answer given = answerTo(box.text()).answer;
     const QMessageBox::StandardButton button = given == Answer::Ok    ? QMessageBox::Ok
                                                : given == Answer::Yes ? QMessageBox::Yes
                                                                       : QMessageBox::No;
     press(box, box.button(button), given);
+}
+
+void Prompts::answer(QInputDialog& box)
+{
+    const Expected given = answerTo(box.labelText());
+    QTest::keyClicks(box.findChild<QLineEdit*>(), given.typed);
+    QTest::keyClick(&box, given.answer == Answer::Ok ? Qt::Key_Return : Qt::Key_Escape);
 }

@@ -5,11 +5,12 @@
 #include <deque>
 
 class frmMsg;
+class QInputDialog;
 class QMessageBox;
 
 enum class Answer { Ok, Yes, No, Esc };
 
-/// Answers the prompts of the program under test: those of the message dialog and plain message boxes, in the
+/// Answers the prompts of the program under test: the message dialog, plain message and input boxes, in the
 /// order in which they are expected. A prompt that is unexpected, of another text, or without the button of
 /// the answer fails the test.
 class Prompts : public QObject
@@ -20,6 +21,8 @@ public:
     ~Prompts() override;
 
     void expect(const QString& text, Answer answer = Answer::Ok);
+    /// Expects an input box; types the text and presses OK, or leaves by Esc.
+    void expectInput(const QString& prompt, const QString& typed, Answer answer = Answer::Ok);
     /// Expects notices, each left by OK.
     void expectAll(const QStringList& notices);
     /// True when every expected prompt has come, and every act of onNextModal has met its screen. Tells what
@@ -31,12 +34,14 @@ private:
     {
         QString text;
         Answer answer;
+        QString typed;
     };
 
     void look();
-    Answer answerTo(const QString& text);
+    Expected answerTo(const QString& text);
     void answer(frmMsg& dialog);
     void answer(QMessageBox& box);
+    void answer(QInputDialog& box);
 
     std::deque<Expected> m_expected;
     QTimer m_timer;

@@ -1,14 +1,20 @@
 #include "platform/forms/ListView.h"
 
 #include <QAbstractTableModel>
+#include <QContextMenuEvent>
 #include <QHeaderView>
-#include <QScrollBar>
+#include <QHelpEvent>
+#include <QTextDocument>
+#include <QToolTip>
+#include <algorithm>
 
 namespace forms {
 
 namespace {
 
 constexpr int heightOfRow = 32;
+constexpr int paddingOfCell = 18; // left and right of the text
+constexpr qsizetype longestTip = 1000;
 
 } // namespace
 
@@ -16,12 +22,6 @@ class ListView::Model : public QAbstractTableModel
 {
 public:
     using QAbstractTableModel::QAbstractTableModel;
-
-    struct Row
-    {
-        QStringList cells;
-        QString tag;
-    };
 
     int rowCount(const QModelIndex& parent = {}) const override
     {
@@ -34,12 +34,16 @@ public:
     QVariant data(const QModelIndex& index, int role) const override
     {
         if (role == Qt::DisplayRole)
-            return m_rows[size_t(index.row())].cells.value(index.column());
+            return m_rows[size_t(index.row())]
+                .cells.value(index.column())
+                .replace(QLatin1Char('\n'), QLatin1Char(' '));
         if (role == Qt::TextAlignmentRole)
             return alignment(index.column());
         if (role == Qt::SizeHintRole)
             return QSize(0, heightOfRow);
-        return {};
+        const QMap<int, Look>& looks = m_rows[size_t(index.row())].looks;
+        const auto look = looks.constFind(index.column());
+        return look == looks.cend() ? QVariant() : data(*look, role);
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
@@ -75,14 +79,38 @@ public:
         m_rows.erase(m_rows.begin() + row);
         endRemoveRows();
     }
-    void clear()
+    void replace(std::vector<Row>&& rows)
     {
         beginResetModel();
-        m_rows.clear();
+        m_rows = std::move(rows);
+        endResetModel();
+    }
+    void keep(const std::function<bool(const Row&)>& stays)
+    {
+        beginResetModel();
+        std::erase_if(m_rows, [&stays](const Row& row) { return !stays(row); });
         endResetModel();
     }
 
 private:
+    static QVariant data(const Look& look, int role)
+    {
+        switch (role) {
+        case Qt::DecorationRole:
+            return look.picture.isNull() ? QVariant() : look.picture;
+        case Qt::ForegroundRole:
+            return look.colour.isValid() ? QVariant(look.colour) : QVariant();
+        case Qt::FontRole: {
+            if (!look.bold)
+                return {};
+            QFont font;
+            font.setBold(true); // the rest of it stays the view's
+            return font;
+        }
+        default:
+            return {};
+        }
+    }
     QVariant alignment(int column) const
     {
         return QVariant::fromValue(m_columns[size_t(column)].alignment | Qt::AlignVCenter);
@@ -114,18 +142,36 @@ ListView::~ListView() = default;
 
 void ListView::setColumns(const std::vector<Column>& columns)
 {
-    const bool hadSelection = selectedRow() >= 0;
-    m_rows->setColumns(columns);
+    anew([&] { m_rows->setColumns(columns); });
     layOutColumns();
+}
+
+int ListView::addRow(const QStringList& cells, const QString& tag) { return addRow({cells, tag, {}}); }
+
+int ListView::addRow(Row row) { return m_rows->add(std::move(row)); }
+
+void ListView::setRows(std::vector<Row> rows)
+{
+    anew([&] { m_rows->replace(std::move(rows)); });
+}
+
+void ListView::keepRows(const std::function<bool(const Row&)>& stays)
+{
+    anew([&] { m_rows->keep(stays); });
+}
+
+/// Changes the rows as a whole; the selection goes with them.
+void ListView::anew(const std::function<void()>& change)
+{
+    const bool hadSelection = selectedRow() >= 0;
+    change();
     if (hadSelection)
         Q_EMIT selectionMoved();
 }
 
-int ListView::addRow(const QStringList& cells, const QString& tag) { return m_rows->add({cells, tag}); }
-
 void ListView::setRow(int row, const QStringList& cells)
 {
-    if (Model::Row* found = m_rows->row(row)) {
+    if (Row* found = m_rows->row(row)) {
         found->cells = cells;
         m_rows->changed(row);
     }
@@ -133,7 +179,7 @@ void ListView::setRow(int row, const QStringList& cells)
 
 void ListView::setCell(int row, int column, const QString& text)
 {
-    Model::Row* found = m_rows->row(row);
+    Row* found = m_rows->row(row);
     if (!found || column < 0 || column >= m_rows->columnCount())
         return;
     while (found->cells.size() <= column)
@@ -144,20 +190,34 @@ void ListView::setCell(int row, int column, const QString& text)
 
 QString ListView::cell(int row, int column) const
 {
-    const Model::Row* found = m_rows->row(row);
+    const Row* found = m_rows->row(row);
     return found ? found->cells.value(column) : QString();
 }
 
 QString ListView::tag(int row) const
 {
-    const Model::Row* found = m_rows->row(row);
+    const Row* found = m_rows->row(row);
     return found ? found->tag : QString();
 }
 
 void ListView::setTag(int row, const QString& tag)
 {
-    if (Model::Row* found = m_rows->row(row))
+    if (Row* found = m_rows->row(row))
         found->tag = tag;
+}
+
+ListView::Look ListView::look(int row, int column) const
+{
+    const Row* found = m_rows->row(row);
+    return found ? found->looks.value(column) : Look();
+}
+
+void ListView::setLook(int row, int column, const Look& look)
+{
+    if (Row* found = m_rows->row(row)) {
+        found->looks[column] = look;
+        m_rows->changed(row);
+    }
 }
 
 void ListView::removeRow(int row)
@@ -166,13 +226,7 @@ void ListView::removeRow(int row)
         m_rows->remove(row);
 }
 
-void ListView::Clear()
-{
-    const bool hadSelection = selectedRow() >= 0;
-    m_rows->clear();
-    if (hadSelection)
-        Q_EMIT selectionMoved();
-}
+void ListView::Clear() { setRows({}); }
 
 int ListView::rowCount() const { return m_rows->rowCount(); }
 
@@ -190,6 +244,57 @@ void ListView::selectRow(int row)
         selectionModel()->clear();
 }
 
+void ListView::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        askMenuAtSelection();
+    else
+        Q_EMIT menuAsked(indexAt(viewport()->mapFromGlobal(event->globalPos())).row(), event->globalPos());
+}
+
+void ListView::keyPressEvent(QKeyEvent* event)
+{
+    const bool menuKey = event->key() == Qt::Key_Menu ||
+                         (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
+    if (menuKey)
+        askMenuAtSelection();
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+void ListView::askMenuAtSelection()
+{
+    const int row = selectedRow();
+    scrollTo(m_rows->index(row, 0));
+    const QRect place = row < 0 ? QRect() : visualRect(m_rows->index(row, 0));
+    Q_EMIT menuAsked(row, viewport()->mapToGlobal(place.bottomLeft()));
+}
+
+bool ListView::viewportEvent(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QTreeView::viewportEvent(event);
+    auto* help = static_cast<QHelpEvent*>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const QString tip = index.isValid() ? tipFor(index) : QString();
+    if (tip.isEmpty())
+        QToolTip::hideText();
+    else // what an operator has typed is never markup
+        QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(tip), viewport(), visualRect(index));
+    return true;
+}
+
+/// The cell's own tool tip, else its text if that is cut off.
+QString ListView::tipFor(const QModelIndex& index) const
+{
+    const QString tip = look(index.row(), index.column()).toolTip;
+    if (!tip.isEmpty())
+        return tip;
+    const QString text = cell(index.row(), index.column());
+    const int room = visualRect(index).width() - paddingOfCell;
+    return fontMetrics().horizontalAdvance(text) > room ? text.left(longestTip) : QString();
+}
+
 void ListView::resizeEvent(QResizeEvent* event)
 {
     QTreeView::resizeEvent(event);
@@ -204,9 +309,19 @@ void ListView::selectionChanged(const QItemSelection& selected, const QItemSelec
 
 void ListView::layOutColumns()
 {
+    const std::vector<Column>& columns = m_rows->columns();
     const int width = viewport()->width();
-    for (size_t i = 0; i < m_rows->columns().size(); ++i)
-        header()->resizeSection(int(i), int(width * m_rows->columns()[i].percent / 100));
+    int left = width;
+    for (size_t i = 0; i < columns.size(); ++i) {
+        if (columns[i].percent == rest)
+            continue;
+        const int share = std::max(int(width * columns[i].percent / 100), columns[i].least);
+        header()->resizeSection(int(i), share);
+        left -= share;
+    }
+    for (size_t i = 0; i < columns.size(); ++i)
+        if (columns[i].percent == rest)
+            header()->resizeSection(int(i), std::max(left, columns[i].least));
 }
 
 } // namespace forms

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QColor>
+#include <QMap>
+#include <QPixmap>
 #include <QTreeView>
-#include <memory>
+#include <functional>
 #include <vector>
 
 namespace forms {
@@ -12,11 +15,29 @@ class ListView : public QTreeView
 {
     Q_OBJECT
 public:
+    /// A column that isn't fixed in percent takes what the others leave.
+    static constexpr double rest = 0;
+
     struct Column
     {
         QString title;
         double percent; ///< of the view's width
         Qt::Alignment alignment = Qt::AlignLeft;
+        int least = 0; ///< in pixels; where not all columns find room, the view scrolls sideways
+    };
+    /// What a cell has beside its text.
+    struct Look
+    {
+        QString toolTip; ///< a cell without one tells its text when that is cut off
+        QPixmap picture; ///< in front of the text
+        bool bold = false;
+        QColor colour; ///< of the text; an invalid one is the view's own
+    };
+    struct Row
+    {
+        QStringList cells; ///< those left out are empty
+        QString tag;
+        QMap<int, Look> looks; ///< by column
     };
 
     explicit ListView(QWidget* parent = nullptr);
@@ -25,14 +46,21 @@ public:
     /// Lays out the columns anew; rows go. Widths follow the view's width.
     void setColumns(const std::vector<Column>& columns);
 
-    /// Adds a row at the end and returns its number. Cells left out are empty.
+    /// Adds a row at the end and returns its number.
     int addRow(const QStringList& cells, const QString& tag = {});
+    int addRow(Row row);
+    /// Puts other rows in place of all, at once; none is selected then.
+    void setRows(std::vector<Row> rows);
+    /// Removes, at once, the rows that `stays` does not want; none is selected then.
+    void keepRows(const std::function<bool(const Row& row)>& stays);
     void setRow(int row, const QStringList& cells);
     void setCell(int row, int column, const QString& text);
     /// Empty outside the list, as is the tag.
     QString cell(int row, int column) const;
     QString tag(int row) const;
     void setTag(int row, const QString& tag);
+    Look look(int row, int column) const;
+    void setLook(int row, int column, const Look& look);
     void removeRow(int row);
     void Clear();
     int rowCount() const;
@@ -46,13 +74,22 @@ Q_SIGNALS:
     void dblClicked();
     /// Another row is selected, or none.
     void selectionMoved();
+    /// A pop-up menu is asked for at a place of the display: by the right mouse button on a row, which is
+    /// selected first, or by the menu key (also Shift+F10) on the selected row. -1: on no row.
+    void menuAsked(int row, const QPoint& place);
 
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
     class Model;
+    void anew(const std::function<void()>& change);
+    void askMenuAtSelection();
+    QString tipFor(const QModelIndex& index) const;
     void layOutColumns();
 
     Model* m_rows;

@@ -1,6 +1,7 @@
 #include "platform/forms/MessageBox.h"
 
 #include <QGuiApplication>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPointer>
 
@@ -20,20 +21,31 @@ QString cut(const QString& text)
     return shown;
 }
 
-/// Shows a box and returns the button pressed. The box may die with its parent meanwhile.
-QMessageBox::StandardButton run(QWidget* parent, QMessageBox::Icon icon, const QString& text,
-                                QMessageBox::StandardButtons buttons)
+QWidget* windowBelow(const QWidget* parent)
 {
-    const QPointer<QWidget> below = parent && parent->isVisible() ? parent->window() : nullptr;
-    QPointer<QMessageBox> box =
-        new QMessageBox(icon, QGuiApplication::applicationDisplayName(), cut(text), buttons, below);
-    box->setTextFormat(Qt::PlainText);
+    return parent && parent->isVisible() ? parent->window() : nullptr;
+}
+
+/// Shows a box and returns its result. The box may die with its parent meanwhile.
+int show(const QPointer<QDialog>& box)
+{
+    const QPointer<QWidget> below = box->parentWidget();
     box->setWindowModality(Qt::ApplicationModal);
-    const int answer = box->exec();
-    delete box;
+    const int result = box->exec();
     if (below)
         below->activateWindow();
-    return static_cast<QMessageBox::StandardButton>(answer);
+    return result;
+}
+
+/// Shows a box and returns the button pressed.
+int run(QWidget* parent, QMessageBox::Icon icon, const QString& text, QMessageBox::StandardButtons buttons)
+{
+    const QPointer<QMessageBox> box = new QMessageBox(icon, QGuiApplication::applicationDisplayName(),
+                                                      cut(text), buttons, windowBelow(parent));
+    box->setTextFormat(Qt::PlainText);
+    const int button = show(box.data());
+    delete box;
+    return button;
 }
 
 } // namespace
@@ -51,6 +63,17 @@ void criticalMessage(QWidget* parent, const QString& text)
 bool askPlain(QWidget* parent, const QString& text)
 {
     return run(parent, QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+QString inputBox(QWidget* parent, const QString& prompt, const QString& title)
+{
+    const QPointer<QInputDialog> box = new QInputDialog(windowBelow(parent));
+    box->setWindowTitle(title);
+    box->setLabelText(prompt);
+    const bool accepted = show(box.data()) == QDialog::Accepted;
+    const QString text = accepted && box ? box->textValue() : QString();
+    delete box;
+    return text;
 }
 
 } // namespace forms

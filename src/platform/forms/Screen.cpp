@@ -155,8 +155,8 @@ void Screen::present()
 /// Makes the screen no larger than the display; content that needs more room moves into a scrolling area.
 void Screen::fitDisplay()
 {
-    const QSize room = screen()->availableSize() * largestShare;
-    const QSize wanted = size().expandedTo(minimumSizeHint()).boundedTo(room);
+    const QSize room = m_heightShare > 0 ? shareOfDisplay() : screen()->availableSize() * largestShare;
+    const QSize wanted = m_heightShare > 0 ? room : size().expandedTo(minimumSizeHint()).boundedTo(room);
     const bool fits = minimumSizeHint().boundedTo(room) == minimumSizeHint();
     if (!fits && !m_scroller && layout()) {
         m_scroller = new QScrollArea(this);
@@ -174,6 +174,16 @@ void Screen::fitDisplay()
         column->activate(); // the content's least size is the screen's no longer
     }
     resize(wanted);
+}
+
+/// The room inside the frame of a screen that takes a share of the display. Its frame is not there yet: one
+/// like that of the screen below is counted on.
+QSize Screen::shareOfDisplay() const
+{
+    const QSize display = screen()->availableSize();
+    const QWindow* below = windowHandle() ? windowHandle()->transientParent() : nullptr;
+    const QMargins frame = below ? below->frameMargins() : QMargins();
+    return QSize(display.width(), int(display.height() * m_heightShare)).shrunkBy(frame);
 }
 
 void Screen::activate()
@@ -309,13 +319,6 @@ void Screen::focusArrived(QWidget* target)
     for (const auto& procedure : proceduresFor(target, &ControlEvents::gotFocus))
         if (guarded(this, procedure); !self)
             return;
-}
-
-void Screen::useScreenHeight(double share)
-{
-    const QSize available = screen()->availableSize();
-    resize(qMin(available.width(), qMax(width(), available.width() * 9 / 10)),
-           int(available.height() * share));
 }
 
 void Screen::closeEvent(QCloseEvent* event)

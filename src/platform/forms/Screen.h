@@ -134,8 +134,9 @@ protected:
     void onGotFocus(QWidget* control, std::function<void()> procedure);
     void onLostFocus(QWidget* control, std::function<void()> procedure);
 
-    /// Gives the screen the share of the available screen's height, and a width to go with it.
-    void useScreenHeight(double share);
+    /// Gives the screen, with its frame, the display's full width and this share of its height. For
+    /// Form_Load.
+    void useScreenHeight(double share) { m_heightShare = share; }
     /// Makes the screen a notice: when it closes, the screen below isn't activated, as after a plain message
     /// box.
     void setNotice(bool notice) { m_notice = notice; }
@@ -160,6 +161,7 @@ private:
 
     void present();
     void fitDisplay();
+    QSize shareOfDisplay() const;
     void activate();
     void leaveChain();
     ControlEvents& eventsOf(QWidget* control);
@@ -175,6 +177,7 @@ private:
 
     bool m_loaded = false;
     bool m_notice = false;
+    double m_heightShare = 0; ///< of the display's height; 0: the screen is as large as its content
     QPointer<QEventLoop> m_loop;
     QPointer<QWidget> m_focused;
     QScrollArea* m_scroller = nullptr;
