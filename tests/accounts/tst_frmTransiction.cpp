@@ -11,8 +11,6 @@
 
 namespace {
 
-forms::ComboBox& combo(QWidget& form, const char* name) { return control<forms::ComboBox>(form, name); }
-
 /// The four words at the accounts, main account first.
 QString labels(QWidget& form)
 {

@@ -8,6 +8,7 @@
 #include "jobcards/frmAddItem.h"
 #include "platform/forms/ComboBox.h"
 #include "platform/values/Errors.h"
+#include "support/Files.h"
 #include "support/ShopTest.h"
 #include "ui/frmSelectFile.h"
 #include "ui/swTextBoxMultiLine.h"
@@ -106,12 +107,6 @@ QString picture(const QString& path)
     if (!image.save(path))
         qFatal("cannot write %s", qPrintable(path));
     return path;
-}
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QStringList imageFiles() { return QDir(session.imagesFolder()).entryList(QDir::Files, QDir::Name); }

@@ -39,10 +39,6 @@ private:
 
 namespace {
 
-QLineEdit& field(QWidget& screen, const char* name) { return control<QLineEdit>(screen, name); }
-QString label(QWidget& screen, const char* name) { return control<QLabel>(screen, name).text(); }
-void click(QWidget& screen, const char* name) { control<QPushButton>(screen, name).click(); }
-forms::ComboBox& combo(QWidget& screen, const char* name) { return control<forms::ComboBox>(screen, name); }
 forms::ListView& list(QWidget& screen) { return control<forms::ListView>(screen, "lvItems"); }
 int count(const char* rowsOf) { return Shop::count(u"Select * from "_s + QLatin1String(rowsOf)); }
 

@@ -14,14 +14,6 @@ namespace {
 
 forms::ListBox& entries(QWidget& list) { return control<forms::ListBox>(list, "lstSummary"); }
 
-void typeFields(const QStringList& fields)
-{
-    for (const QString& field : fields) {
-        typeText(field);
-        press(Qt::Key_Return);
-    }
-}
-
 template <class Edit>
 void edit(qint32 id, std::function<void(Edit&)> act)
 {

@@ -124,3 +124,18 @@ int Shop::count(const QString& sql)
     rows.Open(sql);
     return rows.RecordCount();
 }
+
+QStringList Shop::rows(const QString& sql)
+{
+    QStringList lines;
+    ado::Recordset rows(DE.connection());
+    for (rows.Open(sql); !rows.AtEOF(); rows.MoveNext()) {
+        QStringList values;
+        for (int column = 0; column < rows.FieldCount(); ++column)
+            values << rows[column].text();
+        lines << values.join(u' ');
+    }
+    return lines;
+}
+
+void Shop::run(const QString& sql) { DE.connection().Execute(sql); }

@@ -31,6 +31,10 @@ public:
     /// The first value of a query, and the number of its rows.
     static QVariant value(const QString& sql);
     static int count(const QString& sql);
+    /// The rows of a query, each with its values joined by blanks.
+    static QStringList rows(const QString& sql);
+    /// Changes what lies in the tables behind the program's back.
+    static void run(const QString& sql);
 
 private:
     QTemporaryDir m_folder;

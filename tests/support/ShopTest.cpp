@@ -16,13 +16,3 @@ void ShopTest::cleanup()
     shop.reset();
     QVERIFY(met);
 }
-
-QString focused(const QWidget& screen)
-{
-    const QWidget* widget = screen.focusWidget();
-    return widget ? widget->objectName() : QString();
-}
-
-void save() { press(Qt::Key_S, Qt::AltModifier); }
-
-void remove() { press(Qt::Key_D, Qt::AltModifier); }

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "support/KeysTo.h"
+#include "support/Fields.h"
 #include "support/Modal.h"
 #include "support/Prompts.h"
 #include "support/Shop.h"
-#include "ui/swTextBox.h"
 
 #include <QObject>
 #include <memory>
@@ -24,10 +23,3 @@ private Q_SLOTS:
     void init();
     void cleanup();
 };
-
-inline swTextBox& box(QWidget& screen, const char* name) { return control<swTextBox>(screen, name); }
-/// The name of the control that has the focus.
-QString focused(const QWidget& screen);
-/// Press "&Save" and "&Delete".
-void save();
-void remove();
