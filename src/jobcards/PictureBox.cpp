@@ -29,6 +29,8 @@ void PictureBox::clear()
     update();
 }
 
+void PictureBox::mouseDoubleClickEvent(QMouseEvent*) { Q_EMIT dblClicked(); }
+
 void PictureBox::paintEvent(QPaintEvent* event)
 {
     QFrame::paintEvent(event);

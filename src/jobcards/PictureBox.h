@@ -3,7 +3,7 @@
 #include <QFrame>
 #include <QPixmap>
 
-/// Shows one picture as large as its place allows, centred.
+/// Shows one picture as large as its place allows, centred. A double click is its owner's to answer.
 class PictureBox : public QFrame
 {
     Q_OBJECT
@@ -15,7 +15,11 @@ public:
     void clear();
     const QPixmap& picture() const { return m_picture; }
 
+Q_SIGNALS:
+    void dblClicked();
+
 protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -4,6 +4,7 @@
 #include "core/Lookups.h"
 #include "jobcards/PictureFiles.h"
 #include "jobcards/clsJobCardData.h"
+#include "media/frmPreview.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Dates.h"
 #include "ui/ModOtherFUN.h"
@@ -64,6 +65,8 @@ frmAddItem::frmAddItem()
     on(ui->Command8, &QPushButton::clicked, &frmAddItem::Command8_Click);
     on(ui->Command6, &QPushButton::clicked, [this] { clearPicture(*ui->pic1, *ui->picPath1); });
     on(ui->Command5, &QPushButton::clicked, [this] { clearPicture(*ui->pic2, *ui->picPath2); });
+    on(ui->pic1, &PictureBox::dblClicked, [this] { preview(*ui->picPath1); });
+    on(ui->pic2, &PictureBox::dblClicked, [this] { preview(*ui->picPath2); });
     on(ui->Command2, &QPushButton::clicked, &frmAddItem::Command2_Click);
     on(ui->Command1, &QPushButton::clicked, &frmAddItem::Command1_Click);
 }
@@ -265,6 +268,12 @@ void frmAddItem::showPicture(PictureBox& pic, QLabel& picPath, const QString& pa
         return;
     pic.load(path);
     picPath.setText(path);
+}
+
+void frmAddItem::preview(const QLabel& picPath)
+{
+    if (!picPath.text().isEmpty())
+        frmPreview().ShowImage(picPath.text());
 }
 
 void frmAddItem::Command2_Click()

@@ -54,6 +54,7 @@ private:
     void Command8_Click();
     static void clearPicture(PictureBox& pic, QLabel& picPath);
     static void showPicture(PictureBox& pic, QLabel& picPath, const QString& path);
+    static void preview(const QLabel& picPath);
     void Command2_Click();
 
     void Command1_Click();

@@ -17,6 +17,17 @@ void aim(QImageReader& reader, const QString& path)
     reader.setAutoTransform(true);
 }
 
+/// The most pixels that a picture may have. Photographs are read at the scale that is wanted; of the other
+/// kinds each pixel goes through memory, and takes its time.
+constexpr qint64 MostPixels = 32'000'000;
+constexpr qint64 MostPixelsOfPhotograph = 120'000'000;
+
+bool isTooLarge(const QImageReader& reader, const QSize& size)
+{
+    const bool photograph = reader.format() == "jpeg";
+    return qint64(size.width()) * size.height() > (photograph ? MostPixelsOfPhotograph : MostPixels);
+}
+
 } // namespace
 
 bool isPicture(const QString& path)
@@ -31,6 +42,8 @@ QPixmap loadPicture(const QString& path, const QSize& within)
     QImageReader reader;
     aim(reader, path);
     const QSize size = reader.size();
+    if (isTooLarge(reader, size))
+        return {};
     if (size.width() > within.width() || size.height() > within.height())
         reader.setScaledSize(size.scaled(within, Qt::KeepAspectRatio).expandedTo({1, 1}));
     return QPixmap::fromImageReader(&reader);

@@ -9,7 +9,8 @@ namespace forms {
 bool isPicture(const QString& path);
 
 /// A picture from a file, scaled down as it is read to fit `within` (in device pixels); a smaller one keeps
-/// its size. Null when the file cannot be read, or would take more memory than a picture may.
+/// its size. Null when the file cannot be read, or has more pixels than can be read in a moment (32 million;
+/// 120 million in a JPEG file).
 QPixmap loadPicture(const QString& path, const QSize& within);
 
 } // namespace forms
