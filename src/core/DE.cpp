@@ -18,6 +18,7 @@ void DataEnvironment::ensureIndexes()
     static constexpr Index indexes[] = {
         {"Accounts_Title", "Accounts (Title)"},
         {"Accounts_Type", "Accounts (Type, Title)"},
+        {"Accounts_Kind", "Accounts (Type)"}, // in order of insertion, without sorting
         {"Items_Name", "ITEMS (NAME)"},
         {"Jobs_Id", "JOBS (Id)"},
         {"Jobs_Clint", "JOBS (ClintID)"},
@@ -25,6 +26,7 @@ void DataEnvironment::ensureIndexes()
         {"Jobs_Detail_Clint", "JOBS_DETAIL (ClintID, ItemID)"},
         {"Jobs_Detail_Item", "JOBS_DETAIL (ItemID)"},
         {"Jobs_Detail_Worker", "JOBS_DETAIL (WorkerID)"},
+        {"Jobs_Detail_Score", "JOBS_DETAIL (WorkerID, Score)"},
         {"Postings_Account", "postings (AccID)"},
         {"Postings_Reference", "postings (RefID)"},
         {"Postings_Voucher", "postings (VID, Vtype)"},

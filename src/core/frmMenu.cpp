@@ -1,5 +1,6 @@
 #include "core/frmMenu.h"
 
+#include "planning/frmRatings.h"
 #include "platform/forms/Icons.h"
 #include "ui_frmMenu.h"
 
@@ -8,6 +9,7 @@ frmMenu::frmMenu()
 {
     ui->setupUi(this);
     forms::applyIcons(*this, forms::iconInk);
+    opens<frmRatings>(ui->Command5);
     on(ui->Command8, &QPushButton::clicked, &frmMenu::unload);
 }
 

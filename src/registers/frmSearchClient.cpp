@@ -69,10 +69,12 @@ void frmSearchClient::SearchText(const QString& text, const QString& field)
     found.Open(QStringLiteral("Select * from Accounts  where type=%1 and ").arg(0) + field +
                QStringLiteral(" like '%") + QString(text).replace(u'\'', QLatin1String("''")) +
                QStringLiteral("%'"));
+    std::vector<forms::ListView::Row> rows;
     for (; !found.AtEOF(); found.MoveNext())
-        ui->lvResults->addRow(
-            {found["Title"].text(), found["Address"].text(), found["City"].text(), found["Mobile"].text()});
+        rows.push_back(
+            {{found["Title"].text(), found["Address"].text(), found["City"].text(), found["Mobile"].text()}});
     found.Close();
+    ui->lvResults->setRows(std::move(rows));
 }
 
 void frmSearchClient::FindListItem(const QString& text)

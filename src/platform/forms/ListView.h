@@ -36,8 +36,8 @@ public:
     struct Row
     {
         QStringList cells; ///< those left out are empty
-        QString tag;
-        QMap<int, Look> looks; ///< by column
+        QString tag = {};
+        QMap<int, Look> looks = {}; ///< by column
     };
 
     explicit ListView(QWidget* parent = nullptr);

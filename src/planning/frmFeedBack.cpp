@@ -1,0 +1,90 @@
+#include "planning/frmFeedBack.h"
+
+#include "core/DE.h"
+#include "core/Session.h"
+#include "planning/Stars.h"
+#include "platform/values/Numbers.h"
+#include "ui/ModOtherFUN.h"
+#include "ui/modLang.h"
+#include "ui_frmFeedBack.h"
+
+namespace {
+
+constexpr int heightOfStars = 28;
+
+} // namespace
+
+frmFeedBack::frmFeedBack(qint32 lineId, qint16 readOnly)
+    : ui(std::make_unique<Ui::frmFeedBack>())
+    , m_lineId(lineId)
+{
+    ui->setupUi(this);
+    const QList<QLabel*> pictures = starPictures();
+    for (int score = 0; score < pictures.size(); ++score) {
+        ui->cmbScore->AddItem(QString::number(score));
+        pictures[score]->setPixmap(stars(score, heightOfStars));
+        pictures[score]->hide();
+    }
+    ui->Command1->setEnabled(readOnly != 1);
+
+    on(ui->cmbScore, &forms::ComboBox::changed, &frmFeedBack::ChangeStars);
+    onGotFocus(ui->cmbScore, [this] { ChangeStars(); });
+    onKeyPress(ui->cmbScore, [](int& key) { key = EnterAsTab(key); });
+    on(ui->Command1, &QPushButton::clicked, &frmFeedBack::save);
+}
+
+frmFeedBack::~frmFeedBack() = default;
+
+QList<QLabel*> frmFeedBack::starPictures() const
+{
+    return {ui->img0, ui->img1, ui->img2, ui->img3, ui->img4, ui->img5};
+}
+
+ado::Recordset& frmFeedBack::openLine()
+{
+    ado::Recordset& line = DE.rsJOBS_DETAIL;
+    line.Open(QStringLiteral("Select * from Jobs_Detail where id=") + QString::number(m_lineId));
+    return line;
+}
+
+void frmFeedBack::Form_Load()
+{
+    SetFormLanguage(*this);
+    ado::Recordset& line = openLine();
+    if (const ado::Field score = line["Score"]; !score.isNull())
+        ui->cmbScore->setText(score.text());
+    ComboSyncIndex(*ui->cmbScore); // from there the arrow keys walk on
+    if (const ado::Field feedback = line["ClientFeedBack"]; !feedback.isNull())
+        ui->txtFeedback->setText(feedback.text());
+    line.Close();
+}
+
+void frmFeedBack::ChangeStars()
+{
+    const double score = values::Val(ui->cmbScore->text());
+    const QList<QLabel*> pictures = starPictures();
+    for (int i = 0; i < pictures.size(); ++i)
+        if (score == i)
+            ui->imgStars->setPixmap(pictures[i]->pixmap());
+}
+
+void frmFeedBack::save()
+{
+    const qint16 score = values::CInt(values::Val(ui->cmbScore->text()));
+    ado::Recordset& line = openLine();
+    line["Score"] = score;
+    line["ClientFeedBack"] = ui->txtFeedback->Text();
+    line.Update();
+    line.Close();
+    m_saved = score;
+    session.RefreshLists = true;
+    ShowMsg(QStringLiteral("Feedback saved!"));
+}
+
+void GiveFeedback(qint32 lineId, qint16 readOnly, QVariant& result)
+{
+    frmFeedBack screen(lineId, readOnly);
+    screen.showModal();
+    if (screen.saved().isValid())
+        result = screen.saved();
+}

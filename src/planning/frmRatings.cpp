@@ -1,0 +1,65 @@
+#include "planning/frmRatings.h"
+
+#include "core/DE.h"
+#include "planning/Ratings.h"
+#include "planning/Stars.h"
+#include "ui/modLang.h"
+#include "ui_frmRatings.h"
+
+namespace {
+
+constexpr int RatingColumn = 4;
+constexpr int heightOfStars = 20;
+
+} // namespace
+
+frmRatings::frmRatings()
+    : ui(std::make_unique<Ui::frmRatings>())
+{
+    ui->setupUi(this);
+    ui->lvSummary->setColumns({{QString(), 8, Qt::AlignRight},
+                               {QStringLiteral("Rank"), 10, Qt::AlignRight},
+                               {QStringLiteral("Worker Name"), forms::ListView::rest},
+                               {QStringLiteral("Scorer"), 13, Qt::AlignRight},
+                               {QStringLiteral("Rating"), 25}});
+}
+
+frmRatings::~frmRatings() = default;
+
+void frmRatings::Form_Load()
+{
+    SetFormLanguage(*this);
+    GetRank();
+}
+
+void frmRatings::GetRank()
+{
+    ui->lvSummary->Clear();
+    if (!RebuildRank())
+        return;
+    std::vector<QPixmap> ImageList1;
+    for (int rating = 0; rating <= 5; ++rating)
+        ImageList1.push_back(stars(rating, heightOfStars));
+    ado::Recordset& ranks = DE.rsrank;
+    std::vector<forms::ListView::Row> rows;
+    for (ranks.Open(QStringLiteral("Select * from Rank order by Score desc")); !ranks.AtEOF();
+         ranks.MoveNext()) {
+        const QString position = QString::number(rows.size() + 1);
+        forms::ListView::Row row{
+            {position, position, ranks["Name"].text(), ranks["Score"].text(), QString()}};
+        const auto rating = size_t(ranks["Rating"].integer());
+        if (rating < ImageList1.size())
+            row.looks[RatingColumn].picture = ImageList1[rating];
+        rows.push_back(std::move(row));
+    }
+    ranks.Close();
+    ui->lvSummary->setRows(std::move(rows));
+}
+
+void frmRatings::Form_KeyDown(int& key, Qt::KeyboardModifiers)
+{
+    if (key != forms::key::Escape)
+        return;
+    key = 0;
+    unload();
+}

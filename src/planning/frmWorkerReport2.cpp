@@ -1,0 +1,76 @@
+#include "planning/frmWorkerReport2.h"
+
+#include "core/DE.h"
+#include "platform/values/Numbers.h"
+#include "ui/modLang.h"
+#include "ui_frmWorkerReport2.h"
+
+namespace {
+
+constexpr int WorkerColumn = 1;
+
+} // namespace
+
+frmWorkerReport2::frmWorkerReport2(const QString& sql)
+    : ui(std::make_unique<Ui::frmWorkerReport2>())
+    , m_sql(sql)
+{
+    ui->setupUi(this);
+    ui->lvSummary->setColumns({{QStringLiteral("Sr"), 12, Qt::AlignRight},
+                               {QStringLiteral("Worker"), forms::ListView::rest},
+                               {QStringLiteral("Jobs in Hand"), 28, Qt::AlignRight}});
+    onKeyPress(ui->lvSummary, [this](int& key) {
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        choose();
+    });
+    on(ui->lvSummary, &forms::ListView::dblClicked, &frmWorkerReport2::choose);
+}
+
+frmWorkerReport2::~frmWorkerReport2() = default;
+
+void frmWorkerReport2::Form_Load()
+{
+    SetFormLanguage(*this);
+    fill();
+}
+
+void frmWorkerReport2::fill()
+{
+    ado::Recordset& workers = DE.rsaccounts;
+    std::vector<forms::ListView::Row> rows;
+    workers.Open(QStringLiteral("Select * from Accounts where type=%1 order by Title").arg(1));
+    for (; !workers.AtEOF(); workers.MoveNext()) {
+        qint16 count = 0;
+        JobCount(values::toInt16(workers["ID"].integer()), count);
+        rows.push_back({{QString::number(rows.size() + 1), workers["Title"].text(), QString::number(count)}});
+    }
+    workers.Close();
+    ui->lvSummary->setRows(std::move(rows));
+    ui->lvSummary->selectRow(0);
+}
+
+void frmWorkerReport2::JobCount(qint16 workerId, qint16& count) const
+{
+    ado::Recordset& lines = DE.rsJOBS_DETAIL2;
+    lines.Open(QString(m_sql).replace(QLatin1String("%id"), QString::number(workerId)));
+    count = values::toInt16(lines.RecordCount());
+    lines.Close();
+}
+
+void frmWorkerReport2::choose()
+{
+    const int row = ui->lvSummary->selectedRow();
+    if (row < 0)
+        return;
+    m_chosen = ui->lvSummary->cell(row, WorkerColumn);
+    unload();
+}
+
+void ShowWorkerOverView(const QString& sql, QString& result)
+{
+    frmWorkerReport2 overview(sql);
+    overview.showModal();
+    result = overview.chosen();
+}

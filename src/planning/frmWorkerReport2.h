@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/forms/Screen.h"
+
+#include <memory>
+
+namespace Ui {
+class frmWorkerReport2;
+}
+
+/// How many lines of the days chosen each worker has, whatever their state; the operator can pick one of the
+/// workers.
+class frmWorkerReport2 : public forms::Screen
+{
+    Q_OBJECT
+public:
+    /// `sql` selects one worker's lines; "%id" in it stands for the worker's id.
+    explicit frmWorkerReport2(const QString& sql);
+    ~frmWorkerReport2() override;
+
+    /// Counts the lines of one worker. Throws OverflowError beyond 16 bits.
+    void JobCount(qint16 workerId, qint16& count) const;
+    /// The worker picked, or "-1000".
+    QString chosen() const { return m_chosen; }
+
+protected:
+    void Form_Load() override;
+
+private:
+    void fill();
+    void choose();
+
+    const std::unique_ptr<Ui::frmWorkerReport2> ui;
+    const QString m_sql;
+    QString m_chosen = QStringLiteral("-1000");
+};
+
+/// Shows the workers with their numbers of lines; `result` is the name of the one picked, or "-1000". `sql`
+/// selects one worker's lines, with "%id" for the worker's id.
+void ShowWorkerOverView(const QString& sql, QString& result);
