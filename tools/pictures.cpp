@@ -1,5 +1,4 @@
 // Renders every screen, filled with believable data, to PNG: `pictures <folder> [font folder]`.
-#include "DemoShop.h"
 #include "accounts/frmAccountsList.h"
 #include "accounts/frmEditAccount.h"
 #include "accounts/frmTransiction.h"
@@ -25,6 +24,7 @@
 #include "masters/frmWorkers.h"
 #include "platform/forms/ListBox.h"
 #include "platform/forms/Theme.h"
+#include "sample/SampleShop.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/frmSelectDate.h"
 #include "ui/frmSelectFile.h"
@@ -39,6 +39,33 @@ namespace {
 using Prepare = std::function<void(forms::Screen&)>;
 
 QDir folder;
+
+/// The shop of the pictures is the demo shop on its last day, always the same.
+const QDate day(2024, 2, 10);
+
+/// The first value of a query.
+QVariant value(const QString& sql)
+{
+    ado::Recordset rows(DE.connection());
+    rows.Open(sql);
+    return rows[0].value();
+}
+
+/// The card that shows best: the day's longest.
+qint32 showpiece()
+{
+    return value(QStringLiteral(
+                     "Select JobID, count(*) from Jobs_Detail where date=#10-FEB-2024# group by JobID "
+                     "order by 2 desc"))
+        .toInt();
+}
+
+QString client()
+{
+    return value(QStringLiteral("Select ClintName from Jobs where id=%1").arg(showpiece())).toString();
+}
+
+QString worker() { return value(QStringLiteral("Select Title from Accounts where Type=1")).toString(); }
 
 /// Calls `open`, which shows a screen modally; takes the picture of the screen in front, and closes it.
 void picture(const char* name, const std::function<void()>& open, const Prepare& prepare = {})
@@ -70,9 +97,9 @@ void selectInList(forms::Screen& screen)
 void editLine()
 {
     JobCard card;
-    card.CurrentJobID = demo::showpiece;
+    card.CurrentJobID = showpiece();
     card.LoadLines();
-    frmAddItem().EditItemDetails(card.JobRows, GetAccountID(QStringLiteral("Rahul Mehta")), 2);
+    frmAddItem().EditItemDetails(card.JobRows, GetAccountID(client()), 2);
 }
 
 void message(const char* text, int kind, const char* language)
@@ -102,12 +129,10 @@ void takeAll()
             });
     picture(
         "clients", [] { frmClients().showModal(); }, selectInList);
-    picture("client",
-            [] { frmEditClients().Edit(static_cast<qint16>(GetAccountID(QStringLiteral("Rahul Mehta")))); });
+    picture("client", [] { frmEditClients().Edit(static_cast<qint16>(GetAccountID(client()))); });
     picture(
         "workers", [] { frmWorkers().showModal(); }, selectInList);
-    picture("worker",
-            [] { frmEditWorker().Edit(static_cast<qint16>(GetAccountID(QStringLiteral("Mohan Das")))); });
+    picture("worker", [] { frmEditWorker().Edit(static_cast<qint16>(GetAccountID(worker()))); });
     picture(
         "items", [] { frmItems().showModal(); }, selectInList);
     picture("item", [] { frmEditItem().Edit(1); });
@@ -115,9 +140,9 @@ void takeAll()
     picture("account", [] { frmEditAccount().ShowEdit(4); });
     picture("voucher", [] {
         qint16 saved = 0;
-        frmTransiction().ShowAddNew(QStringLiteral("Rahul Mehta"), saved);
+        frmTransiction().ShowAddNew(client(), saved);
     });
-    picture("job-card", [] { frmEditJOB().ShowEdit(demo::showpiece); });
+    picture("job-card", [] { frmEditJOB().ShowEdit(showpiece()); });
     picture("new-job-card", [] { frmEditJOB().ShowAddNew(); });
     picture("item-line", editLine);
     picture("select-date", [] {
@@ -169,7 +194,7 @@ int main(int argc, char* argv[])
     folder.mkpath(QStringLiteral("."));
     const QString program = arguments[2];
     forms::applyTheme(application, program + QStringLiteral("/fonts"));
-    demo::layShop(temporary.path());
+    sample::layShop(sample::demo(day), temporary.path());
     QFile::copy(program + QStringLiteral("/Lang.mdb"), session.languageDatabasePath());
     QTimer::singleShot(0, [] {
         takeAll();
