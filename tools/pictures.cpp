@@ -51,12 +51,13 @@ QVariant value(const QString& sql)
     return rows[0].value();
 }
 
-/// The card that shows best: the day's longest.
+/// The card that shows best: with pictures and remarks, and money still to come.
 qint32 showpiece()
 {
     return value(QStringLiteral(
-                     "Select JobID, count(*) from Jobs_Detail where date=#10-FEB-2024# group by JobID "
-                     "order by 2 desc"))
+                     "Select JobID, sum(Img1<>'') as pictures, sum(Remarks<>'') as remarks "
+                     "from Jobs_Detail, Jobs where Jobs.id=JobID and AmountPaid>0 and AmountPaid<AmountDue "
+                     "group by JobID having pictures>0 order by remarks desc, pictures desc"))
         .toInt();
 }
 
@@ -93,13 +94,16 @@ void selectInList(forms::Screen& screen)
         list->setListIndex(3);
 }
 
-/// The last of the showpiece's lines, in the line editor.
+/// A line of the showpiece that has pictures, in the line editor.
 void editLine()
 {
     JobCard card;
     card.CurrentJobID = showpiece();
     card.LoadLines();
-    frmAddItem().EditItemDetails(card.JobRows, GetAccountID(client()), 2);
+    qint16 row = 1;
+    while (card.JobRows.img1(row).isEmpty())
+        ++row;
+    frmAddItem().EditItemDetails(card.JobRows, GetAccountID(client()), row);
 }
 
 void message(const char* text, int kind, const char* language)

@@ -95,7 +95,7 @@ private:
                                        .arg(dayText(from), dayText(month.addMonths(1).addDays(-1)));
             m_vouchers.push_back({payday, "Wages", worker.account, account::wages, total, period, covered});
             owed += total;
-            const int paid = m_random.chance(60) ? owed : owed / 500 * 500;
+            const int paid = m_random.chance(40) ? owed : owed / 500 * 500;
             if (paid > 0)
                 spend(payday, worker.account, account::cash, paid, QStringLiteral("Wages paid"));
             owed -= paid;

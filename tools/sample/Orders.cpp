@@ -79,9 +79,9 @@ Line order(const Client& client, Random& random)
     line.quantity = item.fees > 1000 || random.chance(62) ? 1 : random.between(2, 4);
     line.values = item.values(client.size);
     line.cloth = cloth(random);
-    if (random.chance(45))
+    if (random.chance(60))
         line.remark = remark(item, random);
-    if (random.chance(30))
+    if (random.chance(40))
         line.clientRemark = wish(random);
     return line;
 }
