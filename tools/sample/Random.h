@@ -20,7 +20,6 @@ public:
     /// A number of the span, both ends included.
     int between(int low, int high) { return low + below(high - low + 1); }
     bool chance(int percent) { return below(100) < percent; }
-    bool perMille(int share) { return below(1000) < share; }
 
     template <typename Table>
     const auto& pick(const Table& table)
