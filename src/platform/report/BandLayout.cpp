@@ -1,0 +1,185 @@
+#include "platform/report/BandLayout.h"
+
+#include <QFontMetricsF>
+#include <QTextLayout>
+
+namespace report {
+
+namespace {
+
+constexpr int twipsPerPoint = 20;
+
+QFont fontOf(const TextControl& control, const Report& report)
+{
+    QFont font(control.FontFamily.isEmpty() ? report.FontFamily : control.FontFamily);
+    font.setPixelSize(int(control.FontSize * twipsPerPoint + 0.5));
+    font.setBold(control.Bold);
+    font.setItalic(control.Italic);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+QStringList paragraphs(QString text)
+{
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n').replace(u'\t', u' ');
+    QStringList result = text.split(u'\n');
+    while (result.size() > 1 && result.last().trimmed().isEmpty())
+        result.removeLast();
+    return result;
+}
+
+QStringList brokenToWidth(const QString& text, const QFont& font, double width)
+{
+    QStringList lines;
+    for (const QString& paragraph : paragraphs(text)) {
+        if (paragraph.isEmpty()) {
+            lines << QString();
+            continue;
+        }
+        QTextLayout layout(paragraph, font);
+        QTextOption wrapping;
+        wrapping.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        layout.setTextOption(wrapping);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            line.setLineWidth(width);
+            lines << paragraph.mid(line.textStart(), line.textLength()).trimmed();
+        }
+        layout.endLayout();
+    }
+    return lines;
+}
+
+/// One section on its way to pieces.
+class BandLayout
+{
+public:
+    BandLayout(const Section& section, const Row& row, const Report& report, Part part)
+        : m_section(section)
+        , m_row(row)
+        , m_report(report)
+        , m_part(part)
+    {
+    }
+
+    PlacedBand run();
+
+private:
+    struct Placed
+    {
+        const Control* control;
+        double growth = 0; ///< beyond its designed height
+        double shift = 0;  ///< pushed down by what grew above it
+    };
+
+    std::vector<Placed> controlsFromTop() const;
+    double shiftOf(const Control& control, size_t before) const;
+    double place(const TextControl& control, const QString& text, bool counted, double top);
+    double place(const Control& control, double top);
+
+    const Section& m_section;
+    const Row& m_row;
+    const Report& m_report;
+    const Part m_part;
+    std::vector<Placed> m_placed;
+    PlacedBand m_band;
+};
+
+std::vector<BandLayout::Placed> BandLayout::controlsFromTop() const
+{
+    std::vector<Placed> result;
+    for (const auto& control : m_section.controls()) {
+        if (control->Visible && (m_part == Part::Whole || control->Repeats))
+            result.push_back({control.get()});
+    }
+    std::stable_sort(result.begin(), result.end(), [](const Placed& one, const Placed& other) {
+        return one.control->Top < other.control->Top;
+    });
+    return result;
+}
+
+double BandLayout::shiftOf(const Control& control, size_t before) const
+{
+    double shift = 0;
+    for (size_t i = 0; i < before; ++i) {
+        const Placed& above = m_placed[i];
+        if (above.control->Top + above.control->Height <= control.Top)
+            shift = std::max(shift, above.shift + above.growth);
+    }
+    return shift;
+}
+
+PlacedBand BandLayout::run()
+{
+    m_placed = controlsFromTop();
+    double growth = 0;
+    for (size_t i = 0; i < m_placed.size(); ++i) {
+        Placed& placed = m_placed[i];
+        placed.shift = shiftOf(*placed.control, i);
+        placed.growth = place(*placed.control, placed.control->Top + placed.shift);
+        growth = std::max(growth, placed.shift + placed.growth);
+    }
+    // Rules and boxes that reach the designed bottom of the section reach its real one.
+    for (Piece& piece : m_band.pieces) {
+        auto* shape = std::get_if<ShapePiece>(&piece);
+        if (shape && shape->shape->Height > 0 && shape->shape->Top + shape->shape->Height >= m_section.Height)
+            shape->place.setBottom(m_section.Height + growth);
+    }
+    if (m_part == Part::Whole) {
+        m_band.height = m_section.Height + growth;
+        return std::move(m_band);
+    }
+    // What is repeated stands at the top of its page.
+    if (m_placed.empty())
+        return {};
+    const double top = m_placed.front().control->Top + m_placed.front().shift;
+    double bottom = top;
+    for (Piece& piece : m_band.pieces) {
+        QRectF& at = std::visit([](auto& any) -> QRectF& { return any.place; }, piece);
+        bottom = std::max(bottom, at.bottom());
+        at.translate(0, -top);
+    }
+    m_band.height = bottom - top;
+    return std::move(m_band);
+}
+
+/// Places one control and returns by how much it outgrew its design.
+double BandLayout::place(const Control& control, double top)
+{
+    if (const auto* label = dynamic_cast<const Label*>(&control))
+        return place(*label, label->Caption, true, top);
+    if (const auto* field = dynamic_cast<const Field*>(&control))
+        return place(*field, formatted(m_row.value(field->DataField), field->Format), false, top);
+    const QRectF at(control.Left, top, control.Width, control.Height);
+    if (const auto* shape = dynamic_cast<const Shape*>(&control))
+        m_band.pieces.push_back(ShapePiece{at, shape});
+    else if (const auto* image = dynamic_cast<const Image*>(&control); image && !image->Picture.isNull())
+        m_band.pieces.push_back(ImagePiece{at, image->Picture});
+    return 0;
+}
+
+double BandLayout::place(const TextControl& control, const QString& text, bool counted, double top)
+{
+    const QFont font = fontOf(control, m_report);
+    const QFontMetricsF metrics(font);
+    const QStringList lines =
+        control.CanGrow ? brokenToWidth(text, font, control.Width)
+                        : QStringList(metrics.elidedText(text.simplified(), Qt::ElideRight, control.Width));
+    const double lineHeight = metrics.height();
+    double y = top;
+    for (const QString& line : lines) {
+        m_band.pieces.push_back(TextPiece{QRectF(control.Left, y, control.Width, lineHeight), line, font,
+                                          control.Color, control.Alignment, counted});
+        y += lineHeight;
+    }
+    return control.CanGrow ? std::max(0.0, y - top - control.Height) : 0;
+}
+
+} // namespace
+
+PlacedBand layOut(const Section& section, const Row& row, const Report& report, Part part)
+{
+    return BandLayout(section, row, report, part).run();
+}
+
+} // namespace report
