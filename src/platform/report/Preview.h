@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/forms/Screen.h"
+#include "platform/report/Pages.h"
+
+class QLabel;
+class QPushButton;
+
+namespace report {
+
+class PageView;
+
+/// Shows a report as it will stand on paper, to print it or save it as a PDF file. The pages are made from
+/// the report as it is when the preview is made; it must outlive it.
+class Preview : public forms::Screen
+{
+    Q_OBJECT
+public:
+    explicit Preview(const Report& report, QWidget* parent = nullptr);
+
+protected:
+    void Form_Load() override;
+    void Form_KeyPress(int& key) override;
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
+
+private:
+    QPushButton* addButton(const QString& name, const QString& text, const QString& icon, const QString& hint,
+                           std::function<void()> procedure);
+    void refresh();
+    void print();
+    void saveAsPdf();
+
+    const Report& m_report;
+    const Pages m_pages;
+    PageView* m_view;
+    QLabel* lblPage;
+    QLabel* lblZoom;
+    QPushButton* cmdFirst;
+    QPushButton* cmdPrevious;
+    QPushButton* cmdNext;
+    QPushButton* cmdLast;
+};
+
+} // namespace report

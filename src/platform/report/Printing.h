@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <functional>
+
+namespace report {
+
+class Report;
+
+/// What goes to a printer: a PDF file and what the operator chose for it.
+struct PrintJob
+{
+    QByteArray pdf;
+    QString title;
+    QString printer = {}; ///< as the print system calls it; empty: the default one
+    int copies = 1;
+};
+
+/// Hands paper to the print system's own program and returns at once; the printing outlives the screen that
+/// asked for it. No printer, a refusal, or a print system that does not answer within some seconds is told in
+/// a plain box over the screen then in front. Nothing is told of success: that is the printer's to say.
+void print(const PrintJob& job);
+
+/// Prints a report on the default printer without asking anything.
+void printDirect(const Report& report);
+
+/// Prints the picture of a file on a page of its own, `left` and `top` twips from the page's corner: at its
+/// own size (96 dots to the inch), or as large as the page allows. Throws OperatorError when the file holds
+/// no picture that can be read.
+void printPicture(const QString& path, int left, int top);
+
+/// Asks the print system for the names of its printers. `answer` gets them when they come, none when it does
+/// not answer; it is never called once `context` has gone.
+void askPrinters(QObject* context, std::function<void(const QStringList& printers)> answer);
+
+/// How long the print system may take, in milliseconds. For tests.
+void setPrintPatience(int milliseconds);
+
+} // namespace report
