@@ -1,59 +1,12 @@
-// The database layer beside the bare engine, on a shop of 30,000 cards, 75,000 lines and 75,000 postings.
+// The database layer beside the bare engine, on the full shop.
+#include "Bare.h"
+#include "FullShop.h"
 #include "core/DE.h"
-#include "core/Schema.h"
-#include "core/Session.h"
 
-#include <QTemporaryDir>
+#include <QCoreApplication>
 #include <benchmark/benchmark.h>
-#include <sqlcipher/sqlite3.h>
 
 namespace {
-
-constexpr int cards = 30000;
-constexpr int postings = 75000;
-
-void fillShop()
-{
-    ado::Connection& connection = DE.connection();
-    connection.writeBatch([&connection] {
-        for (int i = 1; i <= cards; ++i) {
-            connection.Execute(
-                QStringLiteral("Insert into Jobs (Id, Date, ClintID, ClintName, DeliveryDate, TrialDate, "
-                               "AmountDue, AmountPaid, JobFinished, Remark, Status, CancelReason) values "
-                               "(%1, '2024-01-01', 5, 'A client of the shop', '2024-02-01', '2024-01-20', "
-                               "1250.5, 500, 0, 'To be ready before the feast', 0, '')")
-                    .arg(i));
-        }
-        ado::Recordset& rows = DE.rspostings;
-        rows.Open(QStringLiteral("Select * from Postings order by ID"));
-        for (int i = 1; i <= postings; ++i) {
-            rows.AddNew();
-            rows["VID"] = i / 2;
-            rows["vType"] = 1;
-            rows["Sr"] = 1 + i % 2;
-            rows["Date"] = QDate(2024, 1, 1).addDays(i % 300);
-            rows["AccID"] = 1 + i % 200;
-            rows["RefID"] = 2;
-            rows["particulars"] = QStringLiteral("Job Card");
-            rows["Remark"] = QStringLiteral("Job Card # :%1").arg(i / 2);
-            rows["Amount"] = i % 2 ? 12.5 : -12.5;
-            rows.Update();
-        }
-        rows.Close();
-    });
-}
-
-/// The statement, compiled and run to its end.
-int runBare(const char* sql)
-{
-    sqlite3_stmt* statement = nullptr;
-    sqlite3_prepare_v2(DE.connection().handle(), sql, -1, &statement, nullptr);
-    int rows = 0;
-    while (sqlite3_step(statement) == SQLITE_ROW)
-        ++rows;
-    sqlite3_finalize(statement);
-    return rows;
-}
 
 void lastCard(benchmark::State& state)
 {
@@ -69,7 +22,7 @@ BENCHMARK(lastCard)->Unit(benchmark::kMicrosecond);
 void lastCardFloor(benchmark::State& state)
 {
     for (auto _ : state)
-        runBare("SELECT * FROM JOBS ORDER BY Id DESC LIMIT 1");
+        bare::run("SELECT * FROM JOBS ORDER BY Id DESC LIMIT 1");
 }
 BENCHMARK(lastCardFloor)->Unit(benchmark::kMicrosecond);
 
@@ -97,7 +50,7 @@ BENCHMARK(titleOfAccount)->Unit(benchmark::kMicrosecond);
 void titleOfAccountFloor(benchmark::State& state)
 {
     for (auto _ : state)
-        runBare("SELECT * FROM Accounts WHERE ID=3");
+        bare::run("SELECT * FROM Accounts WHERE ID=3");
 }
 BENCHMARK(titleOfAccountFloor)->Unit(benchmark::kMicrosecond);
 
@@ -115,7 +68,7 @@ BENCHMARK(walkCards)->Unit(benchmark::kMillisecond);
 void walkCardsFloor(benchmark::State& state)
 {
     for (auto _ : state)
-        runBare("SELECT * FROM JOBS");
+        bare::run("SELECT * FROM JOBS");
 }
 BENCHMARK(walkCardsFloor)->Unit(benchmark::kMillisecond);
 
@@ -132,14 +85,14 @@ BENCHMARK(sumOfPostings)->Unit(benchmark::kMillisecond);
 void sumOfPostingsFloor(benchmark::State& state)
 {
     for (auto _ : state)
-        runBare("SELECT total(Amount) FROM Postings WHERE status=0");
+        bare::run("SELECT total(Amount) FROM Postings WHERE status=0");
 }
 BENCHMARK(sumOfPostingsFloor)->Unit(benchmark::kMillisecond);
 
 /// The rows that a card of five lines writes: its head, its lines, its voucher.
 void saveCard(benchmark::State& state)
 {
-    int number = cards;
+    int number = FullShop::cards;
     const QDate day(2024, 2, 10);
     for (auto _ : state) {
         DE.connection().writeBatch([&] {
@@ -189,27 +142,30 @@ BENCHMARK(saveCard)->Unit(benchmark::kMicrosecond);
 void saveCardFloor(benchmark::State& state)
 {
     for (auto _ : state) {
-        runBare("BEGIN IMMEDIATE");
-        runBare("INSERT INTO JOBS (Id, ClintName, ClintID, AmountDue, AmountPaid, JobFinished, Status, Date, "
-                "DeliveryDate, "
-                "TrialDate, Remark, CancelReason) VALUES (1, 'A client of the shop', 5, 5, 5, 5, 5, "
-                "'2024-02-10', "
-                "'2024-02-10', '2024-02-10', '', '')");
+        bare::run("BEGIN IMMEDIATE");
+        bare::run(
+            "INSERT INTO JOBS (Id, ClintName, ClintID, AmountDue, AmountPaid, JobFinished, Status, Date, "
+            "DeliveryDate, "
+            "TrialDate, Remark, CancelReason) VALUES (1, 'A client of the shop', 5, 5, 5, 5, 5, "
+            "'2024-02-10', "
+            "'2024-02-10', '2024-02-10', '', '')");
         for (int line = 0; line < 5; ++line) {
-            runBare("INSERT INTO JOBS_DETAIL (JobID, ItemSr, ClintID, ItemID, QNT, FEES, Amount, DATE, "
-                    "JobDelDate, "
-                    "CuttingDate, ClintName, ItemName, Remarks, ItemDetails, ItemDetailsValue) VALUES (1, 1, "
-                    "1, 1, 1, 1, "
-                    "1, '2024-02-10', '2024-02-10', '2024-02-10', 'Length Chest Waist', 'Length Chest "
-                    "Waist', 'Length "
-                    "Chest Waist', 'Length Chest Waist', 'Length Chest Waist')");
+            bare::run(
+                "INSERT INTO JOBS_DETAIL (JobID, ItemSr, ClintID, ItemID, QNT, FEES, Amount, DATE, "
+                "JobDelDate, "
+                "CuttingDate, ClintName, ItemName, Remarks, ItemDetails, ItemDetailsValue) VALUES (1, 1, "
+                "1, 1, 1, 1, "
+                "1, '2024-02-10', '2024-02-10', '2024-02-10', 'Length Chest Waist', 'Length Chest "
+                "Waist', 'Length "
+                "Chest Waist', 'Length Chest Waist', 'Length Chest Waist')");
         }
         for (int line = 0; line < 4; ++line) {
-            runBare("INSERT INTO postings (VID, Vtype, sr, AccID, RefID, Amount, Status, Date, particulars, "
-                    "Remark) VALUES "
-                    "(1, 1, 1, 1, 1, 1, 1, '2024-02-10', 'Job Card', 'Job Card')");
+            bare::run(
+                "INSERT INTO postings (VID, Vtype, sr, AccID, RefID, Amount, Status, Date, particulars, "
+                "Remark) VALUES "
+                "(1, 1, 1, 1, 1, 1, 1, '2024-02-10', 'Job Card', 'Job Card')");
         }
-        runBare("COMMIT");
+        bare::run("COMMIT");
     }
 }
 BENCHMARK(saveCardFloor)->Unit(benchmark::kMicrosecond);
@@ -218,14 +174,8 @@ BENCHMARK(saveCardFloor)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char** argv)
 {
+    QCoreApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
-    const QTemporaryDir folder;
-    session.appFolder = folder.path();
-    CreateDatabase();
-    DE.open(session.databasePath());
-    DE.ensureIndexes();
-    fillShop();
+    const FullShop shop;
     benchmark::RunSpecifiedBenchmarks();
-    DE.close();
-    return 0;
 }

@@ -1,4 +1,4 @@
-#include "BigShop.h"
+#include "FullShop.h"
 #include "core/DE.h"
 #include "core/Schema.h"
 #include "core/Session.h"
@@ -58,7 +58,7 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
-    const BigShop shop;
+    const FullShop shop;
     shopFolder = shop.folder();
     DE.close(); // the file is whole; the programs open it themselves
     benchmark::RunSpecifiedBenchmarks();

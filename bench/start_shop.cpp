@@ -1,5 +1,6 @@
 // The program's own start, up to the first picture of the main screen on the shop of the given folder; then
 // it ends.
+#include "OnScreen.h"
 #include "core/Session.h"
 #include "core/modMain.h"
 #include "jobcards/frmEditJOB.h"
@@ -7,22 +8,11 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QFile>
 #include <QTimer>
 #include <QWidget>
 #include <cstdio>
 
 namespace {
-
-double residentMegabytes()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (status.open(QIODevice::ReadOnly))
-        for (const QByteArray& entry : status.readAll().split('\n'))
-            if (entry.startsWith("VmRSS:"))
-                return entry.mid(6).trimmed().split(' ').first().toDouble() / 1024;
-    return 0;
-}
 
 void openCard()
 {

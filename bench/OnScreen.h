@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/forms/Screen.h"
+
+#include <functional>
+
+/// Runs `work` while the screen stands open, painted and active: `open` shows it modally, it is closed then.
+void onScreen(forms::Screen& screen, const std::function<void()>& open, const std::function<void()>& work);
+
+/// A key, down and up, to the control that has the focus.
+void pressKey(int key, const QString& text = {});
+
+/// Lays out and paints what has changed, as the next turn of the event loop does.
+void paint(QWidget& screen);
+
+/// Resident memory of this process, in MB.
+double residentMegabytes();
