@@ -1,6 +1,8 @@
 #include "platform/ado/Functions.h"
 
 #include <QString>
+#include <QVarLengthArray>
+#include <algorithm>
 #include <cmath>
 #include <new>
 #include <sqlcipher/sqlite3.h>
@@ -112,13 +114,46 @@ QString foldedText(sqlite3_value* value)
     return QString::fromUtf16(text, sqlite3_value_bytes16(value) / 2).toCaseFolded();
 }
 
+/// The pattern of a call; one that stays the same over the rows of a statement is folded once.
+const QString& foldedPattern(sqlite3_context* context, sqlite3_value* value, QString& own)
+{
+    if (const auto* kept = static_cast<const QString*>(sqlite3_get_auxdata(context, 0)))
+        return *kept;
+    own = foldedText(value);
+    sqlite3_set_auxdata(context, 0, new QString(own), [](void* kept) { delete static_cast<QString*>(kept); });
+    return own;
+}
+
+/// The folded text, in `own`; plain ASCII, as most names are, takes the short way.
+QStringView foldedInto(QVarLengthArray<char16_t, 256>& own, sqlite3_value* value)
+{
+    const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+    const int bytes = sqlite3_value_bytes(value);
+    own.resize(bytes);
+    for (int i = 0; i < bytes; ++i) {
+        const char letter = text[i];
+        if (static_cast<uchar>(letter) > 127) {
+            const QString folded = foldedText(value);
+            own.resize(folded.size());
+            std::copy(folded.utf16(), folded.utf16() + folded.size(), own.begin());
+            break;
+        }
+        own[i] = static_cast<char16_t>(letter >= 'A' && letter <= 'Z' ? letter + ('a' - 'A') : letter);
+    }
+    return QStringView(own.constData(), own.size());
+}
+
 /// `text LIKE pattern` calls like(pattern, text).
 void like(sqlite3_context* context, int, sqlite3_value** arguments)
 {
-    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL)
+    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL) {
         sqlite3_result_null(context);
-    else
-        sqlite3_result_int(context, matches(foldedText(arguments[0]), foldedText(arguments[1])) ? 1 : 0);
+        return;
+    }
+    QString ownPattern;
+    QVarLengthArray<char16_t, 256> ownText;
+    const QString& pattern = foldedPattern(context, arguments[0], ownPattern);
+    sqlite3_result_int(context, matches(pattern, foldedInto(ownText, arguments[1])) ? 1 : 0);
 }
 
 using Scalar = void (*)(sqlite3_context*, int, sqlite3_value**);
