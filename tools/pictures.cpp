@@ -16,6 +16,7 @@
 #include "jobcards/JobCard.h"
 #include "jobcards/frmAddItem.h"
 #include "jobcards/frmEditJOB.h"
+#include "jobcards/frmEditWorkerAssign.h"
 #include "masters/frmClients.h"
 #include "masters/frmEditClients.h"
 #include "masters/frmEditItem.h"
@@ -106,6 +107,15 @@ void editLine()
     frmAddItem().EditItemDetails(card.JobRows, GetAccountID(client()), row);
 }
 
+/// A completed line with pictures, on the screen that assigns it.
+void assignLine()
+{
+    frmEditWorkerAssign().ShowEdit(
+        value(QStringLiteral("Select ID from Jobs_Detail where DoneByWorker=1 and WorkerID>0 "
+                             "order by Img1 desc, Remarks desc, ID desc"))
+            .toInt());
+}
+
 void message(const char* text, int kind, const char* language)
 {
     session.Language = QString::fromLatin1(language);
@@ -147,6 +157,7 @@ void takeAll()
         frmTransiction().ShowAddNew(client(), saved);
     });
     picture("job-card", [] { frmEditJOB().ShowEdit(showpiece()); });
+    picture("assign-job", assignLine);
     picture("new-job-card", [] { frmEditJOB().ShowAddNew(); });
     picture("item-line", editLine);
     picture("select-date", [] {

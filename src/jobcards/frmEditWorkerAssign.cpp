@@ -1,0 +1,327 @@
+#include "jobcards/frmEditWorkerAssign.h"
+
+#include "core/DE.h"
+#include "core/Lookups.h"
+#include "core/Session.h"
+#include "core/Settings.h"
+#include "jobcards/ItemColor.h"
+#include "media/frmPreview.h"
+#include "messaging/modSMS.h"
+#include "messaging/swSMS.h"
+#include "planning/Ratings.h"
+#include "planning/Stars.h"
+#include "planning/frmFeedBack.h"
+#include "platform/values/Currency.h"
+#include "platform/values/Dates.h"
+#include "ui/ModOtherFUN.h"
+#include "ui/modLang.h"
+#include "ui_frmEditWorkerAssign.h"
+
+#include <QFileInfo>
+#include <QScopeGuard>
+#include <QScrollBar>
+
+namespace {
+
+const QString NoWorker = QStringLiteral("NA");
+constexpr qint32 WagesShownSetting = 20;
+constexpr int HeightOfStars = 20;
+
+QString dateText(const QDate& date) { return values::Format(date, QStringLiteral("dd-MMM-yyyy")); }
+
+/// Names and values of the measurements stand side by side: they scroll as one.
+void scrollTogether(QPlainTextEdit& one, QPlainTextEdit& other)
+{
+    const auto follow = [](QScrollBar* leader, QScrollBar* follower) {
+        QObject::connect(leader, &QScrollBar::valueChanged, follower, &QScrollBar::setValue);
+    };
+    follow(one.verticalScrollBar(), other.verticalScrollBar());
+    follow(other.verticalScrollBar(), one.verticalScrollBar());
+}
+
+ado::Recordset& openRow(ado::Recordset& rows, const char* select, qint32 id)
+{
+    rows.Open(QLatin1String(select) + QString::number(id));
+    return rows;
+}
+
+} // namespace
+
+frmEditWorkerAssign::frmEditWorkerAssign()
+    : ui(std::make_unique<Ui::frmEditWorkerAssign>())
+{
+    ui->setupUi(this);
+    scrollTogether(*ui->txtCap, *ui->txtSize);
+    ui->DtCutting->setCustomFormat(QStringLiteral("dd-MMM-yyyy"));
+
+    onGotFocus(ui->cmbWorker, [this] { ui->cmbWorker->select(0, int(ui->cmbWorker->text().size())); });
+    onKeyPress(ui->cmbWorker, [this](int& key) { key = AutoSearchCombo(*ui->cmbWorker, key); });
+    on(ui->cmbWorker, &forms::ComboBox::changed, &frmEditWorkerAssign::RateWorker);
+    onKeyPress(ui->txtWagesDue, [this](int& key) { key = NumbersOnly(ui->txtWagesDue->text(), key); });
+    const auto preview = [](const QString& imgPath) {
+        if (!imgPath.isEmpty())
+            frmPreview().ShowImage(imgPath);
+    };
+    on(ui->pic1, &PictureBox::dblClicked, [this, preview] { preview(Img1Path); });
+    on(ui->pic2, &PictureBox::dblClicked, [this, preview] { preview(Img2Path); });
+
+    on(ui->Command1, &QPushButton::clicked, &frmEditWorkerAssign::Command1_Click);
+    on(ui->Command2, &QPushButton::clicked, &frmEditWorkerAssign::Command2_Click);
+    on(ui->Command4, &QPushButton::clicked, &frmEditWorkerAssign::Command4_Click);
+    on(ui->lblHideShow, &QPushButton::clicked, &frmEditWorkerAssign::lblHideShow_Click);
+}
+
+frmEditWorkerAssign::~frmEditWorkerAssign() = default;
+
+std::vector<frmEditWorkerAssign::State> frmEditWorkerAssign::states() const
+{
+    return {{ui->opUcom, 0, nullptr, nullptr},
+            {ui->opCom, 1, "CompletedDate", ui->lblDateCompleted},
+            {ui->opDel, 2, "DelToCustDate", ui->lblDateDeltoCust},
+            {ui->opAlt, 3, "AltDate", ui->lbldateAlt}};
+}
+
+// Opening
+
+void frmEditWorkerAssign::ShowEdit(qint32 lineID)
+{
+    LineID = lineID;
+    load();
+    try {
+        showLine();
+        showLastJob();
+    } catch (...) {
+        unload();
+        throw;
+    }
+    showModal();
+}
+
+void frmEditWorkerAssign::Form_Load()
+{
+    SetFormLanguage(*this);
+    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where Type=1"),
+             *ui->cmbWorker, DE.rsaccounts);
+    ui->cmbWorker->insertItem(0, NoWorker);
+    showWages(GetSetting(WagesShownSetting, QStringLiteral("1")) != QLatin1String("0"));
+    swSMS1 = std::make_unique<swSMS>(this);
+    swSMS1->setObjectName(QStringLiteral("swSMS1"));
+}
+
+void frmEditWorkerAssign::Form_Unload() { swSMS1.reset(); }
+
+void frmEditWorkerAssign::showLine()
+{
+    auto& line = openRow(DE.rsJOBS_DETAIL, "Select * from jobs_detail where ID=", LineID);
+    const qint32 workerID = line["WorkerID"].integer();
+    const QString worker = workerID == 0 ? NoWorker : GetAccountTitle(workerID);
+    LineDate = line["Date"].date();
+    LineClientID = line["ClintID"].integer();
+    LineItemID = line["ItemID"].integer();
+    ui->txtClient->setText(GetAccountTitle(LineClientID));
+    ui->txtJOBID->setText(line["JobID"].text());
+    ui->txtItemName->setText(GetItemName(LineItemID));
+    ui->txtQuantity->setText(line["QNT"].text());
+    ui->txtLoc->setText(line["Loc"].text());
+    ui->txtRemark->setText(line["Remarks"].text());
+    ui->txtCap->setText(line["ItemDetails"].text());
+    ui->txtSize->setText(line["ItemDetailsValue"].text());
+
+    for (const State& state : states()) {
+        if (state.number == line["DoneByWorker"].integer())
+            state.option->setChecked(true);
+        if (state.date)
+            state.date->setText(dateText(line[state.dateField].date()));
+    }
+    ui->chCutting->setChecked(line["CuttingStatus"].integer() == 1);
+    ui->DtCutting->setValue(line["CuttingDate"].date());
+    const Currency wage = line["WorkerWagesDue"].money();
+    ui->txtWagesDue->setText(wage.toString());
+    ui->lblDelDate->setText(dateText(line["JobDelDate"].date()));
+    ui->lblBookDate->setText(dateText(LineDate));
+    ui->txtClientRemark->setText(line["ClientRemarks"].text());
+    ui->chMarkasPaid->setChecked(line["MarkAsPaid"].integer() == 1);
+    showPicture(*ui->pic1, Img1Path, line["img1"].text());
+    showPicture(*ui->pic2, Img2Path, line["img2"].text());
+    ui->picColor->setNumber(itemcolor::readNumber(line["Color"].text()));
+    const qint32 payrollID = line["PayrollID"].integer();
+    line.Close();
+
+    showWagesPaid(wage, payrollID);
+    ui->cmbWorker->setText(worker);
+}
+
+/// What a payroll has paid for the line, and when.
+void frmEditWorkerAssign::showWagesPaid(Currency wage, qint32 payrollID)
+{
+    if (!ui->chMarkasPaid->isChecked() || payrollID == 0)
+        return;
+    auto& payroll = openRow(DE.rspostings, "Select * from Postings where vType=2 and VID=", payrollID);
+    if (!payroll.AtEOF()) {
+        ui->lblWagesPaid->setText(values::Format(wage.toDouble(), QStringLiteral("0.00")));
+        ui->lblWagesPaidDate->setText(dateText(payroll["Date"].date()));
+    }
+    payroll.Close();
+}
+
+void frmEditWorkerAssign::showPicture(PictureBox& pic, QString& imgPath, const QString& file)
+{
+    if (!QFileInfo(file).isFile())
+        return;
+    pic.load(file);
+    imgPath = file;
+}
+
+/// The client's order of the same item before this one.
+void frmEditWorkerAssign::showLastJob()
+{
+    auto& lines = DE.rsJOBS_DETAIL;
+    lines.Open(QStringLiteral("Select * from JOBS_DETAIL where DATE<#%1# and ItemID=%2 and ClintID=%3")
+                   .arg(values::Format(LineDate, QStringLiteral("DD-MMM-YYYY")))
+                   .arg(LineItemID)
+                   .arg(LineClientID));
+    if (lines.AtEOF()) {
+        ui->lblLastJob->setText(QStringLiteral("No last record found"));
+        lines.Close();
+        return;
+    }
+    lines.MoveLast();
+    const qint32 workerID = lines["WorkerID"].integer();
+    ui->lblLastJob->setText(QStringLiteral("Last Job ID # ") + lines["JobID"].text() +
+                            QStringLiteral("\r\nDate : ") + dateText(lines["Date"].date()) +
+                            QStringLiteral("\r\n") +
+                            (workerID > 0 ? QStringLiteral("Job done by : ") + GetAccountTitle(workerID)
+                                          : QStringLiteral("No worker information found!")));
+    lines.Close();
+}
+
+qint32 frmEditWorkerAssign::jobID() const { return values::CLng(values::Val(ui->txtJOBID->text())); }
+
+// Worker and rating
+
+/// The entry of the list that stands in the box, whole; empty when another text does.
+QString frmEditWorkerAssign::chosenWorker() const
+{
+    return ui->cmbWorker->List(ui->cmbWorker->findText(ui->cmbWorker->text(), Qt::MatchFixedString));
+}
+
+/// A worker is looked up once, however many keys leave him in the box: so is a failure told.
+void frmEditWorkerAssign::RateWorker()
+{
+    const QString worker = chosenWorker();
+    if (worker == m_ratedWorker)
+        return;
+    m_ratedWorker = worker;
+    qint16 rating = 0;
+    const auto show = qScopeGuard([&] {
+        ui->lblAvgScorer->setText(QStringLiteral("Overall Ratting : ") + QString::number(rating));
+        if (const QPixmap picture = stars(rating, HeightOfStars); !picture.isNull())
+            ui->imgStars->setPixmap(picture);
+    });
+    if (!worker.isEmpty() && worker != NoWorker)
+        rating = GetWorkerRating(GetAccountID(worker));
+}
+
+// Keys
+
+void frmEditWorkerAssign::Form_KeyPress(int& key)
+{
+    if (key == forms::key::CtrlS) {
+        key = 0;
+        Command1_Click();
+    } else if (key == forms::key::CtrlP) {
+        key = 0;
+        ui->Command3->click();
+    } else {
+        Screen::Form_KeyPress(key);
+        key = EnterAsTab(key);
+    }
+}
+
+// Save
+
+void frmEditWorkerAssign::Command1_Click()
+{
+    const QString worker = chosenWorker();
+    if (worker.isEmpty()) {
+        ShowMsg(QStringLiteral("Please Select Worker Name!"));
+        ui->cmbWorker->setFocus();
+        return;
+    }
+    writeLine(worker);
+    session.RefreshLists = true;
+    ShowMsg(QStringLiteral("Job Assign."));
+    Command4_Click();
+    if (AllItemsDelivered(jobID()))
+        closeJob();
+}
+
+/// A line without a worker keeps the name of the one it had. A day once stamped stays when the state changes.
+void frmEditWorkerAssign::writeLine(const QString& worker)
+{
+    auto& line = openRow(DE.rsJOBS_DETAIL, "Select * from jobs_detail where id=", LineID);
+    if (worker == NoWorker) {
+        line["WorkerID"] = 0;
+    } else {
+        line["WorkerID"] = GetAccountID(worker);
+        line["WorkerName"] = worker;
+    }
+    for (const State& state : states()) {
+        if (!state.option->isChecked())
+            continue;
+        line["DoneByWorker"] = state.number;
+        if (state.date) {
+            line[state.dateField] = session.WorkingDate;
+            state.date->setText(dateText(session.WorkingDate));
+        }
+    }
+    line["CuttingStatus"] = int(ui->chCutting->isChecked());
+    line["CuttingDate"] = ui->DtCutting->value();
+    line["WorkerWagesDue"] = Currency::fromDouble(values::Val(ui->txtWagesDue->text()));
+    line["MarkAsPaid"] = int(ui->chMarkasPaid->isChecked());
+    line["Loc"] = ui->txtLoc->text();
+    line.Update();
+    line.Close();
+}
+
+/// All of the card is with the client: the promised day gives way to the real one.
+void frmEditWorkerAssign::closeJob()
+{
+    auto& job = openRow(DE.rsJOBS, "Select * from jobs where id=", jobID());
+    job["DeliveryDate"] = session.WorkingDate;
+    job["JOBFINISHED"] = 1;
+    job.Update();
+    job.Close();
+}
+
+// Commands
+
+void frmEditWorkerAssign::Command2_Click()
+{
+    QVariant score;
+    GiveFeedback(LineID, 0, score);
+    m_ratedWorker.clear();
+    RateWorker();
+}
+
+/// Does nothing as long as a line of the card is not completed.
+void frmEditWorkerAssign::Command4_Click()
+{
+    if (!AllItemsCompleted(jobID()) || !ShowMsg(QStringLiteral("Send SMS Now?"), 2))
+        return;
+    SendSmsToClient(*swSMS1, ui->txtClient->text(), 0, MakeJobFinishedSms(jobID(), 0));
+}
+
+void frmEditWorkerAssign::showWages(bool shown)
+{
+    ui->fWorkerDetails->setVisible(shown);
+    ui->lblHideShow->setText(shown ? QStringLiteral("Hide Worker Details")
+                                   : QStringLiteral("Show Worker Details"));
+}
+
+void frmEditWorkerAssign::lblHideShow_Click()
+{
+    const bool shown = !ui->fWorkerDetails->isVisible();
+    showWages(shown);
+    SetSetting(WagesShownSetting, QString::number(int(shown)));
+}
