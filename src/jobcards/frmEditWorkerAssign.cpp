@@ -11,6 +11,7 @@
 #include "planning/Ratings.h"
 #include "planning/Stars.h"
 #include "planning/frmFeedBack.h"
+#include "platform/report/Printing.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Dates.h"
 #include "ui/ModOtherFUN.h"
@@ -68,6 +69,9 @@ frmEditWorkerAssign::frmEditWorkerAssign()
     on(ui->Command1, &QPushButton::clicked, &frmEditWorkerAssign::Command1_Click);
     on(ui->Command2, &QPushButton::clicked, &frmEditWorkerAssign::Command2_Click);
     on(ui->Command4, &QPushButton::clicked, &frmEditWorkerAssign::Command4_Click);
+    const auto print = [](const QString& imgPath) { report::printPicture(imgPath, 100, 100); };
+    on(ui->Command5, &QPushButton::clicked, [this, print] { print(Img1Path); });
+    on(ui->Command6, &QPushButton::clicked, [this, print] { print(Img2Path); });
     on(ui->lblHideShow, &QPushButton::clicked, &frmEditWorkerAssign::lblHideShow_Click);
 }
 
@@ -141,8 +145,8 @@ void frmEditWorkerAssign::showLine()
     ui->lblBookDate->setText(dateText(LineDate));
     ui->txtClientRemark->setText(line["ClientRemarks"].text());
     ui->chMarkasPaid->setChecked(line["MarkAsPaid"].integer() == 1);
-    showPicture(*ui->pic1, Img1Path, line["img1"].text());
-    showPicture(*ui->pic2, Img2Path, line["img2"].text());
+    showPicture(*ui->pic1, *ui->Command5, Img1Path, line["img1"].text());
+    showPicture(*ui->pic2, *ui->Command6, Img2Path, line["img2"].text());
     ui->picColor->setNumber(itemcolor::readNumber(line["Color"].text()));
     const qint32 payrollID = line["PayrollID"].integer();
     line.Close();
@@ -164,12 +168,14 @@ void frmEditWorkerAssign::showWagesPaid(Currency wage, qint32 payrollID)
     payroll.Close();
 }
 
-void frmEditWorkerAssign::showPicture(PictureBox& pic, QString& imgPath, const QString& file)
+void frmEditWorkerAssign::showPicture(PictureBox& pic, QPushButton& print, QString& imgPath,
+                                      const QString& file)
 {
     if (!QFileInfo(file).isFile())
         return;
     pic.load(file);
     imgPath = file;
+    print.setEnabled(true);
 }
 
 /// The client's order of the same item before this one.

@@ -9,6 +9,7 @@
 class Currency;
 class PictureBox;
 class QLabel;
+class QPushButton;
 class QRadioButton;
 class swSMS;
 
@@ -50,7 +51,7 @@ private:
 
     void showLine();
     void showWagesPaid(Currency wage, qint32 payrollID);
-    static void showPicture(PictureBox& pic, QString& imgPath, const QString& file);
+    static void showPicture(PictureBox& pic, QPushButton& print, QString& imgPath, const QString& file);
     void showLastJob();
     void showWages(bool shown);
     QString chosenWorker() const;
