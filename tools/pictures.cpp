@@ -23,12 +23,17 @@
 #include "masters/frmEditWorker.h"
 #include "masters/frmItems.h"
 #include "masters/frmWorkers.h"
+#include "planning/frmFeedBack.h"
+#include "planning/frmRatings.h"
+#include "planning/frmWorkerReport2.h"
 #include "platform/forms/ListBox.h"
 #include "platform/forms/Theme.h"
+#include "registers/frmSearchClient.h"
 #include "sample/SampleShop.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/frmSelectDate.h"
 #include "ui/frmSelectFile.h"
+#include "ui/swTextBox.h"
 
 #include <QApplication>
 #include <QDir>
@@ -160,6 +165,27 @@ void takeAll()
     picture("assign-job", assignLine);
     picture("new-job-card", [] { frmEditJOB().ShowAddNew(); });
     picture("item-line", editLine);
+    picture(
+        "find-client",
+        [] {
+            qint16 showAll = 0;
+            QString client;
+            SearchClient2(showAll, client);
+        },
+        [](forms::Screen& screen) {
+            screen.findChild<swTextBox*>(QStringLiteral("txtName"))->setText(QStringLiteral("a"));
+        });
+    picture("feedback", [] {
+        QVariant score;
+        const QString scored =
+            QStringLiteral("Select ID from JOBS_DETAIL where Score=4 and ClientFeedback<>''");
+        GiveFeedback(value(scored).toInt(), 0, score);
+    });
+    picture("ratings", [] { frmRatings().showModal(); });
+    picture("work-overview", [] {
+        QString worker;
+        ShowWorkerOverView(QStringLiteral("Select * from JOBS_Detail where WorkerID=%id"), worker);
+    });
     picture("select-date", [] {
         QDate from(2024, 2, 1);
         QDate to(2024, 2, 29);

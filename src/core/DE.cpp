@@ -25,7 +25,6 @@ void DataEnvironment::ensureIndexes()
         {"Jobs_Detail_Job", "JOBS_DETAIL (JobID)"},
         {"Jobs_Detail_Clint", "JOBS_DETAIL (ClintID, ItemID)"},
         {"Jobs_Detail_Item", "JOBS_DETAIL (ItemID)"},
-        {"Jobs_Detail_Worker", "JOBS_DETAIL (WorkerID)"},
         {"Jobs_Detail_Score", "JOBS_DETAIL (WorkerID, Score)"},
         {"Postings_Account", "postings (AccID)"},
         {"Postings_Reference", "postings (RefID)"},

@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int RatingColumn = 4;
-constexpr int heightOfStars = 20;
+constexpr int heightOfStars = 22;
 
 } // namespace
 
@@ -17,11 +17,11 @@ frmRatings::frmRatings()
     : ui(std::make_unique<Ui::frmRatings>())
 {
     ui->setupUi(this);
-    ui->lvSummary->setColumns({{QString(), 8, Qt::AlignRight},
+    ui->lvSummary->setColumns({{QString(), 7, Qt::AlignRight},
                                {QStringLiteral("Rank"), 10, Qt::AlignRight},
                                {QStringLiteral("Worker Name"), forms::ListView::rest},
                                {QStringLiteral("Scorer"), 13, Qt::AlignRight},
-                               {QStringLiteral("Rating"), 25}});
+                               {QStringLiteral("Rating"), 24}});
 }
 
 frmRatings::~frmRatings() = default;
@@ -54,6 +54,7 @@ void frmRatings::GetRank()
     }
     ranks.Close();
     ui->lvSummary->setRows(std::move(rows));
+    ui->lvSummary->selectRow(0);
 }
 
 void frmRatings::Form_KeyDown(int& key, Qt::KeyboardModifiers)

@@ -15,10 +15,10 @@ frmSearchClient::frmSearchClient()
     : ui(std::make_unique<Ui::frmSearchClient>())
 {
     ui->setupUi(this);
-    ui->lvResults->setColumns({{QStringLiteral("Name"), 34},
-                               {QStringLiteral("Address"), 32},
+    ui->lvResults->setColumns({{QStringLiteral("Name"), 33},
+                               {QStringLiteral("Address"), forms::ListView::rest},
                                {QStringLiteral("City"), 16},
-                               {QStringLiteral("Mobile"), 17}});
+                               {QStringLiteral("Mobile"), 19}});
     ui->fmQuery->hide();
 
     const auto chooseOnEnter = [this](int& key) {

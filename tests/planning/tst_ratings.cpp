@@ -88,7 +88,7 @@ private Q_SLOTS:
                 for (int row = 0; row < 4; ++row) {
                     QCOMPARE(rowText(screen, row), expected[row]);
                     QCOMPARE(summary(screen).look(row, 4).picture.toImage(),
-                             stars(rating[row], 20).toImage());
+                             stars(rating[row], 22).toImage());
                 }
                 press(Qt::Key_Escape);
                 QVERIFY(!screen.isVisible());

@@ -4,6 +4,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QStyledItemDelegate>
 #include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
@@ -15,6 +16,20 @@ namespace {
 constexpr int heightOfRow = 32;
 constexpr int paddingOfCell = 18; // left and right of the text
 constexpr qsizetype longestTip = 1000;
+
+/// Pictures keep their colours on a selected row.
+class Cells : public QStyledItemDelegate
+{
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (!option->icon.isNull())
+            option->icon.addPixmap(index.data(Qt::DecorationRole).value<QPixmap>(), QIcon::Selected);
+    }
+};
 
 } // namespace
 
@@ -125,6 +140,7 @@ ListView::ListView(QWidget* parent)
     , m_rows(new Model(this))
 {
     setModel(m_rows);
+    setItemDelegate(new Cells(this));
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
