@@ -28,6 +28,8 @@ public:
     /// True when every expected prompt has come, and every act of onNextModal has met its screen. Tells what
     /// hasn't, and forgets it. For the test's cleanup.
     bool allMet();
+    /// The number of prompts that have not come yet.
+    qsizetype pending() const { return qsizetype(m_expected.size()); }
 
 private:
     struct Expected

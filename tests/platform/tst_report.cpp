@@ -1,0 +1,257 @@
+#include "platform/report/PageView.h"
+#include "platform/report/Pdf.h"
+#include "platform/report/Preview.h"
+#include "platform/report/PrintDialog.h"
+#include "platform/report/Printing.h"
+#include "platform/values/Errors.h"
+#include "support/Fields.h"
+#include "support/Files.h"
+#include "support/Modal.h"
+#include "support/Prompts.h"
+
+#include <QComboBox>
+#include <QProcess>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace report;
+
+namespace {
+
+Row line(const QString& name, const QString& remark = {})
+{
+    Row row;
+    row.set("Name", name);
+    row.set("Remark", remark);
+    row.set("Amount", "1234.5");
+    row.set("Day", "10-Feb-2024");
+    return row;
+}
+
+/// A bill: a heading whose column titles come again, a band a line with a growing remark, a foot, numbers of
+/// pages.
+class Bill : public Report
+{
+public:
+    explicit Bill(std::vector<Row> lines)
+        : Report("Bill")
+    {
+        Section& head = addSection("Head", Band::Head, 1000);
+        head.addLabel("lblCompany", "Rangoli").place(0, 0, 5000, 300);
+        Label& titles = head.addLabel("lblTitles", "Particulars");
+        titles.place(0, 700, 5000, 300);
+        titles.Repeats = true;
+        Section& body = addSection("Body", Band::Detail, 700);
+        body.addField("txtName", "NAME").place(0, 0, 2000, 300);
+        Field& remark = body.addField("txtRemark", "remark");
+        remark.place(2000, 0, 3000, 300);
+        remark.CanGrow = true;
+        body.addField("txtAmount", "Amount", "#,##0.00;(#,##0.00)").place(0, 350, 2000, 300);
+        body.addField("txtDay", "Day", "dd-mmm-yy").place(2000, 350, 2000, 300);
+        addSection("Foot", Band::Foot, 400).addLabel("lblTotal", "Total").place(0, 0, 2000, 300);
+        addSection("Page", Band::PageFoot, 400).addLabel("lblPage", "%p/%P").place(0, 0, 2000, 300);
+        Row bill;
+        bill.details = std::move(lines);
+        setDataSource({bill});
+    }
+};
+
+/// The text of a PDF file's pages, as another program reads it.
+QStringList readBack(const QByteArray& content)
+{
+    QProcess reader;
+    reader.start("pdftotext", {"-layout", "-", "-"});
+    reader.write(content);
+    reader.closeWriteChannel();
+    reader.waitForFinished();
+    QStringList pages = QString::fromUtf8(reader.readAllStandardOutput()).split(u'\f');
+    pages.removeLast();
+    return pages;
+}
+
+/// A print system of the test's own: programs in the path that do what a script says.
+class PrintSystem
+{
+public:
+    PrintSystem() { qputenv("PATH", m_folder.path().toLocal8Bit() + ":" + m_before); }
+    ~PrintSystem() { qputenv("PATH", m_before); }
+    void program(const QString& name, const QByteArray& script)
+    {
+        writeFile(path(name), "#!/bin/sh\n" + script);
+        QFile::setPermissions(path(name), QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
+    }
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+    void hideTheRest() { qputenv("PATH", m_folder.path().toLocal8Bit()); }
+
+private:
+    QTemporaryDir m_folder;
+    const QByteArray m_before = qgetenv("PATH");
+};
+
+} // namespace
+
+class tst_report : public QObject
+{
+    Q_OBJECT
+    std::unique_ptr<Prompts> prompts;
+
+private Q_SLOTS:
+    void init() { prompts = std::make_unique<Prompts>(); }
+    void cleanup() { QVERIFY(prompts->allMet()); }
+
+    void breaksManyLinesOverPages();
+    void printsALongTextWhole();
+    void findsControlsByName();
+    void savesFilesWholeOrNotAtAll();
+    void turnsPagesAndPrintsAFew();
+    void tellsWhatThePrintSystemRefuses_data();
+    void tellsWhatThePrintSystemRefuses();
+    void printsPicturesAtTheirPlace();
+};
+
+void tst_report::breaksManyLinesOverPages()
+{
+    std::vector<Row> lines;
+    for (int i = 1; i <= 80; ++i)
+        lines.push_back(line(QString("Shirt%1").arg(i), QString::fromUtf8("कुर्ता")));
+    const Bill bill(std::move(lines));
+    const Pages pages(bill);
+    const QStringList read = readBack(pdf(pages, bill.Title));
+    QCOMPARE(read.size(), pages.count());
+    QCOMPARE(pages.count(), 4);
+    for (int i = 0; i < read.size(); ++i) {
+        QVERIFY(read[i].contains("Particulars"));
+        QCOMPARE(read[i].contains("Rangoli"), i == 0);
+        QCOMPARE(read[i].contains("Total"), i == 3);
+        QVERIFY(read[i].contains(QString("%1/4").arg(i + 1)));
+    }
+    const QString all = read.join(' ');
+    for (int i = 1; i <= 80; ++i)
+        QCOMPARE(all.count(QRegularExpression(QString("Shirt%1\\b").arg(i))), 1);
+    QVERIFY(read[0].contains("1,234.50") && read[0].contains("10-Feb-24"));
+}
+
+void tst_report::printsALongTextWhole()
+{
+    QStringList words;
+    for (int i = 0; i < 4000; ++i)
+        words << QString("w%1").arg(i);
+    const Bill bill(
+        {line("First"), line("Long", words.join(' ')), line("Unbroken", QString(10'000, 'x')), line("Last")});
+    const Pages pages(bill);
+    QStringList printed;
+    qsizetype unbroken = 0;
+    for (int page = 0; page < pages.count(); ++page) {
+        for (const QString& text : pages.texts(page)) {
+            printed << text.split(' ');
+            unbroken += text.count('x');
+        }
+    }
+    QCOMPARE(QSet<QString>(printed.begin(), printed.end()).intersect({words.begin(), words.end()}).size(),
+             words.size());
+    QCOMPARE(unbroken, 10'000);
+    QVERIFY(printed.indexOf("w3999") < printed.indexOf("Last"));
+    QVERIFY(pages.count() > 3 && pages.count() < 40);
+}
+
+void tst_report::findsControlsByName()
+{
+    Bill bill({});
+    bill.section("head").label("LBLCOMPANY").Caption = "Other";
+    QVERIFY(Pages(bill).texts(0).contains("Other"));
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, bill.section("Head").field("lblCompany"));
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, bill.section("Side"));
+}
+
+void tst_report::savesFilesWholeOrNotAtAll()
+{
+    const QTemporaryDir folder;
+    saveFile("paper", folder.filePath("a.pdf"));
+    QCOMPARE(contents(folder.filePath("a.pdf")), QByteArray("paper"));
+    QVERIFY_THROWS_EXCEPTION(OperatorError, saveFile("paper", folder.filePath("none/a.pdf")));
+    QVERIFY_THROWS_EXCEPTION(OperatorError, saveFile("paper", folder.path()));
+}
+
+void tst_report::turnsPagesAndPrintsAFew()
+{
+    PrintSystem system;
+    const QString printed = system.path("printed.pdf");
+    system.program("lpstat", "echo Counter\necho Office\n");
+    system.program("lp", "echo \"$@\" > '" + system.path("how").toLocal8Bit() + "'\ncat > '" +
+                             printed.toLocal8Bit() + ".part'\nmv '" + printed.toLocal8Bit() + ".part' '" +
+                             printed.toLocal8Bit() + "'\n");
+    const Bill bill(std::vector<Row>(80, line("Shirt")));
+    onNextModal<Preview>([&](Preview& preview) {
+        QCOMPARE(label(preview, "lblPage"), QString("Page 1 of 4"));
+        press(Qt::Key_PageUp);
+        press(Qt::Key_PageDown);
+        press(Qt::Key_PageDown);
+        QCOMPARE(label(preview, "lblPage"), QString("Page 3 of 4"));
+        press(Qt::Key_End);
+        press(Qt::Key_PageDown);
+        QCOMPARE(label(preview, "lblPage"), QString("Page 4 of 4"));
+        QVERIFY(!control<QPushButton>(preview, "cmdNext").isEnabled());
+        typeText("1");
+        QCOMPARE(label(preview, "lblZoom"), QString("100 %"));
+        typeText("+");
+        QCOMPARE(label(preview, "lblZoom"), QString("125 %"));
+        onNextModal<PrintDialog>([&](PrintDialog& dialog) {
+            auto& printers = control<QComboBox>(dialog, "cmbPrinter");
+            QTRY_COMPARE(printers.count(), 3);
+            printers.setCurrentIndex(2);
+            control<QSpinBox>(dialog, "txtCopies").setValue(2);
+            control<QSpinBox>(dialog, "txtFrom").setValue(3);
+            press(Qt::Key_Return);
+        });
+        press(Qt::Key_P, Qt::ControlModifier);
+    });
+    Preview(bill).showModal();
+    QTRY_VERIFY(QFile::exists(printed));
+    QCOMPARE(contents(system.path("how")).trimmed(), QByteArray("-t Bill -n 2 -d Office"));
+    QCOMPARE(readBack(contents(printed)).size(), 2);
+}
+
+void tst_report::tellsWhatThePrintSystemRefuses_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("no printer") << QByteArray("echo 'lp: Error - no default destination.' >&2; exit 1")
+                                << "\"Bill\" was not printed.\n\nlp: Error - no default destination.";
+    QTest::newRow("never answers") << QByteArray("exec sleep 30")
+                                   << "The printer does not answer. \"Bill\" may not have been printed.";
+    QTest::newRow("not installed") << QByteArray()
+                                   << "\"Bill\" was not printed: this computer has no print system (the "
+                                      "program \"lp\" is missing).";
+}
+
+void tst_report::tellsWhatThePrintSystemRefuses()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(QString, told);
+    PrintSystem system;
+    if (script.isEmpty())
+        system.hideTheRest();
+    else
+        system.program("lp", script);
+    setPrintPatience(500);
+    prompts->expect(told);
+    printDirect(Bill({line("Shirt")}));
+    QTRY_COMPARE(prompts->pending(), 0);
+}
+
+void tst_report::printsPicturesAtTheirPlace()
+{
+    PrintSystem system;
+    system.program("lp", "cat > '" + system.path("out").toLocal8Bit() + "'\n");
+    QImage picture(40, 30, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QVERIFY(picture.save(system.path("cloth.png")));
+    printPicture(system.path("cloth.png"), 100, 100);
+    QTRY_VERIFY(contents(system.path("out")).endsWith("%%EOF\n"));
+    QVERIFY_THROWS_EXCEPTION(OperatorError, printPicture(system.path("lp"), 100, 100));
+    QVERIFY_THROWS_EXCEPTION(OperatorError, printPicture(system.path(""), 100, 100));
+}
+
+QTEST_MAIN(tst_report)
+#include "tst_report.moc"
