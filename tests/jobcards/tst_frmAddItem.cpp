@@ -1,106 +1,56 @@
 #include "core/DE.h"
 #include "core/Session.h"
+#include "core/Startup.h"
 #include "jobcards/ColorBox.h"
 #include "jobcards/ItemDetails.h"
 #include "jobcards/PictureBox.h"
 #include "jobcards/PictureFiles.h"
 #include "jobcards/clsJobCardData.h"
 #include "jobcards/frmAddItem.h"
-#include "platform/forms/ComboBox.h"
 #include "platform/values/Errors.h"
 #include "support/Files.h"
 #include "support/ShopTest.h"
 #include "ui/frmSelectFile.h"
-#include "ui/swTextBoxMultiLine.h"
 
 #include <QColorDialog>
 #include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
 
 namespace {
 
-/// The controls of the open editor.
-struct Editor
+void choose(frmAddItem& line, const QString& item)
 {
-    frmAddItem& screen;
-    forms::ComboBox& item = control<forms::ComboBox>(screen, "cmbItems");
-    ItemDetails& grid = control<ItemDetails>(screen, "ItemDetails1");
-    QLineEdit& qnt = control<QLineEdit>(screen, "txtQnt");
-    QLineEdit& fees = control<QLineEdit>(screen, "txtFees");
-    QLineEdit& remark = control<QLineEdit>(screen, "txtRemark");
-    swTextBoxMultiLine& note = control<swTextBoxMultiLine>(screen, "txtClientRemark");
-    ColorBox& color = control<ColorBox>(screen, "picColor");
-    QLabel& last = control<QLabel>(screen, "lblLast");
-
-    QString focused() const { return ::focused(screen); }
-    void click(const char* button) { control<QPushButton>(screen, button).click(); }
-    void choose(const QString& name)
-    {
-        item.setFocus();
-        item.setText(name);
-        press(Qt::Key_Return);
-    }
-    QString measurements() const
-    {
-        QStringList all;
-        for (qint32 i = 0; i < grid.Count(); ++i) {
-            QString name, value;
-            grid.ListItemText(name, value, i);
-            all << name + u'=' + value;
-        }
-        return all.join(u'|');
-    }
-    QString path(int picture)
-    {
-        return control<QLabel>(screen, picture == 1 ? "picPath1" : "picPath2").text();
-    }
-    bool hasPicture(int picture)
-    {
-        return !control<PictureBox>(screen, picture == 1 ? "pic1" : "pic2").picture().isNull();
-    }
-    void insert(const QString& file)
-    {
-        onNextModal<frmSelectFile>([&file](frmSelectFile& picker) {
-            control<QLineEdit>(picker, "txtfilename").setText(file);
-            control<QPushButton>(picker, "cmdOK").click();
-        });
-        click("Command8");
-    }
-};
-
-using Act = std::function<void(Editor)>;
-
-void whenOpen(const Act& act)
-{
-    onNextModal<frmAddItem>([act](frmAddItem& screen) { act(Editor{screen}); });
+    fillIn(line, "cmbItems", item);
+    press(Qt::Key_Return);
 }
 
-bool openNew(clsJobCardData& rows, qint32 client, const Act& act)
+QString measurements(frmAddItem& line)
 {
-    whenOpen(act);
-    frmAddItem editor;
-    return editor.ItemDetails(rows, client);
+    QStringList all;
+    auto& grid = control<ItemDetails>(line, "ItemDetails1");
+    for (qint32 i = 0; i < grid.Count(); ++i) {
+        QString name, value;
+        grid.ListItemText(name, value, i);
+        all << name + u'=' + value;
+    }
+    return all.join(u'|');
 }
 
-bool openRow(clsJobCardData& rows, qint32 client, int row, const Act& act)
+bool hasPicture(frmAddItem& line) { return !control<PictureBox>(line, "pic2").picture().isNull(); }
+
+void insertPicture(frmAddItem& line, const QString& file)
 {
-    whenOpen(act);
-    frmAddItem editor;
-    return editor.EditItemDetails(rows, client, row);
+    onNextModal<frmSelectFile>([&file](frmSelectFile& picker) {
+        field(picker, "txtfilename").setText(file);
+        click(picker, "cmdOK");
+    });
+    click(line, "Command8");
 }
 
-void addRow(clsJobCardData& rows, const QString& item, qint32 itemID, const QString& names,
-            const QString& values, const QString& img1 = {})
-{
-    rows.AddNewRow(77, item, itemID, 3, 100.25, 300.75, "remark", names, values, 0, {}, {}, {}, {}, {}, 0, 0,
-                   0, {}, img1, {}, "255", 0, {}, "note");
-}
+QStringList imageFiles() { return QDir(session.imagesFolder()).entryList(QDir::Files); }
 
-QString picture(const QString& path)
+QString paint(const QString& path)
 {
     QImage image(64, 48, QImage::Format_RGB32);
     image.fill(Qt::red);
@@ -109,332 +59,266 @@ QString picture(const QString& path)
     return path;
 }
 
-QStringList imageFiles() { return QDir(session.imagesFolder()).entryList(QDir::Files, QDir::Name); }
-
 } // namespace
 
 class tst_frmAddItem : public ShopTest
 {
     Q_OBJECT
-private Q_SLOTS:
-    void aLineByKeyboard();
-    void measurementsOfTheLastOrder();
-    void refusals();
-    void whatCannotBeHeldChangesNothing();
-    void measurementsComeBackAsStored_data();
-    void measurementsComeBackAsStored();
-    void theColourOfTheCloth();
-    void picturesLiveOnTheDisk();
-    void picturesThatCannotBeTaken();
-    void pictureNames();
 
-private:
-    void lay() override;
-    void orderBefore(qint32 client, const QDate& date, const QString& names, const QString& values,
-                     const QString& note);
-
-    clsJobCardData m_rows;
-    qint32 m_client = 0;
-    qint32 m_shirt = 0;
-};
-
-void tst_frmAddItem::lay()
-{
-    m_rows = {};
-    m_client = shop->addClient("Asha O'Neil");
-    m_shirt = shop->addItem("Shirt", 150.5, 40, "Length\r\nChest=40");
-    shop->addItem("Lehenga", 900, 40, "\r\nLength\r\n\r\nFold=a=b\r\n");
-}
-
-void tst_frmAddItem::orderBefore(qint32 client, const QDate& date, const QString& names,
-                                 const QString& values, const QString& note)
-{
-    ado::Recordset rows(DE.connection());
-    rows.Open(QStringLiteral("Select * from Jobs_Detail where id=%1").arg(shop->addJobLine(client, m_shirt)));
-    rows["Date"] = date;
-    rows["ItemDetails"] = names;
-    rows["ItemDetailsValue"] = values;
-    rows["ClientRemarks"] = note;
-    rows.Update();
-}
-
-void tst_frmAddItem::aLineByKeyboard()
-{
-    const bool cancelled = openNew(m_rows, m_client, [](Editor editor) {
-        QCOMPARE(control<QLabel>(editor.screen, "lblClint").text(), "Asha O'Neil");
-        QVERIFY2(editor.item.isDroppedDown(), "the list of items is open from the start");
-        typeText("sh");
-        QCOMPARE(editor.item.text(), "Shirt");
-        press(Qt::Key_Return);
-        QCOMPARE(editor.last.text(), "No Previous record found!");
-        QCOMPARE(editor.fees.text(), "150.5");
-        QCOMPARE(editor.focused(), "txtValue_0");
-        typeText("30");
-        press(Qt::Key_Return);
-        typeText("41");
-        press(Qt::Key_Return);
-        QCOMPARE(editor.focused(), "txtQnt");
-        typeText("x2y");
-        press(Qt::Key_Return);
-        QCOMPARE(editor.focused(), "txtFees");
-        press(Qt::Key_PageDown);
-        QCOMPARE(editor.focused(), "txtRemark");
-        typeText("blue");
-        press(Qt::Key_Return);
-        QCOMPARE(editor.focused(), "txtClientRemark");
-        typeText("loose");
-        press(Qt::Key_Return);
-        typeText("fit");
-        press(Qt::Key_Return);
-        QCOMPARE(editor.focused(), "txtClientRemark");
-        press(Qt::Key_Return);
-        QCOMPARE(editor.focused(), "Command1");
-        press(Qt::Key_Return);
-    });
-    QVERIFY(!cancelled);
-    QCOMPARE(m_rows.RowCount(), 1);
-    QCOMPARE(m_rows.Sr(1), 0);
-    QCOMPARE(m_rows.ItemName(1), "Shirt");
-    QCOMPARE(m_rows.ItemID(1), m_shirt);
-    QCOMPARE(m_rows.Qty(1), 2);
-    QCOMPARE(m_rows.Fees(1), 150.5);
-    QCOMPARE(m_rows.Amount(1), 301.0);
-    QCOMPARE(m_rows.Remarks(1), "blue");
-    QCOMPARE(m_rows.ItemDetails(1), "Length\r\nChest");
-    QCOMPARE(m_rows.ItemDetailsValue(1), "30\r\n41");
-    QCOMPARE(m_rows.ClientRemarks(1), "loose\r\nfit\r\n");
-
-    QVERIFY(!openRow(m_rows, m_client, 1, [](Editor editor) {
-        QCOMPARE(editor.focused(), "txtValue_0");
-        QVERIFY2(!editor.item.isDroppedDown(), "the list of items has closed again");
-        QCOMPARE(editor.measurements(), "Length=30|Chest=41");
-        typeText("33");
-        editor.qnt.setText("2.5");
-        editor.fees.setText("100.25");
-        editor.click("Command1");
-    }));
-    QCOMPARE(m_rows.RowCount(), 1);
-    QCOMPARE(m_rows.ItemDetailsValue(1), "33\r\n41");
-    QCOMPARE(m_rows.Qty(1), 2);
-    QCOMPARE(m_rows.Amount(1), 250.625);
-}
-
-/// Of several orders the line that was stored last counts; the fee is the catalogue's all the same.
-void tst_frmAddItem::measurementsOfTheLastOrder()
-{
-    orderBefore(m_client, QDate(2024, 1, 5), "Length", "28", "early");
-    orderBefore(m_client, QDate(2023, 12, 1), "Length\r\nChest\r\nCuff", "29\r\na=b", "later");
-    orderBefore(shop->addClient("Other"), QDate(2024, 2, 1), "Length", "99", "not hers");
-    openNew(m_rows, m_client, [](Editor editor) {
-        editor.click("Command2");
-        QCOMPARE(editor.measurements(), QString());
-        editor.choose("Shirt");
-        QCOMPARE(editor.measurements(), "Length=29|Chest=a|Cuff=");
-        QCOMPARE(editor.last.text(), "Previous JOB : 01-Dec-2023");
-        QCOMPARE(editor.note.Text(), "later");
-        QCOMPARE(editor.fees.text(), "150.5");
-
-        editor.click("Command2"); // a clean form starts from the template
-        QCOMPARE(editor.measurements(), "Length=|Chest=40");
-        QCOMPARE(editor.last.text(), "No Previous record found!");
-        QCOMPARE(editor.note.Text(), QString());
-        editor.choose("Lehenga"); // empty lines of a template name nothing; a value ends at a second =
-        QCOMPARE(editor.fees.text(), "900");
-        QCOMPARE(editor.measurements(), "Length=|Fold=a");
-    });
-}
-
-void tst_frmAddItem::refusals()
-{
-    const bool cancelled = openNew(m_rows, m_client, [this](Editor editor) {
-        const auto refused = [&](const char* message, const char* field) {
-            prompts->expect(QString::fromLatin1(message));
-            editor.click("Command1");
-            QTRY_COMPARE(editor.focused(), QString::fromLatin1(field));
-        };
-        refused("Please Select Item!", "cmbItems");
-        editor.choose("Shirt");
-        editor.fees.setText("abc");
-        refused("Please Enter Fees!", "txtFees");
-        editor.fees.setText("12..5");
-        editor.qnt.setText("0.0");
-        refused("Please Enter Quantity!", "txtQnt");
-        press(Qt::Key_Escape);
-        QVERIFY(!editor.screen.isVisible());
-    });
-    QVERIFY(cancelled);
-    QCOMPARE(m_rows.RowCount(), 0);
-
-    QVERIFY(openNew(m_rows, m_client, [](Editor editor) {
-        press(Qt::Key_Return);
-        QVERIFY2(!editor.screen.isVisible(), "Enter in an empty item box closes");
-    }));
-}
-
-void tst_frmAddItem::whatCannotBeHeldChangesNothing()
-{
-    addRow(m_rows, "Shirt", m_shirt, "Length", "30", session.imagesFolder() + "/gone.bmp");
-    QVERIFY(openRow(m_rows, m_client, 1, [this](Editor editor) {
-        QVERIFY2(editor.path(1).isEmpty(), "a picture that is gone leaves its place empty");
-        const auto refused = [&](const QString& item, const char* quantity, const char* fees,
-                                 const QString& message) {
-            prompts->expect(message);
-            editor.item.setText(item);
-            editor.qnt.setText(quantity);
-            editor.fees.setText(fees);
-            editor.click("Command1");
-            QVERIFY2(editor.screen.isVisible(), "the operator can put it right");
-        };
-        editor.remark.setText("changed");
-        refused("Shirt", "32768", "1", OverflowError().text());
-        refused("Shirt", "2", "999999999999999", OverflowError().text());
-        // An item that left the catalogue keeps its name, though an entry that begins like it offers itself.
-        refused("Shir", "1", "1", ado::NoCurrentRecordError().text());
-        editor.item.setFocus();
-        QCOMPARE(editor.item.text(), "Shir");
-    }));
-    QCOMPARE(m_rows.Qty(1), 3);
-    QCOMPARE(m_rows.Remarks(1), "remark");
-}
-
-void tst_frmAddItem::measurementsComeBackAsStored_data()
-{
-    QTest::addColumn<QString>("names");
-    QTest::addColumn<QString>("values");
-    QTest::addColumn<QString>("storedNames");
-    QTest::addColumn<QString>("storedValues");
-    const auto changed = [](const char* title, const QString& names, const QString& values,
-                            const QString& storedNames, const QString& storedValues) {
-        QTest::newRow(title) << names << values << storedNames << storedValues;
-    };
-    const auto same = [&](const char* title, const QString& names, const QString& values) {
-        changed(title, names, values, names, values);
-    };
-    changed("carriage return in a name", "A\rx\r\nB\r", "1\r\n2", "Ax\r\nB", "1\r\n2");
-    changed("fewer values", "A\r\nB\r\nC", "1", "A\r\nB\r\nC", "1\r\n\r\n");
-    changed("more values", "A", "1\r\n2\r\n3", "A", "1");
-    same("values with =", "A\r\nB", "1=2\r\n=");
-    same("a value without a name", "", "5");
-    same("none", "", "");
-}
-
-void tst_frmAddItem::measurementsComeBackAsStored()
-{
-    QFETCH(QString, names);
-    QFETCH(QString, values);
-    addRow(m_rows, "Shirt", m_shirt, names, values);
-    for (int time = 0; time < 2; ++time) {
-        QVERIFY(!openRow(m_rows, m_client, 1, [](Editor editor) { editor.click("Command1"); }));
-        QTEST(m_rows.ItemDetails(1), "storedNames");
-        QTEST(m_rows.ItemDetailsValue(1), "storedValues");
+    void lay() override
+    {
+        rows = {};
+        client = shop->addClient("Asha");
+        shirt = shop->addItem("Men's", 150.5, 40, "Length\r\nChest=40");
+        shirt = shop->addItem("Shirt", 150.5, 40, "Length\r\nChest=40");
     }
-}
 
-void tst_frmAddItem::theColourOfTheCloth()
-{
-    openNew(m_rows, m_client, [](Editor editor) {
-        editor.choose("Shirt");
-        const auto pick = [&editor](const QColor& color) {
-            onNextModal<QColorDialog>([color](QColorDialog& dialog) {
-                dialog.setCurrentColor(color);
-                dialog.accept();
-            });
-            QTRY_VERIFY(editor.screen.isActiveWindow());
-            editor.color.setFocus();
-            press(Qt::Key_Space);
+    /// Both give true for a line that was cancelled.
+    bool addLine(std::function<void(frmAddItem&)> act)
+    {
+        onNextModal<frmAddItem>(std::move(act));
+        return frmAddItem().ItemDetails(rows, client);
+    }
+    bool editLine(std::function<void(frmAddItem&)> act, int row = 1)
+    {
+        onNextModal<frmAddItem>(std::move(act));
+        return frmAddItem().EditItemDetails(rows, client, row);
+    }
+    void addRow(const QString& names, const QString& values, const QString& picture = {})
+    {
+        rows.AddNewRow(77, "Shirt", shirt, 3, 100.25, 300.75, "remark", names, values, 0, {}, {}, {}, {}, {},
+                       0, 0, 0, {}, picture, {}, "255", 0, {}, "note");
+    }
+
+    clsJobCardData rows;
+    qint32 client = 0;
+    qint32 shirt = 0;
+
+private Q_SLOTS:
+    void aLineByKeyboard()
+    {
+        addRow("Length", "30");
+        QVERIFY(!addLine([](frmAddItem& line) {
+            QCOMPARE(label(line, "lblClint"), "Asha");
+            QVERIFY2(combo(line, "cmbItems").isDroppedDown(), "the list of items is open from the start");
+            typeText("sh");
+            press(Qt::Key_Return);
+            QCOMPARE(label(line, "lblLast"), "No Previous record found!");
+            QCOMPARE(field(line, "txtFees").text(), "150.5");
+            typeFields({"30", "41"}); // the measurements
+            QCOMPARE(focused(line), "txtQnt");
+            typeFields({"x2y"});
+            QCOMPARE(focused(line), "txtFees");
+            press(Qt::Key_PageDown);
+            typeFields({"blue", "loose", "fit", {}}); // a second Enter ends the note
+            QCOMPARE(focused(line), "Command1");
+            press(Qt::Key_Return);
+        }));
+        QCOMPARE(rows.RowCount(), 2);
+        QCOMPARE(rows.Sr(2), 0);
+        QCOMPARE(rows.ItemName(2), "Shirt");
+        QCOMPARE(rows.ItemID(2), shirt);
+        QCOMPARE(rows.Amount(2), 301.0);
+        QCOMPARE(rows.Remarks(2), "blue");
+        QCOMPARE(rows.ItemDetails(2), "Length\r\nChest");
+        QCOMPARE(rows.ItemDetailsValue(2), "30\r\n41");
+        QCOMPARE(rows.ClientRemarks(2), "loose\r\nfit\r\n");
+        QCOMPARE(rows.Color(2), "16777215");
+
+        const auto correct = [](frmAddItem& line) {
+            QCOMPARE(focused(line), "txtValue_0");
+            QVERIFY2(!combo(line, "cmbItems").isDroppedDown(), "the list of items has closed again");
+            QCOMPARE(measurements(line), "Length=30|Chest=41");
+            typeText("33");
+            fillIn(line, "txtQnt", "2.5");
+            fillIn(line, "txtFees", "100.25");
+            click(line, "Command1");
         };
-        pick(QColor(1, 2, 3));
-        QCOMPARE(editor.color.number(), 0x030201);
-        pick(Qt::black);
-        QCOMPARE(editor.color.number(), 0x030201);
-        editor.qnt.setText("1");
-        editor.click("Command1");
-    });
-    QCOMPARE(m_rows.Color(1), "197121");
+        QVERIFY(!editLine(correct, 2));
+        QCOMPARE(rows.RowCount(), 2);
+        QCOMPARE(rows.ItemDetailsValue(2), "33\r\n41");
+        QCOMPARE(rows.Qty(2), 2);
+        QCOMPARE(rows.Amount(2), 250.625);
+        QCOMPARE(rows.ItemDetailsValue(1), "30");
+        QCOMPARE(Shop::count("Select * from Jobs_Detail"), 0); // until the card is saved
+    }
 
-    const auto keeps = [this](const QString& stored, const QColor& shown, const char* kept) {
-        m_rows.SetColor(1, stored);
-        openRow(m_rows, m_client, 1, [&](Editor editor) {
-            QCOMPARE(editor.color.color(), shown);
-            editor.click("Command1");
+    /// Of several orders the line that was stored last counts; the fee is the catalogue's all the same.
+    void measurementsOfTheLastOrder()
+    {
+        shop->addItem("Lehenga", 900, 40, "\r\nLength\r\n\r\nFold=a=b\r\n");
+        shop->addItem("Towel", 20, 0, {});
+        const qint32 other = shop->addClient("Other");
+        for (const qint32 owner : {client, client, other})
+            shop->addJobLine(owner, shirt);
+        Shop::run("Update Jobs_Detail set ItemDetails='Length', ItemDetailsValue='28'");
+        Shop::run("Update Jobs_Detail set Date=#01-Dec-2023#, ItemDetails='Length\r\nChest\r\nCuff', "
+                  "ItemDetailsValue='29\r\na=b', ClientRemarks='later' where id=2");
+        QVERIFY(addLine([this](frmAddItem& line) {
+            choose(line, "Shirt");
+            QCOMPARE(measurements(line), "Length=29|Chest=a|Cuff=");
+            QCOMPARE(label(line, "lblLast"), "Previous JOB : 01-Dec-2023");
+            QCOMPARE(field(line, "txtFees").text(), "150.5");
+            auto& note = control<QPlainTextEdit>(line, "txtClientRemark");
+            QCOMPARE(note.toPlainText(), "later");
+
+            click(line, "Command2"); // a clean form starts from the template
+            QCOMPARE(measurements(line), "Length=|Chest=40");
+            QVERIFY(note.toPlainText().isEmpty());
+            choose(line, "Lehenga"); // empty lines of a template name nothing; a value ends at a second =
+            QCOMPARE(measurements(line), "Length=|Fold=a");
+            choose(line, "Towel");
+            QCOMPARE(focused(line), "txtQnt"); // nothing to measure
+            QCOMPARE(measurements(line), QString());
+            // The statement cannot take the apostrophe; the operator is told and goes on.
+            prompts->expect("Syntax error in the statement: ' is not closed: Select * from Items where "
+                            "Name='Men's'");
+            choose(line, "Men's");
+            QVERIFY(line.isVisible());
+        }));
+    }
+
+    void refusalsChangeNothing()
+    {
+        QVERIFY(addLine([this](frmAddItem& line) {
+            const auto refused = [&](const char* message, const char* field) {
+                prompts->expect(message);
+                click(line, "Command1");
+                QTRY_COMPARE(focused(line), field);
+            };
+            refused("Please Select Item!", "cmbItems");
+            choose(line, "Shirt");
+            field(line, "txtFees").setText("abc");
+            refused("Please Enter Fees!", "txtFees");
+            field(line, "txtFees").setText("12..5");
+            field(line, "txtQnt").setText("0.0");
+            refused("Please Enter Quantity!", "txtQnt");
+            press(Qt::Key_Escape);
+            QVERIFY(!line.isVisible());
+        }));
+        QVERIFY(addLine([](frmAddItem& line) {
+            press(Qt::Key_Return);
+            QVERIFY2(!line.isVisible(), "Enter in an empty item box closes");
+        }));
+        QCOMPARE(rows.RowCount(), 0);
+
+        addRow("Length", "30", session.imagesFolder() + "/gone.bmp");
+        QVERIFY(editLine([this](frmAddItem& line) {
+            QVERIFY2(label(line, "picPath1").isEmpty(), "a picture that is gone leaves its place empty");
+            // An item that left the catalogue keeps its name, though an entry that begins like it offers
+            // itself.
+            for (const auto& [item, quantity, fees, message] :
+                 {std::tuple("Shirt", "32768", "1", OverflowError().text()),
+                  std::tuple("Shirt", "2", "999999999999999", OverflowError().text()),
+                  std::tuple("Shir", "1", "1", ado::NoCurrentRecordError().text())}) {
+                field(line, "txtRemark").setText("changed");
+                combo(line, "cmbItems").setText(item);
+                field(line, "txtQnt").setText(quantity);
+                field(line, "txtFees").setText(fees);
+                prompts->expect(message);
+                click(line, "Command1");
+                QVERIFY2(line.isVisible(), "the operator can put it right");
+            }
+            combo(line, "cmbItems").setFocus();
+            QCOMPARE(combo(line, "cmbItems").text(), "Shir");
+        }));
+        QCOMPARE(rows.Qty(1), 3);
+        QCOMPARE(rows.Remarks(1), "remark");
+    }
+
+    /// Whatever old rows hold, a second look at them changes nothing more.
+    void rowsComeBackAsStored()
+    {
+        const struct
+        {
+            const char *names, *values, *color, *storedNames, *storedValues, *storedColor;
+        } cards[] = {{"A\rx\r\nB\r", "1\r\n2", "-2147483643", "Ax\r\nB", "1\r\n2", "-2147483643"},
+                     {"A\r\nB\r\nC", "1", "99999999999999999999", "A\r\nB\r\nC", "1\r\n\r\n", "16777215"},
+                     {"A", "1\r\n2\r\n3", "", "A", "1", "0"},
+                     {"A\r\nB", "1=2\r\n=", "255", "A\r\nB", "1=2\r\n=", "255"},
+                     {"", "5", "1", "", "5", "1"}};
+        addRow({}, {});
+        for (const auto& card : cards) {
+            rows.SetItemDetails(1, card.names);
+            rows.SetItemDetailsValue(1, card.values);
+            rows.SetColor(1, card.color);
+            for (int time = 0; time < 2; ++time) {
+                QVERIFY(!editLine([](frmAddItem& line) { click(line, "Command1"); }));
+                QCOMPARE(rows.ItemDetails(1), card.storedNames);
+                QCOMPARE(rows.ItemDetailsValue(1), card.storedValues);
+                QCOMPARE(rows.Color(1), card.storedColor);
+            }
+        }
+    }
+
+    void theColourOfTheCloth()
+    {
+        addRow({}, {});
+        editLine([](frmAddItem& line) {
+            auto& cloth = control<ColorBox>(line, "picColor");
+            QCOMPARE(cloth.color(), QColor(255, 0, 0));
+            for (const QColor& picked : {QColor(1, 2, 3), QColor(Qt::black)}) { // black is ignored
+                onNextModal<QColorDialog>([picked](QColorDialog& dialog) {
+                    dialog.setCurrentColor(picked);
+                    dialog.accept();
+                });
+                QTRY_VERIFY(line.isActiveWindow());
+                cloth.setFocus();
+                press(Qt::Key_Space);
+                QCOMPARE(cloth.number(), 0x030201);
+            }
         });
-        QCOMPARE(m_rows.Color(1), QString::fromLatin1(kept));
-    };
-    keeps("-2147483643", QColor(5, 0, 0), "-2147483643");
-    keeps("99999999999999999999", Qt::white, "16777215");
-    keeps("", Qt::black, "0");
-}
+    }
 
-void tst_frmAddItem::picturesLiveOnTheDisk()
-{
-    const QString source = picture(shop->folder() + "/photo.png");
-    QString stored;
-    openNew(m_rows, m_client, [&](Editor editor) {
-        editor.insert("Cancel");
-        editor.insert("");
-        QCOMPARE(imageFiles(), QStringList());
+    void picturesLiveOnTheDisk()
+    {
+        const QString source = paint(shop->folder() + "/photo.png");
+        const QString letter = writeFile(shop->folder() + "/letter.jpg", "Dear client");
+        addRow({}, {});
+        editLine([&](frmAddItem& line) {
+            prompts->expect(letter + " is not a picture that can be shown.");
+            for (const QString& refused : {QString("Cancel"), QString(), letter})
+                insertPicture(line, refused);
+            QVERIFY(imageFiles().isEmpty());
+            insertPicture(line, source);
+            QVERIFY(hasPicture(line));
+            click(line, "Command1");
+        });
+        const QString stored = rows.img2(1);
+        static const QRegularExpression name("/images/Asha_\\d\\d_\\d\\d_\\d{4}_[1-7]_\\d_\\d\\d_1\\.bmp$");
+        QVERIFY2(stored.startsWith(shop->folder()) && name.match(stored).hasMatch(), qPrintable(stored));
+        QCOMPARE(contents(stored), contents(source));
 
-        editor.insert(source);
-        stored = editor.path(2);
-        QVERIFY(editor.hasPicture(2) && !editor.hasPicture(1));
-        editor.choose("Shirt");
-        editor.qnt.setText("1");
-        editor.click("Command1");
-    });
-    static const QRegularExpression name(
-        "/images/Asha O'Neil_\\d\\d_\\d\\d_\\d{4}_[1-7]_\\d_\\d\\d_1\\.bmp$");
-    QVERIFY2(stored.startsWith(shop->folder()) && name.match(stored).hasMatch(), qPrintable(stored));
-    QCOMPARE(contents(stored), contents(source));
-    QCOMPARE(m_rows.img2(1), stored);
+        QVERIFY(editLine([&](frmAddItem& line) {
+            QVERIFY(hasPicture(line));
+            QVERIFY(QDir(session.imagesFolder()).removeRecursively());
+            writeFile(session.imagesFolder(), "in the way");
+            prompts->expect("The folder for pictures cannot be made: " + session.imagesFolder());
+            insertPicture(line, source);
+            QVERIFY(hasPicture(line) && label(line, "picPath2") == stored);
+            QVERIFY(QFile::remove(session.imagesFolder()));
+            MakeImagesFolder();
+            insertPicture(line, source);
+            QCOMPARE(imageFiles().size(), 1);
+            click(line, "Command2"); // clears both places
+            QVERIFY(!hasPicture(line) && label(line, "picPath2").isEmpty());
+        }));
+        QVERIFY2(imageFiles().isEmpty(), "a cancelled editor does not bring a picture back");
+        QCOMPARE(rows.img2(1), stored);
+    }
 
-    QVERIFY(openRow(m_rows, m_client, 1, [&](Editor editor) {
-        QVERIFY(editor.hasPicture(2));
-        QCOMPARE(editor.path(2), stored);
-        editor.click("Command2"); // clears both places
-        QVERIFY(!editor.hasPicture(2) && editor.path(2).isEmpty());
-        press(Qt::Key_Escape);
-    }));
-    QVERIFY2(imageFiles().isEmpty(), "a cancelled editor does not bring a picture back");
-    QCOMPARE(m_rows.img2(1), stored);
-}
-
-void tst_frmAddItem::picturesThatCannotBeTaken()
-{
-    const QString noPicture = shop->folder() + "/letter.jpg";
-    QFile letter(noPicture);
-    QVERIFY(letter.open(QIODevice::WriteOnly) && letter.write("Dear client") > 0);
-    letter.close();
-    const QString source = picture(shop->folder() + "/photo.png");
-    openNew(m_rows, m_client, [&](Editor editor) {
-        prompts->expect(noPicture + " is not a picture that can be shown.");
-        editor.insert(noPicture);
-        editor.insert(source);
-        const QString kept = editor.path(2);
-        QCOMPARE(imageFiles().size(), 1);
-
-        QVERIFY(QDir(session.imagesFolder()).removeRecursively());
-        QFile inTheWay(session.imagesFolder());
-        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-        prompts->expect("The folder for pictures cannot be made: " + session.imagesFolder());
-        editor.insert(source);
-        QCOMPARE(editor.path(2), kept);
-        QVERIFY(editor.hasPicture(2));
-        editor.click("Command5");
-        QVERIFY2(editor.path(2).isEmpty() && !editor.hasPicture(2), "a file that is gone is no fault");
-    });
-}
-
-/// A client's name never leads out of the folder, and no picture takes the place of another.
-void tst_frmAddItem::pictureNames()
-{
-    const QDateTime sunday(QDate(2024, 2, 11), QTime(14, 37, 5));
-    const QString folder = session.imagesFolder() + u'/';
-    const QString path = picturefiles::newPath("A/B\\%1 %3", sunday, 1);
-    QCOMPARE(path, folder + "A_B\\%1 %3_11_02_2024_1_7_05_1.bmp");
-    picture(folder + "Asha_11_02_2024_1_7_05_1.bmp");
-    QCOMPARE(picturefiles::newPath("Asha", sunday, 1), folder + "Asha_11_02_2024_1_7_06_1.bmp");
-    picture(picturefiles::newPath(QStringLiteral("👔").repeated(3000), sunday, 1));
-}
+    /// A client's name never leads out of the folder, and no picture takes the place of another.
+    void pictureNames()
+    {
+        const QDateTime sunday(QDate(2024, 2, 11), QTime(14, 37, 5));
+        const QString folder = session.imagesFolder() + u'/';
+        const QString path = picturefiles::newPath("A/B\\%1 %3", sunday, 1);
+        QCOMPARE(path, folder + "A_B\\%1 %3_11_02_2024_1_7_05_1.bmp");
+        paint(folder + "Asha_11_02_2024_1_7_05_1.bmp");
+        QCOMPARE(picturefiles::newPath("Asha", sunday, 1), folder + "Asha_11_02_2024_1_7_06_1.bmp");
+        paint(picturefiles::newPath(QStringLiteral("👔").repeated(3000), sunday, 1));
+    }
+};
 
 QTEST_MAIN(tst_frmAddItem)
 #include "tst_frmAddItem.moc"
