@@ -11,55 +11,43 @@ class tst_dialect : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void translated_data()
+    void translated()
     {
-        QTest::addColumn<QString>("got");
-        QTest::addColumn<QString>("engine");
-        const auto row = [](const char* sql, const QString& got, const char* engine) {
-            QTest::newRow(sql) << got << QString::fromUtf8(engine);
+        const std::pair<const char*, const char*> statements[] = {
+            {"dELETE  *  FROM x", "dELETE FROM x"},
+            {"Delete from x where a=2*3;", "Delete from x where a=2*3"},
+            {"Delete from P where vid=5and a1=1.5or b=2E-3else",
+             "Delete from P where vid=5 and a1=1.5 or b=2E-3 else"},
+            {"Delete from P where d=#10-Feb-2024#and x=1", "Delete from P where d='2024-02-10' and x=1"},
+            {"Delete from P where d>#17-11-1985#", "Delete from P where d>'1985-11-17'"},
+            {"Delete from P where d>#10-Feb-2024 13:05:00#", "Delete from P where d>'2024-02-10 13:05:00'"},
+            {"Delete from P where t='5and #1-1-2020# {y} ''z'' -- *\r\n'",
+             "Delete from P where t='5and #1-1-2020# {y} ''z'' -- *\r\n'"},
+            {"Delete from `P` where [a b]=1--5", "Delete from `P` where [a b]=1- -5"},
+            {"Select month(dob) from P", "Select month(dob) from P ORDER BY rowid"},
+            {"Select * from P, Q where P.a=Q.a", "Select * from P, Q where P.a=Q.a"},
+            {"Select distinct a from P", "Select distinct a from P"},
+            {"Select count( * ) from P", "Select count( * ) from P"},
         };
-        const auto statement = [&](const char* sql, const char* engine) {
-            row(sql, translate(QString::fromUtf8(sql)).sql, engine);
-        };
-        statement("dELETE  *  FROM x", "dELETE FROM x");
-        statement("Delete from x where a=2*3;", "Delete from x where a=2*3");
-        statement("Delete from P where vid=5and a1=1.5or b=2E-3else",
-                  "Delete from P where vid=5 and a1=1.5 or b=2E-3 else");
-        statement("Delete from P where d=#10-Feb-2024#and x=1", "Delete from P where d='2024-02-10' and x=1");
-        statement("Delete from P where d>#17-11-1985#", "Delete from P where d>'1985-11-17'");
-        statement("Delete from P where d>#10-Feb-2024 13:05:00#",
-                  "Delete from P where d>'2024-02-10 13:05:00'");
-        statement("Delete from P where t='5and #1-1-2020# {y} ''z'' -- *\r\n'",
-                  "Delete from P where t='5and #1-1-2020# {y} ''z'' -- *\r\n'");
-        statement("Delete from `P` where [a b]=1--5", "Delete from `P` where [a b]=1- -5");
-        statement("Select month(dob) from P", "Select month(dob) from P ORDER BY rowid");
-        statement("Select * from P, Q where P.a=Q.a", "Select * from P, Q where P.a=Q.a");
-        statement("Select distinct a from P", "Select distinct a from P");
-        statement("Select count( * ) from P", "Select count( * ) from P");
+        for (const auto& [sql, engine] : statements)
+            QCOMPARE(translate(sql).sql, engine);
 
-        const auto lastRow = [&](const char* sql, const char* engine) {
-            row(sql, translate(QString::fromUtf8(sql)).reversed, engine);
-        };
-        lastRow("Select * from Jobs", "SELECT rowid, * from Jobs ORDER BY rowid DESC LIMIT 1");
-        lastRow(
-            "Select a from P where a in (select b from Q order by b) order by f(a,b), vid desc",
+        QCOMPARE(translate("Select * from Jobs").reversed,
+                 "SELECT rowid, * from Jobs ORDER BY rowid DESC LIMIT 1");
+        QCOMPARE(
+            translate("Select a from P where a in (select b from Q order by b) order by f(a,b), vid desc")
+                .reversed,
             "Select a from P where a in (select b from Q order by b) ORDER BY f(a,b) DESC, vid, rowid DESC "
             "LIMIT 1");
 
-        const auto condition = [&](const char* sql, const char* engine) {
-            row(qPrintable(QStringLiteral("condition: ") + QLatin1String(sql)),
-                withCondition(QString::fromUtf8(sql), QStringLiteral("x=1")), engine);
+        const std::pair<const char*, const char*> withX[] = {
+            {"Select * from P order by a", "Select * from P WHERE x=1 order by a"},
+            {"Select * from P where a=1 or b=2 order by a",
+             "Select * from P WHERE x=1 AND (a=1 or b=2) order by a"},
+            {"Select a from P group by a", "SELECT * FROM (Select a from P group by a) WHERE x=1"},
         };
-        condition("Select * from P order by a", "Select * from P WHERE x=1 order by a");
-        condition("Select * from P where a=1 or b=2 order by a",
-                  "Select * from P WHERE x=1 AND (a=1 or b=2) order by a");
-        condition("Select a from P group by a", "SELECT * FROM (Select a from P group by a) WHERE x=1");
-    }
-
-    void translated()
-    {
-        QFETCH(QString, got);
-        QTEST(got, "engine");
+        for (const auto& [sql, engine] : withX)
+            QCOMPARE(withCondition(sql, "x=1"), engine);
     }
 
     void refused()
@@ -68,11 +56,11 @@ private Q_SLOTS:
              {"", " ; ", "Select * from P where t='O'Brien'", "Select * from P where d=#31-31-2024#",
               "Select * from P where d=#2024-02-10", "Select * from P where d=#10-Feb-2024 noon:00#",
               "Select * from `P"})
-            QVERIFY_THROWS_EXCEPTION(DatabaseError, translate(QString::fromLatin1(text)));
+            QVERIFY_THROWS_EXCEPTION(DatabaseError, translate(text));
         for (const char* text :
              {"SHAPE", "SHAPE {Select 1", "SHAPE {Select 1} APPEND ({Select 2} RELATE a b)",
               "SHAPE {Select 1} AS a COMPUTE b", "SHAPE {Select 1} APPEND ({Select 2} RELATE a TO b) AS c d"})
-            QVERIFY_THROWS_EXCEPTION(DatabaseError, parseShape(QString::fromLatin1(text)));
+            QVERIFY_THROWS_EXCEPTION(DatabaseError, parseShape(text));
     }
 };
 
