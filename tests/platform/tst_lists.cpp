@@ -62,28 +62,21 @@ private Q_SLOTS:
         list.setFocus();
         QVERIFY(QTest::qWaitForWindowActive(&list));
         QCOMPARE(list.ListIndex(), -1); // focus alone selects no entry
-        list.setListIndex(1);
-        QCOMPARE(list.Text(), "anil");
-        list.setListIndex(7);
-        QCOMPARE(list.ListIndex(), -1);
-        QCOMPARE(list.findString("a", 0), 1);
-        QCOMPARE(list.findString("A", 1), 0); // wraps
-        QCOMPARE(list.findString("bin", 2), 2);
-        QCOMPARE(list.findString("a", 99), 0);
-        QCOMPARE(list.findString("jay"), -1);
-        QCOMPARE(list.findString(QString()), -1);
+        for (const auto& [prefix, behind, found] :
+             {std::tuple("a", 0, 1), std::tuple("A", 1, 0), std::tuple("bin", 2, 2), std::tuple("a", 99, 0),
+              std::tuple("jay", -1, -1), std::tuple("", -1, -1)}) // wraps round
+            QCOMPARE(list.findString(prefix, behind), found);
 
         ListView view;
         view.setColumns({{"Client", 60}, {"Amount", 40, Qt::AlignRight}});
         view.addRow({"Asha", "10.00"}, "7|1");
         view.addRow({"Total"});
         view.setCell(1, 1, "10.00");
-        QSignalSpy moved(&view, &ListView::selectionMoved);
         view.selectRow(1);
         view.removeRow(0);
         QCOMPARE(view.selectedRow(), 0);
         QCOMPARE(view.cell(0, 1) + view.tag(0), "10.00");
-        moved.clear();
+        QSignalSpy moved(&view, &ListView::selectionMoved);
         view.Clear();
         QCOMPARE(view.selectedRow(), -1);
         QCOMPARE(moved.count(), 1);
@@ -150,54 +143,44 @@ private Q_SLOTS:
         QCOMPARE(clicked.count(), 0); // all of that was the program's doing
     }
 
-    void openListLeavesTheTypingToTheBox()
+    void keysTypeIntoTheBoxAndPickEntries()
     {
         inModal<OrderScreen>([](OrderScreen& screen) {
-            QTRY_VERIFY(screen.client.isDroppedDown());
-            typeText("n#ew");
-            QCOMPARE(screen.client.text(), "new");
-            QVERIFY(screen.client.isDroppedDown());
+            ComboBox& client = screen.client;
+            QSignalSpy clicked(&client, &ComboBox::clicked);
+            QTRY_VERIFY(client.isDroppedDown());
+            typeText("n#ew"); // the open list leaves the typing to the box
             for (const Qt::Key key : {Qt::Key_Home, Qt::Key_Backspace, Qt::Key_Delete})
                 press(key);
-            QCOMPARE(screen.client.text(), "ew");
+            QCOMPARE(client.text(), "ew");
             QCOMPARE(screen.keys, QList<int>({'n', '#', 'e', 'w', 8}));
-            press(Qt::Key_Escape); // the list first
-            QVERIFY(!screen.client.isDroppedDown());
-            QVERIFY(!screen.keys.contains(27));
-            press(Qt::Key_Escape);
-            QCOMPARE(screen.keys.last(), 27);
-        });
-    }
-
-    void keysPickEntries()
-    {
-        inModal<OrderScreen>([](OrderScreen& screen) {
-            QSignalSpy clicked(&screen.client, &ComboBox::clicked);
-            QTRY_VERIFY(screen.client.isDroppedDown());
-            typeText("Asha");
-            screen.client.view()->setCurrentIndex(screen.client.model()->index(3, 0)); // the mouse is over it
+            client.setText("Asha");
+            client.view()->setCurrentIndex(client.model()->index(3, 0)); // the mouse is over it
             press(Qt::Key_Return);
-            QCOMPARE(screen.client.text(), "Asha");
+            QCOMPARE(client.text(), "Asha");
             QCOMPARE(clicked.count(), 0); // a text that equals an entry is no choice either
-            screen.client.setText(QString());
+
+            client.setText(QString());
             press(Qt::Key_F4);
             press(Qt::Key_Down);
             press(Qt::Key_Down);
-            QCOMPARE(screen.client.text(), "Bela");
+            QCOMPARE(client.text(), "Bela");
             press(Qt::Key_PageDown);
             press(Qt::Key_Down); // there is none below
             QCOMPARE(clicked.count(), 3);
             press(Qt::Key_Return);
-            QVERIFY(!screen.client.isDroppedDown());
-            QCOMPARE(screen.client.text(), "Chand");
+            QVERIFY(!client.isDroppedDown());
             press(Qt::Key_Up); // also while it is closed
-            QCOMPARE(screen.client.text(), "bharat");
+            QCOMPARE(client.text(), "bharat");
             press(Qt::Key_F4);
-            QVERIFY(screen.client.isDroppedDown());
+            press(Qt::Key_Escape); // the list first
+            QVERIFY(!client.isDroppedDown() && !screen.keys.contains(27));
+            press(Qt::Key_F4);
             press(Qt::Key_Tab);
-            QVERIFY(!screen.client.isDroppedDown());
-            QVERIFY(screen.remark.hasFocus());
+            QVERIFY(!client.isDroppedDown() && screen.remark.hasFocus());
             QCOMPARE(clicked.count(), 4);
+            press(Qt::Key_Escape);
+            QCOMPARE(screen.keys.last(), 27);
         });
     }
 
