@@ -1,31 +1,10 @@
-#include "platform/forms/ComboBox.h"
-#include "platform/forms/DatePicker.h"
-#include "platform/forms/ListBox.h"
+#include "support/Files.h"
 #include "support/ShopTest.h"
 #include "ui/frmSelectDate.h"
 #include "ui/frmSelectFile.h"
 
 #include <QDir>
-#include <QLabel>
-#include <QPushButton>
 #include <QTest>
-
-namespace {
-
-const QDate monday(2024, 2, 12);
-
-forms::DatePicker& picker(QWidget& dialog, const char* name)
-{
-    return control<forms::DatePicker>(dialog, name);
-}
-
-QString selectFile(std::function<void(frmSelectFile&)> act)
-{
-    onNextModal<frmSelectFile>(std::move(act));
-    return frmSelectFile().SelFile();
-}
-
-} // namespace
 
 class tst_pickers : public ShopTest
 {
@@ -33,6 +12,7 @@ class tst_pickers : public ShopTest
 private Q_SLOTS:
     void dates()
     {
+        const QDate monday(2024, 2, 12);
         QDate from = monday;
         QDate to = monday;
         const auto select = [&](int mode, std::function<void(frmSelectDate&)> act) {
@@ -40,26 +20,25 @@ private Q_SLOTS:
             frmSelectDate().SelectDate(from, to, mode);
         };
         prompts->expect("Invalid Dates!");
-        select(frmSelectDate::Range, [](frmSelectDate& dialog) {
-            picker(dialog, "DateFrom").setValue(monday.addDays(1));
+        select(frmSelectDate::Range, [&](frmSelectDate& dialog) {
+            date(dialog, "DateFrom").setValue(monday.addDays(1));
             save();
             QVERIFY(dialog.isVisible());
-            picker(dialog, "DateFrom").setValue(monday.addDays(-7));
+            date(dialog, "DateFrom").setValue(monday.addDays(-7));
             save();
             QVERIFY(!dialog.isVisible());
         });
-        QCOMPARE(from, monday.addDays(-7));
-        QCOMPARE(to, monday);
-        select(frmSelectDate::Range, [](frmSelectDate& dialog) {
-            picker(dialog, "DateTo").setValue(monday.addDays(9));
+        QCOMPARE(from.daysTo(to), 7);
+        select(frmSelectDate::Range, [&](frmSelectDate& dialog) {
+            date(dialog, "DateTo").setValue(monday.addDays(9));
             press(Qt::Key_Escape);
             QVERIFY(!dialog.isVisible());
         });
         QCOMPARE(to, monday);
         select(frmSelectDate::SingleDate, [](frmSelectDate& dialog) {
-            QVERIFY(!picker(dialog, "DateTo").isEnabled());
-            picker(dialog, "DateFrom").setFocus();
-            picker(dialog, "DateFrom").setSelectedSection(QDateTimeEdit::DaySection);
+            QVERIFY(!date(dialog, "DateTo").isEnabled());
+            date(dialog, "DateFrom").setFocus();
+            date(dialog, "DateFrom").setSelectedSection(QDateTimeEdit::DaySection);
             press(Qt::Key_Up);
             save();
         });
@@ -75,15 +54,15 @@ private Q_SLOTS:
         image.fill(Qt::red);
         QVERIFY(image.save(pictures + "/coat.bmp"));
         QVERIFY(image.scaled(1600, 800).save(pictures + "/wall.jpg"));
-        QFile broken(pictures + "/broken.bmp");
-        QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("not a picture") > 0);
-        broken.close();
+        writeFile(pictures + "/broken.bmp", "not a picture");
         qputenv("HOME", pictures.toLocal8Bit());
+        const auto select = [](std::function<void(frmSelectFile&)> act) {
+            onNextModal<frmSelectFile>(std::move(act));
+            return frmSelectFile().SelFile();
+        };
 
-        const QString answer = selectFile([](frmSelectFile& dialog) {
-            auto& files = control<forms::ListBox>(dialog, "files");
-            auto& folders = control<forms::ListBox>(dialog, "Dir");
-            auto& types = control<forms::ComboBox>(dialog, "cmbFIletype");
+        const QString chosen = select([](frmSelectFile& dialog) {
+            forms::ListBox& files = listBox(dialog, "files");
             const auto preview = [&](int index) {
                 files.setListIndex(index);
                 return control<QLabel>(dialog, "pic1").pixmap().deviceIndependentSize().toSize();
@@ -94,28 +73,25 @@ private Q_SLOTS:
             const int width = preview(2).width();
             QVERIFY(width > 200 && width <= control<QFrame>(dialog, "prv").width());
 
-            types.setFocus();
-            types.select(0, 3);
-            typeText("*.BMP");
+            fillIn(dialog, "cmbFIletype", "*.BMP");
             QCOMPARE(files.ListCount(), 2);
-            folders.setListIndex(1);
-            folders.setFocus();
-            press(Qt::Key_Return);
-            QCOMPARE(files.ListCount(), 0);
-            folders.setListIndex(0);
-            press(Qt::Key_Return);
-            types.setText("*.jpg");
+            listBox(dialog, "Dir").setFocus();
+            for (const int folder : {1, 0}) { // down into "old" and up again
+                listBox(dialog, "Dir").setListIndex(folder);
+                press(Qt::Key_Return);
+                QCOMPARE(files.ListCount(), folder == 1 ? 0 : 2);
+            }
+            fillIn(dialog, "cmbFIletype", "*.jpg");
             files.setListIndex(0);
-            control<QPushButton>(dialog, "cmdOK").click();
+            click(dialog, "cmdOK");
         });
-        QCOMPARE(answer, QDir::toNativeSeparators(pictures + "/wall.jpg"));
-        QCOMPARE(selectFile([](frmSelectFile&) { press(Qt::Key_Escape); }), "Cancel");
-        QCOMPARE(selectFile([](frmSelectFile& dialog) {
-                     control<QLineEdit>(dialog, "txtfilename").setFocus();
-                     typeText("any text");
-                     control<QPushButton>(dialog, "cmdOK").click();
-                 }),
-                 "any text");
+        QCOMPARE(chosen, QDir::toNativeSeparators(pictures + "/wall.jpg"));
+        QCOMPARE(select([](frmSelectFile&) { press(Qt::Key_Escape); }), "Cancel");
+        const QString typed = select([](frmSelectFile& dialog) {
+            fillIn(dialog, "txtfilename", "any text");
+            click(dialog, "cmdOK");
+        });
+        QCOMPARE(typed, "any text");
     }
 };
 
