@@ -97,9 +97,10 @@ void frmSearchClient::ScrollLV(int& key)
         ui->lvResults->selectRow(qBound(0, ui->lvResults->selectedRow() + step, rows - 1));
 }
 
+/// Without a selection the only row is taken, as there is no doubt; of more none is.
 void frmSearchClient::choose()
 {
-    const int row = ui->lvResults->selectedRow();
+    const int row = ui->lvResults->rowCount() == 1 ? 0 : ui->lvResults->selectedRow();
     if (row < 0)
         return;
     m_chosen = ui->lvResults->cell(row, 0);
