@@ -20,6 +20,7 @@ QSpinBox* numberBox(const QString& name, int largest, int value)
 {
     auto* box = new QSpinBox;
     box->setObjectName(name);
+    box->setButtonSymbols(QSpinBox::NoButtons);
     box->setRange(1, largest);
     box->setValue(value);
     return box;
