@@ -117,7 +117,7 @@ void assignLine()
 {
     frmEditWorkerAssign().ShowEdit(
         value(QStringLiteral("Select ID from Jobs_Detail where DoneByWorker=1 and WorkerID>0 "
-                             "order by Img1 desc, Remarks desc, ID desc"))
+                             "order by MarkAsPaid desc, Img1 desc, ID desc"))
             .toInt());
 }
 

@@ -87,7 +87,7 @@ private Q_SLOTS:
     void bytesOfAMessage()
     {
         for (const auto& [number, digits] :
-             {std::pair("09812345678", "9812345678"), std::pair("+919812345678", "919812345678"),
+             {std::pair("09812345678", "9812345678"), std::pair("+91 98123 45678", "919812345678"),
               std::pair("call her", "0"), std::pair("98123-45678 home", "98123")}) {
             Modem modem(device("ttyUSB2"));
             const std::unique_ptr<swSMS> sms(sender());
@@ -107,10 +107,16 @@ private Q_SLOTS:
         prompts->expect("Device is already open");
         sms->SendSMS(1, "98", "two");
 
+        QWidget otherScreen; // the line is busy there
+        swSMS other(&otherScreen);
+        other.setDeviceFolder(m_devices->path());
+        prompts->expect("Permission error while locking the device");
+        other.SendSMS(1, "98", "meanwhile");
+
         m_screen = std::make_unique<QWidget>();
         sender()->SendSMS(1, "98", "three");
         QTRY_VERIFY(modem.heard().endsWith("three\x1a"));
-        QVERIFY(!modem.heard().contains("two"));
+        QVERIFY(!modem.heard().contains("two") && !modem.heard().contains("meanwhile"));
     }
 
     /// A modem that goes in the middle of a message is told of once, however often the system reports it.

@@ -27,8 +27,8 @@ SerialPort::SerialPort(QObject* parent)
 {
     connect(&m_port, &QSerialPort::errorOccurred, this, [this](QSerialPort::SerialPortError error) {
         // A hang-up reports itself again and again until the port is closed, and it may not be closed from
-        // here.
-        if (error == QSerialPort::NoError || !m_port.isOpen() || m_closing)
+        // here. A second opening is refused and leaves the line as it is.
+        if (error == QSerialPort::NoError || error == QSerialPort::OpenError || !m_port.isOpen() || m_closing)
             return;
         m_closing = true;
         QMetaObject::invokeMethod(this, &SerialPort::closeBroken, Qt::QueuedConnection);
