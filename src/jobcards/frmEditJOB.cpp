@@ -67,6 +67,7 @@ frmEditJOB::frmEditJOB(QWidget* parent)
     });
 
     on(ui->Command1, &QPushButton::clicked, &frmEditJOB::Command1_Click);
+    on(ui->Command2, &QPushButton::clicked, &frmEditJOB::Command2_Click);
     on(ui->Command3, &QPushButton::clicked, &frmEditJOB::Command3_Click);
     on(ui->Command4, &QPushButton::clicked, &frmEditJOB::Command4_Click);
     on(ui->Command5, &QPushButton::clicked, &frmEditJOB::Command5_Click);

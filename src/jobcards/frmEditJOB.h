@@ -64,6 +64,7 @@ private:
     void editLine();
 
     void Command1_Click();
+    void Command2_Click();
     void Command3_Click();
     void Command4_Click();
     void Command5_Click();

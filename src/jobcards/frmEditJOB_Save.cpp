@@ -1,6 +1,7 @@
-// Save and Delete of the job card.
+// Save, Print and Delete of the job card.
 #include "core/Session.h"
 #include "core/Settings.h"
+#include "jobcards/MODPrintJOBCARD.h"
 #include "jobcards/frmEditJOB.h"
 #include "messaging/modSMS.h"
 #include "messaging/swSMS.h"
@@ -14,6 +15,7 @@
 namespace {
 
 constexpr qint32 OfferSmsSetting = 3;
+constexpr qint32 PrintAfterSaveSetting = 14;
 
 } // namespace
 
@@ -33,10 +35,13 @@ void frmEditJOB::Command1_Click()
         refuse(QStringLiteral("Please Select Receipt Account!"), ui->cmbAccount);
         return;
     }
-    if (m_card.EditMode == QStringLiteral("N"))
+    if (m_card.EditMode == QStringLiteral("N")) {
         SaveNew();
-    else
+        if (values::Val(GetSetting(PrintAfterSaveSetting, QStringLiteral("0"))) == 1)
+            Command2_Click();
+    } else {
         SaveEdit();
+    }
     offerSms();
 }
 
@@ -95,6 +100,13 @@ void frmEditJOB::offerSms()
         return;
     SendSmsToClient(*swSMS1, ui->cmbClient->text(), 0,
                     MakeJobRegisteredSms(m_card.CurrentJobID, values::Val(ui->txtAmount->text())));
+}
+
+/// A card that isn't stored has no paper yet: nothing comes.
+void frmEditJOB::Command2_Click()
+{
+    if (m_card.EditMode == QStringLiteral("E"))
+        PrintJobCard(m_card.CurrentJobID);
 }
 
 void frmEditJOB::Command7_Click()

@@ -1,0 +1,62 @@
+#include "jobcards/JobCardStaging.h"
+
+#include "core/DE.h"
+#include "core/Lookups.h"
+#include "platform/values/Dates.h"
+
+void StageJobCard(qint32 JobID)
+{
+    const QString number = QString::number(JobID);
+    DE.connection().writeBatch([&] {
+        DE.connection().Execute(QStringLiteral("Delete * from tmpHead"));
+        DE.connection().Execute(QStringLiteral("Delete * from tmpbody"));
+
+        ado::Recordset& job = DE.rsJOBS;
+        job.Open(QStringLiteral("Select * from Jobs where id=") + number);
+        AddPrintHead(JobID, job["Date"].date(), GetAccountTitle(job["ClintID"].integer()),
+                     job["DeliveryDate"].date(), job["trialdate"].date(), job["AmountDue"].money(),
+                     job["AmountPaid"].money());
+        job.Close();
+
+        ado::Recordset& lines = DE.rsJOBS_DETAIL;
+        for (lines.Open(QStringLiteral("Select * from Jobs_Detail where jobid=") + number); !lines.AtEOF();
+             lines.MoveNext())
+            AddPrintBody(JobID, lines["QNT"].integer(), GetItemName(lines["ItemID"].integer()),
+                         lines["Remarks"].text(), lines["Fees"].money(), lines["Amount"].money());
+        lines.Close();
+    });
+}
+
+void AddPrintHead(qint32 JobID, const QDate& date, const QString& name, const QDate& deliveryDate,
+                  const QDate& trialDate, Currency due, Currency paid)
+{
+    ado::Recordset& head = DE.rsPrintHead;
+    head.Open(QStringLiteral("sELeCT * FROM TMPHEAD"));
+    head.AddNew();
+    head["Date"] = values::CStr(date);
+    head["JobID"] = JobID;
+    head["Name"] = name;
+    head["DelDate"] = values::CStr(deliveryDate);
+    head["trialdate"] = values::CStr(trialDate);
+    head["AmountDue"] = due.toString();
+    head["AmountPaid"] = paid.toString();
+    head["Amount"] = (due - paid).toString();
+    head.UpdateBatch();
+    head.Close();
+}
+
+void AddPrintBody(qint32 JobID, qint32 quantity, const QString& itemName, const QString& remarks,
+                  Currency fees, Currency amount)
+{
+    ado::Recordset& body = DE.rsPrintBody;
+    body.Open(QStringLiteral("sELeCT * FROM TMPbody"));
+    body.AddNew();
+    body["JobID"] = JobID;
+    body["QNT"] = quantity;
+    body["ItemName"] = itemName;
+    body["Remarks"] = remarks;
+    body["fess"] = fees.toString();
+    body["Amount"] = amount.toString();
+    body.UpdateBatch();
+    body.Close();
+}
