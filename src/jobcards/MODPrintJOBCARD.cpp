@@ -1,0 +1,116 @@
+#include "jobcards/MODPrintJOBCARD.h"
+
+#include "core/DE.h"
+#include "core/Schema.h"
+#include "core/Session.h"
+#include "core/Settings.h"
+#include "jobcards/JobCardStaging.h"
+#include "jobcards/rptJOBCARD.h"
+#include "jobcards/rptLabel.h"
+#include "jobcards/rptWorkerJobCard.h"
+#include "platform/forms/Pictures.h"
+#include "platform/report/Pages.h"
+#include "platform/report/Preview.h"
+#include "platform/report/Printing.h"
+#include "platform/values/Errors.h"
+
+namespace {
+
+/// The heading of a card: its lines and where they stand when no logo is beside them.
+constexpr const char* headingLines[] = {"lblCompany", "lblAddress1", "lblAddress2", "lblAddress3",
+                                        "lblContact"};
+constexpr int fullLeft = 144;
+constexpr int fullWidth = 9360;
+
+void PlaceLogo(rptJOBCARD& card, const QString& LogoPath)
+{
+    report::Section& head = card.section(QStringLiteral("Section6"));
+    if (LogoPath.isEmpty()) {
+        for (const char* name : headingLines) {
+            report::Label& line = head.label(QLatin1String(name));
+            line.Left = fullLeft;
+            line.Width = fullWidth;
+        }
+        return;
+    }
+    constexpr QSize sharpInPrint(1600, 1600);
+    const QPixmap logo = forms::loadPicture(LogoPath, sharpInPrint);
+    if (logo.isNull())
+        throw OperatorError(QStringLiteral("The logo can't be loaded: %1\nNothing has been printed. "
+                                           "The file is chosen on the Settings screen.")
+                                .arg(LogoPath));
+    head.image(QStringLiteral("logo")).Picture = logo.toImage();
+}
+
+/// The row of one line of a job. Throws ado::NoCurrentRecordError for one that is gone.
+std::vector<report::Row> readLine(qint32 LineID)
+{
+    ado::Recordset& line = DE.rsJOBS_DETAIL;
+    line.Open(QStringLiteral("Select * from JOBS_DETAIL where id=") + QString::number(LineID));
+    line["ID"].integer();
+    std::vector<report::Row> rows = report::readRows(line);
+    line.Close();
+    return rows;
+}
+
+} // namespace
+
+std::unique_ptr<report::Report> JobCardPaper(qint32 JobID)
+{
+    ado::Connection connection;
+    connection.open(session.databasePath(), databasePassword(), ado::Connection::Mode::ReadOnly);
+    StageJobCard(JobID);
+    ado::Recordset job(connection);
+    job.Open(
+        QStringLiteral("SHAPE {SELECT * FROM tmpHead where JobID=") + QString::number(JobID) +
+        QStringLiteral(" }  APPEND ({SELECT * FROM tmpBody  order by id} AS Body RELATE JOBID to JOBID)"));
+
+    auto card = std::make_unique<rptJOBCARD>();
+    card->setDataSource(report::readRows(job, QStringLiteral("Body")));
+    PlaceLogo(*card, GetSetting(5, QString()));
+    report::Section& head = card->section(QStringLiteral("Section6"));
+    head.label(QStringLiteral("lblTag")).Caption = GetSetting(6, QString());
+    const QString lines[] = {session.ShopName, session.ShopAddress1, session.ShopAddress2,
+                             session.ShopAddress3, session.ShopContacts};
+    for (size_t i = 0; i < std::size(lines); ++i)
+        head.label(QLatin1String(headingLines[i])).Caption = lines[i];
+    card->section(QStringLiteral("Section7")).label(QStringLiteral("lblForCompany")).Caption =
+        QStringLiteral("For ") + session.ShopName;
+    card->closeUpHeading();
+    return card;
+}
+
+std::unique_ptr<report::Report> WorkerSlipPaper(qint32 LineID)
+{
+    auto slip = std::make_unique<rptWorkerJobCard>();
+    if (GetSetting(0, QStringLiteral("English")) == QLatin1String("Hindi") &&
+        GetSetting(12, QStringLiteral("No")) == QLatin1String("Yes"))
+        slip->useHindiMeasurements();
+    slip->setDataSource(readLine(LineID));
+    slip->section(QStringLiteral("Section2")).label(QStringLiteral("lblCompany")).Caption = session.ShopName;
+    return slip;
+}
+
+std::unique_ptr<report::Report> LabelPaper(qint32 LineID)
+{
+    auto label = std::make_unique<rptLabel>();
+    label->setDataSource(readLine(LineID));
+    label->section(QStringLiteral("Section1")).label(QStringLiteral("lblCompany")).Caption = session.ShopName;
+    if (report::Pages(*label).count() > 1)
+        label->numberLabels();
+    return label;
+}
+
+void PrintJobCard(qint32 JobID)
+{
+    const auto card = JobCardPaper(JobID);
+    const QString preview = GetSetting(15, QStringLiteral("1"));
+    if (preview == QLatin1String("1"))
+        report::Preview(*card).showModal();
+    else if (preview == QLatin1String("0"))
+        report::printDirect(*card);
+}
+
+void PrintWorkerSlip(qint32 LineID) { report::Preview(*WorkerSlipPaper(LineID)).showModal(); }
+
+void PrintLabel(qint32 LineID) { report::Preview(*LabelPaper(LineID)).showModal(); }

@@ -1,0 +1,66 @@
+#include "jobcards/PaperDesign.h"
+
+namespace paper {
+
+namespace {
+
+constexpr int LineHeight = 260;
+constexpr double CaptionSize = 9;
+constexpr double ValueSize = 10;
+constexpr int BaseLineGap = 18; ///< between the tops of the two sizes, for one base line
+
+} // namespace
+
+report::Label& caption(report::Section& section, const QString& name, const QString& text, int left, int top,
+                       int width)
+{
+    report::Label& label = section.addLabel(name, text);
+    label.place(left, top + BaseLineGap, width, LineHeight - BaseLineGap);
+    label.FontSize = CaptionSize;
+    label.Color = Muted;
+    return label;
+}
+
+report::Field& value(report::Section& section, const QString& name, const QString& dataField, int left,
+                     int top, int width, const QString& format)
+{
+    report::Field& field = section.addField(name, dataField, format);
+    field.place(left, top, width, LineHeight);
+    field.FontSize = ValueSize;
+    field.Color = Ink;
+    return field;
+}
+
+report::Label& company(report::Section& section, int left, int top, int width, double fontSize)
+{
+    constexpr double lineHeight = 25; // twips a point
+    report::Label& label = section.addLabel(QStringLiteral("lblCompany"), {});
+    label.place(left, top, width, int(fontSize * lineHeight));
+    label.FontSize = fontSize;
+    label.Bold = true;
+    label.Color = Ink;
+    label.Alignment = Qt::AlignHCenter;
+    label.CanGrow = true;
+    return label;
+}
+
+report::Shape& rule(report::Section& section, const QString& name, int left, int top, int width, QRgb color)
+{
+    report::Shape& shape = section.addShape(name);
+    shape.place(left, top, width, 0);
+    shape.Weight = 10;
+    shape.Color = color;
+    return shape;
+}
+
+report::Shape& bar(report::Section& section, const QString& name, int left, int top, int width, int height)
+{
+    report::Shape& shape = section.addShape(name);
+    shape.place(left, top, width, height);
+    shape.Frame = true;
+    shape.Fill = Shade;
+    shape.Color = Shade;
+    return shape;
+}
+
+} // namespace paper

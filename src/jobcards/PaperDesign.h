@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/report/Report.h"
+
+/// The hand in which all papers of a job are set. Lengths are twips.
+namespace paper {
+
+inline constexpr QRgb Ink = 0xFF1F2933;
+inline constexpr QRgb Muted = 0xFF5B6470;
+inline constexpr QRgb Hairline = 0xFFBFB9AD;
+inline constexpr QRgb Shade = 0xFFEFEBE3;
+
+/// A caption in the smaller, quieter type.
+report::Label& caption(report::Section& section, const QString& name, const QString& text, int left, int top,
+                       int width);
+/// A field on the same base line as a caption of that top.
+report::Field& value(report::Section& section, const QString& name, const QString& dataField, int left,
+                     int top, int width, const QString& format = {});
+/// The name of the shop, in the middle.
+report::Label& company(report::Section& section, int left, int top, int width, double fontSize);
+/// A rule across.
+report::Shape& rule(report::Section& section, const QString& name, int left, int top, int width,
+                    QRgb color = Hairline);
+/// A shaded bar behind titles.
+report::Shape& bar(report::Section& section, const QString& name, int left, int top, int width, int height);
+
+} // namespace paper

@@ -1,0 +1,225 @@
+#include "jobcards/rptJOBCARD.h"
+
+#include "jobcards/PaperDesign.h"
+
+#include <algorithm>
+
+using namespace report;
+
+namespace {
+
+constexpr int DesignWidth = 9648;
+constexpr int Left = 144;
+constexpr int Width = DesignWidth - 2 * Left;
+
+constexpr int LogoSize = 1800;
+constexpr int HeadingLeft = Left + LogoSize + 200;
+constexpr int HeadingHeight = 1800; ///< as designed, with all its lines
+
+const QString Day = QStringLiteral("dd-MMM-yyyy");
+const QString Money = QStringLiteral("0.00");
+const QString Total = QStringLiteral("#,##0.00;(#,##0.00)");
+
+/// The columns of the lines.
+struct Column
+{
+    const char* title;
+    const char* caption;
+    const char* field;
+    const char* dataField;
+    int left;
+    int width;
+    Qt::Alignment alignment;
+};
+constexpr int Gap = 120;
+const Column columns[] = {
+    {"Label1", "QTY", "Text1", "QNT", Left, 600, Qt::AlignHCenter},
+    {"Label10", "Particulars", "txtItemNAME", "ItemNAME", Left + 720, 2600, Qt::AlignLeft},
+    {"Label14", "Remark", "Text2", "Remarks", Left + 3440, 2800, Qt::AlignLeft},
+    {"Label11", "Fees", "txtFESS", "FESS", Left + 6360, 1300, Qt::AlignRight},
+    {"Label12", "Amount", "txtAMOUNT", "AMOUNT", Left + 7780, Width - 7780 - Gap, Qt::AlignRight},
+};
+
+} // namespace
+
+rptJOBCARD::rptJOBCARD()
+    : Report(QStringLiteral("Print Job Card"))
+{
+    LeftMargin = RightMargin = (pageWidth() - DesignWidth) / 2;
+    addSection(QStringLiteral("Section4"), Band::ReportHead);
+    addSection(QStringLiteral("Section2"), Band::PageHead);
+    designHead();
+    designLine();
+    designFoot();
+    Section& pageFoot = addSection(QStringLiteral("Section3"), Band::PageFoot, 260);
+    Label& number =
+        paper::caption(pageFoot, QStringLiteral("lblPage"), QStringLiteral("Page %p of %P"), Left, 0, Width);
+    number.FontSize = 8;
+    number.Alignment = Qt::AlignRight;
+    addSection(QStringLiteral("Section5"), Band::ReportFoot);
+}
+
+void rptJOBCARD::designHead()
+{
+    Section& head = addSection(QStringLiteral("Section6"), Band::Head, 4060);
+    head.addImage(QStringLiteral("logo")).place(Left, 0, LogoSize, LogoSize);
+    paper::company(head, HeadingLeft, 0, Width + Left - HeadingLeft, 24);
+    int top = 620;
+    for (const char* name : {"lblAddress1", "lblAddress2", "lblAddress3", "lblContact"}) {
+        Label& line = head.addLabel(QLatin1String(name), {});
+        line.place(HeadingLeft, top, Width + Left - HeadingLeft, 270);
+        line.Color = paper::Ink;
+        line.Alignment = Qt::AlignHCenter;
+        line.CanGrow = true;
+        top += 270;
+    }
+    Label& tag = head.addLabel(QStringLiteral("lblTag"), {});
+    tag.place(Left, HeadingHeight + 60, Width, 280);
+    tag.Italic = true;
+    tag.Color = paper::Muted;
+    tag.Alignment = Qt::AlignHCenter;
+    tag.CanGrow = true;
+
+    top = HeadingHeight + 440;
+    paper::rule(head, QStringLiteral("Line1"), Left, top, Width, paper::Ink).Weight = 25;
+
+    top += 160;
+    constexpr int rowHeight = 340;
+    constexpr int captionWidth = 1250;
+    constexpr int right = Left + 6200;
+    constexpr int rightCaption = 1350;
+    paper::caption(head, QStringLiteral("Label2"), QStringLiteral("Date:"), right, top, rightCaption);
+    paper::value(head, QStringLiteral("txtDate"), QStringLiteral("Date"), right + rightCaption, top,
+                 Left + Width - right - rightCaption, Day);
+    paper::caption(head, QStringLiteral("Label3"), QStringLiteral("Job Card #"), Left, top, captionWidth);
+    Field& number = paper::value(head, QStringLiteral("txtJOBID"), QStringLiteral("JOBID"),
+                                 Left + captionWidth, top - 45, 3000);
+    number.FontSize = 13;
+    number.Bold = true;
+    top += rowHeight;
+    paper::caption(head, QStringLiteral("Label4"), QStringLiteral("Client Name :"), Left, top, captionWidth);
+    Field& client = paper::value(head, QStringLiteral("txtNAME"), QStringLiteral("NAME"), Left + captionWidth,
+                                 top, right - Left - captionWidth - Gap);
+    client.Bold = true;
+    client.CanGrow = true;
+    paper::caption(head, QStringLiteral("Label5"), QStringLiteral("Delivery Date :"), right, top,
+                   rightCaption);
+    paper::value(head, QStringLiteral("txtDELDATE"), QStringLiteral("DELDATE"), right + rightCaption, top,
+                 Left + Width - right - rightCaption, Day)
+        .Bold = true;
+    top += rowHeight;
+    paper::caption(head, QStringLiteral("Label16"), QStringLiteral("Trial Date:"), right, top, rightCaption);
+    paper::value(head, QStringLiteral("Text3"), QStringLiteral("TrialDate"), right + rightCaption, top,
+                 Left + Width - right - rightCaption, Day);
+
+    top += rowHeight + 40;
+    paper::bar(head, QStringLiteral("Shape1"), Left, top, Width, 380).Repeats = true;
+    for (const Column& column : columns) {
+        Label& title = head.addLabel(QLatin1String(column.title), QLatin1String(column.caption));
+        title.place(column.left, top + 70, column.width, 240);
+        title.FontSize = 9;
+        title.Bold = true;
+        title.Color = paper::Ink;
+        title.Alignment = column.alignment;
+        title.Repeats = true;
+    }
+    head.Height = top + 380;
+}
+
+void rptJOBCARD::designLine()
+{
+    Section& line = addSection(QStringLiteral("Section1"), Band::Detail, 400);
+    for (const Column& column : columns) {
+        const bool isMoney = column.alignment == Qt::AlignRight;
+        Field& field = paper::value(line, QLatin1String(column.field), QLatin1String(column.dataField),
+                                    column.left, 70, column.width, isMoney ? Money : QString());
+        field.Alignment = column.alignment;
+        field.CanGrow = !isMoney;
+    }
+    paper::rule(line, QStringLiteral("Line2"), Left, 400, Width);
+}
+
+void rptJOBCARD::designFoot()
+{
+    Section& foot = addSection(QStringLiteral("Section7"), Band::Foot, 3560);
+    constexpr int right = Left + 5900;
+    constexpr int captionWidth = 1700;
+    constexpr int rowHeight = 330;
+    struct Sum
+    {
+        const char* label;
+        const char* caption;
+        const char* field;
+        const char* dataField;
+    };
+    int top = 160;
+    for (const Sum& sum : {Sum{"Label6", "Total", "txtAMOUNTDUE", "AMOUNTDUE"},
+                           Sum{"Label7", "Amount Received", "txtAMOUNTPAID", "AMOUNTPAID"},
+                           Sum{"Label17", "Amount Due", "Text4", "AMOUNT"}}) {
+        const bool isBalance = qstrcmp(sum.field, "Text4") == 0;
+        if (isBalance) {
+            paper::bar(foot, QStringLiteral("Shape2"), right - Gap, top + 10, Left + Width - right + Gap,
+                       400);
+            top += 80;
+        }
+        paper::caption(foot, QLatin1String(sum.label), QLatin1String(sum.caption), right, top, captionWidth)
+            .Bold = isBalance;
+        Field& amount =
+            paper::value(foot, QLatin1String(sum.field), QLatin1String(sum.dataField), right + captionWidth,
+                         top, Left + Width - right - captionWidth - Gap, Total);
+        amount.Alignment = Qt::AlignRight;
+        amount.Bold = isBalance;
+        top += rowHeight;
+    }
+
+    constexpr int boxHeight = 2700;
+    Shape& samples = foot.addShape(QStringLiteral("Shape3"));
+    samples.place(Left, 220, 5400, boxHeight);
+    samples.Frame = true;
+    samples.Dashed = true;
+    samples.Color = paper::Muted;
+    Label& staple = paper::caption(foot, QStringLiteral("Label15"),
+                                   QStringLiteral("Staple Cloth Samples here..."), Left + 160, 320, 5000);
+    staple.Italic = true;
+
+    Label& company = foot.addLabel(QStringLiteral("lblForCompany"), {});
+    company.place(right, 1500, Left + Width - right - Gap, 260);
+    company.Alignment = Qt::AlignRight;
+    company.Color = paper::Ink;
+    company.CanGrow = true;
+    paper::rule(foot, QStringLiteral("Line3"), right + 1400, 2620, Left + Width - right - Gap - 1400,
+                paper::Muted);
+    paper::caption(foot, QStringLiteral("Label9"), QStringLiteral("Auth Sig"), right, 2660,
+                   Left + Width - right - Gap)
+        .Alignment = Qt::AlignRight;
+    Label& house = paper::caption(foot, QStringLiteral("Label8"),
+                                  QStringLiteral("Seamwise - The Whole Shop at Hand"), Left, 3140, Width);
+    house.FontSize = 8;
+    house.Alignment = Qt::AlignHCenter;
+}
+
+void rptJOBCARD::closeUpHeading()
+{
+    Section& head = section(QStringLiteral("Section6"));
+    int bottom = 0;
+    for (const char* name : {"lblCompany", "lblAddress1", "lblAddress2", "lblAddress3", "lblContact"}) {
+        Label& line = head.label(QLatin1String(name));
+        line.Visible = !line.Caption.isEmpty();
+        line.Top = bottom;
+        if (line.Visible)
+            bottom += line.Height;
+    }
+    const Image& logo = head.image(QStringLiteral("logo"));
+    if (!logo.Picture.isNull())
+        bottom = std::max(bottom, logo.Top + logo.Height);
+    Label& tag = head.label(QStringLiteral("lblTag"));
+    tag.Visible = !tag.Caption.isEmpty();
+    const int aboveTag = HeadingHeight - bottom;
+    const int belowTag = aboveTag + (tag.Visible ? 0 : tag.Height);
+    for (const auto& control : head.controls()) {
+        if (control->Top > tag.Top)
+            control->Top -= belowTag;
+    }
+    tag.Top -= aboveTag;
+    head.Height -= belowTag;
+}

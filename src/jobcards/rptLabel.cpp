@@ -1,0 +1,70 @@
+#include "jobcards/rptLabel.h"
+
+#include "jobcards/PaperDesign.h"
+
+using namespace report;
+
+namespace {
+
+constexpr QSizeF LabelSize(100, 60);
+constexpr int Width = mm(100 - 10);
+constexpr int CaptionWidth = 1250;
+constexpr int RowHeight = 290;
+
+} // namespace
+
+rptLabel::rptLabel()
+    : Report(QStringLiteral("Print Label"))
+{
+    PageSize = LabelSize;
+    LeftMargin = RightMargin = mm(5);
+    TopMargin = BottomMargin = mm(4);
+
+    Section& line = addSection(QStringLiteral("Section1"), Band::Detail);
+    paper::company(line, 0, 0, Width, 12);
+    paper::rule(line, QStringLiteral("Line1"), 0, 340, Width, paper::Ink).Weight = 15;
+    const auto row = [&](const char* label, const char* caption, const char* field, const char* dataField,
+                         int top, int width) -> Field& {
+        paper::caption(line, QLatin1String(label), QLatin1String(caption), 0, top, CaptionWidth);
+        Field& value =
+            paper::value(line, QLatin1String(field), QLatin1String(dataField), CaptionWidth, top, width);
+        value.CanGrow = true;
+        return value;
+    };
+    constexpr int wide = Width - CaptionWidth;
+    int top = 420;
+    Field& job = row("Label2", "Job Card #:", "txtJobID", "JobID", top, 900);
+    job.FontSize = 13;
+    job.Top -= 45;
+    job.Bold = true;
+    job.CanGrow = false;
+    Field& item =
+        paper::value(line, QStringLiteral("Text1"), QStringLiteral("ItemSr"), CaptionWidth + 920, top, 500);
+    paper::caption(line, QStringLiteral("Label1"), QStringLiteral("Date :"), 3200, top, 600);
+    paper::value(line, QStringLiteral("txtDATE"), QStringLiteral("DATE"), 3800, top, Width - 3800,
+                 QStringLiteral("dd-mmm-yy"));
+    top += RowHeight;
+    row("Label3", "Client Name:", "txtClintName", "ClintName", top, wide).Bold = true;
+    top += RowHeight;
+    row("Label4", "Worker Name:", "txtWorkerName", "WorkerName", top, wide);
+    top += RowHeight;
+    row("Label6", "Item Name:", "txtItemName", "ItemName", top, wide).Bold = true;
+    top += RowHeight;
+    row("Label9", "Remark:", "Text2", "Remarks", top, wide);
+    line.Height = top + RowHeight;
+    item.Bold = true;
+}
+
+void rptLabel::numberLabels()
+{
+    const Row& line = rows().front();
+    Section& foot = addSection(QStringLiteral("Section3"), Band::PageFoot, 240);
+    Label& number =
+        paper::caption(foot, QStringLiteral("lblPage"),
+                       QStringLiteral("%1 / %2").arg(line.value(QStringLiteral("JobID")).toString(),
+                                                     line.value(QStringLiteral("ItemSr")).toString()) +
+                           QStringLiteral("  ·  %p of %P"),
+                       0, 0, Width);
+    number.FontSize = 8;
+    number.Alignment = Qt::AlignRight;
+}
