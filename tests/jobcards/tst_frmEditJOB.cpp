@@ -185,13 +185,6 @@ private Q_SLOTS:
             typeFields({"o"});
             QVERIFY(prompts->allMet());
             QCOMPARE(focused(job), "JobDate");
-
-            // The text walks to the left and comes in again at the right edge.
-            auto& text = control<QLabel>(job, "lblLastvisit");
-            const int left = text.x();
-            QTRY_VERIFY(text.x() < left);
-            text.move(-text.width() - 1, text.y());
-            QTRY_VERIFY(text.x() > job.width() / 2);
         });
     }
 
@@ -208,7 +201,6 @@ private Q_SLOTS:
                 return field(job, name).text();
             };
             QCOMPARE(typed("txtAmountPaid", "1x0.5.0"), "10.50");
-            QCOMPARE(field(job, "txtAmount").text(), "389.50");
             QCOMPARE(typed("txtAmountPaid", "401"), "400.00"); // nobody pays more than the total
             QCOMPARE(field(job, "txtAmount").text(), "0.00");
             for (const auto& [keys, total] :

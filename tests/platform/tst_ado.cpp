@@ -117,28 +117,19 @@ private Q_SLOTS:
                 QCOMPARE(rows["VID"].integer(), vid);
             QVERIFY(rows.AtEOF());
         }
-        // What is asked for stays what it was when the query was made.
-        Recordset rows(*m_connection);
-        rows.Open("Select VID from Postings where VID<=2");
-        run("Delete from Postings");
-        QCOMPARE(texts(rows), "1 2");
-    }
-
-    void emptyResult()
-    {
         Recordset rows(*m_connection);
         QVERIFY_THROWS_EXCEPTION(DatabaseError, rows.RecordCount());
-        rows.Open("Select * from Postings where Id=77");
+        rows.Open("Select * from Postings where Id=-1");
         rows.MoveFirst();
         rows.MoveLast();
-        QVERIFY(rows.State() && rows.AtEOF());
-        QCOMPARE(rows.RecordCount(), 0);
+        QVERIFY(rows.AtEOF() && rows.RecordCount() == 0);
         QVERIFY_THROWS_EXCEPTION(NoCurrentRecordError, rows["Amount"].number());
         QVERIFY_THROWS_EXCEPTION(DatabaseError, rows["Amounts"]);
         QVERIFY_THROWS_EXCEPTION(NoCurrentRecordError, rows.Update());
-        rows.Open("Select sum(Amount) from Postings");
-        QVERIFY(rows[0].isNull());
-        QCOMPARE(rows[0].number(), 0.0);
+        // What is asked for stays what it was when the query was made.
+        rows.Open("Select VID from Postings where VID<=2");
+        run("Delete from Postings");
+        QCOMPARE(texts(rows), "1 2");
     }
 
     void storedForms()
@@ -239,17 +230,13 @@ private Q_SLOTS:
             }
             QCOMPARE(walked, 40);
         }
+        // A sum is exact, and null of nothing.
         QCOMPARE(texts("Select sum(Amount) from Postings"), "120");
-    }
-
-    void sumIsExact()
-    {
+        run("Delete from Postings");
+        QCOMPARE(texts("Select sum(Amount) is null from Postings"), "1");
         for (const char* amount : {"0.10", "0.20", "-0.30"})
             addAmounts(1, amount);
-        QCOMPARE(texts("Select sum(Amount) from Postings"), "0");
-        addAmounts(1000, "0.1");
-        addAmounts(1000, "-0.0999");
-        QCOMPARE(texts("Select Sum( Amount ) from Postings"), "0.1");
+        QCOMPARE(texts("Select Sum( Amount ) from Postings"), "0");
     }
 
     void anyTextSurvivesAndComparesWithoutCase()

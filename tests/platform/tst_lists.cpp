@@ -66,20 +66,6 @@ private Q_SLOTS:
              {std::tuple("a", 0, 1), std::tuple("A", 1, 0), std::tuple("bin", 2, 2), std::tuple("a", 99, 0),
               std::tuple("jay", -1, -1), std::tuple("", -1, -1)}) // wraps round
             QCOMPARE(list.findString(prefix, behind), found);
-
-        ListView view;
-        view.setColumns({{"Client", 60}, {"Amount", 40, Qt::AlignRight}});
-        view.addRow({"Asha", "10.00"}, "7|1");
-        view.addRow({"Total"});
-        view.setCell(1, 1, "10.00");
-        view.selectRow(1);
-        view.removeRow(0);
-        QCOMPARE(view.selectedRow(), 0);
-        QCOMPARE(view.cell(0, 1) + view.tag(0), "10.00");
-        QSignalSpy moved(&view, &ListView::selectionMoved);
-        view.Clear();
-        QCOMPARE(view.selectedRow(), -1);
-        QCOMPARE(moved.count(), 1);
     }
 
     void rowsAreLaidFilteredAndAskedForAMenu()
@@ -123,6 +109,13 @@ private Q_SLOTS:
         QCOMPARE(asked[0][0], 300);
         QCOMPARE(asked[2][0], 298);
         QCOMPARE(view.selectedRow(), 298);
+
+        view.removeRow(0);
+        QCOMPARE(view.selectedRow(), 297);
+        QSignalSpy moved(&view, &ListView::selectionMoved);
+        view.Clear();
+        QCOMPARE(view.selectedRow(), -1);
+        QCOMPARE(moved.count(), 1);
     }
 
     void comboKeepsItsTextWhenFilled()
