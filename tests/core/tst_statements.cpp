@@ -51,7 +51,10 @@ private Q_SLOTS:
             {"3 1", "Select * from Postings where status=0 and AccID=5 and date between #10-Feb-2024# and "
                     "#11-Feb-2024#    order by date,vid"},
             {"8", "SELECT Sum(Score) from Jobs_Detail where WorkerID=6"},
-        };
+            {"1 2", "Select ID from Postings where Vid=7and Amount>-2E+3and Amount<1.5or Amount=0--200;"},
+            {"3 4", "Select ID from Postings where VID=1 and Date<#10-Feb-2024 13:05:00#and [Sr]>0"},
+            {"Asha O'Neil",
+             "Select Title from `Accounts` where Title='asha o''neil' and '#1-1-2020# {5and' like '#%'"}};
         for (const auto& [values, sql] : found) {
             QStringList got;
             ado::Recordset rows(DE.connection());
@@ -95,8 +98,11 @@ private Q_SLOTS:
         print.Close();
 
         for (const char* refused :
-             {"Delete from jobs_detail where Id=1,2", "Delete from tmpHead; Delete from JOBS"})
-            QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, Shop::run(refused));
+             {"", " ; ", "Delete from jobs_detail where Id=1,2", "Delete from tmpHead; Delete from JOBS",
+              "Select * from Jobs where Remark='O'Brien'", "Select * from Jobs where Date=#31-31-2024#",
+              "Select * from Jobs where Date=#2024-02-10", "Select * from `Jobs", "SHAPE {Select 1",
+              "SHAPE {Select 1} APPEND ({Select 2} RELATE a b)", "SHAPE {Select 1} AS a COMPUTE b"})
+            QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, print.Open(refused));
         QCOMPARE(DE.connection().Execute("Delete * from tmpHead"), 2);
     }
 
