@@ -1,11 +1,7 @@
-#include "core/Session.h"
-#include "core/Settings.h"
+#include "platform/ado/Connection.h"
+#include "platform/ado/Recordset.h"
 #include "platform/forms/Theme.h"
 #include "support/Files.h"
-#include "support/Modal.h"
-#include "support/Shop.h"
-#include "ui/ModOtherFUN.h"
-#include "ui/frmMsg.h"
 
 #include <QImage>
 #include <QPainter>
@@ -13,47 +9,22 @@
 #include <QTemporaryDir>
 #include <QtTest>
 #include <numeric>
-#include <sqlcipher/sqlite3.h>
 
 namespace {
 
-struct Message
+/// The translators' file: the Hindi, in Unicode, of each English message.
+QMap<QString, QString> readMessages()
 {
+    QMap<QString, QString> messages;
     QString english;
-    QString hindi; // Unicode
-};
-
-/// The translators' file, in order.
-QList<Message> readMessages()
-{
-    QFile file(QStringLiteral(MESSAGES));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QList<Message> messages;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+    for (const QString& line : QString::fromUtf8(contents(MESSAGES)).split(u'\n')) {
         const QString text = line.mid(4).replace("\\r\\n", "\r\n");
         if (line.startsWith("en: "))
-            messages.append({text, {}});
+            english = text;
         else if (line.startsWith("hi: "))
-            messages.last().hindi = text;
+            messages[english] = text;
     }
     return messages;
-}
-
-/// The rows of the table beside the program: what the dialog gets for each message.
-QHash<QString, QString> readTable()
-{
-    sqlite3* database = nullptr;
-    sqlite3_open_v2(PROGRAM_FOLDER "/Lang.mdb", &database, SQLITE_OPEN_READONLY, nullptr);
-    QHash<QString, QString> table;
-    const auto addRow = [](void* rows, int, char** values, char**) {
-        static_cast<QHash<QString, QString>*>(rows)->insert(QString::fromUtf8(values[0]),
-                                                            QString::fromUtf8(values[1]));
-        return 0;
-    };
-    sqlite3_exec(database, "Select EngMessage, HindiMessage from messages", addRow, &table, nullptr);
-    sqlite3_close(database);
-    return table;
 }
 
 /// Black on white in the font that the dialog asks for, large enough for a reader of print.
@@ -129,46 +100,30 @@ private Q_SLOTS:
 
     void everyMessage()
     {
-        const QList<Message> messages = readMessages();
+        const QMap<QString, QString> messages = readMessages();
         QVERIFY(messages.size() > 50);
-        const QHash<QString, QString> table = readTable();
-        QCOMPARE(table.size(), messages.size());
+        ado::Connection beside; // the table beside the program: what the dialog gets for each message
+        beside.open(PROGRAM_FOLDER "/Lang.mdb", {}, ado::Connection::Mode::ReadOnly);
+        ado::Recordset table(beside, "messages");
+        table.Open();
+        QCOMPARE(table.RecordCount(), messages.size());
+        QStringList english;
         QList<QImage> pages;
-        for (const Message& message : messages)
-            pages.append(rendered(table.value(message.english)));
-
+        for (; !table.AtEOF(); table.MoveNext()) {
+            english << table["EngMessage"].text();
+            pages << rendered(table["HindiMessage"].text());
+        }
         const QStringList read = readAloud(pages);
         QCOMPARE(read.size(), messages.size());
         double sum = 0;
-        for (qsizetype i = 0; i < messages.size(); ++i) {
-            const double alike = similarity(letters(messages[i].hindi), letters(read[i]));
+        for (qsizetype i = 0; i < read.size(); ++i) {
+            const QString hindi = messages.value(english[i]);
+            const double alike = similarity(letters(hindi), letters(read[i]));
             sum += alike;
-            QVERIFY2(alike >= 0.85,
-                     qPrintable(messages[i].english + ": " + messages[i].hindi + " reads as " + read[i]));
+            QVERIFY2(alike >= 0.85, qPrintable(english[i] + ": " + hindi + " reads as " + read[i]));
         }
         const double average = sum / double(messages.size());
         QVERIFY2(average >= 0.97, qPrintable(QString::number(average)));
-    }
-
-    void dialogOnScreen()
-    {
-        const Shop shop;
-        QVERIFY(QFile::copy(PROGRAM_FOLDER "/Lang.mdb", session.languageDatabasePath()));
-        SetSetting(0, "Hindi");
-        session.Language = "Hindi";
-        QImage page;
-        onNextModal<frmMsg>([&page](frmMsg& dialog) {
-            constexpr int larger = 3; // print size: what a screen shows is small for a text reader
-            page = QImage(dialog.size() * larger, QImage::Format_RGB32);
-            QPainter painter(&page);
-            painter.scale(larger, larger);
-            dialog.render(&painter);
-        });
-        ShowMsg("This Job has been registered.\r\nWould you like to Inform Client via SMS?", 2);
-        session.Language = "English";
-        const QString read = letters(readAloud({page}).value(0));
-        for (const char* words : {"सुचना", "यह जॉब कार्ड दर्ज हो गया है", "क्या आप ग्राहक को"})
-            QVERIFY2(read.contains(letters(words)), qPrintable(read));
     }
 };
 
