@@ -44,15 +44,6 @@ private Q_SLOTS:
         }
         Shop::run("Delete * from Settings");
         QVERIFY(!CheckDatabaseVersion());
-
-        const QString card =
-            "Insert into JOBS (DATE, DeliveryDate, trialdate, ClintID, ClintName, AmountDue, "
-            "AmountPaid, JOBFINISHED, Status, CancelReason%1) values "
-            "('2024-02-10', '2024-02-10', '2024-02-10', 0, '', 0, 0, 0, 0, ''%2)";
-        QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, Shop::run(card.arg("", ""))); // no remark
-        Shop::run(card.arg(", Remark", ", ''"));
-        Shop::run(card.arg(", Remark", ", ''"));
-        QCOMPARE(Shop::count("Select * from jobs where id=1"), 2); // nothing in the file forbids it
     }
 
     /// What a lost database has left behind does the new one no harm, and nothing of the making stays.
@@ -92,9 +83,6 @@ private Q_SLOTS:
         SetSetting(6, {});
         QCOMPARE(GetSetting(6, "default"), QString());
 
-        LoadSessionDefaults();
-        QCOMPARE(session.WorkingDate, QDate(2011, 4, 1));
-        QCOMPARE(session.Language, "English");
         SetSetting(0, "Hindi");
         for (const auto& [stored, date] :
              {std::pair("2023-12-31", QDate(2023, 12, 31)), std::pair("no date at all", QDate(2011, 4, 1))}) {
