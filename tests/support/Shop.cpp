@@ -21,18 +21,6 @@ const QString& emptyShop()
     return path;
 }
 
-qint32 addAccount(const QString& title, int type, const QString& mobile)
-{
-    ado::Recordset rows(DE.connection());
-    rows.Open(QStringLiteral("Select * from Accounts"));
-    rows.AddNew();
-    rows["Title"] = title;
-    rows["Type"] = type;
-    rows["Mobile"] = mobile;
-    rows.Update();
-    return rows["ID"].integer();
-}
-
 } // namespace
 
 Shop::Shop()
@@ -57,58 +45,65 @@ void Shop::reopen()
     session.WorkingDate = QDate(2024, 2, 10);
 }
 
-qint32 Shop::addClient(const QString& title, const QString& mobile) { return addAccount(title, 0, mobile); }
+qint32 Shop::add(const QString& table, const std::vector<std::pair<const char*, QVariant>>& fields)
+{
+    ado::Recordset rows(DE.connection());
+    rows.Open("Select * from " + table);
+    rows.AddNew();
+    for (const auto& [field, value] : fields)
+        rows[field] = value;
+    rows.Update();
+    return rows["ID"].integer();
+}
 
-qint32 Shop::addWorker(const QString& title) { return addAccount(title, 1, {}); }
+qint32 Shop::addClient(const QString& title, const QString& mobile)
+{
+    return add("Accounts", {{"Title", title}, {"Type", 0}, {"Mobile", mobile}});
+}
+
+qint32 Shop::addWorker(const QString& title)
+{
+    return add("Accounts", {{"Title", title}, {"Type", 1}, {"Mobile", QString()}});
+}
 
 qint32 Shop::addItem(const QString& name, double fees, double workerFees, const QString& details)
 {
-    ado::Recordset rows(DE.connection());
-    rows.Open(QStringLiteral("Select * from Items"));
-    rows.AddNew();
-    rows["Name"] = name;
-    rows["Fees"] = fees;
-    rows["WorkerFees"] = workerFees;
-    rows["ItemDetails"] = details;
-    rows.Update();
-    return rows["ID"].integer();
+    return add("Items",
+               {{"Name", name}, {"Fees", fees}, {"WorkerFees", workerFees}, {"ItemDetails", details}});
 }
 
 qint32 Shop::addJobLine(qint32 client, qint32 item, qint32 worker)
 {
-    ado::Recordset rows(DE.connection());
-    rows.Open(QStringLiteral("Select * from JOBS_DETAIL"));
-    rows.AddNew();
-    for (const char* field : {"DATE", "JobDelDate", "CuttingDate"})
-        rows[field] = session.WorkingDate;
-    for (const char* field : {"JobID", "QNT", "FEES", "Amount"})
-        rows[field] = 1;
-    for (const char* field : {"ClintName", "ItemName", "Remarks", "ItemDetails", "ItemDetailsValue"})
-        rows[field] = QString();
-    rows["ClintID"] = client;
-    rows["ItemID"] = item;
-    rows["WorkerID"] = worker;
-    rows.Update();
-    return rows["ID"].integer();
+    const QDate day = session.WorkingDate;
+    return add("Jobs_Detail", {{"Date", day},
+                               {"JobDelDate", day},
+                               {"CuttingDate", day},
+                               {"JobID", 1},
+                               {"QNT", 1},
+                               {"FEES", 1},
+                               {"Amount", 1},
+                               {"ClintName", ""},
+                               {"ItemName", ""},
+                               {"Remarks", ""},
+                               {"ItemDetails", ""},
+                               {"ItemDetailsValue", ""},
+                               {"ClintID", client},
+                               {"ItemID", item},
+                               {"WorkerID", worker}});
 }
 
 void Shop::addVoucher(qint32 vid, qint32 main, qint32 ref, double amount)
 {
-    ado::Recordset rows(DE.connection());
-    rows.Open(QStringLiteral("Select * from Postings"));
-    for (const int line : {1, 2}) {
-        rows.AddNew();
-        rows["VID"] = vid;
-        rows["vType"] = 2;
-        rows["Sr"] = line;
-        rows["Date"] = session.WorkingDate;
-        rows["particulars"] = QStringLiteral("Receipt");
-        rows["Remark"] = QString();
-        rows["accID"] = line == 1 ? main : ref;
-        rows["refID"] = line == 1 ? ref : main;
-        rows["Amount"] = line == 1 ? amount : -amount;
-        rows.Update();
-    }
+    for (const int line : {1, 2})
+        add("Postings", {{"VID", vid},
+                         {"vType", 2},
+                         {"Sr", line},
+                         {"Date", session.WorkingDate},
+                         {"particulars", "Receipt"},
+                         {"Remark", ""},
+                         {"accID", line == 1 ? main : ref},
+                         {"refID", line == 1 ? ref : main},
+                         {"Amount", line == 1 ? amount : -amount}});
 }
 
 QVariant Shop::value(const QString& sql)

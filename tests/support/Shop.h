@@ -3,6 +3,10 @@
 #include <QDate>
 #include <QString>
 #include <QTemporaryDir>
+#include <QVariant>
+
+#include <utility>
+#include <vector>
 
 /// A fresh shop in a temporary folder of its own, opened as the program opens it: real encrypted file,
 /// working date 10 February 2024. One at a time; gone with the object.
@@ -19,6 +23,7 @@ public:
     void reopen();
 
     /// Lay a record and give back its Id.
+    static qint32 add(const QString& table, const std::vector<std::pair<const char*, QVariant>>& fields);
     qint32 addClient(const QString& title, const QString& mobile = {});
     qint32 addWorker(const QString& title);
     qint32 addItem(const QString& name, double fees = 100, double workerFees = 40,
