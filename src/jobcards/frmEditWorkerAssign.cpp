@@ -5,6 +5,7 @@
 #include "core/Session.h"
 #include "core/Settings.h"
 #include "jobcards/ItemColor.h"
+#include "jobcards/MODPrintJOBCARD.h"
 #include "media/frmPreview.h"
 #include "messaging/modSMS.h"
 #include "messaging/swSMS.h"
@@ -68,7 +69,9 @@ frmEditWorkerAssign::frmEditWorkerAssign()
 
     on(ui->Command1, &QPushButton::clicked, &frmEditWorkerAssign::Command1_Click);
     on(ui->Command2, &QPushButton::clicked, &frmEditWorkerAssign::Command2_Click);
+    on(ui->Command3, &QPushButton::clicked, [this] { PrintWorkerSlip(LineID); });
     on(ui->Command4, &QPushButton::clicked, &frmEditWorkerAssign::Command4_Click);
+    on(ui->Command7, &QPushButton::clicked, [this] { PrintLabel(LineID); });
     const auto print = [](const QString& imgPath) { report::printPicture(imgPath, 100, 100); };
     on(ui->Command5, &QPushButton::clicked, [this, print] { print(Img1Path); });
     on(ui->Command6, &QPushButton::clicked, [this, print] { print(Img2Path); });
