@@ -4,6 +4,7 @@
 #include "jobcards/frmEditWorkerAssign.h"
 #include "media/frmPreview.h"
 #include "platform/ado/DatabaseError.h"
+#include "platform/report/Preview.h"
 #include "platform/values/Errors.h"
 #include "support/ShopTest.h"
 #include "ui/swTextBoxMultiLine.h"
@@ -111,6 +112,8 @@ private Q_SLOTS:
             QTest::mouseDClick(&control<PictureBox>(screen, "pic2"),
                                Qt::LeftButton); // a folder is no picture
 
+            onNextModal<report::Preview>([](report::Preview&) {});
+            press(Qt::Key_P, Qt::ControlModifier);
             click(screen, "lblHideShow");
         });
         onLine([](frmEditWorkerAssign& screen) {
