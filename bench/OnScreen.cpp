@@ -15,15 +15,12 @@ void onScreen(forms::Screen& screen, const std::function<void()>& open, const st
     open();
 }
 
-void pressKey(int key, const QString& text)
+void pressKey(QWidget& control, int key, const QString& text)
 {
-    QWidget* target = QApplication::focusWidget();
-    if (!target)
-        qFatal("no control has the focus");
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QApplication::sendEvent(target, &press);
+    QApplication::sendEvent(&control, &press);
     QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
-    QApplication::sendEvent(target, &release);
+    QApplication::sendEvent(&control, &release);
 }
 
 void paint(QWidget& screen)

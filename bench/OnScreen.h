@@ -7,8 +7,8 @@
 /// Runs `work` while the screen stands open, painted and active: `open` shows it modally, it is closed then.
 void onScreen(forms::Screen& screen, const std::function<void()>& open, const std::function<void()>& work);
 
-/// A key, down and up, to the control that has the focus.
-void pressKey(int key, const QString& text = {});
+/// A key, down and up, to a control.
+void pressKey(QWidget& control, int key, const QString& text = {});
 
 /// Lays out and paints what has changed, as the next turn of the event loop does.
 void paint(QWidget& screen);

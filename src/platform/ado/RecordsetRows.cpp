@@ -9,6 +9,23 @@ namespace {
 /// A result of up to so many rows is read at once and keeps no lock on the file.
 constexpr size_t rowsReadAhead = 16;
 
+/// Names of columns are plain ASCII: compared without the tables of all letters.
+bool sameName(const QString& column, QAnyStringView name)
+{
+    if (column.size() != name.size())
+        return false;
+    return name.visit([&column](auto letters) {
+        for (qsizetype i = 0; i < letters.size(); ++i) {
+            const auto lower = [](char16_t letter) {
+                return letter >= u'A' && letter <= u'Z' ? char16_t(letter + (u'a' - u'A')) : letter;
+            };
+            if (lower(column[i].unicode()) != lower(char16_t(QChar(letters[i]).unicode())))
+                return false;
+        }
+        return true;
+    });
+}
+
 } // namespace
 
 // The rows of the query
@@ -28,10 +45,8 @@ void Recordset::Private::requireWritable() const
 int Recordset::Private::columnIndex(QAnyStringView name) const
 {
     const auto first = columns->begin() + hiddenColumns;
-    const auto found = std::find_if(first, columns->end(), [name](const Column& column) {
-        return column.name.size() == name.size() &&
-               QAnyStringView::compare(column.name, name, Qt::CaseInsensitive) == 0;
-    });
+    const auto found = std::find_if(first, columns->end(),
+                                    [name](const Column& column) { return sameName(column.name, name); });
     return found == columns->end() ? -1 : static_cast<int>(found - first);
 }
 

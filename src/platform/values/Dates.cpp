@@ -4,34 +4,66 @@
 
 #include <QLocale>
 #include <QRegularExpression>
+#include <array>
 
 namespace values {
 
 namespace {
 
-/// 1 to 12 for an English month name, whole or of three letters, in any case; 0 for anything else.
+/// The English names, whole and of three letters; number 1 is January's.
+const QString& monthName(int month, QLocale::FormatType form)
+{
+    using Names = std::array<QString, 12>;
+    const auto namesOf = [](QLocale::FormatType format) {
+        Names names;
+        for (int i = 0; i < 12; ++i)
+            names[size_t(i)] = QLocale::c().monthName(i + 1, format);
+        return names;
+    };
+    static const Names whole = namesOf(QLocale::LongFormat);
+    static const Names three = namesOf(QLocale::ShortFormat);
+    return (form == QLocale::LongFormat ? whole : three)[size_t(month - 1)];
+}
+
+/// 1 to 12 for a month's name in any case; 0 for anything else.
 int monthNumber(const QString& name)
 {
-    const QLocale english = QLocale::c();
     for (int month = 1; month <= 12; ++month) {
-        if (name.compare(english.monthName(month, QLocale::LongFormat), Qt::CaseInsensitive) == 0 ||
-            name.compare(english.monthName(month, QLocale::ShortFormat), Qt::CaseInsensitive) == 0)
+        if (name.compare(monthName(month, QLocale::LongFormat), Qt::CaseInsensitive) == 0 ||
+            name.compare(monthName(month, QLocale::ShortFormat), Qt::CaseInsensitive) == 0)
             return month;
     }
     return 0;
 }
 
+/// A date as the file keeps it, "2024-02-10"; invalid for any other text.
+QDate readStored(const QString& text)
+{
+    if (text.size() != 10 || text[4] != QLatin1Char('-') || text[7] != QLatin1Char('-'))
+        return {};
+    int numbers[3] = {};
+    for (int i = 0, part = 0; i < 10; ++i) {
+        const ushort letter = text[i].unicode();
+        if (i == 4 || i == 7)
+            ++part;
+        else if (letter >= '0' && letter <= '9')
+            numbers[part] = 10 * numbers[part] + (letter - '0');
+        else
+            return {};
+    }
+    return QDate(numbers[0], numbers[1], numbers[2]);
+}
+
 QString formatRun(const QDate& date, QChar letter, qsizetype length)
 {
-    const QLocale english = QLocale::c();
     const auto digits = [](int number, qsizetype width) {
         return QString::number(number).rightJustified(width, QLatin1Char('0'));
     };
     const auto nameFormat = length == 3 ? QLocale::ShortFormat : QLocale::LongFormat;
     if (letter == QLatin1Char('d'))
-        return length <= 2 ? digits(date.day(), length) : english.dayName(date.dayOfWeek(), nameFormat);
+        return length <= 2 ? digits(date.day(), length) : QLocale::c().dayName(date.dayOfWeek(), nameFormat);
     if (letter == QLatin1Char('m'))
-        return length <= 2 ? digits(date.month(), length) : english.monthName(date.month(), nameFormat);
+        return length <= 2 ? digits(date.month(), length) : monthName(date.month(), nameFormat);
     return length <= 2 ? digits(date.year() % 100, 2) : digits(date.year(), 4);
 }
 
@@ -41,6 +73,8 @@ QString CStr(const QDate& date) { return date.toString(Qt::ISODate); }
 
 QDate readDate(const QString& text)
 {
+    if (const QDate stored = readStored(text); stored.isValid())
+        return stored;
     static const QString time =
         QStringLiteral("(?:[ T]+\\d{1,2}:\\d{2}(?::\\d{2}(?:\\.\\d+)?)?(?: ?[AaPp][Mm])?)?");
     static const QRegularExpression yearFirst(QStringLiteral("^(\\d{4})[-/](\\d{1,2})[-/](\\d{1,2})") + time +

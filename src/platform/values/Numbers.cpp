@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <cmath>
 #include <limits>
+#include <map>
 
 namespace values {
 
@@ -138,6 +139,27 @@ struct NumberPattern
     int maxPlaces = 0;
 };
 
+/// A pattern: the section for all numbers, and its own for negative ones where it has one.
+struct Pattern
+{
+    explicit Pattern(const QString& pattern)
+        : main(pattern.section(QLatin1Char(';'), 0, 0))
+        , negative(pattern.section(QLatin1Char(';'), 1, 1))
+        , hasNegative(!pattern.section(QLatin1Char(';'), 1, 1).isEmpty())
+    {
+    }
+    NumberPattern main;
+    NumberPattern negative;
+    bool hasNegative;
+};
+
+/// The patterns are the program's own and few: each is parsed once.
+const Pattern& parsed(const QString& pattern)
+{
+    static std::map<QString, Pattern> known;
+    return known.try_emplace(pattern, pattern).first->second;
+}
+
 } // namespace
 
 double Val(const QString& text)
@@ -167,16 +189,13 @@ QString Format(double number, const QString& pattern)
 {
     if (!std::isfinite(number))
         throw OverflowError();
-    const NumberPattern main(pattern.section(QLatin1Char(';'), 0, 0));
-    const QString negativeSection = pattern.section(QLatin1Char(';'), 1, 1);
-    const NumberPattern negative(negativeSection);
-
+    const Pattern& sections = parsed(pattern);
     Decimal rounded(number);
-    const bool ownSection = rounded.negative && !negativeSection.isEmpty();
-    rounded.round((ownSection ? negative : main).maxPlaces, Decimal::Half::AwayFromZero);
+    const bool ownSection = rounded.negative && sections.hasNegative;
+    rounded.round((ownSection ? sections.negative : sections.main).maxPlaces, Decimal::Half::AwayFromZero);
     if (!rounded.negative || rounded.isZero())
-        return main.text(rounded);
-    return ownSection ? negative.text(rounded) : QLatin1Char('-') + main.text(rounded);
+        return sections.main.text(rounded);
+    return ownSection ? sections.negative.text(rounded) : QLatin1Char('-') + sections.main.text(rounded);
 }
 
 QString formatMoneyText(const QString& text) { return Format(Val(text), QStringLiteral("0.00")); }

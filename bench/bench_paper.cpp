@@ -1,0 +1,58 @@
+#include "FullShop.h"
+#include "core/DE.h"
+#include "core/Session.h"
+#include "jobcards/JobCard.h"
+#include "jobcards/MODPrintJOBCARD.h"
+#include "platform/forms/Theme.h"
+#include "platform/report/Pages.h"
+#include "platform/report/Pdf.h"
+
+#include <QApplication>
+#include <benchmark/benchmark.h>
+
+// A job card of 40 lines, from the file to a PDF: meant to take less than 200 ms.
+
+namespace {
+
+constexpr int lines = 40;
+
+qint32 longCard()
+{
+    JobCard card;
+    for (int i = 0; i < lines; ++i)
+        card.JobRows.AddNewRow(0, FullShop::garments()[i % FullShop::garments().size()], i % 20 + 1, 1, 350,
+                               350, QStringLiteral("For the wedding party, with the shop's own cloth"), {},
+                               {}, 0, {}, {}, {}, {}, {}, 0, 0, 0, {}, {}, {}, QStringLiteral("16777215"), 0,
+                               {}, {});
+    JobCardHead head;
+    head.Number = JobCard::GetNewNum();
+    head.Date = head.DeliveryDate = head.TrialDate = session.WorkingDate;
+    head.Client = FullShop::clients().first();
+    head.Total = Currency::fromDouble(350 * lines);
+    card.SaveNew(head);
+    return card.CurrentJobID;
+}
+
+void cardToPdf(benchmark::State& state)
+{
+    const qint32 card = longCard();
+    for (auto _ : state) {
+        const std::unique_ptr<report::Report> paper = JobCardPaper(card);
+        const report::Pages pages(*paper);
+        state.counters["pages"] = pages.count();
+        state.counters["bytes"] = static_cast<double>(report::pdf(pages, QStringLiteral("Job card")).size());
+    }
+}
+
+} // namespace
+
+BENCHMARK(cardToPdf)->Unit(benchmark::kMillisecond);
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    const FullShop shop;
+    forms::applyTheme(application, QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/fonts"));
+    benchmark::RunSpecifiedBenchmarks();
+}
