@@ -54,6 +54,7 @@ rptJOBCARD::rptJOBCARD()
     Section& pageFoot = addSection(QStringLiteral("Section3"), Band::PageFoot, 260);
     Label& number =
         paper::caption(pageFoot, QStringLiteral("lblPage"), QStringLiteral("Page %p of %P"), Left, 0, Width);
+    number.CountsPages = true;
     number.FontSize = 8;
     number.Alignment = Qt::AlignRight;
     addSection(QStringLiteral("Section5"), Band::ReportFoot);

@@ -65,6 +65,7 @@ void rptLabel::numberLabels()
                                                      line.value(QStringLiteral("ItemSr")).toString()) +
                            QStringLiteral("  ·  %p of %P"),
                        0, 0, Width);
+    number.CountsPages = true;
     number.FontSize = 8;
     number.Alignment = Qt::AlignRight;
 }

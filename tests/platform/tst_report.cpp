@@ -50,7 +50,9 @@ public:
         body.addField("txtAmount", "Amount", "#,##0.00;(#,##0.00)").place(0, 350, 2000, 300);
         body.addField("txtDay", "Day", "dd-mmm-yy").place(2000, 350, 2000, 300);
         addSection("Foot", Band::Foot, 400).addLabel("lblTotal", "Total").place(0, 0, 2000, 300);
-        addSection("Page", Band::PageFoot, 400).addLabel("lblPage", "%p/%P").place(0, 0, 2000, 300);
+        Label& number = addSection("Page", Band::PageFoot, 400).addLabel("lblPage", "%p/%P");
+        number.place(0, 0, 2000, 300);
+        number.CountsPages = true;
         Row bill;
         bill.details = std::move(lines);
         setDataSource({bill});
@@ -158,10 +160,13 @@ void tst_report::printsALongTextWhole()
 void tst_report::findsControlsByName()
 {
     Bill bill({});
-    bill.section("head").label("LBLCOMPANY").Caption = "Other";
-    QVERIFY(Pages(bill).texts(0).contains("Other"));
+    bill.section("head").label("LBLCOMPANY").Caption = "100%pure";
+    QVERIFY(Pages(bill).texts(0).contains("100%pure"));
     QVERIFY_THROWS_EXCEPTION(std::logic_error, bill.section("Head").field("lblCompany"));
     QVERIFY_THROWS_EXCEPTION(std::logic_error, bill.section("Side"));
+    bill.setDataSource({line("Shirt")});
+    bill.section("Head").addField("txtLost", "Lost");
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, Pages{bill});
 }
 
 void tst_report::savesFilesWholeOrNotAtAll()

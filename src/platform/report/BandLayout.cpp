@@ -147,7 +147,7 @@ PlacedBand BandLayout::run()
 double BandLayout::place(const Control& control, double top)
 {
     if (const auto* label = dynamic_cast<const Label*>(&control))
-        return place(*label, label->Caption, true, top);
+        return place(*label, label->Caption, label->CountsPages, top);
     if (const auto* field = dynamic_cast<const Field*>(&control))
         return place(*field, formatted(m_row.value(field->DataField), field->Format), false, top);
     const QRectF at(control.Left, top, control.Width, control.Height);

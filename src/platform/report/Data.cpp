@@ -4,6 +4,8 @@
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
 
+#include <stdexcept>
+
 namespace report {
 
 namespace {
@@ -31,7 +33,11 @@ bool isOfDates(const QString& format) { return format.contains(u'y', Qt::CaseIns
 QVariant Row::value(const QString& field) const
 {
     const auto found = m_values.find(field.toLower());
-    return found == m_values.end() ? QVariant() : found->second;
+    if (found != m_values.end())
+        return found->second;
+    if (!m_values.empty())
+        throw std::logic_error(QStringLiteral("No field %1 in the report's rows").arg(field).toStdString());
+    return {};
 }
 
 std::vector<Row> readRows(ado::Recordset& rows, const QString& chapter) { return allRows(rows, chapter); }

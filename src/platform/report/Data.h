@@ -16,7 +16,8 @@ class Row
 {
 public:
     void set(const QString& field, const QVariant& value) { m_values[field.toLower()] = value; }
-    /// An invalid variant for a field that the row does not have.
+    /// Throws std::logic_error for a field that the row does not have. A row without any field stands for no
+    /// row at all and has null in all of them.
     QVariant value(const QString& field) const;
 
     std::vector<Row> details;

@@ -38,7 +38,8 @@ QByteArray pdf(const Pages& pages, const QString& title, int first, int last)
 void saveFile(const QByteArray& content, const QString& path)
 {
     QSaveFile file(path);
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    const bool written =
+        file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(content) == content.size();
     if (!written || !file.commit())
         throw OperatorError(QDir::toNativeSeparators(path) + QStringLiteral("\n\n") + file.errorString());
 }

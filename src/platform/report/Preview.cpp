@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QStandardPaths>
 
 namespace report {
 
@@ -170,6 +171,7 @@ void Preview::saveAsPdf()
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     dialog.selectFile(m_report.Title + QStringLiteral(".pdf"));
     if (dialog.exec() == QDialog::Accepted)
         saveFile(pdf(m_pages, m_report.Title), dialog.selectedFiles().constFirst());

@@ -17,6 +17,7 @@ namespace {
 
 constexpr int twipsPerPixel = 15;
 constexpr QSize finestPicture{4096, 4096};
+constexpr int lastWait = 500; ///< for a program that has been told to stop
 
 int patience = 10'000;
 
@@ -29,13 +30,17 @@ void tellFailure(const QString& text)
     waiting << text;
     if (waiting.size() > 1)
         return;
-    while (!waiting.isEmpty()) {
-        forms::showError(forms::Screen::front(), waiting.first());
-        waiting.removeFirst();
-    }
+    const auto tell = [] {
+        while (!waiting.isEmpty()) {
+            forms::showError(forms::Screen::front(), waiting.first());
+            waiting.removeFirst();
+        }
+    };
+    QMetaObject::invokeMethod(qApp, tell, Qt::QueuedConnection);
 }
 
-/// One run of a program of the print system, under a time limit. It deletes itself when it has ended.
+/// One run of a program of the print system, under a time limit. It deletes itself when the program has
+/// ended. A program that is being handed paper when Seamwise closes is given the rest of its time.
 class SpoolerRun : public QObject
 {
 public:
@@ -44,16 +49,23 @@ public:
 
     SpoolerRun(const QString& program, const QStringList& arguments, const QByteArray& input, Ended ended)
         : QObject(qApp)
+        , m_takesPaper(!input.isEmpty())
         , m_ended(std::move(ended))
     {
         connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-            if (error == QProcess::FailedToStart)
-                end(End::Missing);
+            if (error == QProcess::FailedToStart) {
+                tell(End::Missing);
+                deleteLater();
+            }
         });
         connect(&m_process, &QProcess::finished, this, [this](int code, QProcess::ExitStatus status) {
-            end(status == QProcess::NormalExit && code == 0 ? End::Done : End::Refused);
+            tell(status == QProcess::NormalExit && code == 0 ? End::Done : End::Refused);
+            deleteLater();
         });
-        connect(&m_limit, &QTimer::timeout, this, [this] { end(End::Silent); });
+        connect(&m_limit, &QTimer::timeout, this, [this] {
+            tell(End::Silent);
+            m_process.kill();
+        });
         m_limit.setSingleShot(true);
         m_limit.start(patience);
         m_process.start(program, arguments);
@@ -63,23 +75,28 @@ public:
     ~SpoolerRun() override
     {
         m_process.disconnect();
+        if (m_process.state() == QProcess::NotRunning)
+            return;
+        m_process.waitForFinished(m_takesPaper ? std::max(0, m_limit.remainingTime()) : 0);
         m_process.kill();
+        m_process.waitForFinished(lastWait);
     }
 
 private:
-    void end(End how)
+    /// Once: what comes behind the time limit is the end of a program that was stopped.
+    void tell(End how)
     {
         if (!m_ended)
             return;
         m_limit.stop();
         const QByteArray output = m_process.readAllStandardOutput();
         const QString complaint = QString::fromLocal8Bit(m_process.readAllStandardError()).trimmed();
-        deleteLater();
         std::exchange(m_ended, nullptr)(how, output, complaint);
     }
 
     QProcess m_process;
     QTimer m_limit;
+    const bool m_takesPaper;
     Ended m_ended;
 };
 

@@ -55,11 +55,12 @@ struct TextControl : Control
     bool CanGrow = false;
 };
 
-/// A fixed text. In it "%p" stands for the page's number and "%P" for the number of pages.
 struct Label : TextControl
 {
     using TextControl::TextControl;
     QString Caption;
+    /// In the caption "%p" stands for the page's number and "%P" for the number of pages.
+    bool CountsPages = false;
 };
 
 /// A field of the section's row.
