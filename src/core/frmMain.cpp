@@ -14,6 +14,7 @@
 #include "platform/forms/Icons.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
+#include "registers/frmWorkerJobRegister.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
 #include "ui_frmMain.h"
@@ -41,6 +42,7 @@ frmMain::frmMain()
 
     on(ui->cmdCreateJOB, &QPushButton::clicked, [] { frmEditJOB().ShowAddNew(); });
     on(ui->cmdCreateNewClint, &QPushButton::clicked, [] { frmMasters().showModal(); });
+    on(ui->Command2, &QPushButton::clicked, [] { frmWorkerJobRegister().showModal(); });
     on(ui->Command8, &QPushButton::clicked, [] { frmMenu().showModal(); });
     on(ui->Command5, &QPushButton::clicked, [] { frmShopINFO().showModal(); });
     on(ui->Command7, &QPushButton::clicked, [] { frmSettings().showModal(); });

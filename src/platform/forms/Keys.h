@@ -12,6 +12,8 @@ inline constexpr int Tab = 9;
 inline constexpr int Enter = 13;
 inline constexpr int Escape = 27;
 inline constexpr int CtrlA = 1;
+inline constexpr int CtrlD = 4;
+inline constexpr int CtrlF = 6;
 inline constexpr int CtrlP = 16;
 inline constexpr int CtrlS = 19;
 inline constexpr int Blank = 32;
@@ -26,6 +28,9 @@ inline constexpr int Right = 39;
 inline constexpr int Down = 40;
 inline constexpr int Delete = 46;
 inline constexpr int F1 = 112; // F2 is 113, and so on
+inline constexpr int F6 = F1 + 5;
+inline constexpr int F7 = F1 + 6;
+inline constexpr int F8 = F1 + 7;
 } // namespace key
 
 /// The character code of a key event (Unicode beyond the control codes); 0 when the key makes no character.

@@ -1,0 +1,156 @@
+#include "registers/LineRegister.h"
+
+#include "core/DE.h"
+#include "core/Lookups.h"
+#include "core/Session.h"
+#include "platform/forms/ComboBox.h"
+#include "platform/forms/DatePicker.h"
+#include "platform/forms/MessageBox.h"
+#include "platform/values/Numbers.h"
+#include "ui/ModOtherFUN.h"
+
+#include <QPainter>
+#include <QPixmapCache>
+#include <QScopeGuard>
+
+namespace {
+
+const QString allWorkers = QStringLiteral("*All");
+constexpr int totalColumn = 2;
+constexpr QRgb totalColour = 0xFFFF0000;
+
+/// Calm colours that tell the states apart at a glance: waiting, ready, gone, back on the table, void.
+constexpr QRgb stateColours[] = {0xFFE0A030, 0xFF2E9E6B, 0xFF9AA5B1, 0xFFD9704A, 0xFF5B6470};
+
+} // namespace
+
+qint32 tagOf(const forms::ListView& list, int row) { return values::CLng(values::Val(list.tag(row))); }
+
+QPixmap statusDot(qint32 state)
+{
+    constexpr int size = 10;
+    if (state < 0 || state >= qint32(std::size(stateColours)))
+        return {};
+    const qreal ratio = qApp->devicePixelRatio();
+    const QString name = QStringLiteral("statusDot %1 %2").arg(state).arg(ratio);
+    QPixmap dot;
+    if (QPixmapCache::find(name, &dot))
+        return dot;
+    dot = QPixmap(QSize(size, size) * ratio);
+    dot.setDevicePixelRatio(ratio);
+    dot.fill(Qt::transparent);
+    QPainter painter(&dot);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(stateColours[state]));
+    painter.drawEllipse(QRectF(0.5, 0.5, size - 1, size - 1));
+    painter.end();
+    QPixmapCache::insert(name, dot);
+    return dot;
+}
+
+// Opening
+
+void LineRegister::resetCriteria()
+{
+    m_criteria.from->setValue(session.WorkingDate);
+    m_criteria.to->setValue(session.WorkingDate);
+    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where type=%1").arg(1),
+             *m_criteria.worker, DE.rsaccounts);
+    m_criteria.worker->insertItem(0, allWorkers);
+    m_criteria.worker->setText(allWorkers);
+    m_criteria.condition->setListIndex(0);
+    SearchMode = QStringLiteral("C");
+    ReturnIndex = 0;
+}
+
+void LineRegister::Form_Activate()
+{
+    if (!session.RefreshLists || m_opening)
+        return;
+    keepPosition();
+    conditionStep();
+}
+
+// Filling
+
+void LineRegister::orderDates()
+{
+    if (m_criteria.from->value() > m_criteria.to->value())
+        m_criteria.to->setValue(m_criteria.from->value());
+}
+
+void LineRegister::showLines(const std::function<void(std::vector<forms::ListView::Row>&)>& read)
+{
+    session.RefreshLists = false; // also if it fails: once told, the fault isn't told at each activation
+    std::vector<forms::ListView::Row> rows;
+    try {
+        read(rows);
+    } catch (...) {
+        m_criteria.list->setRows(std::move(rows));
+        throw;
+    }
+    rows.push_back(totalRow(rows.size()));
+    m_criteria.list->setRows(std::move(rows));
+}
+
+void LineRegister::keepLines(const std::function<bool(const QStringList&)>& stays)
+{
+    m_criteria.list->keepRows([&stays](const forms::ListView::Row& row) { return stays(row.cells); });
+    m_criteria.list->addRow(totalRow(size_t(m_criteria.list->rowCount())));
+}
+
+forms::ListView::Row LineRegister::totalRow(size_t lines) const
+{
+    forms::ListView::Row total;
+    for (int column = 0; column < m_criteria.list->model()->columnCount(); ++column)
+        total.cells << QStringLiteral(" ");
+    total.cells[totalColumn] = QStringLiteral("Total JOBS : %1").arg(lines);
+    total.looks[totalColumn] = {{}, {}, true, QColor(totalColour)};
+    return total;
+}
+
+void LineRegister::conditionStep()
+{
+    ExecuteSQL();
+    if (const QString condition = m_criteria.condition->text(); condition != m_criteria.condition->List(0))
+        applyCondition(condition);
+    // No line moves up into the place of the last one: the total row is no line to work on.
+    if (ReturnIndex >= 1 && tagOf(*m_criteria.list, ReturnIndex - 1) != 0)
+        m_criteria.list->selectRow(ReturnIndex - 1);
+}
+
+void LineRegister::view()
+{
+    if (m_criteria.from->value() > m_criteria.to->value()) {
+        forms::criticalMessage(this, QStringLiteral("Invalid date selection!"));
+        return;
+    }
+    if (ComboFindIndex(*m_criteria.worker) < 0) {
+        ShowMsg(QStringLiteral("Please Select Worker Name!"));
+        return;
+    }
+    const bool all = m_criteria.worker->text() == allWorkers;
+    SearchMode = all ? QStringLiteral("C") : QStringLiteral("S");
+    session.RefreshLists = true;
+    conditionStep();
+}
+
+// Coming back to the row
+
+void LineRegister::keepPosition()
+{
+    if (const int row = m_criteria.list->selectedRow(); row >= 0)
+        ReturnIndex = values::toInt16(row + 1);
+}
+
+void LineRegister::openOnRow(const std::function<void()>& open)
+{
+    keepPosition();
+    {
+        m_opening = true;
+        const auto opened = qScopeGuard([this] { m_opening = false; });
+        open();
+    }
+    conditionStep();
+}

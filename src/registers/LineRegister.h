@@ -1,0 +1,71 @@
+#pragma once
+
+#include "platform/forms/ListView.h"
+#include "platform/forms/Screen.h"
+
+namespace forms {
+class ComboBox;
+class DatePicker;
+} // namespace forms
+
+/// The number that a row of a register keeps in its tag; 0 for a total row, and for a row that isn't there.
+qint32 tagOf(const forms::ListView& list, int row);
+
+/// The dot in a state's colour that stands before its name.
+QPixmap statusDot(qint32 state);
+
+/// Base of the registers of job lines: criteria over a list with a row for each line and a total row. The
+/// list is built anew, whole, from the criteria; the condition then works on the texts of its rows. A
+/// register that comes back to the front does so when the session says that its list may be out of date.
+class LineRegister : public forms::Screen
+{
+    Q_OBJECT
+protected:
+    struct Criteria
+    {
+        forms::ListView* list;
+        forms::DatePicker* from;
+        forms::DatePicker* to;
+        forms::ComboBox* worker;
+        forms::ComboBox* condition; ///< its first entry is no condition
+    };
+
+    void setCriteria(const Criteria& criteria) { m_criteria = criteria; }
+    /// The working date, all workers, no condition.
+    void resetCriteria();
+
+    void Form_Activate() override;
+
+    /// Builds the list from the criteria, whatever the condition. Throws DatabaseError; the lines before the
+    /// one at fault then stand on the list.
+    virtual void ExecuteSQL() = 0;
+    /// Takes the lines off the list that the condition does not want.
+    virtual void applyCondition(const QString& condition) = 0;
+
+    /// The common beginning of ExecuteSQL: the dates are never the wrong way round.
+    void orderDates();
+    /// Puts the lines on the list, and the total row below them. `read` appends them; what it had appended
+    /// when it fails is shown without a total.
+    void showLines(const std::function<void(std::vector<forms::ListView::Row>& rows)>& read);
+    /// Keeps the lines that `stays` wants, and counts them anew. The total row itself is asked too.
+    void keepLines(const std::function<bool(const QStringList& cells)>& stays);
+
+    /// Rebuilds the list under its condition and comes back to the row kept in ReturnIndex.
+    void conditionStep();
+    /// Shows the lines of the worker chosen; refuses criteria that make no sense.
+    void view();
+    /// Keeps the selected row's position for the next refresh.
+    void keepPosition();
+    /// Opens another screen that works on the selected row's line, and refreshes the list after it, once.
+    void openOnRow(const std::function<void()>& open);
+
+    QString SearchMode = QStringLiteral("C"); ///< "C": all workers, "S": one; others are the register's own
+    QString SearchSql;                        ///< what the list shows
+    qint16 ReturnIndex = 0;                   ///< position to select after a refresh, from 1; 0: none
+
+private:
+    forms::ListView::Row totalRow(size_t lines) const;
+
+    Criteria m_criteria{};
+    bool m_opening = false; ///< the refresh after a screen above is under way already
+};

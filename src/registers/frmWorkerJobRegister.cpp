@@ -1,0 +1,277 @@
+#include "registers/frmWorkerJobRegister.h"
+
+#include "core/DE.h"
+#include "core/Lookups.h"
+#include "core/Session.h"
+#include "platform/values/Dates.h"
+#include "platform/values/Numbers.h"
+#include "registers/JobLines.h"
+#include "registers/frmSearchClient.h"
+#include "ui/ModOtherFUN.h"
+#include "ui/modLang.h"
+#include "ui_frmWorkerJobRegister.h"
+
+#include <QHeaderView>
+
+namespace {
+
+constexpr double heightOfScreen = 0.97;
+const QString blank = QStringLiteral(" ");
+
+} // namespace
+
+frmWorkerJobRegister::frmWorkerJobRegister()
+    : ui(std::make_unique<Ui::frmWorkerJobRegister>())
+{
+    ui->setupUi(this);
+    setCriteria({ui->lvSummary, ui->DateFrom, ui->DateTo, ui->cmbClient, ui->cmbCondition});
+    // What the told shares leave is the balance's. A column never gets too narrow for what it mostly holds.
+    ui->lvSummary->setColumns({{QStringLiteral("Date"), 10, Qt::AlignLeft, 104},
+                               {QStringLiteral("JOB ID"), 5, Qt::AlignLeft, 76},
+                               {QStringLiteral("Client Name"), 12, Qt::AlignLeft, 150},
+                               {QStringLiteral("Item Name"), 12, Qt::AlignLeft, 110},
+                               {QStringLiteral("Remark"), 7, Qt::AlignLeft, 80},
+                               {QStringLiteral("Del. Date"), 10, Qt::AlignLeft, 152},
+                               {QStringLiteral("Worker Name"), 7, Qt::AlignLeft, 110},
+                               {QStringLiteral("Cutting"), 7, Qt::AlignLeft, 82},
+                               {QStringLiteral("Status"), 10, Qt::AlignLeft, 124},
+                               {QStringLiteral("Location"), 9, Qt::AlignLeft, 90},
+                               {QStringLiteral("Balance"), forms::ListView::rest, Qt::AlignRight, 112}});
+    ui->lvDetails->setColumns(
+        {{QStringLiteral("Name of Item"), 72}, {QStringLiteral("QNT"), 28, Qt::AlignRight}});
+    ui->cmbCondition->AddItems({QStringLiteral("*All"), QStringLiteral("Completed"),
+                                QStringLiteral("Uncompleted"), QStringLiteral("Delivered"),
+                                QStringLiteral("Alteration"), QStringLiteral("Canceled"),
+                                QStringLiteral("Assigned"), QStringLiteral("Not Assigned"),
+                                QStringLiteral("Cutting Done"), QStringLiteral("Cutting Not Done")});
+    ui->picDetails->hide();
+    ui->listArea->installEventFilter(this);
+
+    on(ui->txtSearchID, &QLineEdit::textChanged, [this](const QString& text) {
+        if (text.isEmpty())
+            SearchMode = QStringLiteral("C");
+    });
+    onKeyPress(ui->txtSearchID, [this](int& key) { txtSearchID_KeyPress(key); });
+    onKeyPress(ui->cmbClient, [this](int& key) {
+        key = AutoSearchCombo(*ui->cmbClient, key);
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        view();
+    });
+    on(ui->cmbCondition, &forms::ComboBox::clicked, [this] { conditionStep(); });
+    on(ui->Command4, &QPushButton::clicked, [this] { view(); });
+    on(ui->Command8, &QPushButton::clicked, &frmWorkerJobRegister::Command8_Click);
+    on(ui->Command1, &QPushButton::clicked, [this] { showDetails(true); });
+    on(ui->Image1, &QPushButton::clicked, [this] { showDetails(false); });
+
+    on(ui->lvSummary, &forms::ListView::menuAsked, &frmWorkerJobRegister::askMenu);
+    on(ui->mnuUn, &QAction::triggered, &frmWorkerJobRegister::mnuUn_Click);
+    on(ui->mnuCom, &QAction::triggered, &frmWorkerJobRegister::mnuCom_Click);
+    on(ui->mnuALt, &QAction::triggered, &frmWorkerJobRegister::mnuALt_Click);
+    on(ui->mnuDel, &QAction::triggered, &frmWorkerJobRegister::mnuDel_Click);
+    on(ui->mnuJobFulPay, &QAction::triggered, &frmWorkerJobRegister::mnuJobFulPay_Click);
+    on(ui->mnuOpenJobCard, &QAction::triggered, &frmWorkerJobRegister::mnuOpenJobCard_Click);
+}
+
+frmWorkerJobRegister::~frmWorkerJobRegister() = default;
+
+// Opening
+
+void frmWorkerJobRegister::Form_Load()
+{
+    SetFormLanguage(*this);
+    useScreenHeight(heightOfScreen);
+    session.RefreshLists = true;
+    resetCriteria();
+    ui->lvSummary->setFocus();
+    // A line that cannot be shown must not keep the register shut.
+    forms::guarded(this, [this] { ExecuteSQL(); });
+}
+
+bool frmWorkerJobRegister::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == ui->listArea && event->type() == QEvent::Resize)
+        placeDetails();
+    return LineRegister::eventFilter(watched, event);
+}
+
+// Filling
+
+/// The dates of the range, in words of a statement.
+QString frmWorkerJobRegister::between() const
+{
+    return lineDate(ui->DateFrom->value()) + QStringLiteral("# and #") + lineDate(ui->DateTo->value()) + u'#';
+}
+
+QString frmWorkerJobRegister::searchText() const
+{
+    const QString lines = QStringLiteral("Select * from JOBS_Detail where ");
+    const QString order = QStringLiteral(" order by JobID,id,") + DateField;
+    if (SearchMode == u"S")
+        return lines + QStringLiteral("WorkerID=%1 and ").arg(GetAccountID(ui->cmbClient->Text())) +
+               DateField + QStringLiteral("  between #") + between() + order;
+    if (SearchMode == u"SID")
+        return lines + QStringLiteral("JOBid=") + values::CStr(values::Val(ui->txtSearchID->text()));
+    if (SearchMode == u"CUST")
+        return lines + QStringLiteral("ClintID=%1 and ").arg(GetAccountID(SearchClient)) + DateField +
+               QStringLiteral(" between #") + between() + order;
+    if (SearchMode == u"CUSTUNDEL")
+        return lines + QStringLiteral("ClintID=%1  order by ").arg(GetAccountID(SearchClient)) + DateField +
+               QStringLiteral(" desc");
+    return lines + DateField + QStringLiteral(" between #") + values::CStr(ui->DateFrom->value()) +
+           QStringLiteral("# and #") + values::CStr(ui->DateTo->value()) + u'#' + order;
+}
+
+void frmWorkerJobRegister::ExecuteSQL()
+{
+    orderDates();
+    DateField = ui->opDt1->isChecked() ? QStringLiteral("Date") : QStringLiteral("JobDelDate");
+    showLines([this](std::vector<forms::ListView::Row>& rows) {
+        SearchSql = searchText();
+        LineNames names(ui->DateTo->value());
+        ado::Recordset& lines = DE.rsJOBS_DETAIL;
+        for (lines.Open(SearchSql); !lines.AtEOF(); lines.MoveNext())
+            rows.push_back(rowOf(lines, names));
+        lines.Close();
+    });
+    fillDetails();
+}
+
+/// One line's row. A mark outside its code has no cell of its own: what follows moves up.
+forms::ListView::Row frmWorkerJobRegister::rowOf(ado::Recordset& line, LineNames& names)
+{
+    const qint32 client = line["ClintID"].integer();
+    const qint32 worker = line["WorkerID"].integer();
+    const QDate delivery = line["JobDelDate"].date();
+    const qint32 state = markOf(line["DoneByWorker"]);
+    forms::ListView::Row row;
+    row.cells << lineDate(line["Date"].date())
+              << line["JobID"].text() + QLatin1Char('/') + line["ItemSr"].text() << names.account(client)
+              << names.item(line["ItemID"].integer()) << line["Remarks"].text()
+              << lineDate(delivery) + QLatin1String(" (") + daysAhead(delivery) + QLatin1String(" D)")
+              << names.worker(worker);
+    row.looks[ClientColumn].toolTip = names.contact(client);
+    if (worker != 0)
+        row.looks[WorkerColumn].toolTip = names.contact(worker);
+    if (const QString cutting = cuttingName(markOf(line["CuttingStatus"])); !cutting.isNull())
+        row.cells << cutting;
+    if (const QString status = statusName(state); !status.isNull()) {
+        row.looks[int(row.cells.size())].picture = statusDot(state);
+        row.cells << status;
+    }
+    row.cells << (line["Loc"].isNull() ? blank : line["Loc"].text()) << names.balance(client);
+    row.tag = line["ID"].text();
+    return row;
+}
+
+/// How many lines of each item the criteria meet.
+void frmWorkerJobRegister::fillDetails()
+{
+    ui->lvDetails->Clear();
+    ado::Recordset& items = DE.rsITEMS;
+    for (items.Open(QStringLiteral("Select * from Items order by Name")); !items.AtEOF(); items.MoveNext()) {
+        qint32 count = 0;
+        if (SearchMode == u"S")
+            GetItemWiseDetails(items["ID"].integer(), count);
+        else if (SearchMode == u"C")
+            GetItemWiseDetails2(items["ID"].integer(), count);
+        if (count > 0)
+            ui->lvDetails->addRow({items["Name"].text(), QString::number(count)});
+    }
+    items.Close();
+}
+
+void frmWorkerJobRegister::GetItemWiseDetails(qint32 itemId, qint32& count)
+{
+    countLines(QStringLiteral("%1and WorkerID=%2and date between #")
+                   .arg(itemId)
+                   .arg(GetAccountID(ui->cmbClient->Text())),
+               count);
+}
+
+void frmWorkerJobRegister::GetItemWiseDetails2(qint32 itemId, qint32& count)
+{
+    countLines(QStringLiteral("%1and date between #").arg(itemId), count);
+}
+
+void frmWorkerJobRegister::countLines(const QString& condition, qint32& count)
+{
+    ado::Recordset& counting = DE.rsJOBS_DETAIL2;
+    counting.Open(QStringLiteral("Select count(QNT) from JOBS_Detail where ItemID=") + condition + between());
+    count = counting[0].integer();
+    counting.Close();
+}
+
+void frmWorkerJobRegister::applyCondition(const QString& condition)
+{
+    if (condition == u"Assigned" || condition == u"Not Assigned")
+        RemoveUnwanted3(condition);
+    else if (condition == u"Cutting Done" || condition == u"Cutting Not Done")
+        RemoveUnwanted2(condition);
+    else
+        RemoveUnwanted(condition);
+}
+
+void frmWorkerJobRegister::RemoveUnwanted(const QString& condition)
+{
+    keepLines([&](const QStringList& cells) { return cells.value(StatusColumn) == condition; });
+}
+
+void frmWorkerJobRegister::RemoveUnwanted2(const QString& condition)
+{
+    const QString mark = cuttingName(condition == u"Cutting Done" ? 1 : 0);
+    keepLines([&](const QStringList& cells) { return cells.value(CuttingColumn) == mark; });
+}
+
+void frmWorkerJobRegister::RemoveUnwanted3(const QString& condition)
+{
+    if (condition == u"Assigned")
+        keepLines([](const QStringList& cells) {
+            return cells.value(WorkerColumn) != noWorker && cells.value(JobColumn) != blank;
+        });
+    else
+        keepLines([](const QStringList& cells) { return cells.value(WorkerColumn) == noWorker; });
+}
+
+// Criteria
+
+void frmWorkerJobRegister::txtSearchID_KeyPress(int& key)
+{
+    if (key != forms::key::Enter)
+        return;
+    key = 0;
+    SearchMode = QStringLiteral("SID");
+    ExecuteSQL();
+}
+
+void frmWorkerJobRegister::Command8_Click()
+{
+    SearchClient.clear();
+    qint16 allJobs = 0;
+    SearchClient2(allJobs, SearchClient);
+    if (SearchClient.isEmpty())
+        return;
+    SearchMode = allJobs == 1 ? QStringLiteral("CUSTUNDEL") : QStringLiteral("CUST");
+    session.RefreshLists = true;
+    ExecuteSQL();
+}
+
+void frmWorkerJobRegister::showDetails(bool show)
+{
+    ui->picDetails->setVisible(show);
+    placeDetails();
+    (show ? static_cast<QWidget*>(ui->Image1) : ui->lvSummary)->setFocus();
+}
+
+/// The panel lies over the list, at its right edge, below the headings.
+void frmWorkerJobRegister::placeDetails()
+{
+    constexpr QSize largest(340, 420);
+    constexpr int margin = 16; // the list's scroll bar stays free
+    const QRect list = ui->lvSummary->geometry();
+    const int top = list.top() + ui->lvSummary->header()->height() + margin / 2;
+    const QSize size = largest.boundedTo(QSize(list.width() - 2 * margin, list.bottom() - margin - top));
+    ui->picDetails->setGeometry(QRect(QPoint(list.right() - margin - size.width(), top), size));
+    ui->picDetails->raise();
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "registers/LineRegister.h"
+
+#include <memory>
+
+namespace Ui {
+class frmWorkerJobRegister;
+}
+namespace ado {
+class Recordset;
+}
+class LineNames;
+
+/// The job register, the shop's main work list: item lines of job cards by worker, dates, state, card or
+/// client, and what is done with them.
+class frmWorkerJobRegister : public LineRegister
+{
+    Q_OBJECT
+public:
+    frmWorkerJobRegister();
+    ~frmWorkerJobRegister() override;
+
+    void ExecuteSQL() override;
+    /// Keep the lines of a state, of a cutting mark, with or without a worker; each takes the text of the
+    /// condition.
+    void RemoveUnwanted(const QString& condition);
+    void RemoveUnwanted2(const QString& condition);
+    void RemoveUnwanted3(const QString& condition);
+    /// The number of lines of an item within the dates, for the worker chosen and for all.
+    void GetItemWiseDetails(qint32 itemId, qint32& count);
+    void GetItemWiseDetails2(qint32 itemId, qint32& count);
+    /// Delivers the whole card of the selected row, without a question.
+    void DeliverJobCard();
+
+protected:
+    void Form_Load() override;
+    void Form_KeyPress(int& key) override;
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void applyCondition(const QString& condition) override;
+
+private:
+    enum Column { JobColumn = 1, ClientColumn = 2, WorkerColumn = 6, CuttingColumn = 7, StatusColumn = 8 };
+
+    // Filling
+    static forms::ListView::Row rowOf(ado::Recordset& line, LineNames& names);
+    QString searchText() const;
+    QString between() const;
+    void fillDetails();
+    void countLines(const QString& condition, qint32& count);
+
+    // Criteria
+    void txtSearchID_KeyPress(int& key);
+    void Command8_Click();
+    void showDetails(bool show);
+    void placeDetails();
+
+    // Actions on the selected row
+    void askMenu(int row, const QPoint& place);
+    void mnuUn_Click();
+    void mnuCom_Click();
+    void mnuALt_Click();
+    void mnuDel_Click();
+    void mnuJobFulPay_Click();
+    void mnuOpenJobCard_Click();
+    qint32 selectedLine() const;
+    qint32 selectedJob() const;
+    QString askLocation();
+    bool asked(const QString& question) const;
+    void writeLine(qint32 line, const std::function<void(ado::Recordset& row)>& write);
+    void writeDelivered(qint32 job);
+
+    const std::unique_ptr<Ui::frmWorkerJobRegister> ui;
+    QString DateField = QStringLiteral("Date"); ///< the column that the dates range over
+    QString SearchClient;                       ///< the client that Quick Find gave
+};
