@@ -3,6 +3,7 @@
 #include "core/DE.h"
 #include "core/Lookups.h"
 #include "core/Session.h"
+#include "planning/frmWorkerReport2.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
 #include "registers/JobLines.h"
@@ -16,6 +17,7 @@
 namespace {
 
 constexpr double heightOfScreen = 0.97;
+const QString allLines = QStringLiteral("Select * from JOBS_Detail where ");
 const QString blank = QStringLiteral(" ");
 
 } // namespace
@@ -62,6 +64,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
     on(ui->cmbCondition, &forms::ComboBox::clicked, [this] { conditionStep(); });
     on(ui->Command4, &QPushButton::clicked, [this] { view(); });
     on(ui->Command8, &QPushButton::clicked, &frmWorkerJobRegister::Command8_Click);
+    on(ui->Command3, &QPushButton::clicked, &frmWorkerJobRegister::Command3_Click);
     on(ui->Command1, &QPushButton::clicked, [this] { showDetails(true); });
     on(ui->Image1, &QPushButton::clicked, [this] { showDetails(false); });
 
@@ -98,29 +101,35 @@ bool frmWorkerJobRegister::eventFilter(QObject* watched, QEvent* event)
 
 // Filling
 
-/// The dates of the range, in words of a statement.
+QString frmWorkerJobRegister::order() const { return QStringLiteral(" order by JobID,id,") + DateField; }
+
+/// The dates of the range, as a statement ends with them.
 QString frmWorkerJobRegister::between() const
 {
     return lineDate(ui->DateFrom->value()) + QStringLiteral("# and #") + lineDate(ui->DateTo->value()) + u'#';
 }
 
+/// The lines of one worker.
+QString frmWorkerJobRegister::workerSearch(const QString& workerId) const
+{
+    return allLines + QStringLiteral("WorkerID=") + workerId + QStringLiteral(" and ") + DateField +
+           QStringLiteral("  between #") + between() + order();
+}
+
 QString frmWorkerJobRegister::searchText() const
 {
-    const QString lines = QStringLiteral("Select * from JOBS_Detail where ");
-    const QString order = QStringLiteral(" order by JobID,id,") + DateField;
     if (SearchMode == u"S")
-        return lines + QStringLiteral("WorkerID=%1 and ").arg(GetAccountID(ui->cmbClient->Text())) +
-               DateField + QStringLiteral("  between #") + between() + order;
+        return workerSearch(QString::number(GetAccountID(ui->cmbClient->Text())));
     if (SearchMode == u"SID")
-        return lines + QStringLiteral("JOBid=") + values::CStr(values::Val(ui->txtSearchID->text()));
+        return allLines + QStringLiteral("JOBid=") + values::CStr(values::Val(ui->txtSearchID->text()));
     if (SearchMode == u"CUST")
-        return lines + QStringLiteral("ClintID=%1 and ").arg(GetAccountID(SearchClient)) + DateField +
-               QStringLiteral(" between #") + between() + order;
+        return allLines + QStringLiteral("ClintID=%1 and ").arg(GetAccountID(SearchClient)) + DateField +
+               QStringLiteral(" between #") + between() + order();
     if (SearchMode == u"CUSTUNDEL")
-        return lines + QStringLiteral("ClintID=%1  order by ").arg(GetAccountID(SearchClient)) + DateField +
-               QStringLiteral(" desc");
-    return lines + DateField + QStringLiteral(" between #") + values::CStr(ui->DateFrom->value()) +
-           QStringLiteral("# and #") + values::CStr(ui->DateTo->value()) + u'#' + order;
+        return allLines + QStringLiteral("ClintID=%1  order by ").arg(GetAccountID(SearchClient)) +
+               DateField + QStringLiteral(" desc");
+    return allLines + DateField + QStringLiteral(" between #") + values::CStr(ui->DateFrom->value()) +
+           QStringLiteral("# and #") + values::CStr(ui->DateTo->value()) + u'#' + order();
 }
 
 void frmWorkerJobRegister::ExecuteSQL()
@@ -255,6 +264,17 @@ void frmWorkerJobRegister::Command8_Click()
     SearchMode = allJobs == 1 ? QStringLiteral("CUSTUNDEL") : QStringLiteral("CUST");
     session.RefreshLists = true;
     ExecuteSQL();
+}
+
+/// The worker picked from the numbers of lines of all.
+void frmWorkerJobRegister::Command3_Click()
+{
+    QString worker;
+    ShowWorkerOverView(workerSearch(QStringLiteral("%id")), worker);
+    if (worker == u"-1000")
+        return;
+    ui->cmbClient->setText(worker);
+    view();
 }
 
 void frmWorkerJobRegister::showDetails(bool show)

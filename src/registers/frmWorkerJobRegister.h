@@ -46,13 +46,16 @@ private:
     // Filling
     static forms::ListView::Row rowOf(ado::Recordset& line, LineNames& names);
     QString searchText() const;
+    QString workerSearch(const QString& workerId) const;
     QString between() const;
+    QString order() const;
     void fillDetails();
     void countLines(const QString& condition, qint32& count);
 
     // Criteria
     void txtSearchID_KeyPress(int& key);
     void Command8_Click();
+    void Command3_Click();
     void showDetails(bool show);
     void placeDetails();
 
