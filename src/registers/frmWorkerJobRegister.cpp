@@ -30,14 +30,14 @@ frmWorkerJobRegister::frmWorkerJobRegister()
     // What the told shares leave is the balance's. A column never gets too narrow for what it mostly holds.
     ui->lvSummary->setColumns({{QStringLiteral("Date"), 10, Qt::AlignLeft, 104},
                                {QStringLiteral("JOB ID"), 5, Qt::AlignLeft, 76},
-                               {QStringLiteral("Client Name"), 12, Qt::AlignLeft, 150},
+                               {QStringLiteral("Client Name"), 12, Qt::AlignLeft, 130},
                                {QStringLiteral("Item Name"), 12, Qt::AlignLeft, 110},
                                {QStringLiteral("Remark"), 7, Qt::AlignLeft, 80},
-                               {QStringLiteral("Del. Date"), 10, Qt::AlignLeft, 152},
-                               {QStringLiteral("Worker Name"), 7, Qt::AlignLeft, 110},
-                               {QStringLiteral("Cutting"), 7, Qt::AlignLeft, 82},
+                               {QStringLiteral("Del. Date"), 10, Qt::AlignLeft, 160},
+                               {QStringLiteral("Worker Name"), 7, Qt::AlignLeft, 112},
+                               {QStringLiteral("Cutting"), 7, Qt::AlignLeft, 84},
                                {QStringLiteral("Status"), 10, Qt::AlignLeft, 124},
-                               {QStringLiteral("Location"), 9, Qt::AlignLeft, 90},
+                               {QStringLiteral("Location"), 9, Qt::AlignLeft, 84},
                                {QStringLiteral("Balance"), forms::ListView::rest, Qt::AlignRight, 112}});
     ui->lvDetails->setColumns(
         {{QStringLiteral("Name of Item"), 72}, {QStringLiteral("QNT"), 28, Qt::AlignRight}});

@@ -8,6 +8,7 @@
 #include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
+#include <cmath>
 
 namespace forms {
 
@@ -272,10 +273,22 @@ void ListView::keyPressEvent(QKeyEvent* event)
 {
     const bool menuKey = event->key() == Qt::Key_Menu ||
                          (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
+    static constexpr Qt::Key walking[] = {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp};
     if (menuKey)
         askMenuAtSelection();
+    else if (selectedRow() < 0 &&
+             std::find(std::begin(walking), std::end(walking), event->key()) != std::end(walking))
+        selectRow(0);
     else
         QTreeView::keyPressEvent(event);
+}
+
+/// Focus alone selects no row, and makes none look so.
+void ListView::focusInEvent(QFocusEvent* event)
+{
+    QTreeView::focusInEvent(event);
+    if (selectedRow() < 0)
+        selectionModel()->clearCurrentIndex();
 }
 
 void ListView::askMenuAtSelection()
@@ -323,21 +336,27 @@ void ListView::selectionChanged(const QItemSelection& selected, const QItemSelec
     Q_EMIT selectionMoved();
 }
 
+/// Columns take their shares, none less than its least; what that costs, those give that can.
 void ListView::layOutColumns()
 {
     const std::vector<Column>& columns = m_rows->columns();
     const int width = viewport()->width();
-    int left = width;
-    for (size_t i = 0; i < columns.size(); ++i) {
-        if (columns[i].percent == rest)
-            continue;
-        const int share = std::max(int(width * columns[i].percent / 100), columns[i].least);
-        header()->resizeSection(int(i), share);
-        left -= share;
+    const auto share = [width](const Column& column) {
+        return std::max(int(width * column.percent / 100), column.least);
+    };
+    int over = -width;
+    int spare = 0;
+    for (const Column& column : columns) {
+        over += share(column);
+        spare += share(column) - column.least;
     }
-    for (size_t i = 0; i < columns.size(); ++i)
-        if (columns[i].percent == rest)
-            header()->resizeSection(int(i), std::max(left, columns[i].least));
+    const double given = spare > 0 ? std::clamp(double(over) / spare, 0.0, 1.0) : 0;
+    for (size_t i = 0; i < columns.size(); ++i) {
+        const Column& column = columns[i];
+        const bool takesRest = column.percent == rest && over < 0;
+        const int shrunk = share(column) - int(std::ceil((share(column) - column.least) * given));
+        header()->resizeSection(int(i), takesRest ? share(column) - over : shrunk);
+    }
 }
 
 } // namespace forms

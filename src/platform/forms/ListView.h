@@ -23,7 +23,7 @@ public:
         QString title;
         double percent; ///< of the view's width
         Qt::Alignment alignment = Qt::AlignLeft;
-        int least = 0; ///< in pixels; where not all columns find room, the view scrolls sideways
+        int least = 0; ///< in pixels; where not even these find room, the view scrolls sideways
     };
     /// What a cell has beside its text.
     struct Look
@@ -80,6 +80,7 @@ Q_SIGNALS:
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
