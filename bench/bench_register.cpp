@@ -1,4 +1,4 @@
-#include "BigShop.h"
+#include "FullShop.h"
 #include "core/DE.h"
 #include "core/Session.h"
 #include "platform/forms/DatePicker.h"
@@ -130,7 +130,7 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
-    const BigShop shop;
+    const FullShop shop;
     forms::applyTheme(application, QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/fonts"));
     benchmark::RunSpecifiedBenchmarks();
 }
