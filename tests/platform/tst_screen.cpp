@@ -46,6 +46,7 @@ public:
     QPushButton leave{"&Back"};
     QStringList log;
     std::function<void()> loading = [] {};
+    using Screen::setNotice;
 
 protected:
     void Form_Load() override
@@ -98,7 +99,11 @@ private Q_SLOTS:
             });
             m_prompts->expect("Plain");
             plainMessage(&below, "Plain");
-            QCOMPARE(below.log, QStringList("activate")); // a notice activates nothing
+            Counter notice;
+            notice.setNotice(true);
+            onNextModal<Counter>([](Counter&) {});
+            notice.showModal();
+            QCOMPARE(below.log, QStringList("activate")); // neither of the two activates
         });
         QVERIFY(!Screen::front());
     }
