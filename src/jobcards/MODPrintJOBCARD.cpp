@@ -43,14 +43,14 @@ void PlaceLogo(rptJOBCARD& card, const QString& LogoPath)
 }
 
 /// The row of one line of a job. Throws ado::NoCurrentRecordError for one that is gone.
-std::vector<report::Row> readLine(qint32 LineID)
+report::Row readLine(qint32 LineID)
 {
     ado::Recordset& line = DE.rsJOBS_DETAIL;
     line.Open(QStringLiteral("Select * from JOBS_DETAIL where id=") + QString::number(LineID));
     line["ID"].integer();
-    std::vector<report::Row> rows = report::readRows(line);
+    report::Row row = report::readRows(line).front();
     line.Close();
-    return rows;
+    return row;
 }
 
 } // namespace
@@ -76,6 +76,8 @@ std::unique_ptr<report::Report> JobCardPaper(qint32 JobID)
         head.label(QLatin1String(headingLines[i])).Caption = lines[i];
     card->section(QStringLiteral("Section7")).label(QStringLiteral("lblForCompany")).Caption =
         QStringLiteral("For ") + session.ShopName;
+    card->section(QStringLiteral("Section3")).label(QStringLiteral("lblPage")).Caption =
+        QStringLiteral("Job Card # %1  ·  Page %p of %P").arg(JobID);
     card->closeUpHeading();
     return card;
 }
@@ -86,7 +88,7 @@ std::unique_ptr<report::Report> WorkerSlipPaper(qint32 LineID)
     if (GetSetting(0, QStringLiteral("English")) == QLatin1String("Hindi") &&
         GetSetting(12, QStringLiteral("No")) == QLatin1String("Yes"))
         slip->useHindiMeasurements();
-    slip->setDataSource(readLine(LineID));
+    slip->setLine(readLine(LineID));
     slip->section(QStringLiteral("Section2")).label(QStringLiteral("lblCompany")).Caption = session.ShopName;
     return slip;
 }
@@ -94,7 +96,7 @@ std::unique_ptr<report::Report> WorkerSlipPaper(qint32 LineID)
 std::unique_ptr<report::Report> LabelPaper(qint32 LineID)
 {
     auto label = std::make_unique<rptLabel>();
-    label->setDataSource(readLine(LineID));
+    label->setDataSource({readLine(LineID)});
     label->section(QStringLiteral("Section1")).label(QStringLiteral("lblCompany")).Caption = session.ShopName;
     if (report::Pages(*label).count() > 1)
         label->numberLabels();

@@ -52,8 +52,7 @@ rptJOBCARD::rptJOBCARD()
     designLine();
     designFoot();
     Section& pageFoot = addSection(QStringLiteral("Section3"), Band::PageFoot, 260);
-    Label& number =
-        paper::caption(pageFoot, QStringLiteral("lblPage"), QStringLiteral("Page %p of %P"), Left, 0, Width);
+    Label& number = paper::caption(pageFoot, QStringLiteral("lblPage"), {}, Left, 0, Width);
     number.CountsPages = true;
     number.FontSize = 8;
     number.Alignment = Qt::AlignRight;

@@ -8,8 +8,8 @@ namespace {
 
 constexpr QSizeF LabelSize(100, 60);
 constexpr int Width = mm(100 - 10);
-constexpr int CaptionWidth = 1250;
-constexpr int RowHeight = 290;
+constexpr int CaptionWidth = 1350;
+constexpr int RowHeight = 340;
 
 } // namespace
 
@@ -28,6 +28,7 @@ rptLabel::rptLabel()
         paper::caption(line, QLatin1String(label), QLatin1String(caption), 0, top, CaptionWidth);
         Field& value =
             paper::value(line, QLatin1String(field), QLatin1String(dataField), CaptionWidth, top, width);
+        value.FontSize = 11;
         value.CanGrow = true;
         return value;
     };
@@ -38,10 +39,16 @@ rptLabel::rptLabel()
     job.Top -= 45;
     job.Bold = true;
     job.CanGrow = false;
+    Shape& tag = line.addShape(QStringLiteral("Shape1"));
+    tag.place(CaptionWidth + 960, top - 25, 460, 290);
+    tag.Frame = true;
+    tag.Color = paper::Ink;
     Field& item =
-        paper::value(line, QStringLiteral("Text1"), QStringLiteral("ItemSr"), CaptionWidth + 920, top, 500);
-    paper::caption(line, QStringLiteral("Label1"), QStringLiteral("Date :"), 3200, top, 600);
-    paper::value(line, QStringLiteral("txtDATE"), QStringLiteral("DATE"), 3800, top, Width - 3800,
+        paper::value(line, QStringLiteral("Text1"), QStringLiteral("ItemSr"), tag.Left, top, tag.Width);
+    item.Bold = true;
+    item.Alignment = Qt::AlignHCenter;
+    paper::caption(line, QStringLiteral("Label1"), QStringLiteral("Date :"), 3160, top, 600);
+    paper::value(line, QStringLiteral("txtDATE"), QStringLiteral("DATE"), 3760, top, Width - 3760,
                  QStringLiteral("dd-mmm-yy"));
     top += RowHeight;
     row("Label3", "Client Name:", "txtClintName", "ClintName", top, wide).Bold = true;
@@ -52,7 +59,6 @@ rptLabel::rptLabel()
     top += RowHeight;
     row("Label9", "Remark:", "Text2", "Remarks", top, wide);
     line.Height = top + RowHeight;
-    item.Bold = true;
 }
 
 void rptLabel::numberLabels()

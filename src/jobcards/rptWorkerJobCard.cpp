@@ -1,6 +1,9 @@
 #include "jobcards/rptWorkerJobCard.h"
 
 #include "jobcards/PaperDesign.h"
+#include "platform/report/BandLayout.h"
+
+#include <algorithm>
 
 using namespace report;
 
@@ -11,6 +14,7 @@ constexpr int Width = mm(148 - 24);
 constexpr int Middle = Width / 2 + 300; ///< where the second column of captions begins
 constexpr int CaptionWidth = 1350;
 constexpr int RowHeight = 340;
+constexpr int MeasureHeight = 320;
 constexpr int NameWidth = 3500; ///< of a measurement's name
 
 const QString Day = QStringLiteral("dd-MMM-yyyy");
@@ -46,10 +50,10 @@ rptWorkerJobCard::rptWorkerJobCard()
     job.FontSize = 13;
     job.Top -= 45;
     job.Bold = true;
-    Label& slash = paper::caption(line, QStringLiteral("Label11"), QStringLiteral("Item"),
-                                  CaptionWidth + 1020, top, 420);
+    Label& itemCaption = paper::caption(line, QStringLiteral("Label11"), QStringLiteral("Item"),
+                                        CaptionWidth + 1020, top, 420);
     Field& item = paper::value(line, QStringLiteral("Text4"), QStringLiteral("ItemSr"),
-                               slash.Left + slash.Width, top - 45, 700);
+                               itemCaption.Left + itemCaption.Width, top - 45, 700);
     item.FontSize = 13;
     item.Bold = true;
 
@@ -77,10 +81,12 @@ rptWorkerJobCard::rptWorkerJobCard()
     Field& names = paper::value(line, QStringLiteral("txtItemDetails"), QStringLiteral("ItemDetails"), 120,
                                 top, NameWidth);
     names.FontSize = 11;
+    names.LineHeight = MeasureHeight;
     names.CanGrow = true;
     Field& measures = paper::value(line, QStringLiteral("Text1"), QStringLiteral("ItemDetailsValue"),
                                    NameWidth + 240, top, Width - NameWidth - 240);
     measures.FontSize = 11;
+    measures.LineHeight = MeasureHeight;
     measures.Bold = true;
     measures.CanGrow = true;
 
@@ -95,7 +101,29 @@ rptWorkerJobCard::rptWorkerJobCard()
 
 void rptWorkerJobCard::useHindiMeasurements()
 {
-    Field& names = section(QStringLiteral("Section1")).field(QStringLiteral("txtItemDetails"));
+    Section& line = section(QStringLiteral("Section1"));
+    Field& names = line.field(QStringLiteral("txtItemDetails"));
     names.FontFamily = QStringLiteral("Kruti Dev 010");
-    names.FontSize = 14;
+    names.FontSize = line.field(QStringLiteral("Text1")).FontSize = 14;
+}
+
+void rptWorkerJobCard::setLine(Row line)
+{
+    const QString lineBreak = QStringLiteral("\r\n");
+    Section& section1 = section(QStringLiteral("Section1"));
+    const Field& nameField = section1.field(QStringLiteral("txtItemDetails"));
+    const Field& valueField = section1.field(QStringLiteral("Text1"));
+    const QStringList names = line.value(nameField.DataField).toString().split(lineBreak);
+    const QStringList values = line.value(valueField.DataField).toString().split(lineBreak);
+    QStringList left;
+    QStringList right;
+    for (qsizetype i = 0; i < std::max(names.size(), values.size()); ++i) {
+        left << linesOf(names.value(i), nameField, *this);
+        right << linesOf(values.value(i), valueField, *this);
+        left.resize(std::max(left.size(), right.size()));
+        right.resize(left.size());
+    }
+    line.set(nameField.DataField, left.join(lineBreak));
+    line.set(valueField.DataField, right.join(lineBreak));
+    setDataSource({std::move(line)});
 }

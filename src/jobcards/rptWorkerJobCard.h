@@ -3,12 +3,15 @@
 #include "platform/report/Report.h"
 
 /// The slip that goes to the worker with one line of a job: whose it is, what is to be made, by which
-/// measurements. Its source is the line.
+/// measurements.
 class rptWorkerJobCard : public report::Report
 {
 public:
     rptWorkerJobCard();
 
-    /// Sets the names of the measurements in the type in which a Hindi shop keeps them.
+    /// Sets the names of the measurements in the type in which a Hindi shop keeps them. Call before setLine.
     void useHindiMeasurements();
+    /// Takes the line as the source. Each measurement's value stands beside its name, also where one of the
+    /// two needs more than one line.
+    void setLine(report::Row line);
 };

@@ -163,9 +163,9 @@ double BandLayout::place(const TextControl& control, const QString& text, bool c
     const QFont font = fontOf(control, m_report);
     const QFontMetricsF metrics(font);
     const QStringList lines =
-        control.CanGrow ? brokenToWidth(text, font, control.Width)
+        control.CanGrow ? linesOf(text, control, m_report)
                         : QStringList(metrics.elidedText(text.simplified(), Qt::ElideRight, control.Width));
-    const double lineHeight = metrics.height();
+    const double lineHeight = control.LineHeight > 0 ? control.LineHeight : metrics.height();
     double y = top;
     for (const QString& line : lines) {
         m_band.pieces.push_back(TextPiece{QRectF(control.Left, y, control.Width, lineHeight), line, font,
@@ -180,6 +180,11 @@ double BandLayout::place(const TextControl& control, const QString& text, bool c
 PlacedBand layOut(const Section& section, const Row& row, const Report& report, Part part)
 {
     return BandLayout(section, row, report, part).run();
+}
+
+QStringList linesOf(const QString& text, const TextControl& control, const Report& report)
+{
+    return brokenToWidth(text, fontOf(control, report), control.Width);
 }
 
 } // namespace report

@@ -19,4 +19,7 @@ enum class Part {
 /// Lays out one section for one row: texts broken into lines, what grows pushing down what stands below it.
 PlacedBand layOut(const Section& section, const Row& row, const Report& report, Part part = Part::Whole);
 
+/// The lines into which a text breaks in a control that grows.
+QStringList linesOf(const QString& text, const TextControl& control, const Report& report);
+
 } // namespace report

@@ -50,6 +50,7 @@ struct TextControl : Control
     bool Italic = false;
     QRgb Color = 0xFF000000;
     Qt::Alignment Alignment = Qt::AlignLeft;
+    int LineHeight = 0; ///< from line to line; 0: as the font has it
     /// Takes more lines than its height holds, pushes down what stands below it in its section, and breaks
     /// over pages where it must. Otherwise the text is cut to its width, in one line, with an ellipsis.
     bool CanGrow = false;
