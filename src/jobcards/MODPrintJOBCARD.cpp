@@ -77,7 +77,7 @@ std::unique_ptr<report::Report> JobCardPaper(qint32 JobID)
     card->section(QStringLiteral("Section7")).label(QStringLiteral("lblForCompany")).Caption =
         QStringLiteral("For ") + session.ShopName;
     card->section(QStringLiteral("Section3")).label(QStringLiteral("lblPage")).Caption =
-        QStringLiteral("Job Card # %1  ·  Page %p of %P").arg(JobID);
+        QStringLiteral("Job Card # %1 · Page %p of %P").arg(JobID);
     card->closeUpHeading();
     return card;
 }

@@ -69,7 +69,7 @@ void rptLabel::numberLabels()
         paper::caption(foot, QStringLiteral("lblPage"),
                        QStringLiteral("%1 / %2").arg(line.value(QStringLiteral("JobID")).toString(),
                                                      line.value(QStringLiteral("ItemSr")).toString()) +
-                           QStringLiteral("  ·  %p of %P"),
+                           QStringLiteral(" · %p of %P"),
                        0, 0, Width);
     number.CountsPages = true;
     number.FontSize = 8;

@@ -51,7 +51,7 @@ rptWorkerJobCard::rptWorkerJobCard()
     job.Top -= 45;
     job.Bold = true;
     Label& itemCaption = paper::caption(line, QStringLiteral("Label11"), QStringLiteral("Item"),
-                                        CaptionWidth + 1020, top, 420);
+                                        CaptionWidth + 1020, top, 480);
     Field& item = paper::value(line, QStringLiteral("Text4"), QStringLiteral("ItemSr"),
                                itemCaption.Left + itemCaption.Width, top - 45, 700);
     item.FontSize = 13;
