@@ -14,6 +14,7 @@
 #include "core/frmSettings.h"
 #include "core/frmShopINFO.h"
 #include "jobcards/JobCard.h"
+#include "jobcards/MODPrintJOBCARD.h"
 #include "jobcards/frmAddItem.h"
 #include "jobcards/frmEditJOB.h"
 #include "jobcards/frmEditWorkerAssign.h"
@@ -23,6 +24,7 @@
 #include "masters/frmEditWorker.h"
 #include "masters/frmItems.h"
 #include "masters/frmWorkers.h"
+#include "media/frmPreview.h"
 #include "planning/frmFeedBack.h"
 #include "planning/frmRatings.h"
 #include "planning/frmWorkerReport2.h"
@@ -112,13 +114,12 @@ void editLine()
     frmAddItem().EditItemDetails(card.JobRows, GetAccountID(client()), row);
 }
 
-/// A completed line with pictures, on the screen that assigns it.
-void assignLine()
+/// A completed line with pictures.
+qint32 shownLine()
 {
-    frmEditWorkerAssign().ShowEdit(
-        value(QStringLiteral("Select ID from Jobs_Detail where DoneByWorker=1 and WorkerID>0 "
-                             "order by MarkAsPaid desc, Img1 desc, ID desc"))
-            .toInt());
+    return value(QStringLiteral("Select ID from Jobs_Detail where DoneByWorker=1 and WorkerID>0 "
+                                "order by MarkAsPaid desc, Img1 desc, ID desc"))
+        .toInt();
 }
 
 void message(const char* text, int kind, const char* language)
@@ -162,7 +163,14 @@ void takeAll()
         frmTransiction().ShowAddNew(client(), saved);
     });
     picture("job-card", [] { frmEditJOB().ShowEdit(showpiece()); });
-    picture("assign-job", assignLine);
+    picture("assign-job", [] { frmEditWorkerAssign().ShowEdit(shownLine()); });
+    picture("paper-job-card", [] { PrintJobCard(showpiece()); });
+    picture("paper-slip", [] { PrintWorkerSlip(shownLine()); });
+    picture("paper-label", [] { PrintLabel(shownLine()); });
+    picture("garment-picture", [] {
+        frmPreview().ShowImage(
+            value(QStringLiteral("Select Img2 from Jobs_Detail where Img2<>''")).toString());
+    });
     picture("new-job-card", [] { frmEditJOB().ShowAddNew(); });
     picture("item-line", editLine);
     picture(
@@ -205,26 +213,10 @@ void takeAll()
     });
 }
 
-/// The screen that the pictures are taken on: that of a common counter computer, unless the caller chose a
-/// platform.
-void chooseScreen(const QTemporaryDir& temporary)
-{
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        return;
-    QFile config(temporary.filePath(QStringLiteral("screen.json")));
-    if (!config.open(QIODevice::WriteOnly))
-        qFatal("cannot write %s", qPrintable(config.fileName()));
-    config.write(
-        R"({"screens":[{"name":"counter","x":0,"y":0,"width":1366,"height":768,"logicalDpi":96,"dpr":1}]})");
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + config.fileName().toLocal8Bit());
-}
-
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    const QTemporaryDir temporary;
-    chooseScreen(temporary);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationVersion(QStringLiteral("8.0"));
@@ -235,6 +227,7 @@ int main(int argc, char* argv[])
     folder.mkpath(QStringLiteral("."));
     const QString program = arguments[2];
     forms::applyTheme(application, program + QStringLiteral("/fonts"));
+    const QTemporaryDir temporary;
     sample::layShop(sample::demo(day), temporary.path());
     QFile::copy(program + QStringLiteral("/Lang.mdb"), session.languageDatabasePath());
     QTimer::singleShot(0, [] {
