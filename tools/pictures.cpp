@@ -31,6 +31,7 @@
 #include "platform/forms/ListBox.h"
 #include "platform/forms/Theme.h"
 #include "registers/frmSearchClient.h"
+#include "registers/frmWorkerJobRegister.h"
 #include "sample/SampleShop.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/frmSelectDate.h"
@@ -59,13 +60,13 @@ QVariant value(const QString& sql)
     return rows[0].value();
 }
 
-/// The card that shows best: with pictures and remarks, and money still to come.
+/// The card that shows best: with several lines, remarks, a picture, and money still to come.
 qint32 showpiece()
 {
     return value(QStringLiteral(
-                     "Select JobID, sum(Img1<>'') as pictures, sum(Remarks<>'') as remarks "
-                     "from Jobs_Detail, Jobs where Jobs.id=JobID and AmountPaid>0 and AmountPaid<AmountDue "
-                     "group by JobID having pictures>0 order by remarks desc, pictures desc"))
+                     "Select JobID, 2*sum(Remarks<>'')+count(*) as shows from Jobs_Detail, Jobs where "
+                     "Jobs.id=JobID and AmountPaid>0 and AmountPaid<AmountDue group by JobID "
+                     "having sum(Img1<>'')>0 and count(*)<6 order by shows desc"))
         .toInt();
 }
 
@@ -163,6 +164,7 @@ void takeAll()
         frmTransiction().ShowAddNew(client(), saved);
     });
     picture("job-card", [] { frmEditJOB().ShowEdit(showpiece()); });
+    picture("job-register", [] { frmWorkerJobRegister().showModal(); });
     picture("assign-job", [] { frmEditWorkerAssign().ShowEdit(shownLine()); });
     picture("paper-job-card", [] { PrintJobCard(showpiece()); });
     picture("paper-slip", [] { PrintWorkerSlip(shownLine()); });

@@ -90,15 +90,16 @@ QString GetClientContact(qint16 id)
         return {};
     auto& account = DE.rsaccounts;
     account.Open(QStringLiteral("Select * from Accounts where ID=") + QString::number(id));
-    QString contact;
-    if (!account.AtEOF()) {
-        contact = account["Mobile"].text() + QStringLiteral("   ") + account["Address"].text() +
-                  QStringLiteral("   ") + account["City"].text() + QStringLiteral("    ");
-        if (contact.trimmed().isEmpty())
-            contact = QStringLiteral("No Information Found");
-    }
+    const QString contact = account.AtEOF() ? QString() : ContactOf(account);
     account.Close();
     return contact;
+}
+
+QString ContactOf(ado::Recordset& account)
+{
+    const QString contact = account["Mobile"].text() + QStringLiteral("   ") + account["Address"].text() +
+                            QStringLiteral("   ") + account["City"].text() + QStringLiteral("    ");
+    return contact.trimmed().isEmpty() ? QStringLiteral("No Information Found") : contact;
 }
 
 bool AllItemsCompleted(qint32 jobId) { return allItemsInState(jobId, 1); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/ado/Recordset.h"
+
 #include <QString>
 
 /// The wording of the shop's text messages, and what a message needs to know of a client and of a card. Lines
@@ -24,6 +26,8 @@ QString GetClientMobile(const QString& title, qint16 id);
 /// Mobile, address and city of an account in one line, "No Information Found" when all three are empty; empty
 /// when there is no such account.
 QString GetClientContact(qint16 id);
+/// The same of the account in the current row.
+QString ContactOf(ado::Recordset& account);
 
 /// True when every line of the card is completed (delivered). A card without lines counts as both.
 bool AllItemsCompleted(qint32 jobId);

@@ -1,5 +1,6 @@
 #include "registers/JobLines.h"
 
+#include "core/DE.h"
 #include "core/Lookups.h"
 #include "core/Session.h"
 #include "messaging/modSMS.h"
@@ -61,6 +62,30 @@ QString balanceText(double balance)
     if (balance > 0)
         return size + QStringLiteral(" Cr");
     return balance < 0 ? QString(size + QStringLiteral(" Dr")) : QStringLiteral("None");
+}
+
+void LineNames::readAll(const QString& query)
+{
+    const QString lines = query.left(query.indexOf(QStringLiteral(" order by ")));
+    ado::Recordset& accounts = DE.rsaccounts;
+    for (const char* who : {"ClintID", "WorkerID"}) {
+        for (accounts.Open(QStringLiteral("Select * from Accounts where ID in (Select %1 from (%2))")
+                               .arg(QLatin1String(who), lines));
+             !accounts.AtEOF(); accounts.MoveNext()) {
+            const qint32 id = accounts["ID"].integer();
+            m_accounts.insert(id, accounts["Title"].text());
+            m_contacts.insert(id, ContactOf(accounts));
+        }
+        accounts.Close();
+    }
+    ado::Recordset& balances = DE.rspostings;
+    for (balances.Open(
+             QStringLiteral("Select accID, sum(Amount) from Postings where status=0 and date between "
+                            "#17-11-1985# and #%1# and accID in (Select ClintID from (%2)) group by accID")
+                 .arg(values::CStr(m_balancesUpTo), lines));
+         !balances.AtEOF(); balances.MoveNext())
+        m_balances.insert(balances[0].integer(), balanceText(balances[1].number()));
+    balances.Close();
 }
 
 const QString& LineNames::account(qint32 id) { return knownOr(m_accounts, id, GetAccountTitle); }

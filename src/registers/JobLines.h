@@ -38,6 +38,10 @@ public:
     {
     }
 
+    /// Asks at once for all clients and workers of the lines that the query finds, and for the clients'
+    /// balances: a month has a thousand.
+    void readAll(const QString& query);
+
     const QString& account(qint32 id);
     const QString& contact(qint32 id);
     const QString& item(qint32 id);

@@ -31,10 +31,11 @@ QPixmap statusDot(qint32 state)
     constexpr int size = 10;
     if (state < 0 || state >= qint32(std::size(stateColours)))
         return {};
+    static QPixmapCache::Key keys[std::size(stateColours)];
+    QPixmapCache::Key& key = keys[state];
     const qreal ratio = qApp->devicePixelRatio();
-    const QString name = QStringLiteral("statusDot %1 %2").arg(state).arg(ratio);
     QPixmap dot;
-    if (QPixmapCache::find(name, &dot))
+    if (QPixmapCache::find(key, &dot) && dot.devicePixelRatio() == ratio)
         return dot;
     dot = QPixmap(QSize(size, size) * ratio);
     dot.setDevicePixelRatio(ratio);
@@ -45,7 +46,7 @@ QPixmap statusDot(qint32 state)
     painter.setBrush(QColor(stateColours[state]));
     painter.drawEllipse(QRectF(0.5, 0.5, size - 1, size - 1));
     painter.end();
-    QPixmapCache::insert(name, dot);
+    key = QPixmapCache::insert(dot);
     return dot;
 }
 

@@ -139,6 +139,7 @@ void frmWorkerJobRegister::ExecuteSQL()
     showLines([this](std::vector<forms::ListView::Row>& rows) {
         SearchSql = searchText();
         LineNames names(ui->DateTo->value());
+        names.readAll(SearchSql);
         ado::Recordset& lines = DE.rsJOBS_DETAIL;
         for (lines.Open(SearchSql); !lines.AtEOF(); lines.MoveNext())
             rows.push_back(rowOf(lines, names));

@@ -33,15 +33,19 @@ void choosePictures(std::vector<Card>& cards, int count, Random& random)
 
 void writeProfile(const Plan& plan)
 {
-    const QString name = QStringLiteral("Rangoli Tailors");
+    session.ShopName = QStringLiteral("Rangoli Tailors");
+    session.ShopAddress1 = QStringLiteral("14, Johari Bazaar");
+    session.ShopAddress2 = QStringLiteral("Near Sanganeri Gate");
+    session.ShopAddress3 = QStringLiteral("Jaipur 302003");
+    session.ShopContacts = QStringLiteral("0141-2570000, 98290 14523");
     ado::Recordset& shop = DE.rsSHOP;
     shop.Open(QStringLiteral("Select * from Shop"));
     shop.AddNew();
-    shop["Name"] = name;
-    shop["Address1"] = QStringLiteral("14, Johari Bazaar");
-    shop["Address2"] = QStringLiteral("Near Sanganeri Gate");
-    shop["Address3"] = QStringLiteral("Jaipur 302003");
-    shop["Contacts"] = QStringLiteral("0141-2570000, 98290 14523");
+    shop["Name"] = session.ShopName;
+    shop["Address1"] = session.ShopAddress1;
+    shop["Address2"] = session.ShopAddress2;
+    shop["Address3"] = session.ShopAddress3;
+    shop["Contacts"] = session.ShopContacts;
     shop.Update();
     shop.Close();
 
@@ -50,7 +54,7 @@ void writeProfile(const Plan& plan)
     SetSetting(1, values::CStr(plan.lastDay));
     SetSetting(5, logo);
     SetSetting(6, QStringLiteral("Ladies' and gents' tailoring since 1974"));
-    SetSetting(10, name);
+    SetSetting(10, session.ShopName);
     SetSetting(13, QStringLiteral("7"));
     SetSetting(23, QString::number(plan.firstNumber));
     SetSetting(24, DefaultJobRegisteredDraft());
@@ -125,7 +129,6 @@ void layShop(const Plan& plan, const QString& folder)
     });
     inBatches(cards.size(), [&](size_t from, size_t to) { writeCards(&cards[from], cards.data() + to); });
     LoadSessionDefaults();
-    session.ShopName = QStringLiteral("Rangoli Tailors");
 }
 
 } // namespace sample
