@@ -28,7 +28,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
     ui->setupUi(this);
     setCriteria({ui->lvSummary, ui->DateFrom, ui->DateTo, ui->cmbClient, ui->cmbCondition});
     // What the told shares leave is the balance's. A column never gets too narrow for what it mostly holds.
-    ui->lvSummary->setColumns({{QStringLiteral("Date"), 10, Qt::AlignLeft, 104},
+    ui->lvSummary->setColumns({{QStringLiteral("Date"), 10, Qt::AlignLeft, 110},
                                {QStringLiteral("JOB ID"), 5, Qt::AlignLeft, 76},
                                {QStringLiteral("Client Name"), 12, Qt::AlignLeft, 130},
                                {QStringLiteral("Item Name"), 12, Qt::AlignLeft, 110},
@@ -68,6 +68,13 @@ frmWorkerJobRegister::frmWorkerJobRegister()
     on(ui->Command1, &QPushButton::clicked, [this] { showDetails(true); });
     on(ui->Image1, &QPushButton::clicked, [this] { showDetails(false); });
 
+    on(ui->lvSummary, &forms::ListView::dblClicked, &frmWorkerJobRegister::openLine);
+    onKeyDown(ui->lvSummary, [this](int& key) {
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        openLine();
+    });
     on(ui->lvSummary, &forms::ListView::menuAsked, &frmWorkerJobRegister::askMenu);
     on(ui->mnuUn, &QAction::triggered, &frmWorkerJobRegister::mnuUn_Click);
     on(ui->mnuCom, &QAction::triggered, &frmWorkerJobRegister::mnuCom_Click);

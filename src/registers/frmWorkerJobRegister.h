@@ -60,6 +60,7 @@ private:
     void placeDetails();
 
     // Actions on the selected row
+    void openLine();
     void askMenu(int row, const QPoint& place);
     void mnuUn_Click();
     void mnuCom_Click();

@@ -1,6 +1,7 @@
 #include "core/DE.h"
 #include "core/Session.h"
 #include "jobcards/frmEditJOB.h"
+#include "jobcards/frmEditWorkerAssign.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/values/Numbers.h"
 #include "registers/frmWorkerJobRegister.h"
@@ -180,6 +181,13 @@ void frmWorkerJobRegister::writeDelivered(qint32 job)
 }
 
 // Other screens
+
+/// Opens the line in the workshop's screen.
+void frmWorkerJobRegister::openLine()
+{
+    if (const qint32 line = selectedLine(); line != 0)
+        openOnRow([line] { frmEditWorkerAssign().ShowEdit(line); });
+}
 
 void frmWorkerJobRegister::mnuOpenJobCard_Click()
 {
