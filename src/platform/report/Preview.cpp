@@ -17,6 +17,10 @@ namespace {
 
 constexpr double shareOfScreen = 0.97;
 constexpr double zoomStep = 1.25;
+constexpr int iconButtonWidth = 38;
+constexpr int labelGap = 14;
+
+QString pageText(int page, int count) { return QStringLiteral("Page %1 of %2").arg(page).arg(count); }
 
 } // namespace
 
@@ -29,7 +33,7 @@ Preview::Preview(const Report& report, QWidget* parent)
     setObjectName(QStringLiteral("Preview"));
     setWindowTitle(report.Title);
     auto* tools = new QHBoxLayout;
-    tools->setSpacing(6);
+    tools->setSpacing(4);
     const auto add = [&](QPushButton* button) {
         tools->addWidget(button);
         return button;
@@ -49,7 +53,8 @@ Preview::Preview(const Report& report, QWidget* parent)
     lblPage = new QLabel;
     lblPage->setObjectName(QStringLiteral("lblPage"));
     lblPage->setAlignment(Qt::AlignCenter);
-    lblPage->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("Page 000 of 000  ")));
+    lblPage->setMinimumWidth(fontMetrics().horizontalAdvance(pageText(m_pages.count(), m_pages.count())) +
+                             labelGap);
     tools->addWidget(lblPage);
     cmdNext = add(addButton(QStringLiteral("cmdNext"), {}, QStringLiteral("next"),
                             QStringLiteral("Next page (Page Down)"),
@@ -63,7 +68,7 @@ Preview::Preview(const Report& report, QWidget* parent)
     lblZoom = new QLabel;
     lblZoom->setObjectName(QStringLiteral("lblZoom"));
     lblZoom->setAlignment(Qt::AlignCenter);
-    lblZoom->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("500 %  ")));
+    lblZoom->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("500 %")) + labelGap);
     tools->addWidget(lblZoom);
     add(addButton(QStringLiteral("cmdZoomIn"), {}, QStringLiteral("zoom-in"), QStringLiteral("Larger (+)"),
                   [this] { m_view->setZoom(m_view->zoom() * zoomStep); }));
@@ -97,8 +102,10 @@ QPushButton* Preview::addButton(const QString& name, const QString& text, const 
     button->setProperty("iconName", icon);
     button->setProperty("compact", true);
     button->setToolTip(hint);
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         button->setAccessibleName(hint);
+        button->setFixedWidth(iconButtonWidth);
+    }
     button->setAutoDefault(false);
     on(button, &QPushButton::clicked, [procedure = std::move(procedure)] { procedure(); });
     return button;
@@ -112,7 +119,7 @@ void Preview::Form_Load()
 
 void Preview::refresh()
 {
-    lblPage->setText(QStringLiteral("Page %1 of %2").arg(m_view->page() + 1).arg(m_pages.count()));
+    lblPage->setText(pageText(m_view->page() + 1, m_pages.count()));
     lblZoom->setText(QStringLiteral("%1 %").arg(qRound(m_view->zoom() * 100)));
     const bool before = m_view->page() > 0;
     const bool behind = m_view->page() < m_pages.count() - 1;
