@@ -18,9 +18,6 @@ QString checkedText(const QCheckBox& box) { return QString::number(int(box.isChe
 
 QString numberText(const QLineEdit& box) { return values::CStr(values::Val(box.text())); }
 
-/// A draft as the messages need it: its lines end with a carriage return alone.
-QString draft(const swTextBoxMultiLine& box) { return box.toPlainText().replace(u'\n', u'\r'); }
-
 } // namespace
 
 frmSettings::frmSettings()
@@ -63,9 +60,22 @@ void frmSettings::Form_Load()
     ui->txtBackuppath->setText(GetSetting(19, QString()));
     check(*ui->opChangeDateAuto, 22, "0");
     ui->txtStartNum->setText(GetSetting(23, QStringLiteral("1")));
-    ui->txtSMS1->setText(GetSetting(24, DefaultJobRegisteredDraft()));
-    ui->txtSMS2->setText(GetSetting(25, DefaultJobFinishedDraft()));
-    ui->txtSMS3->setText(GetSetting(26, DefaultDueBalanceDraft()));
+    showDraft(*ui->txtSMS1, GetSetting(24, DefaultJobRegisteredDraft()));
+    showDraft(*ui->txtSMS2, GetSetting(25, DefaultJobFinishedDraft()));
+    showDraft(*ui->txtSMS3, GetSetting(26, DefaultDueBalanceDraft()));
+}
+
+void frmSettings::showDraft(swTextBoxMultiLine& box, const QString& text)
+{
+    box.setText(text);
+    m_shownDrafts[&box] = text;
+}
+
+/// As it was shown, to the byte, unless it has been edited; the lines of an edited one end with a carriage
+/// return alone.
+QString frmSettings::draft(const swTextBoxMultiLine& box) const
+{
+    return box.document()->isModified() ? box.toPlainText().replace(u'\n', u'\r') : m_shownDrafts[&box];
 }
 
 // Keys
@@ -109,9 +119,9 @@ void frmSettings::Command8_Click()
 {
     if (!forms::askPlain(this, QStringLiteral("Are you sure to load default SMS drafts?")))
         return;
-    ui->txtSMS1->setText(DefaultJobRegisteredDraft());
-    ui->txtSMS2->setText(DefaultJobFinishedDraft());
-    ui->txtSMS3->setText(DefaultDueBalanceDraft());
+    showDraft(*ui->txtSMS1, DefaultJobRegisteredDraft());
+    showDraft(*ui->txtSMS2, DefaultJobFinishedDraft());
+    showDraft(*ui->txtSMS3, DefaultDueBalanceDraft());
 }
 
 void frmSettings::Command1_Click()

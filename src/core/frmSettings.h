@@ -2,9 +2,11 @@
 
 #include "platform/forms/Screen.h"
 
+#include <QHash>
 #include <memory>
 
 class QLineEdit;
+class swTextBoxMultiLine;
 
 namespace Ui {
 class frmSettings;
@@ -25,6 +27,8 @@ protected:
     void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
 
 private:
+    void showDraft(swTextBoxMultiLine& box, const QString& text);
+    QString draft(const swTextBoxMultiLine& box) const;
     void txtSMSTitle_KeyPress(int& key);
     void selectPicture(QLineEdit& box);
     void Command8_Click();
@@ -32,4 +36,5 @@ private:
     void writeSettings();
 
     const std::unique_ptr<Ui::frmSettings> ui;
+    QHash<const swTextBoxMultiLine*, QString> m_shownDrafts;
 };
