@@ -330,7 +330,6 @@ void Screen::closeEvent(QCloseEvent* event)
 /// QDialog's own Enter and Esc are off: what a key means is the screen's to say.
 void Screen::keyPressEvent(QKeyEvent* event) { event->ignore(); }
 
-/// Stands over the middle of the screen below.
 /// A fine line around the screen: where no window manager frames it, it still stands off from the one below.
 void Screen::paintEvent(QPaintEvent* event)
 {
@@ -342,6 +341,7 @@ void Screen::paintEvent(QPaintEvent* event)
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
+/// Stands over the middle of the screen below.
 void Screen::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
