@@ -54,7 +54,7 @@ void writeProfile(const Plan& plan)
     SetSetting(1, values::CStr(plan.lastDay));
     SetSetting(5, logo);
     SetSetting(6, QStringLiteral("Ladies' and gents' tailoring since 1974"));
-    SetSetting(10, session.ShopName);
+    SetSetting(10, QStringLiteral("Rangoli")); // ten characters at most
     SetSetting(13, QStringLiteral("7"));
     SetSetting(23, QString::number(plan.firstNumber));
     SetSetting(24, DefaultJobRegisteredDraft());
