@@ -23,10 +23,10 @@ void pressKey(QWidget& control, int key, const QString& text)
     QApplication::sendEvent(&control, &release);
 }
 
-void paint(QWidget& screen)
+void paint()
 {
-    QApplication::sendPostedEvents();
-    screen.repaint();
+    constexpr int enough = 1000; // ms; it ends when nothing is left to do
+    QApplication::processEvents(QEventLoop::AllEvents, enough);
 }
 
 double residentMegabytes()

@@ -10,8 +10,8 @@ void onScreen(forms::Screen& screen, const std::function<void()>& open, const st
 /// A key, down and up, to a control.
 void pressKey(QWidget& control, int key, const QString& text = {});
 
-/// Lays out and paints what has changed, as the next turn of the event loop does.
-void paint(QWidget& screen);
+/// Lays out and paints what has changed.
+void paint();
 
 /// Resident memory of this process, in MB.
 double residentMegabytes();

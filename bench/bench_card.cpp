@@ -131,7 +131,7 @@ void chooseClient(benchmark::State& state)
                 number = (number + 4001) % FullShop::clients().size();
                 client->setText(FullShop::clients()[number]);
                 next->setFocus();
-                paint(screen);
+                paint();
                 state.PauseTiming();
                 client->setFocus();
                 client->closeUp();
@@ -146,8 +146,9 @@ void chooseClient(benchmark::State& state)
 
 } // namespace
 
-BENCHMARK(bareRows)->Unit(benchmark::kMicrosecond)->Iterations(25)->Repetitions(6);
-BENCHMARK(saveCard)->Unit(benchmark::kMicrosecond)->Iterations(25)->Repetitions(6);
+// The numbers of lines end at 32,767: what the two write must fit in.
+BENCHMARK(bareRows)->Unit(benchmark::kMicrosecond)->Iterations(10)->Repetitions(6);
+BENCHMARK(saveCard)->Unit(benchmark::kMicrosecond)->Iterations(10)->Repetitions(6);
 BENCHMARK(chooseClient)->Unit(benchmark::kMicrosecond)->Iterations(200);
 
 int main(int argc, char* argv[])

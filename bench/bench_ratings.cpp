@@ -19,7 +19,7 @@ void ratings(benchmark::State& state)
         [&] {
             for (auto _ : state) {
                 screen.GetRank();
-                paint(screen);
+                paint();
             }
         });
 }

@@ -38,7 +38,7 @@ void chooseDays(QWidget& screen, int days)
 void showDays(QWidget& screen)
 {
     pressKey(control<QWidget>(screen, "cmbClient"), Qt::Key_Return, QStringLiteral("\r"));
-    paint(screen);
+    paint();
 }
 
 void showRegister(benchmark::State& state)
@@ -52,7 +52,6 @@ void showRegister(benchmark::State& state)
             for (auto _ : state)
                 showDays(screen);
             state.counters["lines"] = control<forms::ListView>(screen, "lvSummary").rowCount() - 1;
-            state.counters["resident_MB"] = residentMegabytes();
         });
 }
 
@@ -114,10 +113,10 @@ void mark(benchmark::State& state, int key)
             int row = 0;
             for (auto _ : state) {
                 list.selectRow(row++ % (list.rowCount() - 1));
-                paint(screen);
+                paint();
                 answers.clock.invalidate();
                 pressKey(list, key);
-                paint(screen);
+                paint();
                 if (!answers.clock.isValid())
                     state.SkipWithError("nothing was asked");
                 state.SetIterationTime(static_cast<double>(answers.clock.nsecsElapsed()) / 1e9);

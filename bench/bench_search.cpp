@@ -28,13 +28,13 @@ void typeLetters(benchmark::State& state, const char* box, const char* word)
                     state.PauseTiming();
                     field->setFocus();
                     field->clear();
-                    paint(screen);
+                    paint();
                     typed = 0;
                     state.ResumeTiming();
                 }
                 const QChar letter = letters[typed++];
                 pressKey(*field, letter.toUpper().unicode(), letter);
-                paint(screen);
+                paint();
             }
         });
 }

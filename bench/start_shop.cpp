@@ -4,10 +4,13 @@
 #include "core/Session.h"
 #include "core/modMain.h"
 #include "jobcards/frmEditJOB.h"
+#include "platform/forms/DatePicker.h"
 #include "platform/forms/Theme.h"
+#include "registers/frmWorkerJobRegister.h"
 
 #include <QApplication>
 #include <QEvent>
+#include <QPushButton>
 #include <QTimer>
 #include <QWidget>
 #include <cstdio>
@@ -25,6 +28,22 @@ void openCard()
     card.ShowAddNew();
 }
 
+/// The register, showing the shop's last 30 days.
+void openRegister()
+{
+    frmWorkerJobRegister screen;
+    onScreen(
+        screen, [&] { screen.showModal(); },
+        [&] {
+            screen.findChild<forms::DatePicker*>(QStringLiteral("DateFrom"))
+                ->setValue(session.WorkingDate.addDays(-29));
+            screen.findChild<QPushButton*>(QStringLiteral("Command4"))->click();
+            paint();
+            std::printf("%.1f\n", residentMegabytes());
+            QCoreApplication::quit();
+        });
+}
+
 class EndWithFirstPicture : public QObject
 {
     bool eventFilter(QObject* watched, QEvent* event) override
@@ -32,8 +51,11 @@ class EndWithFirstPicture : public QObject
         if (event->type() != QEvent::Paint || watched->objectName() != QLatin1String("frmMain"))
             return false;
         qApp->removeEventFilter(this);
-        const bool card = QCoreApplication::arguments().value(3) == QLatin1String("card");
-        QTimer::singleShot(0, qApp, card ? &openCard : &QCoreApplication::quit);
+        const QString then = QCoreApplication::arguments().value(3);
+        QTimer::singleShot(0, qApp,
+                           then == QLatin1String("card")       ? &openCard
+                           : then == QLatin1String("register") ? &openRegister
+                                                               : &QCoreApplication::quit);
         return false;
     }
 };
