@@ -131,7 +131,8 @@ void chooseClient(benchmark::State& state)
                 number = (number + 4001) % FullShop::clients().size();
                 client->setText(FullShop::clients()[number]);
                 next->setFocus();
-                paint();
+                QApplication::sendPostedEvents();
+                screen.repaint();
                 state.PauseTiming();
                 client->setFocus();
                 client->closeUp();

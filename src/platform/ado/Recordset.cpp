@@ -28,6 +28,12 @@ QString literal(const QVariant& stored)
 const QVariant& Recordset::Private::value(int column)
 {
     const auto place = static_cast<size_t>(column);
+    asked.resize(current->values.size());
+    asked[place] = true;
+    if (!current->untaken.empty() && current->untaken[place]) {
+        current->values[place] = statement->column(column + hiddenColumns);
+        current->untaken[place] = false;
+    }
     if (current->unread && !current->isChanged(place)) {
         auto rereading = base().prepare(QStringLiteral("SELECT rowid, * FROM ") + quotedName(words.table) +
                                         QStringLiteral(" WHERE rowid=?"));
@@ -49,6 +55,7 @@ void Recordset::Private::setValue(int column, const QVariant& stored)
 {
     if (!current)
         throw NoCurrentRecordError();
+    takeInCurrent();
     current->values[static_cast<size_t>(column)] = stored;
     current->changed.resize(current->values.size());
     current->changed[static_cast<size_t>(column)] = true;

@@ -16,6 +16,7 @@ struct Row
     bool unread = false; ///< defaults of a row just added are read when one is asked for
     std::vector<QVariant> values;
     std::vector<bool> changed; ///< empty while nothing is
+    std::vector<bool> untaken; ///< left with the engine until asked for; empty while nothing is
 
     bool isChanged(size_t column) const { return !changed.empty() && changed[column]; }
 };
@@ -47,6 +48,7 @@ struct Recordset::Private
     bool blockIsWhole = false;      ///< the block runs to the last row
     bool blockHasFirst = false;     ///< the block begins with the first row
     std::optional<int> countInFile; ///< rows of the query, once counted
+    std::vector<bool> asked;        ///< columns of the query that were asked for
     std::vector<RowPtr> added;      ///< since the query ran; they stand behind its rows
     std::vector<RowPtr> unwritten;  ///< changed or new, in the order of their change
     At at = At::End;
@@ -67,8 +69,15 @@ struct Recordset::Private
     /// Reads the first rows, if that is still to be done.
     void readBlock();
     void close();
+    /// False at the end of the result.
+    bool stepInFile();
     RowPtr nextFromFile();
     RowPtr readRow(const Prepared& source) const;
+    /// The next row of a long result. Columns that no row was asked for yet stay with the engine, which
+    /// stands on this row until the next one is read.
+    RowPtr nextOfStream();
+    /// Takes in what the engine still has of the current row, before it goes on.
+    void takeInCurrent();
     void endStatement();
     /// Ends the reading for a cursor that goes elsewhere: to the last row, to a new one.
     void leaveQuery();

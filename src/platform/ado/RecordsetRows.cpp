@@ -62,6 +62,7 @@ void Recordset::Private::runQuery()
     blockIsWhole = false;
     blockHasFirst = true;
     countInFile.reset();
+    asked.clear();
     at = At::Unread;
     current.reset();
     std::erase_if(added, [](const RowPtr& row) { return row->key != 0; });
@@ -98,11 +99,11 @@ void Recordset::Private::close()
     at = At::End;
 }
 
-RowPtr Recordset::Private::nextFromFile()
+bool Recordset::Private::stepInFile()
 {
     try {
         if (base().step(*statement))
-            return readRow(*statement);
+            return true;
     } catch (...) {
         // Half a result must not pass for the whole.
         statement.reset();
@@ -112,7 +113,39 @@ RowPtr Recordset::Private::nextFromFile()
     endStatement();
     if (at != At::Stream)
         blockIsWhole = true;
-    return nullptr;
+    return false;
+}
+
+RowPtr Recordset::Private::nextFromFile() { return stepInFile() ? readRow(*statement) : nullptr; }
+
+RowPtr Recordset::Private::nextOfStream()
+{
+    if (!stepInFile())
+        return nullptr;
+    auto row = std::make_shared<Row>();
+    const size_t visible = columns->size() - static_cast<size_t>(hiddenColumns);
+    asked.resize(visible);
+    if (hiddenColumns > 0)
+        row->key = statement->column(0).toLongLong();
+    row->values.resize(visible);
+    row->untaken.resize(visible);
+    for (size_t i = 0; i < visible; ++i) {
+        if (asked[i])
+            row->values[i] = statement->column(static_cast<int>(i) + hiddenColumns);
+        else
+            row->untaken[i] = true;
+    }
+    return row;
+}
+
+void Recordset::Private::takeInCurrent()
+{
+    if (!current || current->untaken.empty())
+        return;
+    for (size_t i = 0; i < current->untaken.size(); ++i)
+        if (current->untaken[i])
+            current->values[i] = statement->column(static_cast<int>(i) + hiddenColumns);
+    current->untaken.clear();
 }
 
 RowPtr Recordset::Private::readRow(const Prepared& source) const
@@ -135,6 +168,7 @@ void Recordset::Private::endStatement()
 
 void Recordset::Private::leaveQuery()
 {
+    takeInCurrent();
     endStatement();
     blockHasFirst = blockHasFirst && at != At::Unread;
 }
@@ -146,6 +180,7 @@ void Recordset::Private::takeInRest(const QString& table)
         return;
     readBlock();
     if (at == At::Stream) {
+        takeInCurrent();
         block.assign(1, current);
         blockHasFirst = false;
         at = At::Block;
@@ -209,7 +244,7 @@ void Recordset::Private::moveNext()
     case At::Stream:
         break;
     }
-    RowPtr row = statement ? nextFromFile() : nullptr;
+    RowPtr row = statement ? nextOfStream() : nullptr;
     if (row)
         standOn(At::Stream, 0, std::move(row));
     else
