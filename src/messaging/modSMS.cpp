@@ -4,6 +4,9 @@
 #include "core/Settings.h"
 #include "platform/values/Numbers.h"
 
+#include <QEventLoop>
+#include <QProcess>
+
 namespace {
 
 constexpr qint32 SignatureSetting = 10;
@@ -105,3 +108,18 @@ QString ContactOf(ado::Recordset& account)
 bool AllItemsCompleted(qint32 jobId) { return allItemsInState(jobId, 1); }
 
 bool AllItemsDelivered(qint32 jobId) { return allItemsInState(jobId, 2); }
+
+void RunAndWait(const QString& commandLine)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.setInputChannelMode(QProcess::ForwardedInputChannel);
+    QEventLoop loop;
+    QObject::connect(&process, &QProcess::stateChanged, &loop, [&loop](QProcess::ProcessState state) {
+        if (state == QProcess::NotRunning)
+            loop.quit();
+    });
+    process.startCommand(commandLine);
+    if (process.state() != QProcess::NotRunning)
+        loop.exec();
+}

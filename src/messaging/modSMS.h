@@ -32,3 +32,6 @@ QString ContactOf(ado::Recordset& account);
 /// True when every line of the card is completed (delivered). A card without lines counts as both.
 bool AllItemsCompleted(qint32 jobId);
 bool AllItemsDelivered(qint32 jobId);
+
+/// Runs a program and returns when it has ended, or could not be started; the screens live on meanwhile.
+void RunAndWait(const QString& commandLine);

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <fcntl.h>
 #include <stdlib.h>
@@ -25,9 +26,7 @@ public:
             !QFile::link(QFile::decodeName(ptsname(m_end)), device))
             qFatal("no pseudo-terminal");
     }
-    ~Modem() { hangUp(); }
-    Modem(const Modem&) = delete;
-    Modem& operator=(const Modem&) = delete;
+    ~Modem() { ::close(m_end); } // hangs up
 
     /// All that has arrived so far.
     QByteArray heard()
@@ -36,12 +35,6 @@ public:
         for (ssize_t got; (got = ::read(m_end, buffer, sizeof buffer)) > 0;)
             m_heard.append(buffer, got);
         return m_heard;
-    }
-    void hangUp()
-    {
-        if (m_end >= 0)
-            ::close(m_end);
-        m_end = -1;
     }
 
 private:
@@ -79,8 +72,7 @@ private Q_SLOTS:
     void portsByNumber()
     {
         QCOMPARE(devices::serialPortName(1, m_devices->path()), device("ttyS0"));
-        for (const char* name :
-             {"ttyS1", "ttyACM1", "ttyUSB1"}) { // each goes before those of the rounds before
+        for (const char* name : {"ttyS1", "ttyACM1", "ttyUSB1"}) { // each goes before the earlier ones
             writeFile(device(name), {});
             QCOMPARE(devices::serialPortName(2, m_devices->path()), device(name));
         }
@@ -153,14 +145,12 @@ private Q_SLOTS:
 
     void draftsAreFilledIn()
     {
-        QCOMPARE(MakeJobRegisteredSms(1000, 301), "Dear Customer\r Your Job ID # 1000\r of Rs. 301 has been "
-                                                  "booked. To track job status call us with "
-                                                  "this ID.\r\r\r");
-        QCOMPARE(MakeJobFinishedSms(7, 0),
-                 "Dear Customer Your Job ID # 7 has been completed. Please visit our shop "
-                 "to collect clothes.\r\r\r");
+        QCOMPARE(
+            MakeJobRegisteredSms(1000, 301),
+            "Dear Customer\r Your Job ID # 1000\r of Rs. 301 has been booked. To track job status call us "
+            "with this ID.\r\r\r");
+        QVERIFY(MakeJobFinishedSms(7, 0).startsWith("Dear Customer Your Job ID # 7 has been completed."));
         QCOMPARE(MakeDueBalanceSms("250.00 Dr"), "Dear Customer\r Your Due Balance is : Rs. 250.00 Dr\r\r\r");
-
         SetSetting(10, "O'Neil Tailors");
         SetSetting(24, "%eid%/%eid%: %amount%");
         SetSetting(26, "pay %amount%%amount%");
@@ -168,7 +158,7 @@ private Q_SLOTS:
         QCOMPARE(MakeDueBalanceSms("1"), "pay 11");
     }
 
-    void clientsMobileAndContact()
+    void whatIsLookedUp()
     {
         const auto oneil = qint16(shop->addClient("Sean O'Neil", "98"));
         const auto asha = qint16(shop->addClient("Asha", "97"));
@@ -183,21 +173,16 @@ private Q_SLOTS:
         QCOMPARE(GetClientContact(asha), "97   Lane 3   Agra    ");
         QCOMPARE(GetClientContact(ravi), "No Information Found");
         QVERIFY(GetClientContact(999).isEmpty());
+        QVERIFY(AllItemsCompleted(1) && AllItemsDelivered(1)); // a card without lines counts as both
     }
 
-    void allItemsInOneState()
+    void aProgramIsWaitedFor()
     {
-        QVERIFY(AllItemsCompleted(1) && AllItemsDelivered(1)); // a card without lines counts as both
-        for (const auto& [first, second] :
-             {std::pair(0, 0), std::pair(1, 1), std::pair(2, 2), std::pair(2, 1)}) {
-            Shop::run("Delete from Jobs_Detail");
-            for (const int state : {first, second})
-                Shop::run(QString("Update Jobs_Detail set DoneByWorker=%1 where id=%2")
-                              .arg(state)
-                              .arg(shop->addJobLine(1, 1)));
-            QCOMPARE(AllItemsCompleted(1), first == 1 && second == 1);
-            QCOMPARE(AllItemsDelivered(1), first == 2 && second == 2);
-        }
+        QTimer::singleShot(0, this, [this] { writeFile(device("screens live"), {}); });
+        RunAndWait(QString("sh -c \"until mv '%1' '%1 on'; do sleep 0.01; done 2> /dev/null\"")
+                       .arg(device("screens live")));
+        QVERIFY(QFile::exists(device("screens live on")));
+        RunAndWait("/no/such/program");
     }
 };
 
