@@ -154,7 +154,7 @@ void frmEditWorkerAssign::showLine()
     const qint32 payrollID = line["PayrollID"].integer();
     line.Close();
 
-    for (QLineEdit* box : {ui->txtClient, ui->txtItemName, ui->txtRemark})
+    for (QLineEdit* box : {ui->txtClient, ui->txtItemName})
         box->setCursorPosition(0); // a long text shows from its beginning
     showWagesPaid(wage, payrollID);
     ui->cmbWorker->setText(worker);
