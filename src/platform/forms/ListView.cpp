@@ -4,6 +4,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QPainter>
 #include <QStyledItemDelegate>
 #include <QTextDocument>
 #include <QToolTip>
@@ -16,19 +17,44 @@ namespace {
 
 constexpr int heightOfRow = 32;
 constexpr int paddingOfCell = 18; // left and right of the text
+constexpr int gapOfPicture = 6;
 constexpr qsizetype longestTip = 1000;
+constexpr qsizetype longestShown = 300; // more than any column has room for
 
-/// Pictures keep their colours on a selected row.
+/// Paints picture and text of a cell itself, on the ground that the style draws: the style would lay out each
+/// text several times, and the lists are full of texts. Pictures keep their colours on a selected row.
 class Cells : public QStyledItemDelegate
 {
     using QStyledItemDelegate::QStyledItemDelegate;
 
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+public:
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        QStyledItemDelegate::initStyleOption(option, index);
-        if (!option->icon.isNull())
-            option->icon.addPixmap(index.data(Qt::DecorationRole).value<QPixmap>(), QIcon::Selected);
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        const QString text = std::exchange(cell.text, {}).left(longestShown);
+        cell.state &= ~QStyle::State_HasFocus; // its frame would tint the row, which is marked as it is
+        cell.features &= ~(QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration);
+        cell.widget->style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+
+        QRect room = cell.rect.adjusted(paddingOfCell / 2, 0, -paddingOfCell / 2, 0);
+        const auto picture = index.data(Qt::DecorationRole).value<QPixmap>();
+        if (!picture.isNull()) {
+            const QSize size = picture.deviceIndependentSize().toSize();
+            painter->drawPixmap(room.left(), room.center().y() - size.height() / 2, picture);
+            room.setLeft(room.left() + size.width() + gapOfPicture);
+        }
+        if (text.isEmpty())
+            return;
+        const bool chosen =
+            cell.state.testFlag(QStyle::State_Selected) && cell.state.testFlag(QStyle::State_Active);
+        painter->save();
+        painter->setFont(cell.font);
+        painter->setPen(
+            cell.palette.color(QPalette::Active, chosen ? QPalette::HighlightedText : QPalette::Text));
+        painter->drawText(room, int(cell.displayAlignment) | Qt::TextSingleLine,
+                          cell.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
+        painter->restore();
     }
 };
 
@@ -145,7 +171,6 @@ ListView::ListView(QWidget* parent)
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
-    setAllColumnsShowFocus(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
     setSelectionBehavior(SelectRows);
