@@ -9,12 +9,12 @@
 
 namespace {
 
-template <typename Ask>
-const QString& knownOr(QHash<qint32, QString>& known, qint32 id, Ask ask)
+template <typename Key, typename Ask>
+const QString& knownOr(QHash<Key, QString>& known, const Key& key, Ask ask)
 {
-    auto found = known.find(id);
+    auto found = known.find(key);
     if (found == known.end())
-        found = known.insert(id, ask(id));
+        found = known.insert(key, ask(key));
     return *found;
 }
 
@@ -103,3 +103,5 @@ const QString& LineNames::balance(qint32 client)
         return balanceText(GetBalance(values::toInt16(account), m_balancesUpTo));
     });
 }
+
+const QString& LineNames::date(const QDate& day) { return knownOr(m_dates, day, lineDate); }

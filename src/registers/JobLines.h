@@ -2,6 +2,7 @@
 
 #include "platform/ado/Recordset.h"
 
+#include <QDate>
 #include <QHash>
 #include <QString>
 
@@ -46,6 +47,8 @@ public:
     const QString& contact(qint32 id);
     const QString& item(qint32 id);
     const QString& balance(qint32 client);
+    /// The day as lineDate() words it.
+    const QString& date(const QDate& day);
     const QString& worker(qint32 id) { return id == 0 ? noWorker : account(id); }
 
 private:
@@ -56,4 +59,5 @@ private:
     Known m_contacts;
     Known m_items;
     Known m_balances;
+    QHash<QDate, QString> m_dates;
 };

@@ -163,10 +163,10 @@ forms::ListView::Row frmWorkerJobRegister::rowOf(ado::Recordset& line, LineNames
     const QDate delivery = line["JobDelDate"].date();
     const qint32 state = markOf(line["DoneByWorker"]);
     forms::ListView::Row row;
-    row.cells << lineDate(line["Date"].date())
+    row.cells << names.date(line["Date"].date())
               << line["JobID"].text() + QLatin1Char('/') + line["ItemSr"].text() << names.account(client)
               << names.item(line["ItemID"].integer()) << line["Remarks"].text()
-              << lineDate(delivery) + QLatin1String(" (") + daysAhead(delivery) + QLatin1String(" D)")
+              << names.date(delivery) + QLatin1String(" (") + daysAhead(delivery) + QLatin1String(" D)")
               << names.worker(worker);
     row.looks[ClientColumn].toolTip = names.contact(client);
     if (worker != 0)
