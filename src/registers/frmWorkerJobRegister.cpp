@@ -62,7 +62,10 @@ frmWorkerJobRegister::frmWorkerJobRegister()
         view();
     });
     on(ui->cmbCondition, &forms::ComboBox::clicked, [this] { conditionStep(); });
-    on(ui->Command4, &QPushButton::clicked, [this] { view(); });
+    on(ui->Command4, &QPushButton::clicked, [this] {
+        view();
+        ui->lvSummary->setFocus();
+    });
     on(ui->Command8, &QPushButton::clicked, &frmWorkerJobRegister::Command8_Click);
     on(ui->Command3, &QPushButton::clicked, &frmWorkerJobRegister::Command3_Click);
     on(ui->Command1, &QPushButton::clicked, [this] { showDetails(true); });
@@ -272,6 +275,7 @@ void frmWorkerJobRegister::Command8_Click()
     SearchMode = allJobs == 1 ? QStringLiteral("CUSTUNDEL") : QStringLiteral("CUST");
     session.RefreshLists = true;
     ExecuteSQL();
+    ui->lvSummary->setFocus();
 }
 
 /// The worker picked from the numbers of lines of all.
