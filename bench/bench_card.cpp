@@ -5,7 +5,6 @@
 #include "jobcards/JobCard.h"
 #include "jobcards/frmEditJOB.h"
 #include "platform/forms/ComboBox.h"
-#include "platform/forms/Theme.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -151,12 +150,3 @@ void chooseClient(benchmark::State& state)
 BENCHMARK(bareRows)->Unit(benchmark::kMicrosecond)->Iterations(10)->Repetitions(6);
 BENCHMARK(saveCard)->Unit(benchmark::kMicrosecond)->Iterations(10)->Repetitions(6);
 BENCHMARK(chooseClient)->Unit(benchmark::kMicrosecond)->Iterations(200);
-
-int main(int argc, char* argv[])
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    const FullShop shop;
-    forms::applyTheme(application, QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/fonts"));
-    benchmark::RunSpecifiedBenchmarks();
-}

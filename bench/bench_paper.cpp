@@ -3,11 +3,9 @@
 #include "core/Session.h"
 #include "jobcards/JobCard.h"
 #include "jobcards/MODPrintJOBCARD.h"
-#include "platform/forms/Theme.h"
 #include "platform/report/Pages.h"
 #include "platform/report/Pdf.h"
 
-#include <QApplication>
 #include <benchmark/benchmark.h>
 
 // A job card of 40 lines, from the file to a PDF: meant to take less than 200 ms.
@@ -47,12 +45,3 @@ void cardToPdf(benchmark::State& state)
 } // namespace
 
 BENCHMARK(cardToPdf)->Unit(benchmark::kMillisecond);
-
-int main(int argc, char* argv[])
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    const FullShop shop;
-    forms::applyTheme(application, QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/fonts"));
-    benchmark::RunSpecifiedBenchmarks();
-}

@@ -1,10 +1,7 @@
 #include "Bare.h"
-#include "FullShop.h"
 #include "OnScreen.h"
 #include "planning/frmRatings.h"
-#include "platform/forms/Theme.h"
 
-#include <QApplication>
 #include <benchmark/benchmark.h>
 
 // The ranking of 200 workers over 32,000 lines, rebuilt and painted: meant to take less than 150 ms.
@@ -36,12 +33,3 @@ void ratingsFloor(benchmark::State& state)
 
 BENCHMARK(ratings)->Unit(benchmark::kMillisecond);
 BENCHMARK(ratingsFloor)->Unit(benchmark::kMillisecond);
-
-int main(int argc, char* argv[])
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    const FullShop shop;
-    forms::applyTheme(application, QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/fonts"));
-    benchmark::RunSpecifiedBenchmarks();
-}

@@ -1,10 +1,8 @@
 #include "Bare.h"
-#include "FullShop.h"
 #include "OnScreen.h"
 #include "core/Session.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/ListView.h"
-#include "platform/forms/Theme.h"
 #include "registers/frmWorkerJobRegister.h"
 
 #include <QApplication>
@@ -131,12 +129,3 @@ BENCHMARK(registerFloor)->Arg(day)->Arg(month)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(mark, F6, Qt::Key_F6)->UseManualTime()->Iterations(40)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(mark, F7, Qt::Key_F7)->UseManualTime()->Iterations(40)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(mark, F8, Qt::Key_F8)->UseManualTime()->Iterations(40)->Unit(benchmark::kMillisecond);
-
-int main(int argc, char* argv[])
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    const FullShop shop;
-    forms::applyTheme(application, QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/fonts"));
-    benchmark::RunSpecifiedBenchmarks();
-}

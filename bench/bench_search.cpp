@@ -1,11 +1,8 @@
 #include "Bare.h"
-#include "FullShop.h"
 #include "OnScreen.h"
-#include "platform/forms/Theme.h"
 #include "registers/frmSearchClient.h"
 #include "ui/swTextBox.h"
 
-#include <QApplication>
 #include <benchmark/benchmark.h>
 
 // Finding a client among 8,000: each keystroke, the list painted, is meant to take less than 30 ms.
@@ -52,12 +49,3 @@ BENCHMARK(searchFloor)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(typeLetters, anyName, "txtName", "a")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(typeLetters, name, "txtName", "ramesh")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(typeLetters, mobile, "txtMobile", "98290145")->Unit(benchmark::kMillisecond);
-
-int main(int argc, char* argv[])
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    const FullShop shop;
-    forms::applyTheme(application, QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/fonts"));
-    benchmark::RunSpecifiedBenchmarks();
-}

@@ -28,7 +28,9 @@
 #include "planning/frmFeedBack.h"
 #include "planning/frmRatings.h"
 #include "planning/frmWorkerReport2.h"
+#include "platform/forms/DatePicker.h"
 #include "platform/forms/ListBox.h"
+#include "platform/forms/ListView.h"
 #include "platform/forms/Theme.h"
 #include "registers/frmSearchClient.h"
 #include "registers/frmWorkerJobRegister.h"
@@ -40,6 +42,8 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -164,7 +168,8 @@ void takeAll()
         frmTransiction().ShowAddNew(client(), saved);
     });
     picture("job-card", [] { frmEditJOB().ShowEdit(showpiece()); });
-    picture("job-register", [] { frmWorkerJobRegister().showModal(); });
+    picture(
+        "job-register", [] { frmWorkerJobRegister().showModal(); }, showDueLines);
     picture("assign-job", [] { frmEditWorkerAssign().ShowEdit(shownLine()); });
     picture("paper-job-card", [] { PrintJobCard(showpiece()); });
     picture("paper-slip", [] { PrintWorkerSlip(shownLine()); });
@@ -213,6 +218,16 @@ void takeAll()
         frmMain screen;
         screen.showModal();
     });
+}
+
+/// The lines that are due in these days are in every state.
+void showDueLines(forms::Screen& screen)
+{
+    screen.findChild<QRadioButton*>(QStringLiteral("opDt2"))->setChecked(true);
+    screen.findChild<forms::DatePicker*>(QStringLiteral("DateFrom"))
+        ->setValue(session.WorkingDate.addDays(-2));
+    screen.findChild<QPushButton*>(QStringLiteral("Command4"))->click();
+    screen.findChild<forms::ListView*>(QStringLiteral("lvSummary"))->selectRow(2);
 }
 
 } // namespace
