@@ -81,6 +81,16 @@ QString client()
 
 QString worker() { return value(QStringLiteral("Select Title from Accounts where Type=1")).toString(); }
 
+/// The lines that are due in these days are in every state.
+void showDueLines(forms::Screen& screen)
+{
+    screen.findChild<QRadioButton*>(QStringLiteral("opDt2"))->setChecked(true);
+    screen.findChild<forms::DatePicker*>(QStringLiteral("DateFrom"))
+        ->setValue(session.WorkingDate.addDays(-2));
+    screen.findChild<QPushButton*>(QStringLiteral("Command4"))->click();
+    screen.findChild<forms::ListView*>(QStringLiteral("lvSummary"))->selectRow(2);
+}
+
 /// Calls `open`, which shows a screen modally; takes the picture of the screen in front, and closes it.
 void picture(const char* name, const std::function<void()>& open, const Prepare& prepare = {})
 {
@@ -218,16 +228,6 @@ void takeAll()
         frmMain screen;
         screen.showModal();
     });
-}
-
-/// The lines that are due in these days are in every state.
-void showDueLines(forms::Screen& screen)
-{
-    screen.findChild<QRadioButton*>(QStringLiteral("opDt2"))->setChecked(true);
-    screen.findChild<forms::DatePicker*>(QStringLiteral("DateFrom"))
-        ->setValue(session.WorkingDate.addDays(-2));
-    screen.findChild<QPushButton*>(QStringLiteral("Command4"))->click();
-    screen.findChild<forms::ListView*>(QStringLiteral("lvSummary"))->selectRow(2);
 }
 
 } // namespace
