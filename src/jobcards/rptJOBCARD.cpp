@@ -102,6 +102,7 @@ void rptJOBCARD::designHead()
                                  top, right - Left - captionWidth - Gap);
     client.Bold = true;
     client.CanGrow = true;
+    client.Height += rowHeight; // the room beside the trial date
     paper::caption(head, QStringLiteral("Label5"), QStringLiteral("Delivery Date :"), right, top,
                    rightCaption);
     paper::value(head, QStringLiteral("txtDELDATE"), QStringLiteral("DELDATE"), right + rightCaption, top,
