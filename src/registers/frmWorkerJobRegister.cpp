@@ -13,6 +13,7 @@
 #include "ui_frmWorkerJobRegister.h"
 
 #include <QHeaderView>
+#include <QScopeGuard>
 
 namespace {
 
@@ -151,9 +152,9 @@ void frmWorkerJobRegister::ExecuteSQL()
         LineNames names(ui->DateTo->value());
         names.readAll(SearchSql);
         ado::Recordset& lines = DE.rsJOBS_DETAIL;
+        const auto closed = qScopeGuard([&lines] { lines.Close(); }); // a line at fault leaves no lock behind
         for (lines.Open(SearchSql); !lines.AtEOF(); lines.MoveNext())
             rows.push_back(rowOf(lines, names));
-        lines.Close();
     });
     fillDetails();
 }
