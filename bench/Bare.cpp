@@ -1,6 +1,6 @@
 #include "Bare.h"
 
-#include "core/DE.h"
+#include "core/store/DE.h"
 
 #include <benchmark/benchmark.h>
 #include <sqlcipher/sqlite3.h>

@@ -1,10 +1,12 @@
 #include "FullShop.h"
 
-#include "core/DE.h"
-#include "core/Session.h"
-#include "core/Startup.h"
+#include "core/shell/Startup.h"
+#include "core/store/DE.h"
+#include "core/store/Session.h"
 
 #include <QFile>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -23,13 +25,13 @@ FullShop::FullShop()
 {
     session = Session();
     session.appFolder = m_folder.path();
-    if (!QFile::copy(QStringLiteral(FULL_SHOP), session.databasePath()))
+    if (!QFile::copy(QString::fromUtf8(FULL_SHOP), session.databasePath()))
         qFatal("there is no full shop at " FULL_SHOP);
     DE.open(session.databasePath());
     DE.ensureIndexes();
     LoadSessionDefaults();
-    s_clients = texts(QStringLiteral("Select Title from Accounts where type=0 order by id"));
-    s_garments = texts(QStringLiteral("Select Name from Items order by id"));
+    s_clients = texts(u"Select Title from Accounts where type=0 order by id"_s);
+    s_garments = texts(u"Select Name from Items order by id"_s);
 }
 
 FullShop::~FullShop() { DE.close(); }

@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 void onScreen(forms::Screen& screen, const std::function<void()>& open, const std::function<void()>& work)
 {
     constexpr int settle = 300; // ms
@@ -31,7 +33,7 @@ void paint()
 
 double residentMegabytes()
 {
-    QFile status(QStringLiteral("/proc/self/status"));
+    QFile status(u"/proc/self/status"_s);
     if (status.open(QIODevice::ReadOnly))
         for (const QByteArray& entry : status.readAll().split('\n'))
             if (entry.startsWith("VmRSS:"))

@@ -1,17 +1,19 @@
 // The database layer beside the bare engine, on the full shop.
 #include "Bare.h"
 #include "FullShop.h"
-#include "core/DE.h"
+#include "core/store/DE.h"
 
 #include <QCoreApplication>
 #include <benchmark/benchmark.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 void lastCard(benchmark::State& state)
 {
     for (auto _ : state) {
-        DE.rsJOBS.Open(QStringLiteral("Select * from JOBS order by ID"));
+        DE.rsJOBS.Open(u"Select * from JOBS order by ID"_s);
         DE.rsJOBS.MoveLast();
         benchmark::DoNotOptimize(DE.rsJOBS["ID"].integer());
         DE.rsJOBS.Close();
@@ -29,7 +31,7 @@ BENCHMARK(lastCardFloor)->Unit(benchmark::kMicrosecond);
 void openToAppend(benchmark::State& state)
 {
     for (auto _ : state) {
-        DE.rspostings.Open(QStringLiteral("Select * from Postings order by ID"));
+        DE.rspostings.Open(u"Select * from Postings order by ID"_s);
         DE.rspostings.AddNew();
         DE.rspostings.Close();
     }
@@ -40,7 +42,7 @@ void titleOfAccount(benchmark::State& state)
 {
     int i = 0;
     for (auto _ : state) {
-        DE.rsaccounts.Open(QStringLiteral("Select * from Accounts where ID=") + QString::number(1 + i++ % 4));
+        DE.rsaccounts.Open(u"Select * from Accounts where ID="_s + QString::number(1 + i++ % 4));
         benchmark::DoNotOptimize(DE.rsaccounts["Title"].text());
         DE.rsaccounts.Close();
     }
@@ -57,7 +59,7 @@ BENCHMARK(titleOfAccountFloor)->Unit(benchmark::kMicrosecond);
 void walkCards(benchmark::State& state)
 {
     for (auto _ : state) {
-        DE.rsJOBS.Open(QStringLiteral("Select * from JOBS"));
+        DE.rsJOBS.Open(u"Select * from JOBS"_s);
         for (; !DE.rsJOBS.AtEOF(); DE.rsJOBS.MoveNext())
             benchmark::DoNotOptimize(DE.rsJOBS["ClintName"].text());
         DE.rsJOBS.Close();
@@ -75,7 +77,7 @@ BENCHMARK(walkCardsFloor)->Unit(benchmark::kMillisecond);
 void sumOfPostings(benchmark::State& state)
 {
     for (auto _ : state) {
-        DE.rspostings.Open(QStringLiteral("Select sum(Amount) from Postings where status=0"));
+        DE.rspostings.Open(u"Select sum(Amount) from Postings where status=0"_s);
         benchmark::DoNotOptimize(DE.rspostings[0].number());
         DE.rspostings.Close();
     }
@@ -96,10 +98,10 @@ void saveCard(benchmark::State& state)
     const QDate day(2024, 2, 10);
     for (auto _ : state) {
         DE.connection().writeBatch([&] {
-            DE.rsJOBS.Open(QStringLiteral("Select * from JOBS"));
+            DE.rsJOBS.Open(u"Select * from JOBS"_s);
             DE.rsJOBS.AddNew();
             DE.rsJOBS["ID"] = ++number;
-            DE.rsJOBS["ClintName"] = QStringLiteral("A client of the shop");
+            DE.rsJOBS["ClintName"] = u"A client of the shop"_s;
             for (const char* field : {"ClintID", "AmountDue", "AmountPaid", "JOBFINISHED", "Status"})
                 DE.rsJOBS[field] = 5;
             for (const char* field : {"Date", "DeliveryDate", "TrialDate"})
@@ -110,7 +112,7 @@ void saveCard(benchmark::State& state)
             DE.rsJOBS.Close();
             for (int line = 0; line < 5; ++line) {
                 ado::Recordset& rows = DE.rsJOBS_DETAIL;
-                rows.Open(QStringLiteral("Select * from jobs_detail"));
+                rows.Open(u"Select * from jobs_detail"_s);
                 rows.AddNew();
                 for (const char* field : {"JobID", "ItemSr", "ClintID", "ItemID", "QNT", "Fees", "Amount"})
                     rows[field] = line;
@@ -118,19 +120,19 @@ void saveCard(benchmark::State& state)
                     rows[field] = day;
                 for (const char* field :
                      {"ClintName", "ItemName", "Remarks", "ItemDetails", "ItemDetailsValue"})
-                    rows[field] = QStringLiteral("Length\r\nChest\r\nWaist");
+                    rows[field] = u"Length\r\nChest\r\nWaist"_s;
                 rows.UpdateBatch();
                 rows.Close();
             }
             for (int line = 1; line <= 4; ++line) {
                 ado::Recordset& rows = DE.rspostings;
-                rows.Open(QStringLiteral("Select * from Postings order by ID"));
+                rows.Open(u"Select * from Postings order by ID"_s);
                 rows.AddNew();
                 for (const char* field : {"VID", "vType", "Sr", "AccID", "RefID", "Amount", "Status"})
                     rows[field] = line;
                 rows["Date"] = day;
                 for (const char* field : {"particulars", "Remark"})
-                    rows[field] = QStringLiteral("Job Card");
+                    rows[field] = u"Job Card"_s;
                 rows.UpdateBatch();
                 rows.Close();
             }

@@ -1,7 +1,7 @@
 #include "FullShop.h"
 #include "OnScreen.h"
-#include "core/DE.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Session.h"
 #include "jobcards/JobCard.h"
 #include "jobcards/frmEditJOB.h"
 #include "platform/forms/ComboBox.h"
@@ -11,6 +11,8 @@
 #include <benchmark/benchmark.h>
 #define SQLITE_HAS_CODEC
 #include <sqlcipher/sqlite3.h>
+
+using namespace Qt::StringLiterals;
 
 // The job card in a shop of 32,000 lines and 8,000 clients. Saving a card of five lines with money taken is
 // meant to cost at most 2 times the same rows written through the bare C API in one transaction; choosing a
@@ -29,8 +31,8 @@ JobCard fiveLines()
     JobCard card;
     for (int i = 0; i < lines; ++i)
         card.JobRows.AddNewRow(0, FullShop::garments()[i], i + 1, 1, 350, 350, QString(),
-                               QStringLiteral("Length\r\nChest"), QStringLiteral("28\r\n40"), 0, {}, {}, {},
-                               {}, {}, 0, 0, 0, {}, {}, {}, QStringLiteral("16777215"), 0, {}, {});
+                               u"Length\r\nChest"_s, u"28\r\n40"_s, 0, {}, {}, {}, {}, {}, 0, 0, 0, {}, {},
+                               {}, u"16777215"_s, 0, {}, {});
     return card;
 }
 
@@ -42,7 +44,7 @@ JobCardHead paidHead()
     head.Client = FullShop::clients().first();
     head.Total = Currency::fromDouble(1750);
     head.Paid = Currency::fromDouble(500);
-    head.ReceiptAccount = QStringLiteral("Cash");
+    head.ReceiptAccount = u"Cash"_s;
     return head;
 }
 
@@ -123,8 +125,8 @@ void chooseClient(benchmark::State& state)
     onScreen(
         screen, [&] { screen.ShowAddNew(); },
         [&] {
-            auto* client = screen.findChild<forms::ComboBox*>(QStringLiteral("cmbClient"));
-            auto* next = screen.findChild<QWidget*>(QStringLiteral("txtAmountPaid"));
+            auto* client = screen.findChild<forms::ComboBox*>(u"cmbClient"_s);
+            auto* next = screen.findChild<QWidget*>(u"txtAmountPaid"_s);
             qsizetype number = 0;
             for (auto _ : state) {
                 number = (number + 4001) % FullShop::clients().size();
@@ -137,9 +139,7 @@ void chooseClient(benchmark::State& state)
                 client->closeUp();
                 state.ResumeTiming();
             }
-            if (!screen.findChild<QLabel*>(QStringLiteral("lblLastvisit"))
-                     ->text()
-                     .contains(FullShop::clients()[number]))
+            if (!screen.findChild<QLabel*>(u"lblLastvisit"_s)->text().contains(FullShop::clients()[number]))
                 state.SkipWithError("the banner does not greet the client");
         });
 }

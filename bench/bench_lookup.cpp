@@ -1,11 +1,13 @@
 #include "FullShop.h"
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Session.h"
-#include "core/Settings.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 
 #include <QCoreApplication>
 #include <benchmark/benchmark.h>
+
+using namespace Qt::StringLiterals;
 
 // Look-ups in a shop of 32,000 lines and 8,000 clients: meant to stay under 0.1 ms each.
 
@@ -38,15 +40,14 @@ void itemByName(benchmark::State& state)
 void nameIsTaken(benchmark::State& state)
 {
     for (int i = 0; auto _ : state)
-        benchmark::DoNotOptimize(FieldValueExists(nextClient(i), QStringLiteral("Title"),
-                                                  QStringLiteral("ID"), QStringLiteral("Accounts"),
-                                                  DE.rsaccounts));
+        benchmark::DoNotOptimize(
+            FieldValueExists(nextClient(i), u"Title"_s, u"ID"_s, u"Accounts"_s, DE.rsaccounts));
 }
 
 void setting(benchmark::State& state)
 {
     for (auto _ : state)
-        benchmark::DoNotOptimize(GetSetting(13, QStringLiteral("0")));
+        benchmark::DoNotOptimize(GetSetting(13, u"0"_s));
 }
 
 void balance(benchmark::State& state)

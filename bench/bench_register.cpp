@@ -1,6 +1,6 @@
 #include "Bare.h"
 #include "OnScreen.h"
-#include "core/Session.h"
+#include "core/store/Session.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/ListView.h"
 #include "registers/frmWorkerJobRegister.h"
@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QTimer>
 #include <benchmark/benchmark.h>
+
+using namespace Qt::StringLiterals;
 
 // The job register in the full shop, from the key to the painted list. A day of 60 lines is meant to take
 // less than 50 ms, a month of 1,500 less than 250 ms, and both at most 3 times the bare engine fetching the
@@ -35,7 +37,7 @@ void chooseDays(QWidget& screen, int days)
 /// Enter in the worker's box shows the lines of the days.
 void showDays(QWidget& screen)
 {
-    pressKey(control<QWidget>(screen, "cmbClient"), Qt::Key_Return, QStringLiteral("\r"));
+    pressKey(control<QWidget>(screen, "cmbClient"), Qt::Key_Return, u"\r"_s);
     paint();
 }
 
@@ -58,15 +60,13 @@ void registerFloor(benchmark::State& state)
 {
     const QDate first = session.WorkingDate.addDays(1 - state.range(0));
     const QByteArray sql =
-        QStringLiteral(
-            "SELECT d.Id, d.DATE, d.JobID || '/' || d.ItemSr, c.Title, c.MOBILE, c.ADDRESS, c.CITY, i.NAME, "
-            "d.Remarks, d.JobDelDate, w.Title, w.MOBILE, w.ADDRESS, w.CITY, d.CuttingStatus, d.DoneByWorker, "
-            "d.Loc, (SELECT total(Amount) FROM postings p WHERE p.AccID=d.ClintID AND p.Status=0 AND "
-            "p.Date<='%2') FROM JOBS_DETAIL d JOIN Accounts c ON c.Id=d.ClintID JOIN ITEMS i ON "
-            "i.Id=d.ItemID "
-            "LEFT JOIN Accounts w ON w.Id=d.WorkerID WHERE d.DATE BETWEEN '%1' AND '%2' ORDER BY d.JobID, "
-            "d.Id")
-            .arg(first.toString(Qt::ISODate), session.WorkingDate.toString(Qt::ISODate))
+        u"SELECT d.Id, d.DATE, d.JobID || '/' || d.ItemSr, c.Title, c.MOBILE, c.ADDRESS, c.CITY, i.NAME, "
+        "d.Remarks, d.JobDelDate, w.Title, w.MOBILE, w.ADDRESS, w.CITY, d.CuttingStatus, d.DoneByWorker, "
+        "d.Loc, (SELECT total(Amount) FROM postings p WHERE p.AccID=d.ClintID AND p.Status=0 AND "
+        "p.Date<='%2') FROM JOBS_DETAIL d JOIN Accounts c ON c.Id=d.ClintID JOIN ITEMS i ON "
+        "i.Id=d.ItemID "
+        "LEFT JOIN Accounts w ON w.Id=d.WorkerID WHERE d.DATE BETWEEN '%1' AND '%2' ORDER BY d.JobID, "
+        "d.Id"_s.arg(first.toString(Qt::ISODate), session.WorkingDate.toString(Qt::ISODate))
             .toUtf8();
     for (auto _ : state)
         state.counters["lines"] = bare::run(sql.constData());
@@ -84,11 +84,11 @@ public:
             if (!front || !front->isVisible() || qobject_cast<frmWorkerJobRegister*>(front))
                 return;
             auto* place = front->findChild<QLineEdit*>();
-            auto* yes = front->findChild<QWidget*>(QStringLiteral("cmdYes"));
+            auto* yes = front->findChild<QWidget*>(u"cmdYes"_s);
             if (place)
-                place->setText(QStringLiteral("Rack A1"));
+                place->setText(u"Rack A1"_s);
             clock.start();
-            pressKey(place ? *place : *yes, Qt::Key_Return, QStringLiteral("\r"));
+            pressKey(place ? *place : *yes, Qt::Key_Return, u"\r"_s);
         });
         m_timer.start(1);
     }

@@ -1,12 +1,14 @@
 #include "FullShop.h"
-#include "core/DE.h"
-#include "core/Schema.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Schema.h"
+#include "core/store/Session.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <benchmark/benchmark.h>
+
+using namespace Qt::StringLiterals;
 
 // From the start of the process to the main screen shown: meant to be at most 1.5 times that of a bare Qt
 // program that opens the same encrypted file and shows one empty window.
@@ -20,7 +22,7 @@ void race(benchmark::State& state, const QString& program, const QStringList& ar
     for (auto _ : state) {
         QElapsedTimer clock;
         clock.start();
-        const int result = QProcess::execute(QStringLiteral(PROGRAM_FOLDER "/") + program, arguments);
+        const int result = QProcess::execute(QString::fromUtf8(PROGRAM_FOLDER "/") + program, arguments);
         state.SetIterationTime(static_cast<double>(clock.nsecsElapsed()) / 1e9);
         if (result != 0)
             state.SkipWithError("the program failed");
@@ -29,12 +31,12 @@ void race(benchmark::State& state, const QString& program, const QStringList& ar
 
 void bareWindow(benchmark::State& state)
 {
-    race(state, QStringLiteral("start_bare"), {shopFolder + QStringLiteral("/data.mdb"), databasePassword()});
+    race(state, u"start_bare"_s, {shopFolder + u"/data.mdb"_s, databasePassword()});
 }
 
 void mainScreen(benchmark::State& state)
 {
-    race(state, QStringLiteral("start_shop"), {shopFolder, QStringLiteral(PROGRAM_FOLDER "/../bin/fonts")});
+    race(state, u"start_shop"_s, {shopFolder, QString::fromUtf8(PROGRAM_FOLDER "/../bin/fonts")});
 }
 
 /// With the named screen open over the main screen.
@@ -43,8 +45,8 @@ void residentMemory(benchmark::State& state, const char* screen)
     for (auto _ : state) {
         QProcess program;
         program.start(
-            QStringLiteral(PROGRAM_FOLDER "/start_shop"),
-            {shopFolder, QStringLiteral(PROGRAM_FOLDER "/../bin/fonts"), QString::fromLatin1(screen)});
+            QString::fromUtf8(PROGRAM_FOLDER "/start_shop"),
+            {shopFolder, QString::fromUtf8(PROGRAM_FOLDER "/../bin/fonts"), QString::fromLatin1(screen)});
         program.waitForFinished();
         state.counters["resident_MB"] = program.readAllStandardOutput().trimmed().toDouble();
     }

@@ -1,8 +1,8 @@
 // The program's own start, up to the first picture of the main screen on the shop of the given folder; then
 // it ends.
 #include "OnScreen.h"
-#include "core/Session.h"
-#include "core/modMain.h"
+#include "core/shell/modMain.h"
+#include "core/store/Session.h"
 #include "jobcards/frmEditJOB.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/Theme.h"
@@ -14,6 +14,8 @@
 #include <QTimer>
 #include <QWidget>
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -35,9 +37,8 @@ void openRegister()
     onScreen(
         screen, [&] { screen.showModal(); },
         [&] {
-            screen.findChild<forms::DatePicker*>(QStringLiteral("DateFrom"))
-                ->setValue(session.WorkingDate.addDays(-29));
-            screen.findChild<QPushButton*>(QStringLiteral("Command4"))->click();
+            screen.findChild<forms::DatePicker*>(u"DateFrom"_s)->setValue(session.WorkingDate.addDays(-29));
+            screen.findChild<QPushButton*>(u"Command4"_s)->click();
             paint();
             std::printf("%.1f\n", residentMegabytes());
             QCoreApplication::quit();
@@ -48,14 +49,14 @@ class EndWithFirstPicture : public QObject
 {
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() != QEvent::Paint || watched->objectName() != QLatin1String("frmMain"))
+        if (event->type() != QEvent::Paint || watched->objectName() != "frmMain"_L1)
             return false;
         qApp->removeEventFilter(this);
         const QString then = QCoreApplication::arguments().value(3);
         QTimer::singleShot(0, qApp,
-                           then == QLatin1String("card")       ? &openCard
-                           : then == QLatin1String("register") ? &openRegister
-                                                               : &QCoreApplication::quit);
+                           then == "card"_L1       ? &openCard
+                           : then == "register"_L1 ? &openRegister
+                                                   : &QCoreApplication::quit);
         return false;
     }
 };

@@ -1,5 +1,5 @@
-#include "core/Session.h"
-#include "core/modMain.h"
+#include "core/shell/modMain.h"
+#include "core/store/Session.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/forms/Theme.h"
 #include "platform/values/Notice.h"
@@ -7,16 +7,18 @@
 #include <QApplication>
 #include <QIcon>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Seamwise"));
-    QApplication::setApplicationVersion(QStringLiteral("8.0"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.svg")));
+    QApplication::setApplicationName(u"Seamwise"_s);
+    QApplication::setApplicationVersion(u"8.0"_s);
+    QApplication::setWindowIcon(QIcon(u":/icons/app.svg"_s));
     QApplication::setQuitOnLastWindowClosed(false);
 
     session.appFolder = QCoreApplication::applicationDirPath();
-    forms::applyTheme(application, session.appFolder + QStringLiteral("/fonts"));
+    forms::applyTheme(application, session.appFolder + u"/fonts"_s);
     values::setCriticalNotice([](const QString& text) { forms::criticalMessage(nullptr, text); });
     return Main() ? QApplication::exec() : 1;
 }

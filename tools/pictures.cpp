@@ -2,17 +2,17 @@
 #include "accounts/frmAccountsList.h"
 #include "accounts/frmEditAccount.h"
 #include "accounts/frmTransiction.h"
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Session.h"
-#include "core/Settings.h"
-#include "core/frmAbout.h"
-#include "core/frmLogin.h"
-#include "core/frmMain.h"
-#include "core/frmMasters.h"
-#include "core/frmMenu.h"
-#include "core/frmSettings.h"
-#include "core/frmShopINFO.h"
+#include "core/shell/frmAbout.h"
+#include "core/shell/frmLogin.h"
+#include "core/shell/frmMain.h"
+#include "core/shell/frmMasters.h"
+#include "core/shell/frmMenu.h"
+#include "core/shell/frmSettings.h"
+#include "core/shell/frmShopINFO.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "jobcards/JobCard.h"
 #include "jobcards/MODPrintJOBCARD.h"
 #include "jobcards/frmAddItem.h"
@@ -47,6 +47,8 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Prepare = std::function<void(forms::Screen&)>;
@@ -67,28 +69,23 @@ QVariant value(const QString& sql)
 /// The card that shows best: with several lines, remarks, a picture, and money still to come.
 qint32 showpiece()
 {
-    return value(QStringLiteral(
-                     "Select JobID, 2*sum(Remarks<>'')+count(*) as shows from Jobs_Detail, Jobs where "
-                     "Jobs.id=JobID and AmountPaid>0 and AmountPaid<AmountDue group by JobID "
-                     "having sum(Img1<>'')>0 and count(*)<6 order by shows desc"))
+    return value(u"Select JobID, 2*sum(Remarks<>'')+count(*) as shows from Jobs_Detail, Jobs where "
+                 "Jobs.id=JobID and AmountPaid>0 and AmountPaid<AmountDue group by JobID "
+                 "having sum(Img1<>'')>0 and count(*)<6 order by shows desc"_s)
         .toInt();
 }
 
-QString client()
-{
-    return value(QStringLiteral("Select ClintName from Jobs where id=%1").arg(showpiece())).toString();
-}
+QString client() { return value(u"Select ClintName from Jobs where id=%1"_s.arg(showpiece())).toString(); }
 
-QString worker() { return value(QStringLiteral("Select Title from Accounts where Type=1")).toString(); }
+QString worker() { return value(u"Select Title from Accounts where Type=1"_s).toString(); }
 
 /// The lines that are due in these days are in every state.
 void showDueLines(forms::Screen& screen)
 {
-    screen.findChild<QRadioButton*>(QStringLiteral("opDt2"))->setChecked(true);
-    screen.findChild<forms::DatePicker*>(QStringLiteral("DateFrom"))
-        ->setValue(session.WorkingDate.addDays(-2));
-    screen.findChild<QPushButton*>(QStringLiteral("Command4"))->click();
-    screen.findChild<forms::ListView*>(QStringLiteral("lvSummary"))->selectRow(2);
+    screen.findChild<QRadioButton*>(u"opDt2"_s)->setChecked(true);
+    screen.findChild<forms::DatePicker*>(u"DateFrom"_s)->setValue(session.WorkingDate.addDays(-2));
+    screen.findChild<QPushButton*>(u"Command4"_s)->click();
+    screen.findChild<forms::ListView*>(u"lvSummary"_s)->selectRow(2);
 }
 
 /// Calls `open`, which shows a screen modally; takes the picture of the screen in front, and closes it.
@@ -102,7 +99,7 @@ void picture(const char* name, const std::function<void()>& open, const Prepare&
         if (prepare)
             prepare(*screen);
         QTimer::singleShot(settle, screen, [=] {
-            screen->grab().save(folder.filePath(QString::fromLatin1(name) + QStringLiteral(".png")));
+            screen->grab().save(folder.filePath(QString::fromLatin1(name) + u".png"_s));
             while (QWidget* popup = QApplication::activePopupWidget())
                 popup->close();
             screen->unload();
@@ -113,7 +110,7 @@ void picture(const char* name, const std::function<void()>& open, const Prepare&
 
 void selectInList(forms::Screen& screen)
 {
-    if (auto* list = screen.findChild<forms::ListBox*>(QStringLiteral("lstSummary")))
+    if (auto* list = screen.findChild<forms::ListBox*>(u"lstSummary"_s))
         list->setListIndex(3);
 }
 
@@ -132,8 +129,8 @@ void editLine()
 /// A completed line with pictures.
 qint32 shownLine()
 {
-    return value(QStringLiteral("Select ID from Jobs_Detail where DoneByWorker=1 and WorkerID>0 "
-                                "order by MarkAsPaid desc, Img1 desc, ID desc"))
+    return value(u"Select ID from Jobs_Detail where DoneByWorker=1 and WorkerID>0 "
+                 "order by MarkAsPaid desc, Img1 desc, ID desc"_s)
         .toInt();
 }
 
@@ -142,7 +139,7 @@ void message(const char* text, int kind, const char* language)
     session.Language = QString::fromLatin1(language);
     SetSetting(0, session.Language);
     ShowMsg(QString::fromLatin1(text), kind);
-    session.Language = QStringLiteral("English");
+    session.Language = u"English"_s;
     SetSetting(0, session.Language);
 }
 
@@ -155,12 +152,11 @@ void takeAll()
     picture("shop-info", [] { frmShopINFO().showModal(); });
     for (const char* tab : {"General", "Printing", "SMS", "Backup"})
         picture(
-            qPrintable(QStringLiteral("settings-") + QString::fromLatin1(tab).toLower()),
+            qPrintable(u"settings-"_s + QString::fromLatin1(tab).toLower()),
             [] { frmSettings().showModal(); },
             [tab](forms::Screen& screen) {
-                auto* tabs = screen.findChild<QTabWidget*>(QStringLiteral("SSTab1"));
-                tabs->setCurrentWidget(
-                    tabs->findChild<QWidget*>(QStringLiteral("page") + QLatin1String(tab)));
+                auto* tabs = screen.findChild<QTabWidget*>(u"SSTab1"_s);
+                tabs->setCurrentWidget(tabs->findChild<QWidget*>(u"page"_s + QLatin1String(tab)));
             });
     picture(
         "clients", [] { frmClients().showModal(); }, selectInList);
@@ -185,8 +181,7 @@ void takeAll()
     picture("paper-slip", [] { PrintWorkerSlip(shownLine()); });
     picture("paper-label", [] { PrintLabel(shownLine()); });
     picture("garment-picture", [] {
-        frmPreview().ShowImage(
-            value(QStringLiteral("Select Img2 from Jobs_Detail where Img2<>''")).toString());
+        frmPreview().ShowImage(value(u"Select Img2 from Jobs_Detail where Img2<>''"_s).toString());
     });
     picture("new-job-card", [] { frmEditJOB().ShowAddNew(); });
     picture("item-line", editLine);
@@ -197,19 +192,16 @@ void takeAll()
             QString client;
             SearchClient2(showAll, client);
         },
-        [](forms::Screen& screen) {
-            screen.findChild<swTextBox*>(QStringLiteral("txtName"))->setText(QStringLiteral("a"));
-        });
+        [](forms::Screen& screen) { screen.findChild<swTextBox*>(u"txtName"_s)->setText(u"a"_s); });
     picture("feedback", [] {
         QVariant score;
-        const QString scored =
-            QStringLiteral("Select ID from JOBS_DETAIL where Score=4 and ClientFeedback<>''");
+        const QString scored = u"Select ID from JOBS_DETAIL where Score=4 and ClientFeedback<>''"_s;
         GiveFeedback(value(scored).toInt(), 0, score);
     });
     picture("ratings", [] { frmRatings().showModal(); });
     picture("work-overview", [] {
         QString worker;
-        ShowWorkerOverView(QStringLiteral("Select * from JOBS_Detail where WorkerID=%id"), worker);
+        ShowWorkerOverView(u"Select * from JOBS_Detail where WorkerID=%id"_s, worker);
     });
     picture("select-date", [] {
         QDate from(2024, 2, 1);
@@ -236,17 +228,17 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setApplicationVersion(QStringLiteral("8.0"));
+    QApplication::setApplicationVersion(u"8.0"_s);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 3)
         qFatal("usage: pictures <folder> <program folder>");
     folder.setPath(arguments[1]);
-    folder.mkpath(QStringLiteral("."));
+    folder.mkpath(u"."_s);
     const QString program = arguments[2];
-    forms::applyTheme(application, program + QStringLiteral("/fonts"));
+    forms::applyTheme(application, program + u"/fonts"_s);
     const QTemporaryDir temporary;
     sample::layShop(sample::demo(day), temporary.path());
-    QFile::copy(program + QStringLiteral("/Lang.mdb"), session.languageDatabasePath());
+    QFile::copy(program + u"/Lang.mdb"_s, session.languageDatabasePath());
     QTimer::singleShot(0, [] {
         takeAll();
         DE.close();

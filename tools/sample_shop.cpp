@@ -1,5 +1,5 @@
 // Writes a believable shop into a folder: `sample_shop [options] <folder>`.
-#include "core/DE.h"
+#include "core/store/DE.h"
 #include "platform/ado/DatabaseError.h"
 #include "sample/SampleShop.h"
 
@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -44,16 +46,15 @@ constexpr NumberOption numbers[] = {
 QString wrongWith(const sample::Plan& plan)
 {
     if (plan.days <= 30)
-        return QStringLiteral("A shop needs more than 30 days.");
+        return u"A shop needs more than 30 days."_s;
     if (plan.lastDayLines < 1 || plan.lastDayLines > plan.lastMonthLines || plan.lastMonthLines > plan.lines)
-        return QStringLiteral(
-            "The last day's lines must be within the last month's, those within all lines.");
+        return u"The last day's lines must be within the last month's, those within all lines."_s;
     if (plan.clients < 1 || plan.clients > plan.cards || plan.cards > plan.lines)
-        return QStringLiteral("A card needs a line, and a client a card.");
+        return u"A card needs a line, and a client a card."_s;
     if (plan.workersAtOnce < 1 || plan.workersAtOnce > plan.workers)
-        return QStringLiteral("The workers of the same time must be within all workers.");
+        return u"The workers of the same time must be within all workers."_s;
     if (plan.firstNumber < 1 || plan.firstNumber + plan.cards - 1 > sixteenBits)
-        return QStringLiteral("The numbers of the cards must be 1 to %1.").arg(sixteenBits);
+        return u"The numbers of the cards must be 1 to %1."_s.arg(sixteenBits);
     return {};
 }
 
@@ -63,32 +64,27 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Writes a believable shop into a folder."));
+    parser.setApplicationDescription(u"Writes a believable shop into a folder."_s);
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("Where the shop goes."));
-    const QCommandLineOption size(QStringLiteral("size"),
-                                  QStringLiteral("demo (three months) or full (six years)."),
-                                  QStringLiteral("size"), QStringLiteral("demo"));
-    const QCommandLineOption lastDay(
-        QStringLiteral("last-day"),
-        QStringLiteral("The shop's working date, yyyy-MM-dd; today where none is given."),
-        QStringLiteral("day"), QDate::currentDate().toString(Qt::ISODate));
-    const QCommandLineOption seed(QStringLiteral("seed"),
-                                  QStringLiteral("The same seed gives the same shop."),
-                                  QStringLiteral("number"), QStringLiteral("1"));
+    parser.addPositionalArgument(u"folder"_s, u"Where the shop goes."_s);
+    const QCommandLineOption size(u"size"_s, u"demo (three months) or full (six years)."_s, u"size"_s,
+                                  u"demo"_s);
+    const QCommandLineOption lastDay(u"last-day"_s,
+                                     u"The shop's working date, yyyy-MM-dd; today where none is given."_s,
+                                     u"day"_s, QDate::currentDate().toString(Qt::ISODate));
+    const QCommandLineOption seed(u"seed"_s, u"The same seed gives the same shop."_s, u"number"_s, u"1"_s);
     parser.addOptions({size, lastDay, seed});
     for (const NumberOption& number : numbers)
-        parser.addOption({QLatin1String(number.name),
-                          QStringLiteral("Number of ") + QLatin1String(number.what) + u'.',
-                          QStringLiteral("number")});
+        parser.addOption(
+            {QLatin1String(number.name), u"Number of "_s + QLatin1String(number.what) + u'.', u"number"_s});
     parser.process(application);
 
     const QDate day = QDate::fromString(parser.value(lastDay), Qt::ISODate);
     if (parser.positionalArguments().size() != 1 || !day.isValid())
         parser.showHelp(1);
-    const bool isFull = parser.value(size) == QLatin1String("full");
-    if (!isFull && parser.value(size) != QLatin1String("demo"))
-        return fail(QStringLiteral("The size is demo or full."));
+    const bool isFull = parser.value(size) == "full"_L1;
+    if (!isFull && parser.value(size) != "demo"_L1)
+        return fail(u"The size is demo or full."_s);
     sample::Plan plan = isFull ? sample::full(day) : sample::demo(day);
     plan.seed = parser.value(seed).toUInt();
     for (const NumberOption& number : numbers) {
@@ -98,14 +94,14 @@ int main(int argc, char* argv[])
         bool isNumber = false;
         plan.*number.value = parser.value(name).toInt(&isNumber);
         if (!isNumber || plan.*number.value < 0 || plan.*number.value > number.largest)
-            return fail(QStringLiteral("--%1 takes a number from 0 to %2.").arg(name).arg(number.largest));
+            return fail(u"--%1 takes a number from 0 to %2."_s.arg(name).arg(number.largest));
     }
     if (const QString wrong = wrongWith(plan); !wrong.isEmpty())
         return fail(wrong);
 
     const QString folder = parser.positionalArguments().constFirst();
-    if (QFileInfo::exists(folder + QStringLiteral("/data.mdb")))
-        return fail(QStringLiteral("%1 has a shop already; nothing is written.").arg(folder));
+    if (QFileInfo::exists(folder + u"/data.mdb"_s))
+        return fail(u"%1 has a shop already; nothing is written."_s.arg(folder));
     try {
         sample::layShop(plan, folder);
         DE.close();

@@ -1,20 +1,20 @@
 #include "accounts/frmAccountsList.h"
 
 #include "accounts/frmEditAccount.h"
-#include "core/DE.h"
-#include "core/Lookups.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+
+using namespace Qt::StringLiterals;
 
 frmAccountsList::frmAccountsList()
-    : SummaryList({QStringLiteral("frmAccountsList"), QStringLiteral("Accounts"), QStringLiteral("Accounts"),
-                   QStringLiteral("Title"), SearchFrom::FirstEntry})
+    : SummaryList({u"frmAccountsList"_s, u"Accounts"_s, u"Accounts"_s, u"Title"_s, SearchFrom::FirstEntry})
 {
-    setButtonCaptions(QStringLiteral("Add New"), QStringLiteral("Back"));
+    setButtonCaptions(u"Add New"_s, u"Back"_s);
 }
 
 void frmAccountsList::fill(ListTarget& list)
 {
-    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where type=2"), list,
-             DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, u" where type=2"_s, list, DE.rsaccounts);
 }
 
 void frmAccountsList::addRecord() { std::make_unique<frmEditAccount>()->ShowAddNew(); }

@@ -1,12 +1,14 @@
 #include "accounts/frmEditAccount.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
 #include "ui_frmEditAccount.h"
+
+using namespace Qt::StringLiterals;
 
 frmEditAccount::frmEditAccount()
     : ui(std::make_unique<Ui::frmEditAccount>())
@@ -21,9 +23,9 @@ frmEditAccount::~frmEditAccount() = default;
 void frmEditAccount::ShowAddNew()
 {
     AccountID = 0;
-    AccountMode = QStringLiteral("N");
+    AccountMode = u"N"_s;
     AccountReadOnly = 0;
-    ui->lblTitle->setText(QStringLiteral("Add New Account"));
+    ui->lblTitle->setText(u"Add New Account"_s);
     ui->cmbType->setListIndex(-1);
     showModal();
 }
@@ -31,10 +33,10 @@ void frmEditAccount::ShowAddNew()
 void frmEditAccount::ShowEdit(qint16 id)
 {
     AccountID = id;
-    AccountMode = QStringLiteral("E");
-    ui->lblTitle->setText(QStringLiteral("Edit Account"));
+    AccountMode = u"E"_s;
+    ui->lblTitle->setText(u"Edit Account"_s);
     ado::Recordset& accounts = DE.rsaccounts;
-    accounts.Open(QStringLiteral("Select * from accounts where id=%1").arg(id));
+    accounts.Open(u"Select * from accounts where id=%1"_s.arg(id));
     AccountTitle = accounts["Title"].text();
     ui->txtName->setText(AccountTitle);
     ui->cmbType->setListIndex(accounts["Nature"].integer());
@@ -54,16 +56,16 @@ void frmEditAccount::Form_KeyPress(int& key)
 void frmEditAccount::save()
 {
     if (ui->txtName->Text().isEmpty()) {
-        ShowMsg(QStringLiteral("Please enter account title!"));
+        ShowMsg(u"Please enter account title!"_s);
         ui->txtName->setFocus();
         return;
     }
     if (ui->cmbType->text().isEmpty()) {
-        ShowMsg(QStringLiteral("Please select account type"));
+        ShowMsg(u"Please select account type"_s);
         ui->cmbType->setFocus();
         return;
     }
-    if (AccountMode == QLatin1String("N"))
+    if (AccountMode == "N"_L1)
         saveNew();
     else
         saveEdit();
@@ -76,7 +78,7 @@ void frmEditAccount::saveNew()
     qint32 id = 0;
     DE.connection().writeBatch([&] {
         ado::Recordset& accounts = DE.rsaccounts;
-        accounts.Open(QStringLiteral("Select * from accounts order by id"));
+        accounts.Open(u"Select * from accounts order by id"_s);
         accounts.AddNew();
         writeFields();
         id = accounts["ID"].integer();
@@ -85,37 +87,37 @@ void frmEditAccount::saveNew()
     session.RefreshLists = true;
     AccountID = values::toInt16(id);
     AccountTitle = ui->txtName->Text();
-    ShowMsg(QStringLiteral("New Account created."));
-    AccountMode = QStringLiteral("E");
+    ShowMsg(u"New Account created."_s);
+    AccountMode = u"E"_s;
 }
 
 void frmEditAccount::saveEdit()
 {
     if (AccountReadOnly == 1) {
-        ShowMsg(QStringLiteral("Cant't Rename!"));
+        ShowMsg(u"Cant't Rename!"_s);
         return;
     }
     if (AccountTitle.toUpper() != ui->txtName->Text().toUpper() && isDuplicate())
         return;
     DE.connection().writeBatch([&] {
-        DE.rsaccounts.Open(QStringLiteral("Select * from accounts where id=%1").arg(AccountID));
+        DE.rsaccounts.Open(u"Select * from accounts where id=%1"_s.arg(AccountID));
         writeFields();
         DE.rsaccounts.Close();
     });
     session.RefreshLists = true;
     AccountTitle = ui->txtName->Text();
-    ShowMsg(QStringLiteral("Account information edited."));
+    ShowMsg(u"Account information edited."_s);
 }
 
 /// Tells the operator when the title is taken, by an account of any type: clients and workers are accounts
 /// too.
 bool frmEditAccount::isDuplicate()
 {
-    const QVariant id = FieldValueExists(ui->txtName->Text(), QStringLiteral("Title"), QStringLiteral("ID"),
-                                         QStringLiteral("Accounts"), DE.rsaccounts);
+    const QVariant id =
+        FieldValueExists(ui->txtName->Text(), u"Title"_s, u"ID"_s, u"Accounts"_s, DE.rsaccounts);
     if (id.toLongLong() <= 0)
         return false;
-    ShowMsg(QStringLiteral("Duplicate!"));
+    ShowMsg(u"Duplicate!"_s);
     ui->txtName->setFocus();
     return true;
 }
@@ -132,24 +134,23 @@ void frmEditAccount::writeFields()
 void frmEditAccount::remove()
 {
     if (AccountReadOnly == 1) {
-        ShowMsg(QStringLiteral("Cant't Delete!"));
+        ShowMsg(u"Cant't Delete!"_s);
         return;
     }
-    if (AccountMode != QLatin1String("E") || !ShowMsg(QStringLiteral("Are you sure?"), 2))
+    if (AccountMode != "E"_L1 || !ShowMsg(u"Are you sure?"_s, 2))
         return;
     int postings = 0;
     for (const char* field : {"AccID", "RefID"}) {
-        DE.rspostings.Open(
-            QStringLiteral("Select * from Postings where %1=%2").arg(QLatin1String(field)).arg(AccountID));
+        DE.rspostings.Open(u"Select * from Postings where %1=%2"_s.arg(QLatin1String(field)).arg(AccountID));
         postings += DE.rspostings.RecordCount();
         DE.rspostings.Close();
     }
     if (postings > 0) {
-        ShowMsg(QStringLiteral("Cant't Delete!"));
+        ShowMsg(u"Cant't Delete!"_s);
         return;
     }
-    DE.connection().Execute(QStringLiteral("Delete from Accounts where id=%1").arg(AccountID));
-    ShowMsg(QStringLiteral("Deleted."));
+    DE.connection().Execute(u"Delete from Accounts where id=%1"_s.arg(AccountID));
+    ShowMsg(u"Deleted."_s);
     session.RefreshLists = true;
     unload();
 }

@@ -1,12 +1,14 @@
 #include "accounts/frmTransiction.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
 #include "ui_frmTransiction.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,8 +31,7 @@ constexpr Sides allSides[] = {
 /// The id of a main account; 0 for one that has been deleted meanwhile.
 qint32 mainAccountID(const QString& title)
 {
-    const QVariant id = FieldValueExists(title, QStringLiteral("Title"), QStringLiteral("ID"),
-                                         QStringLiteral("Accounts"), DE.rsaccounts);
+    const QVariant id = FieldValueExists(title, u"Title"_s, u"ID"_s, u"Accounts"_s, DE.rsaccounts);
     return id.toLongLong() > 0 ? GetAccountID(title) : 0;
 }
 
@@ -89,7 +90,7 @@ void frmTransiction::ShowAddNew(const QString& accountTitle, qint16& saved)
     EntryAccount = accountTitle;
     EntryIsPayroll = 0;
     ui->VcDate->setValue(session.WorkingDate);
-    open(QStringLiteral("N"), QStringLiteral("Add New Entry"));
+    open(u"N"_s, u"Add New Entry"_s);
     saved = EntrySaved;
 }
 
@@ -100,7 +101,7 @@ void frmTransiction::ShowEdit(qint32 vid, qint16& saved)
     EntryID = vid;
 
     ado::Recordset& line = DE.rspostings;
-    line.Open(QStringLiteral("Select * from Postings where vid=%1 and vtype=2 and sr=1").arg(vid));
+    line.Open(u"Select * from Postings where vid=%1 and vtype=2 and sr=1"_s.arg(vid));
     ui->txtVID->setText(QString::number(vid));
     EntryAccount = GetAccountTitle(line["accID"].integer());
     ui->cmbRefAcc->setText(GetAccountTitle(line["refID"].integer()));
@@ -110,16 +111,16 @@ void frmTransiction::ShowEdit(qint32 vid, qint16& saved)
 
     const Currency amount = line["Amount"].money();
     const bool credit = amount > Currency();
-    ui->lblMain->setText(credit ? QStringLiteral("To") : QStringLiteral("By"));
-    ui->lblMainType->setText(credit ? QStringLiteral("Cr") : QStringLiteral("Dr"));
-    ui->lblRef->setText(credit ? QStringLiteral("By") : QStringLiteral("To"));
-    ui->lblRefType->setText(QStringLiteral("Cr")); // on either side, until the labels are next applied
+    ui->lblMain->setText(credit ? u"To"_s : u"By"_s);
+    ui->lblMainType->setText(credit ? u"Cr"_s : u"Dr"_s);
+    ui->lblRef->setText(credit ? u"By"_s : u"To"_s);
+    ui->lblRefType->setText(u"Cr"_s); // on either side, until the labels are next applied
     ui->txtAmount->setText((credit ? amount : -amount).toString());
     mirrorAmount();
 
     EntryIsPayroll = line["isPayroll"].integer() > 0 ? -1 : 0;
     line.Close();
-    open(QStringLiteral("E"), QStringLiteral("Edit Entry"));
+    open(u"E"_s, u"Edit Entry"_s);
     saved = EntrySaved;
 }
 
@@ -136,13 +137,13 @@ void frmTransiction::open(const QString& mode, const QString& title)
 void frmTransiction::fillAccounts()
 {
     for (forms::ComboBox* combo : {ui->cmbRefAcc, ui->cmbAccount})
-        FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QString(), *combo, DE.rsaccounts);
+        FillList(u"Title"_s, u"Accounts"_s, QString(), *combo, DE.rsaccounts);
 }
 
 void frmTransiction::GetNewNum(qint32& n)
 {
     ado::Recordset& vouchers = DE.rspostings;
-    vouchers.Open(QStringLiteral("Select * from Postings where vtype=2 and sr=1 order by vID"));
+    vouchers.Open(u"Select * from Postings where vtype=2 and sr=1 order by vID"_s);
     qint32 last = 0;
     if (vouchers.RecordCount() >= 1) {
         vouchers.MoveLast();
@@ -174,31 +175,31 @@ void frmTransiction::applyLabels()
 void frmTransiction::save()
 {
     if (!takeEntry(*ui->cmbParticulars)) {
-        ShowMsg(QStringLiteral("Please select voucher!"));
+        ShowMsg(u"Please select voucher!"_s);
         ui->cmbParticulars->setFocus();
         return;
     }
     if (!takeEntry(*ui->cmbRefAcc)) {
-        ShowMsg(QStringLiteral("Please Select Account!"));
+        ShowMsg(u"Please Select Account!"_s);
         ui->cmbRefAcc->setFocus();
         return;
     }
     if (values::Val(ui->txtAmount->Text()) == 0.0) {
-        ShowMsg(QStringLiteral("Please enter amount!"));
+        ShowMsg(u"Please enter amount!"_s);
         ui->txtAmount->setFocus();
         return;
     }
     if (EntryAccount == ui->cmbRefAcc->text()) {
-        ShowMsg(QStringLiteral("Please Check accounts!"));
+        ShowMsg(u"Please Check accounts!"_s);
         return;
     }
     applyLabels();
-    if (EntryMode == QLatin1String("N")) {
+    if (EntryMode == "N"_L1) {
         SaveNew();
-        ShowMsg(QStringLiteral("New Entry saved."));
+        ShowMsg(u"New Entry saved."_s);
     } else {
         SaveEdit();
-        ShowMsg(QStringLiteral("Entry Updated."));
+        ShowMsg(u"Entry Updated."_s);
     }
     session.RefreshLists = true;
     EntrySaved = -1;
@@ -208,7 +209,7 @@ frmTransiction::Pair frmTransiction::pair() const
 {
     Pair pair;
     const Currency amount = Currency::fromDouble(values::Val(ui->txtAmount->Text()));
-    pair.mainAmount = ui->lblMainType->text() == QLatin1String("Cr") ? amount : -amount;
+    pair.mainAmount = ui->lblMainType->text() == "Cr"_L1 ? amount : -amount;
     pair.mainID = mainAccountID(EntryAccount);
     pair.refID = GetAccountID(ui->cmbRefAcc->text());
     return pair;
@@ -235,7 +236,7 @@ void frmTransiction::SaveNew()
     DE.connection().writeBatch([&] {
         ado::Recordset& postings = DE.rspostings;
         for (const int line : {1, 2}) {
-            postings.Open(QStringLiteral("Select * from Postings order by ID"));
+            postings.Open(u"Select * from Postings order by ID"_s);
             postings.AddNew();
             postings["vType"] = 2;
             postings["VID"] = EntryID;
@@ -244,8 +245,8 @@ void frmTransiction::SaveNew()
             postings.Close();
         }
     });
-    EntryMode = QStringLiteral("E");
-    setWindowTitle(QStringLiteral("Edit Entry"));
+    EntryMode = u"E"_s;
+    setWindowTitle(u"Edit Entry"_s);
     ui->lblTitle->setText(windowTitle());
 }
 
@@ -254,12 +255,10 @@ void frmTransiction::SaveEdit()
     const Pair accounts = pair();
     DE.connection().writeBatch([&] {
         ado::Recordset& postings = DE.rspostings;
-        postings.Open(
-            QStringLiteral("Select * from Postings where vid=%1 and sr=1 and vtype=2").arg(EntryID));
+        postings.Open(u"Select * from Postings where vid=%1 and sr=1 and vtype=2"_s.arg(EntryID));
         writeLine(1, accounts);
         postings.Close();
-        postings.Open(
-            QStringLiteral("Select * from Postings where vid=%1 and sr=2 and vtype=2").arg(EntryID));
+        postings.Open(u"Select * from Postings where vid=%1 and sr=2 and vtype=2"_s.arg(EntryID));
         postings.MoveLast();
         writeLine(2, accounts);
         postings.Close();
@@ -268,18 +267,17 @@ void frmTransiction::SaveEdit()
 
 void frmTransiction::remove()
 {
-    if (EntryMode != QLatin1String("E") || !ShowMsg(QStringLiteral("Are you sure to delete entry?"), 2))
+    if (EntryMode != "E"_L1 || !ShowMsg(u"Are you sure to delete entry?"_s, 2))
         return;
     if (EntryIsPayroll != 0 &&
-        !ShowMsg(QStringLiteral(
-                     "You are going to delete a payroll?\r\nThis action will reset all jobs as unpaid?\r\n"
-                     "Press Yes to Delete!"),
+        !ShowMsg(u"You are going to delete a payroll?\r\nThis action will reset all jobs as unpaid?\r\n"
+                 "Press Yes to Delete!"_s,
                  2))
         return;
     DE.connection().writeBatch([&] {
         if (EntryIsPayroll != 0)
             resetPaidJobs();
-        DE.connection().Execute(QStringLiteral("Delete from Postings where vid=%1 and vtype=2").arg(EntryID));
+        DE.connection().Execute(u"Delete from Postings where vid=%1 and vtype=2"_s.arg(EntryID));
     });
     session.RefreshLists = true;
     EntrySaved = -1;
@@ -290,7 +288,7 @@ void frmTransiction::remove()
 void frmTransiction::resetPaidJobs()
 {
     ado::Recordset& jobs = DE.rsJOBS_DETAIL;
-    jobs.Open(QStringLiteral("Select * from jobs_detail where PayrollID=%1").arg(EntryID));
+    jobs.Open(u"Select * from jobs_detail where PayrollID=%1"_s.arg(EntryID));
     for (; !jobs.AtEOF(); jobs.MoveNext()) {
         jobs["MarkAsPaid"] = 0;
         jobs["PayrollID"] = 0;

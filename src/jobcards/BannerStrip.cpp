@@ -5,6 +5,8 @@
 #include <QStaticText>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Tick = 16; // milliseconds: 60 steps a second
@@ -42,9 +44,9 @@ BannerStrip::BannerStrip(QWidget* parent)
 {
     setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    lblLastvisit->setObjectName(QStringLiteral("lblLastvisit"));
+    lblLastvisit->setObjectName(u"lblLastvisit"_s);
     lblLastvisit->setTextFormat(Qt::PlainText);
-    Timer1->setObjectName(QStringLiteral("Timer1"));
+    Timer1->setObjectName(u"Timer1"_s);
     Timer1->setInterval(Tick);
     connect(Timer1, &QTimer::timeout, this, &BannerStrip::Timer1_Timer);
 }

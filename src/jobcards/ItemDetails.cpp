@@ -12,6 +12,8 @@
 #include <QTextDocument>
 #include <QWheelEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // All in twips.
@@ -26,7 +28,7 @@ constexpr int twipsOf(int pixels) { return pixels * 15; }
 
 QFont captionFont(bool hindi)
 {
-    QFont font(hindi ? QStringLiteral("Kruti Dev 010") : QStringLiteral("Verdana"));
+    QFont font(hindi ? u"Kruti Dev 010"_s : u"Verdana"_s);
     font.setPointSizeF(forms::points(hindi ? 14 : 10));
     return font;
 }
@@ -49,9 +51,9 @@ ItemDetails::ItemDetails(QWidget* parent)
     , VScroll1(new QScrollBar(Qt::Vertical, this))
     , m_panelHeight(EmptyPanelHeight)
 {
-    Picture1->setObjectName(QStringLiteral("Picture1"));
-    Picture2->setObjectName(QStringLiteral("Picture2"));
-    VScroll1->setObjectName(QStringLiteral("VScroll1"));
+    Picture1->setObjectName(u"Picture1"_s);
+    Picture2->setObjectName(u"Picture2"_s);
+    VScroll1->setObjectName(u"VScroll1"_s);
     Picture2->setProperty("card", true);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
@@ -76,7 +78,7 @@ ItemDetails::~ItemDetails() = default;
 void ItemDetails::AddFeild(const QString& caption, const QString& value)
 {
     const qint16 count = values::toInt16(m_count + 1);
-    const bool hindi = m_language == QLatin1String("Hindi");
+    const bool hindi = m_language == "Hindi"_L1;
     if (m_count > 0) {
         makeRow();
         m_panelHeight += PanelGrowth;
@@ -114,10 +116,10 @@ void ItemDetails::makeRow()
 {
     const size_t index = m_rows.size();
     Row row{std::make_unique<QLabel>(Picture1), std::make_unique<swTextBox>(Picture1), {}};
-    row.lblCap->setObjectName(QStringLiteral("lblCap_%1").arg(index));
+    row.lblCap->setObjectName(u"lblCap_%1"_s.arg(index));
     row.lblCap->setTextFormat(Qt::PlainText);
     row.lblCap->setIndent(CaptionIndent);
-    row.txtValue->setObjectName(QStringLiteral("txtValue_%1").arg(index));
+    row.txtValue->setObjectName(u"txtValue_%1"_s.arg(index));
 
     QLabel* label = row.lblCap.get();
     swTextBox* box = row.txtValue.get();

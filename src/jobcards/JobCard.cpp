@@ -1,9 +1,11 @@
 #include "jobcards/JobCard.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Settings.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Settings.h"
 #include "platform/values/Errors.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -14,22 +16,21 @@ constexpr int CanceledLine = 4; // Jobs_Detail.DoneByWorker
 void refuseTakenNumber(qint32 number)
 {
     auto& jobs = DE.rsJOBS;
-    jobs.Open(QStringLiteral("Select * from JOBS where id=") + QString::number(number));
+    jobs.Open(u"Select * from JOBS where id="_s + QString::number(number));
     const bool taken = !jobs.AtEOF();
     jobs.Close();
     if (taken)
-        throw OperatorError(QStringLiteral("Job ID %1 is already taken by another job card. "
-                                           "Nothing has been saved.")
-                                .arg(number));
+        throw OperatorError(u"Job ID %1 is already taken by another job card. "
+                            "Nothing has been saved."_s.arg(number));
 }
 
 } // namespace
 
 qint32 JobCard::GetNewNum()
 {
-    qint32 last = values::CLng(values::Val(GetSetting(FirstNumberSetting, QStringLiteral("1"))) - 1);
+    qint32 last = values::CLng(values::Val(GetSetting(FirstNumberSetting, u"1"_s)) - 1);
     auto& jobs = DE.rsJOBS;
-    jobs.Open(QStringLiteral("Select * from JOBS order by ID"));
+    jobs.Open(u"Select * from JOBS order by ID"_s);
     if (!jobs.AtEOF()) {
         jobs.MoveLast();
         last = jobs["ID"].integer();
@@ -41,8 +42,7 @@ qint32 JobCard::GetNewNum()
 void JobCard::LoadLines()
 {
     auto& lines = DE.rsJOBS_DETAIL;
-    lines.Open(QStringLiteral("Select * from jobs_detail where JOBID=") + number() +
-               QStringLiteral(" Order by ItemSr"));
+    lines.Open(u"Select * from jobs_detail where JOBID="_s + number() + u" Order by ItemSr"_s);
     for (; !lines.AtEOF(); lines.MoveNext()) {
         const qint32 itemID = lines["ItemID"].integer();
         JobRows.AddNewRow(lines["ID"].integer(), GetItemName(itemID), itemID, lines["QNT"].integer(),
@@ -57,7 +57,7 @@ void JobCard::LoadLines()
 void JobCard::RemoveLine(int row)
 {
     if (!RemovedLineIDs.isEmpty())
-        RemovedLineIDs += QLatin1Char(',');
+        RemovedLineIDs += u',';
     RemovedLineIDs += QString::number(JobRows.Sr(row));
     JobRows.RemoveRow(row);
 }
@@ -74,12 +74,12 @@ void JobCard::SaveNew(const JobCardHead& head)
         refuseTakenNumber(head.Number);
         const qint32 clientID = GetAccountID(head.Client);
         auto& jobs = DE.rsJOBS;
-        jobs.Open(QStringLiteral("Select * from JOBS"));
+        jobs.Open(u"Select * from JOBS"_s);
         jobs.AddNew();
         jobs["ID"] = head.Number;
         writeHead(head, clientID);
         CurrentJobID = head.Number;
-        EditMode = QStringLiteral("E");
+        EditMode = u"E"_s;
         for (int row = 1; row <= JobRows.RowCount(); ++row)
             JobRows.SetSr(row, addLine(row, head, clientID));
         writeVoucher(head, clientID);
@@ -93,7 +93,7 @@ void JobCard::SaveEdit(const JobCardHead& head)
 {
     write([&] {
         const qint32 clientID = GetAccountID(head.Client);
-        DE.rsJOBS.Open(QStringLiteral("Select * from jobs where id=") + number());
+        DE.rsJOBS.Open(u"Select * from jobs where id="_s + number());
         writeHead(head, clientID);
         for (int row = 1; row <= JobRows.RowCount(); ++row) {
             // A line added to a stored card keeps Sr 0: each further save adds it again.
@@ -103,11 +103,10 @@ void JobCard::SaveEdit(const JobCardHead& head)
                 addLine(row, head, clientID);
         }
         if (!RemovedLineIDs.isEmpty()) {
-            DE.connection().Execute(QStringLiteral("Delete from jobs_detail where Id=") + RemovedLineIDs);
+            DE.connection().Execute(u"Delete from jobs_detail where Id="_s + RemovedLineIDs);
             RemovedLineIDs.clear();
         }
-        DE.connection().Execute(QStringLiteral("Delete from Postings where vid=") + number() +
-                                QStringLiteral("and vtype=1"));
+        DE.connection().Execute(u"Delete from Postings where vid="_s + number() + u"and vtype=1"_s);
         writeVoucher(head, clientID);
         if (head.Cancelled)
             cancelLines();
@@ -118,10 +117,9 @@ void JobCard::Delete()
 {
     write([&] {
         auto& connection = DE.connection();
-        connection.Execute(QStringLiteral("Delete from Jobs where id=") + number());
-        connection.Execute(QStringLiteral("Delete from Jobs_detail where jobid=") + number());
-        connection.Execute(QStringLiteral("Delete from Postings where vid=") + number() +
-                           QStringLiteral(" and vtype=1"));
+        connection.Execute(u"Delete from Jobs where id="_s + number());
+        connection.Execute(u"Delete from Jobs_detail where jobid="_s + number());
+        connection.Execute(u"Delete from Postings where vid="_s + number() + u" and vtype=1"_s);
     });
 }
 
@@ -186,7 +184,7 @@ void JobCard::writeLine(int row, const JobCardHead& head, qint32 clientID)
 qint32 JobCard::addLine(int row, const JobCardHead& head, qint32 clientID)
 {
     auto& line = DE.rsJOBS_DETAIL;
-    line.Open(QStringLiteral("Select * from jobs_detail"));
+    line.Open(u"Select * from jobs_detail"_s);
     line.AddNew();
     writeLine(row, head, clientID);
     line["WorkerID"] = 0;
@@ -210,7 +208,7 @@ qint32 JobCard::addLine(int row, const JobCardHead& head, qint32 clientID)
 void JobCard::updateLine(int row, const JobCardHead& head, qint32 clientID)
 {
     auto& line = DE.rsJOBS_DETAIL;
-    line.Open(QStringLiteral("Select * from jobs_detail where id=") + QString::number(JobRows.Sr(row)));
+    line.Open(u"Select * from jobs_detail where id="_s + QString::number(JobRows.Sr(row)));
     writeLine(row, head, clientID);
     line.Update();
     line.Close();
@@ -219,7 +217,7 @@ void JobCard::updateLine(int row, const JobCardHead& head, qint32 clientID)
 void JobCard::writeVoucher(const JobCardHead& head, qint32 clientID)
 {
     auto& postings = DE.rspostings;
-    postings.Open(QStringLiteral("Select * from Postings order by ID"));
+    postings.Open(u"Select * from Postings order by ID"_s);
     int sr = 0;
     const auto post = [&](const QString& particulars, qint32 account, qint32 opposite, Currency amount) {
         postings.AddNew();
@@ -230,7 +228,7 @@ void JobCard::writeVoucher(const JobCardHead& head, qint32 clientID)
         postings["accID"] = account;
         postings["refID"] = opposite;
         postings["particulars"] = particulars;
-        postings["Remark"] = QString(QStringLiteral("Job Card # :") + number());
+        postings["Remark"] = QString(u"Job Card # :"_s + number());
         postings["Amount"] = amount;
         postings["Status"] = int(head.Cancelled);
         postings.Update();
@@ -239,16 +237,16 @@ void JobCard::writeVoucher(const JobCardHead& head, qint32 clientID)
         post(particulars, debited, credited, -amount);
         post(particulars, credited, debited, amount);
     };
-    postPair(QStringLiteral("Sales"), clientID, GetAccountID(QStringLiteral("Sales")), head.Total);
+    postPair(u"Sales"_s, clientID, GetAccountID(u"Sales"_s), head.Total);
     if (head.Paid > Currency())
-        postPair(QStringLiteral("Receipt"), GetAccountID(head.ReceiptAccount), clientID, head.Paid);
+        postPair(u"Receipt"_s, GetAccountID(head.ReceiptAccount), clientID, head.Paid);
     postings.Close();
 }
 
 void JobCard::cancelLines()
 {
     auto& lines = DE.rsJOBS_DETAIL;
-    lines.Open(QStringLiteral("Select * from jobs_detail where JobID=") + number());
+    lines.Open(u"Select * from jobs_detail where JobID="_s + number());
     for (; !lines.AtEOF(); lines.MoveNext())
         lines["DoneByWorker"] = CanceledLine;
     lines.UpdateBatch();

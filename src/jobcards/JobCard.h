@@ -2,6 +2,7 @@
 
 #include "jobcards/clsJobCardData.h"
 #include "platform/values/Currency.h"
+#include "platform/values/Literals.h"
 
 #include <QDate>
 #include <QString>
@@ -31,8 +32,8 @@ struct JobCardHead
 class JobCard
 {
 public:
-    QString EditMode = QStringLiteral("N"); ///< "N" while nothing of the card is stored, then "E"
-    qint32 CurrentJobID = 0;                ///< `Jobs.ID` of the stored card
+    QString EditMode = u"N"_s; ///< "N" while nothing of the card is stored, then "E"
+    qint32 CurrentJobID = 0;   ///< `Jobs.ID` of the stored card
     clsJobCardData JobRows;
     QString RemovedLineIDs; ///< the `Sr` of the lines removed since the card was loaded, joined by ","
 

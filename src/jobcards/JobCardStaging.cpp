@@ -1,25 +1,27 @@
 #include "jobcards/JobCardStaging.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
 #include "platform/values/Dates.h"
+
+using namespace Qt::StringLiterals;
 
 void StageJobCard(qint32 JobID)
 {
     const QString number = QString::number(JobID);
     DE.connection().writeBatch([&] {
-        DE.connection().Execute(QStringLiteral("Delete * from tmpHead"));
-        DE.connection().Execute(QStringLiteral("Delete * from tmpbody"));
+        DE.connection().Execute(u"Delete * from tmpHead"_s);
+        DE.connection().Execute(u"Delete * from tmpbody"_s);
 
         ado::Recordset& job = DE.rsJOBS;
-        job.Open(QStringLiteral("Select * from Jobs where id=") + number);
+        job.Open(u"Select * from Jobs where id="_s + number);
         AddPrintHead(JobID, job["Date"].date(), GetAccountTitle(job["ClintID"].integer()),
                      job["DeliveryDate"].date(), job["trialdate"].date(), job["AmountDue"].money(),
                      job["AmountPaid"].money());
         job.Close();
 
         ado::Recordset& lines = DE.rsJOBS_DETAIL;
-        for (lines.Open(QStringLiteral("Select * from Jobs_Detail where jobid=") + number); !lines.AtEOF();
+        for (lines.Open(u"Select * from Jobs_Detail where jobid="_s + number); !lines.AtEOF();
              lines.MoveNext())
             AddPrintBody(JobID, lines["QNT"].integer(), GetItemName(lines["ItemID"].integer()),
                          lines["Remarks"].text(), lines["Fees"].money(), lines["Amount"].money());
@@ -31,7 +33,7 @@ void AddPrintHead(qint32 JobID, const QDate& date, const QString& name, const QD
                   const QDate& trialDate, Currency due, Currency paid)
 {
     ado::Recordset& head = DE.rsPrintHead;
-    head.Open(QStringLiteral("sELeCT * FROM TMPHEAD"));
+    head.Open(u"sELeCT * FROM TMPHEAD"_s);
     head.AddNew();
     head["Date"] = values::CStr(date);
     head["JobID"] = JobID;
@@ -49,7 +51,7 @@ void AddPrintBody(qint32 JobID, qint32 quantity, const QString& itemName, const 
                   Currency fees, Currency amount)
 {
     ado::Recordset& body = DE.rsPrintBody;
-    body.Open(QStringLiteral("sELeCT * FROM TMPbody"));
+    body.Open(u"sELeCT * FROM TMPbody"_s);
     body.AddNew();
     body["JobID"] = JobID;
     body["QNT"] = quantity;

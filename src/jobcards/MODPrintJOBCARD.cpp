@@ -1,9 +1,9 @@
 #include "jobcards/MODPrintJOBCARD.h"
 
-#include "core/DE.h"
-#include "core/Schema.h"
-#include "core/Session.h"
-#include "core/Settings.h"
+#include "core/store/DE.h"
+#include "core/store/Schema.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "jobcards/JobCardStaging.h"
 #include "jobcards/rptJOBCARD.h"
 #include "jobcards/rptLabel.h"
@@ -13,6 +13,8 @@
 #include "platform/report/Preview.h"
 #include "platform/report/Printing.h"
 #include "platform/values/Errors.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -24,7 +26,7 @@ constexpr int fullWidth = 9360;
 
 void PlaceLogo(rptJOBCARD& card, const QString& LogoPath)
 {
-    report::Section& head = card.section(QStringLiteral("Section6"));
+    report::Section& head = card.section(u"Section6"_s);
     if (LogoPath.isEmpty()) {
         for (const char* name : headingLines) {
             report::Label& line = head.label(QLatin1String(name));
@@ -36,17 +38,16 @@ void PlaceLogo(rptJOBCARD& card, const QString& LogoPath)
     constexpr QSize sharpInPrint(1600, 1600);
     const QPixmap logo = forms::loadPicture(LogoPath, sharpInPrint);
     if (logo.isNull())
-        throw OperatorError(QStringLiteral("The logo can't be loaded: %1\nNothing has been printed. "
-                                           "The file is chosen on the Settings screen.")
-                                .arg(LogoPath));
-    head.image(QStringLiteral("logo")).Picture = logo.toImage();
+        throw OperatorError(u"The logo can't be loaded: %1\nNothing has been printed. "
+                            "The file is chosen on the Settings screen."_s.arg(LogoPath));
+    head.image(u"logo"_s).Picture = logo.toImage();
 }
 
 /// The row of one line of a job. Throws ado::NoCurrentRecordError for one that is gone.
 report::Row readLine(qint32 LineID)
 {
     ado::Recordset& line = DE.rsJOBS_DETAIL;
-    line.Open(QStringLiteral("Select * from JOBS_DETAIL where id=") + QString::number(LineID));
+    line.Open(u"Select * from JOBS_DETAIL where id="_s + QString::number(LineID));
     line["ID"].integer();
     report::Row row = report::readRows(line).front();
     line.Close();
@@ -61,23 +62,20 @@ std::unique_ptr<report::Report> JobCardPaper(qint32 JobID)
     connection.open(session.databasePath(), databasePassword(), ado::Connection::Mode::ReadOnly);
     StageJobCard(JobID);
     ado::Recordset job(connection);
-    job.Open(
-        QStringLiteral("SHAPE {SELECT * FROM tmpHead where JobID=") + QString::number(JobID) +
-        QStringLiteral(" }  APPEND ({SELECT * FROM tmpBody  order by id} AS Body RELATE JOBID to JOBID)"));
+    job.Open(u"SHAPE {SELECT * FROM tmpHead where JobID="_s + QString::number(JobID) +
+             u" }  APPEND ({SELECT * FROM tmpBody  order by id} AS Body RELATE JOBID to JOBID)"_s);
 
     auto card = std::make_unique<rptJOBCARD>();
-    card->setDataSource(report::readRows(job, QStringLiteral("Body")));
+    card->setDataSource(report::readRows(job, u"Body"_s));
     PlaceLogo(*card, GetSetting(5, QString()));
-    report::Section& head = card->section(QStringLiteral("Section6"));
-    head.label(QStringLiteral("lblTag")).Caption = GetSetting(6, QString());
+    report::Section& head = card->section(u"Section6"_s);
+    head.label(u"lblTag"_s).Caption = GetSetting(6, QString());
     const QString lines[] = {session.ShopName, session.ShopAddress1, session.ShopAddress2,
                              session.ShopAddress3, session.ShopContacts};
     for (size_t i = 0; i < std::size(lines); ++i)
         head.label(QLatin1String(headingLines[i])).Caption = lines[i];
-    card->section(QStringLiteral("Section7")).label(QStringLiteral("lblForCompany")).Caption =
-        QStringLiteral("For ") + session.ShopName;
-    card->section(QStringLiteral("Section3")).label(QStringLiteral("lblPage")).Caption =
-        QStringLiteral("Job Card # %1 · Page %p of %P").arg(JobID);
+    card->section(u"Section7"_s).label(u"lblForCompany"_s).Caption = u"For "_s + session.ShopName;
+    card->section(u"Section3"_s).label(u"lblPage"_s).Caption = u"Job Card # %1 · Page %p of %P"_s.arg(JobID);
     card->closeUpHeading();
     return card;
 }
@@ -85,11 +83,10 @@ std::unique_ptr<report::Report> JobCardPaper(qint32 JobID)
 std::unique_ptr<report::Report> WorkerSlipPaper(qint32 LineID)
 {
     auto slip = std::make_unique<rptWorkerJobCard>();
-    if (GetSetting(0, QStringLiteral("English")) == QLatin1String("Hindi") &&
-        GetSetting(12, QStringLiteral("No")) == QLatin1String("Yes"))
+    if (GetSetting(0, u"English"_s) == "Hindi"_L1 && GetSetting(12, u"No"_s) == "Yes"_L1)
         slip->useHindiMeasurements();
     slip->setLine(readLine(LineID));
-    slip->section(QStringLiteral("Section2")).label(QStringLiteral("lblCompany")).Caption = session.ShopName;
+    slip->section(u"Section2"_s).label(u"lblCompany"_s).Caption = session.ShopName;
     return slip;
 }
 
@@ -97,7 +94,7 @@ std::unique_ptr<report::Report> LabelPaper(qint32 LineID)
 {
     auto label = std::make_unique<rptLabel>();
     label->setDataSource({readLine(LineID)});
-    label->section(QStringLiteral("Section1")).label(QStringLiteral("lblCompany")).Caption = session.ShopName;
+    label->section(u"Section1"_s).label(u"lblCompany"_s).Caption = session.ShopName;
     if (report::Pages(*label).count() > 1)
         label->numberLabels();
     return label;
@@ -106,10 +103,10 @@ std::unique_ptr<report::Report> LabelPaper(qint32 LineID)
 void PrintJobCard(qint32 JobID)
 {
     const auto card = JobCardPaper(JobID);
-    const QString preview = GetSetting(15, QStringLiteral("1"));
-    if (preview == QLatin1String("1"))
+    const QString preview = GetSetting(15, u"1"_s);
+    if (preview == "1"_L1)
         report::Preview(*card).showModal();
-    else if (preview == QLatin1String("0"))
+    else if (preview == "0"_L1)
         report::printDirect(*card);
 }
 

@@ -1,5 +1,7 @@
 #include "jobcards/PaperDesign.h"
 
+using namespace Qt::StringLiterals;
+
 namespace paper {
 
 namespace {
@@ -34,7 +36,7 @@ report::Field& value(report::Section& section, const QString& name, const QStrin
 report::Label& company(report::Section& section, int left, int top, int width, double fontSize)
 {
     constexpr double lineHeight = 25; // twips a point
-    report::Label& label = section.addLabel(QStringLiteral("lblCompany"), {});
+    report::Label& label = section.addLabel(u"lblCompany"_s, {});
     label.place(left, top, width, int(fontSize * lineHeight));
     label.FontSize = fontSize;
     label.Bold = true;

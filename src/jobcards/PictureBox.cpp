@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QSize LargestShown(640, 640);
@@ -37,7 +39,7 @@ void PictureBox::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     const QRect place = contentsRect().adjusted(4, 4, -4, -4);
     if (m_unreadable)
-        painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, QStringLiteral("No preview"));
+        painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, u"No preview"_s);
     if (m_picture.isNull())
         return;
     QRect shown({}, m_picture.size().scaled(place.size(), Qt::KeepAspectRatio));

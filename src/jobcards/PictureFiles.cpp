@@ -1,13 +1,15 @@
 #include "jobcards/PictureFiles.h"
 
-#include "core/Session.h"
-#include "core/Startup.h"
+#include "core/shell/Startup.h"
+#include "core/store/Session.h"
 #include "platform/forms/Pictures.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Errors.h"
 
 #include <QFile>
 #include <QFileInfo>
+
+using namespace Qt::StringLiterals;
 
 namespace picturefiles {
 
@@ -30,7 +32,7 @@ QString fileNameOf(const QString& client)
 QString timeText(const QDateTime& time)
 {
     const int weekday = time.date().dayOfWeek() % 7 + 1;
-    return QStringLiteral("%1_%2_%3").arg(weekday).arg(time.time().minute() % 10).arg(time.toString(u"ss"));
+    return u"%1_%2_%3"_s.arg(weekday).arg(time.time().minute() % 10).arg(time.toString(u"ss"));
 }
 
 } // namespace
@@ -39,24 +41,23 @@ QString newPath(const QString& client, const QDateTime& now, int picture)
 {
     constexpr int timesToTell = 600;
     const QString start = session.imagesFolder() + u'/' + fileNameOf(client) + u'_' +
-                          values::Format(now.date(), QStringLiteral("DD_MM_YYYY")) + u'_';
-    const QString end = u'_' + QString::number(picture) + QStringLiteral(".bmp");
+                          values::Format(now.date(), u"DD_MM_YYYY"_s) + u'_';
+    const QString end = u'_' + QString::number(picture) + u".bmp"_s;
     for (int later = 0; later < timesToTell; ++later) {
         const QString path = start + timeText(now.addSecs(later)) + end;
         if (!QFileInfo::exists(path))
             return path;
     }
-    throw OperatorError(QStringLiteral("There is no file name left for a picture of this client today."));
+    throw OperatorError(u"There is no file name left for a picture of this client today."_s);
 }
 
 void copy(const QString& source, const QString& target)
 {
     if (!forms::isPicture(source))
-        throw OperatorError(QStringLiteral("%1 is not a picture that can be shown.").arg(source));
+        throw OperatorError(u"%1 is not a picture that can be shown."_s.arg(source));
     MakeImagesFolder();
     if (!QFileInfo(session.imagesFolder()).isDir())
-        throw OperatorError(
-            QStringLiteral("The folder for pictures cannot be made: %1").arg(session.imagesFolder()));
+        throw OperatorError(u"The folder for pictures cannot be made: %1"_s.arg(session.imagesFolder()));
     QFile file(source);
     const bool copied = file.copy(target);
     if (copied && QFileInfo(target).size() == file.size()) {
@@ -65,16 +66,14 @@ void copy(const QString& source, const QString& target)
     }
     if (copied)
         QFile::remove(target);
-    throw OperatorError(
-        QStringLiteral("The picture cannot be copied to %1: %2").arg(target, file.errorString()));
+    throw OperatorError(u"The picture cannot be copied to %1: %2"_s.arg(target, file.errorString()));
 }
 
 void remove(const QString& path)
 {
     QFile file(path);
     if (file.exists() && !file.remove())
-        throw OperatorError(
-            QStringLiteral("The picture %1 cannot be deleted: %2").arg(path, file.errorString()));
+        throw OperatorError(u"The picture %1 cannot be deleted: %2"_s.arg(path, file.errorString()));
 }
 
 } // namespace picturefiles

@@ -3,6 +3,8 @@
 #include "platform/values/Errors.h"
 #include "platform/values/Notice.h"
 
+using namespace Qt::StringLiterals;
+
 void clsJobCardData::AddNewRow(qint64 sr, const QString& itemName, qint64 itemID, qint64 qty, double fees,
                                double amount, const QString& remarks, const QString& itemDetails,
                                const QString& itemDetailsValue, qint64 workerID, const QString& workerName,
@@ -55,7 +57,7 @@ bool clsJobCardData::within(qint64 index) const
 {
     if (values::toInt16(index) <= m_rowCount)
         return true;
-    values::criticalNotice(QStringLiteral("Index Out of Bound!"));
+    values::criticalNotice(u"Index Out of Bound!"_s);
     return false;
 }
 

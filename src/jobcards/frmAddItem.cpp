@@ -1,7 +1,7 @@
 #include "jobcards/frmAddItem.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
 #include "jobcards/PictureFiles.h"
 #include "jobcards/clsJobCardData.h"
 #include "media/frmPreview.h"
@@ -15,11 +15,13 @@
 #include <QColorDialog>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 using values::Val;
 
 namespace {
 
-const QString LineBreak = QStringLiteral("\r\n");
+const QString LineBreak = u"\r\n"_s;
 
 /// Names and values of a line's measurements, one of each to a row.
 struct Measurements
@@ -77,14 +79,14 @@ frmAddItem::~frmAddItem() = default;
 
 bool frmAddItem::ItemDetails(clsJobCardData& rows, qint32 clientID)
 {
-    prepare(QStringLiteral("N"), rows, clientID);
+    prepare(u"N"_s, rows, clientID);
     showModal();
     return LineCancelled;
 }
 
 bool frmAddItem::EditItemDetails(clsJobCardData& rows, qint32 clientID, qint32 rowIndex)
 {
-    prepare(QStringLiteral("E"), rows, clientID);
+    prepare(u"E"_s, rows, clientID);
     RowIndex = rowIndex;
     showRow();
     showModal();
@@ -104,12 +106,12 @@ void frmAddItem::prepare(const QString& mode, clsJobCardData& rows, qint32 clien
 void frmAddItem::Form_Load()
 {
     SetFormLanguage(*this);
-    FillCombo(QStringLiteral("Name"), QStringLiteral("Items"), *ui->cmbItems, DE.rsITEMS);
+    FillCombo(u"Name"_s, u"Items"_s, *ui->cmbItems, DE.rsITEMS);
 }
 
 void frmAddItem::Form_Activate()
 {
-    if (LineMode == QLatin1String("E"))
+    if (LineMode == "E"_L1)
         ui->ItemDetails1->SetFocusToList();
 }
 
@@ -167,8 +169,7 @@ void frmAddItem::cmbItems_Click()
 void frmAddItem::LoadLastConfig(qint32 itemID, qint32 clientID)
 {
     ado::Recordset& lines = DE.rsJOBS_DETAIL;
-    lines.Open(
-        QStringLiteral("Select * from JOBS_DETAIL where ItemID=%1 and ClintID=%2").arg(itemID).arg(clientID));
+    lines.Open(u"Select * from JOBS_DETAIL where ItemID=%1 and ClintID=%2"_s.arg(itemID).arg(clientID));
     if (lines.AtEOF()) {
         lines.Close();
         LoadEmptyItems(itemID);
@@ -176,8 +177,7 @@ void frmAddItem::LoadLastConfig(qint32 itemID, qint32 clientID)
     }
     lines.MoveLast();
     const auto last = Measurements::split(lines["ItemDetails"].text(), lines["ItemDetailsValue"].text());
-    ui->lblLast->setText(QStringLiteral("Previous JOB : ") +
-                         values::Format(lines["Date"].date(), QStringLiteral("dd-MMM-yyyy")));
+    ui->lblLast->setText(u"Previous JOB : "_s + values::Format(lines["Date"].date(), u"dd-MMM-yyyy"_s));
     if (!lines["ClientRemarks"].isNull())
         ui->txtClientRemark->setText(lines["ClientRemarks"].text());
     lines.Close();
@@ -191,9 +191,9 @@ void frmAddItem::LoadEmptyItems(qint32 itemID)
 {
     ui->ItemDetails1->ClearList();
     ui->ItemDetails1->setLanguage(QString());
-    ui->lblLast->setText(QStringLiteral("No Previous record found!"));
+    ui->lblLast->setText(u"No Previous record found!"_s);
     ado::Recordset& items = DE.rsITEMS;
-    items.Open(QStringLiteral("Select * from Items where id=%1").arg(itemID));
+    items.Open(u"Select * from Items where id=%1"_s.arg(itemID));
     const QString measurements = items.AtEOF() ? QString() : items["ItemDetails"].text();
     items.Close();
     for (const QString& line : measurements.split(LineBreak, Qt::SkipEmptyParts))
@@ -235,7 +235,7 @@ void frmAddItem::txtClientRemark_KeyPress(int& key)
 /// Black is no cloth's colour here: it is ignored.
 void frmAddItem::picColor_Click()
 {
-    const QColor chosen = QColorDialog::getColor(ui->picColor->color(), this, QStringLiteral("Cloth Color"),
+    const QColor chosen = QColorDialog::getColor(ui->picColor->color(), this, u"Cloth Color"_s,
                                                  QColorDialog::DontUseNativeDialog);
     activateWindow();
     if (chosen.isValid() && itemcolor::toNumber(chosen) >= 1)
@@ -247,7 +247,7 @@ void frmAddItem::Command8_Click()
 {
     frmSelectFile picker;
     const QString source = picker.SelFile();
-    if (source.isEmpty() || source == QLatin1String("Cancel"))
+    if (source.isEmpty() || source == "Cancel"_L1)
         return;
     const QString target = picturefiles::newPath(ui->lblClint->text(), QDateTime::currentDateTime(), 1);
     picturefiles::copy(source, target);
@@ -289,9 +289,9 @@ void frmAddItem::Command2_Click()
 /// A line that could not be written counts as cancelled: the card must not list a row that it does not hold.
 void frmAddItem::Command1_Click()
 {
-    if (refuses(ui->cmbItems->text().isEmpty(), QStringLiteral("Please Select Item!"), *ui->cmbItems) ||
-        refuses(Val(ui->txtFees->text()) == 0, QStringLiteral("Please Enter Fees!"), *ui->txtFees) ||
-        refuses(Val(ui->txtQnt->text()) == 0, QStringLiteral("Please Enter Quantity!"), *ui->txtQnt))
+    if (refuses(ui->cmbItems->text().isEmpty(), u"Please Select Item!"_s, *ui->cmbItems) ||
+        refuses(Val(ui->txtFees->text()) == 0, u"Please Enter Fees!"_s, *ui->txtFees) ||
+        refuses(Val(ui->txtQnt->text()) == 0, u"Please Enter Quantity!"_s, *ui->txtQnt))
         return;
     writeRow();
     LineCancelled = false;
@@ -326,7 +326,7 @@ void frmAddItem::writeRow()
     const QString color = QString::number(ui->picColor->number());
     const QString note = ui->txtClientRemark->Text();
 
-    if (LineMode == QLatin1String("N")) {
+    if (LineMode == "N"_L1) {
         JobRows->AddNewRow(0, itemName, itemID, qty, fees, amount, remarks, details, detailsValue, 0, {}, {},
                            {}, {}, {}, 0, 0, 0, {}, img1, img2, color, 0, {}, note);
         return;

@@ -1,9 +1,9 @@
 #include "jobcards/frmEditJOB.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Session.h"
-#include "core/Settings.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "jobcards/frmAddItem.h"
 #include "masters/frmEditClients.h"
 #include "messaging/swSMS.h"
@@ -16,14 +16,16 @@
 #include "ui/modLang.h"
 #include "ui_frmEditJOB.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint32 DeliveryMarginSetting = 13;
 constexpr int AmountColumn = 4;
 
-QString money(double amount) { return values::Format(amount, QStringLiteral("0.00")); }
+QString money(double amount) { return values::Format(amount, u"0.00"_s); }
 
-QString dateText(const QDate& date) { return values::Format(date, QStringLiteral("dd-MMM-yyyy")); }
+QString dateText(const QDate& date) { return values::Format(date, u"dd-MMM-yyyy"_s); }
 
 bool matchesEntry(const forms::ComboBox& combo) { return ComboFindIndex(combo) >= 0; }
 
@@ -34,13 +36,13 @@ frmEditJOB::frmEditJOB(QWidget* parent)
     , ui(std::make_unique<Ui::frmEditJOB>())
 {
     ui->setupUi(this);
-    ui->lvItems->setColumns({{QStringLiteral("Item"), 30},
-                             {QStringLiteral("Remark"), 30},
-                             {QStringLiteral("QTY"), 12, Qt::AlignRight},
-                             {QStringLiteral("FEES"), 12, Qt::AlignRight},
-                             {QStringLiteral("Amount"), 12, Qt::AlignRight}});
+    ui->lvItems->setColumns({{u"Item"_s, 30},
+                             {u"Remark"_s, 30},
+                             {u"QTY"_s, 12, Qt::AlignRight},
+                             {u"FEES"_s, 12, Qt::AlignRight},
+                             {u"Amount"_s, 12, Qt::AlignRight}});
     for (forms::DatePicker* picker : {ui->JobDate, ui->DateDel, ui->DateTrial})
-        picker->setCustomFormat(QStringLiteral("dd-MMM-yyyy"));
+        picker->setCustomFormat(u"dd-MMM-yyyy"_s);
 
     for (forms::ComboBox* combo : {ui->cmbClient, ui->cmbAccount}) {
         onGotFocus(combo, [combo] {
@@ -87,15 +89,14 @@ void frmEditJOB::Form_Load()
 {
     SetFormLanguage(*this);
     fillClients();
-    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"),
-             QStringLiteral(" where type=2 and nature=0 "), *ui->cmbAccount, DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, u" where type=2 and nature=0 "_s, *ui->cmbAccount, DE.rsaccounts);
     ui->lvItems->Clear();
     ui->picCancel->hide();
     m_card = JobCard();
     CardChanged = false;
     m_anotherCard = false;
     swSMS1 = std::make_unique<swSMS>(this);
-    swSMS1->setObjectName(QStringLiteral("swSMS1"));
+    swSMS1->setObjectName(u"swSMS1"_s);
 }
 
 void frmEditJOB::Form_Unload()
@@ -106,8 +107,7 @@ void frmEditJOB::Form_Unload()
 
 void frmEditJOB::fillClients()
 {
-    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where type=0"),
-             *ui->cmbClient, DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, u" where type=0"_s, *ui->cmbClient, DE.rsaccounts);
 }
 
 void frmEditJOB::ShowAddNew()
@@ -148,13 +148,13 @@ void frmEditJOB::openWith(const std::function<void()>& fill)
 
 void frmEditJOB::showNewCard()
 {
-    const qint32 margin = values::CLng(values::Val(GetSetting(DeliveryMarginSetting, QStringLiteral("0"))));
+    const qint32 margin = values::CLng(values::Val(GetSetting(DeliveryMarginSetting, u"0"_s)));
     JobCardHead head;
     head.Date = session.WorkingDate;
     head.DeliveryDate = session.WorkingDate.addDays(margin);
     head.TrialDate = session.WorkingDate;
     showHead(head);
-    ui->lblTitle->setText(QStringLiteral("Create New Job Card"));
+    ui->lblTitle->setText(u"Create New Job Card"_s);
     ui->txtJOBID->setReadOnly(false);
     ui->txtJOBID->setText(QString::number(GetNewNum()));
     ui->cmbClient->setFocus();
@@ -163,9 +163,9 @@ void frmEditJOB::showNewCard()
 void frmEditJOB::showStoredCard(qint32 JobID)
 {
     m_card.CurrentJobID = JobID;
-    m_card.EditMode = QStringLiteral("E");
+    m_card.EditMode = u"E"_s;
     auto& job = DE.rsJOBS;
-    job.Open(QStringLiteral("Select * from JOBS where id=") + QString::number(JobID));
+    job.Open(u"Select * from JOBS where id="_s + QString::number(JobID));
     JobCardHead head;
     head.Date = job["Date"].date();
     head.Client = GetAccountTitle(job["ClintID"].integer());
@@ -182,19 +182,17 @@ void frmEditJOB::showStoredCard(qint32 JobID)
     showHead(head);
     showMode();
     if (head.Delivered && !job["ClientDeliveryDate"].isNull())
-        ui->lblDelDate->setText(QStringLiteral("Delivered to Client : ") +
-                                dateText(job["ClientDeliveryDate"].date()));
+        ui->lblDelDate->setText(u"Delivered to Client : "_s + dateText(job["ClientDeliveryDate"].date()));
     switch (job["appeared"].integer()) {
     case 0:
-        ui->lblTrialInfo->setText(QStringLiteral("Not Appeared for Trial"));
+        ui->lblTrialInfo->setText(u"Not Appeared for Trial"_s);
         break;
     case 1:
         if (!job["appearedDate"].isNull())
-            ui->lblTrialInfo->setText(QStringLiteral("Appeared for Trial ") +
-                                      dateText(job["appearedDate"].date()));
+            ui->lblTrialInfo->setText(u"Appeared for Trial "_s + dateText(job["appearedDate"].date()));
         break;
     case 2:
-        ui->lblTrialInfo->setText(QStringLiteral("Trial Canceled"));
+        ui->lblTrialInfo->setText(u"Trial Canceled"_s);
         break;
     }
     job.Close();
@@ -208,7 +206,7 @@ void frmEditJOB::showStoredCard(qint32 JobID)
 
 void frmEditJOB::showHead(const JobCardHead& head)
 {
-    ui->picBanner->setText(QStringLiteral("Welcome to ") + session.ShopName);
+    ui->picBanner->setText(u"Welcome to "_s + session.ShopName);
     ui->JobDate->setValue(head.Date);
     ui->cmbClient->setText(head.Client);
     ui->cmbAccount->setText(head.ReceiptAccount);
@@ -228,11 +226,11 @@ void frmEditJOB::showHead(const JobCardHead& head)
 /// What tells a stored card from a new one. Its number never changes again.
 void frmEditJOB::showMode()
 {
-    if (m_card.EditMode != QStringLiteral("E"))
+    if (m_card.EditMode != u"E"_s)
         return;
     ui->txtJOBID->setReadOnly(true);
     ui->txtJOBID->setText(QString::number(m_card.CurrentJobID));
-    ui->lblTitle->setText(QStringLiteral("Edit JOB Card"));
+    ui->lblTitle->setText(u"Edit JOB Card"_s);
 }
 
 // Fields and keys
@@ -275,10 +273,10 @@ void frmEditJOB::cmbClient_LostFocus()
     const QString client = ui->cmbClient->text();
     const qint32 clientID = GetAccountID(client);
     auto& visits = DE.rsJOBS;
-    visits.Open(QStringLiteral("Select * from Jobs where ClintID=") + QString::number(clientID));
+    visits.Open(u"Select * from Jobs where ClintID="_s + QString::number(clientID));
     if (visits.AtEOF()) {
         visits.Close();
-        ui->picBanner->setText(QStringLiteral("Welcome ") + client);
+        ui->picBanner->setText(u"Welcome "_s + client);
         return;
     }
     visits.MoveLast();
@@ -287,15 +285,14 @@ void frmEditJOB::cmbClient_LostFocus()
     visits.Close();
 
     const double balance = GetBalance(values::toInt16(clientID), session.WorkingDate);
-    QString greeting = QStringLiteral("Welcome back ") + client +
-                       QStringLiteral(", Your previous visit was: ") + dateText(lastVisit) +
-                       QStringLiteral(" ( ") + DateDiffText(lastVisit, session.WorkingDate, false, true);
+    QString greeting = u"Welcome back "_s + client + u", Your previous visit was: "_s + dateText(lastVisit) +
+                       u" ( "_s + DateDiffText(lastVisit, session.WorkingDate, false, true);
     if (balance == 0) {
-        greeting += QStringLiteral("  ago )  , Job # ") + number;
+        greeting += u"  ago )  , Job # "_s + number;
     } else {
         // The sign is turned round either way, so that a credit shows with a minus.
-        greeting += QStringLiteral("  ago ) , Job # ") + number + QStringLiteral(" , Due Balance : ") +
-                    money(-balance) + (balance < 0 ? QStringLiteral(" Dr") : QStringLiteral(" Cr"));
+        greeting += u"  ago ) , Job # "_s + number + u" , Due Balance : "_s + money(-balance) +
+                    (balance < 0 ? u" Dr"_s : u" Cr"_s);
     }
     ui->picBanner->setText(greeting);
 }
@@ -309,7 +306,7 @@ void frmEditJOB::txtAmountDue_Change()
     if (formatted == typed)
         return;
     const auto point = [](const QString& text) {
-        const auto at = text.indexOf(QLatin1Char('.'));
+        const auto at = text.indexOf(u'.');
         return int(at < 0 ? text.size() : at);
     };
     const int fromPoint = ui->txtAmountDue->cursorPosition() - point(typed);
@@ -324,9 +321,9 @@ void frmEditJOB::txtAmountDue_KeyPress(int& key)
     const int caret = box.cursorPosition();
     const bool plainCaret = !box.hasSelectedText();
     // The decimal point always stands; typing or erasing it steps over it.
-    if (plainCaret && key == '.' && text.mid(caret, 1) == QLatin1String("."))
+    if (plainCaret && key == '.' && text.mid(caret, 1) == "."_L1)
         box.cursorForward(false);
-    if (plainCaret && key == forms::key::Backspace && caret > 0 && text.at(caret - 1) == QLatin1Char('.')) {
+    if (plainCaret && key == forms::key::Backspace && caret > 0 && text.at(caret - 1) == u'.') {
         box.cursorBackward(false);
         key = 0;
         return;
@@ -338,7 +335,7 @@ void frmEditJOB::txtAmountDue_KeyDown(int& key)
 {
     auto& box = *ui->txtAmountDue;
     if (key == forms::key::Delete && !box.hasSelectedText() &&
-        box.text().mid(box.cursorPosition(), 1) == QLatin1String(".")) {
+        box.text().mid(box.cursorPosition(), 1) == "."_L1) {
         box.cursorForward(false);
         key = 0;
     }
@@ -401,7 +398,7 @@ int frmEditJOB::selectedLine() const { return qMax(0, ui->lvItems->selectedRow()
 void frmEditJOB::Command4_Click()
 {
     if (ui->cmbClient->text().isEmpty()) {
-        refuse(QStringLiteral("Please Select Client!"), ui->cmbClient);
+        refuse(u"Please Select Client!"_s, ui->cmbClient);
         return;
     }
     if (frmAddItem().ItemDetails(m_card.JobRows, GetAccountID(ui->cmbClient->text()))) {
@@ -417,7 +414,7 @@ void frmEditJOB::editLine()
     if (ui->lvItems->rowCount() == 0)
         return;
     if (!matchesEntry(*ui->cmbClient)) {
-        ShowMsg(QStringLiteral("Please Select Client!"));
+        ShowMsg(u"Please Select Client!"_s);
         return;
     }
     const int row = selectedLine();

@@ -1,6 +1,6 @@
 // Save, Print and Delete of the job card.
-#include "core/Session.h"
-#include "core/Settings.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "jobcards/MODPrintJOBCARD.h"
 #include "jobcards/frmEditJOB.h"
 #include "messaging/modSMS.h"
@@ -12,6 +12,8 @@
 
 #include <QScopeGuard>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint32 OfferSmsSetting = 3;
@@ -22,22 +24,22 @@ constexpr qint32 PrintAfterSaveSetting = 14;
 void frmEditJOB::Command1_Click()
 {
     if (ui->cmbClient->text().isEmpty()) {
-        refuse(QStringLiteral("Please Select Client!"), ui->cmbClient);
+        refuse(u"Please Select Client!"_s, ui->cmbClient);
         return;
     }
     if (ui->lvItems->rowCount() == 0) {
-        refuse(QStringLiteral("Please Add Item!"), ui->Command4);
+        refuse(u"Please Add Item!"_s, ui->Command4);
         return;
     }
     if (ui->txtAmountPaid->text().isEmpty())
-        ui->txtAmountPaid->setText(QStringLiteral("0"));
+        ui->txtAmountPaid->setText(u"0"_s);
     if (values::Val(ui->txtAmountPaid->text()) > 0 && ComboFindIndex(*ui->cmbAccount) < 0) {
-        refuse(QStringLiteral("Please Select Receipt Account!"), ui->cmbAccount);
+        refuse(u"Please Select Receipt Account!"_s, ui->cmbAccount);
         return;
     }
-    if (m_card.EditMode == QStringLiteral("N")) {
+    if (m_card.EditMode == u"N"_s) {
         SaveNew();
-        if (values::Val(GetSetting(PrintAfterSaveSetting, QStringLiteral("0"))) == 1)
+        if (values::Val(GetSetting(PrintAfterSaveSetting, u"0"_s)) == 1)
             Command2_Click();
     } else {
         SaveEdit();
@@ -55,7 +57,7 @@ void frmEditJOB::refuse(const QString& message, QWidget* field)
 JobCardHead frmEditJOB::head() const
 {
     JobCardHead head;
-    if (m_card.EditMode == QStringLiteral("N"))
+    if (m_card.EditMode == u"N"_s)
         head.Number = values::CLng(values::Val(ui->txtJOBID->text()));
     head.Date = ui->JobDate->value();
     head.Client = ui->cmbClient->text();
@@ -64,7 +66,7 @@ JobCardHead frmEditJOB::head() const
     head.Total = Currency::fromDouble(values::Val(ui->txtAmountDue->text()));
     head.Paid = Currency::fromDouble(values::Val(ui->txtAmountPaid->text()));
     if (head.Paid < Currency())
-        throw OperatorError(QStringLiteral("The amount received can't be below 0. Nothing has been saved."));
+        throw OperatorError(u"The amount received can't be below 0. Nothing has been saved."_s);
     head.Delivered = ui->chJobStatus->isChecked();
     head.Remark = ui->txtRemark->text();
     head.ReceiptAccount = ui->cmbAccount->text();
@@ -80,7 +82,7 @@ void frmEditJOB::SaveNew()
         const auto show = qScopeGuard([this] { showMode(); });
         m_card.SaveNew(head());
     }
-    ShowMsg(QStringLiteral("New Job Created."));
+    ShowMsg(u"New Job Created."_s);
 }
 
 void frmEditJOB::SaveEdit()
@@ -88,15 +90,14 @@ void frmEditJOB::SaveEdit()
     m_card.SaveEdit(head());
     session.RefreshLists = true;
     CardChanged = true;
-    ShowMsg(QStringLiteral("Job Edited."));
+    ShowMsg(u"Job Edited."_s);
 }
 
 void frmEditJOB::offerSms()
 {
-    if (GetSetting(OfferSmsSetting, QStringLiteral("No")) == QStringLiteral("No"))
+    if (GetSetting(OfferSmsSetting, u"No"_s) == u"No"_s)
         return;
-    if (!ShowMsg(QStringLiteral("This Job has been registered.\r\nWould you like to Inform Client via SMS?"),
-                 2))
+    if (!ShowMsg(u"This Job has been registered.\r\nWould you like to Inform Client via SMS?"_s, 2))
         return;
     SendSmsToClient(*swSMS1, ui->cmbClient->text(), 0,
                     MakeJobRegisteredSms(m_card.CurrentJobID, values::Val(ui->txtAmount->text())));
@@ -105,19 +106,19 @@ void frmEditJOB::offerSms()
 /// A card that isn't stored has no paper yet: nothing comes.
 void frmEditJOB::Command2_Click()
 {
-    if (m_card.EditMode == QStringLiteral("E"))
+    if (m_card.EditMode == u"E"_s)
         PrintJobCard(m_card.CurrentJobID);
 }
 
 void frmEditJOB::Command7_Click()
 {
-    if (m_card.EditMode == QStringLiteral("N"))
+    if (m_card.EditMode == u"N"_s)
         return;
-    if (!ShowMsg(QStringLiteral("Are you sure to Delete!"), 2))
+    if (!ShowMsg(u"Are you sure to Delete!"_s, 2))
         return;
     m_card.Delete();
     session.RefreshLists = true;
     CardChanged = true;
-    ShowMsg(QStringLiteral("Deleted."));
+    ShowMsg(u"Deleted."_s);
     unload();
 }

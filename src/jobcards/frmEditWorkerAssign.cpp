@@ -1,9 +1,9 @@
 #include "jobcards/frmEditWorkerAssign.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Session.h"
-#include "core/Settings.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "jobcards/ItemColor.h"
 #include "jobcards/MODPrintJOBCARD.h"
 #include "media/frmPreview.h"
@@ -23,13 +23,15 @@
 #include <QScopeGuard>
 #include <QScrollBar>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString NoWorker = QStringLiteral("NA");
+const QString NoWorker = u"NA"_s;
 constexpr qint32 WagesShownSetting = 20;
 constexpr int HeightOfStars = 20;
 
-QString dateText(const QDate& date) { return values::Format(date, QStringLiteral("dd-MMM-yyyy")); }
+QString dateText(const QDate& date) { return values::Format(date, u"dd-MMM-yyyy"_s); }
 
 /// Names and values of the measurements stand side by side: they scroll as one.
 void scrollTogether(QPlainTextEdit& one, QPlainTextEdit& other)
@@ -54,7 +56,7 @@ frmEditWorkerAssign::frmEditWorkerAssign()
 {
     ui->setupUi(this);
     scrollTogether(*ui->txtCap, *ui->txtSize);
-    ui->DtCutting->setCustomFormat(QStringLiteral("dd-MMM-yyyy"));
+    ui->DtCutting->setCustomFormat(u"dd-MMM-yyyy"_s);
 
     onGotFocus(ui->cmbWorker, [this] { ui->cmbWorker->select(0, int(ui->cmbWorker->text().size())); });
     onKeyPress(ui->cmbWorker, [this](int& key) { key = AutoSearchCombo(*ui->cmbWorker, key); });
@@ -107,12 +109,11 @@ void frmEditWorkerAssign::ShowEdit(qint32 lineID)
 void frmEditWorkerAssign::Form_Load()
 {
     SetFormLanguage(*this);
-    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where Type=1"),
-             *ui->cmbWorker, DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, u" where Type=1"_s, *ui->cmbWorker, DE.rsaccounts);
     ui->cmbWorker->insertItem(0, NoWorker);
-    showWages(GetSetting(WagesShownSetting, QStringLiteral("1")) != QLatin1String("0"));
+    showWages(GetSetting(WagesShownSetting, u"1"_s) != "0"_L1);
     swSMS1 = std::make_unique<swSMS>(this);
-    swSMS1->setObjectName(QStringLiteral("swSMS1"));
+    swSMS1->setObjectName(u"swSMS1"_s);
 }
 
 void frmEditWorkerAssign::Form_Unload() { swSMS1.reset(); }
@@ -167,7 +168,7 @@ void frmEditWorkerAssign::showWagesPaid(Currency wage, qint32 payrollID)
         return;
     auto& payroll = openRow(DE.rspostings, "Select * from Postings where vType=2 and VID=", payrollID);
     if (!payroll.AtEOF()) {
-        ui->lblWagesPaid->setText(values::Format(wage.toDouble(), QStringLiteral("0.00")));
+        ui->lblWagesPaid->setText(values::Format(wage.toDouble(), u"0.00"_s));
         ui->lblWagesPaidDate->setText(dateText(payroll["Date"].date()));
     }
     payroll.Close();
@@ -187,22 +188,21 @@ void frmEditWorkerAssign::showPicture(PictureBox& pic, QPushButton& print, QStri
 void frmEditWorkerAssign::showLastJob()
 {
     auto& lines = DE.rsJOBS_DETAIL;
-    lines.Open(QStringLiteral("Select * from JOBS_DETAIL where DATE<#%1# and ItemID=%2 and ClintID=%3")
-                   .arg(values::Format(LineDate, QStringLiteral("DD-MMM-YYYY")))
+    lines.Open(u"Select * from JOBS_DETAIL where DATE<#%1# and ItemID=%2 and ClintID=%3"_s
+                   .arg(values::Format(LineDate, u"DD-MMM-YYYY"_s))
                    .arg(LineItemID)
                    .arg(LineClientID));
     if (lines.AtEOF()) {
-        ui->lblLastJob->setText(QStringLiteral("No last record found"));
+        ui->lblLastJob->setText(u"No last record found"_s);
         lines.Close();
         return;
     }
     lines.MoveLast();
     const qint32 workerID = lines["WorkerID"].integer();
-    ui->lblLastJob->setText(QStringLiteral("Last Job ID # ") + lines["JobID"].text() +
-                            QStringLiteral("\r\nDate : ") + dateText(lines["Date"].date()) +
-                            QStringLiteral("\r\n") +
-                            (workerID > 0 ? QStringLiteral("Job done by : ") + GetAccountTitle(workerID)
-                                          : QStringLiteral("No worker information found!")));
+    ui->lblLastJob->setText(
+        u"Last Job ID # "_s + lines["JobID"].text() + u"\r\nDate : "_s + dateText(lines["Date"].date()) +
+        u"\r\n"_s +
+        (workerID > 0 ? u"Job done by : "_s + GetAccountTitle(workerID) : u"No worker information found!"_s));
     lines.Close();
 }
 
@@ -225,7 +225,7 @@ void frmEditWorkerAssign::RateWorker()
     m_ratedWorker = worker;
     qint16 rating = 0;
     const auto show = qScopeGuard([&] {
-        ui->lblAvgScorer->setText(QStringLiteral("Overall Ratting : ") + QString::number(rating));
+        ui->lblAvgScorer->setText(u"Overall Ratting : "_s + QString::number(rating));
         if (const QPixmap picture = stars(rating, HeightOfStars); !picture.isNull())
             ui->imgStars->setPixmap(picture);
     });
@@ -255,13 +255,13 @@ void frmEditWorkerAssign::Command1_Click()
 {
     const QString worker = chosenWorker();
     if (worker.isEmpty()) {
-        ShowMsg(QStringLiteral("Please Select Worker Name!"));
+        ShowMsg(u"Please Select Worker Name!"_s);
         ui->cmbWorker->setFocus();
         return;
     }
     writeLine(worker);
     session.RefreshLists = true;
-    ShowMsg(QStringLiteral("Job Assign."));
+    ShowMsg(u"Job Assign."_s);
     Command4_Click();
     if (AllItemsDelivered(jobID()))
         closeJob();
@@ -318,7 +318,7 @@ void frmEditWorkerAssign::Command2_Click()
 /// Does nothing as long as a line of the card is not completed.
 void frmEditWorkerAssign::Command4_Click()
 {
-    if (!AllItemsCompleted(jobID()) || !ShowMsg(QStringLiteral("Send SMS Now?"), 2))
+    if (!AllItemsCompleted(jobID()) || !ShowMsg(u"Send SMS Now?"_s, 2))
         return;
     SendSmsToClient(*swSMS1, ui->txtClient->text(), 0, MakeJobFinishedSms(jobID(), 0));
 }
@@ -326,8 +326,7 @@ void frmEditWorkerAssign::Command4_Click()
 void frmEditWorkerAssign::showWages(bool shown)
 {
     ui->fWorkerDetails->setVisible(shown);
-    ui->lblHideShow->setText(shown ? QStringLiteral("Hide Worker Details")
-                                   : QStringLiteral("Show Worker Details"));
+    ui->lblHideShow->setText(shown ? u"Hide Worker Details"_s : u"Show Worker Details"_s);
 }
 
 void frmEditWorkerAssign::lblHideShow_Click()

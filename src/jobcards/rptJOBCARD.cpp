@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 using namespace report;
 
 namespace {
@@ -16,9 +18,9 @@ constexpr int LogoSize = 1800;
 constexpr int HeadingLeft = Left + LogoSize + 200;
 constexpr int HeadingHeight = 1800; ///< as designed, with all its lines
 
-const QString Day = QStringLiteral("dd-MMM-yyyy");
-const QString Money = QStringLiteral("0.00");
-const QString Total = QStringLiteral("#,##0.00;(#,##0.00)");
+const QString Day = u"dd-MMM-yyyy"_s;
+const QString Money = u"0.00"_s;
+const QString Total = u"#,##0.00;(#,##0.00)"_s;
 
 /// The columns of the lines.
 struct Column
@@ -43,26 +45,26 @@ const Column columns[] = {
 } // namespace
 
 rptJOBCARD::rptJOBCARD()
-    : Report(QStringLiteral("Print Job Card"))
+    : Report(u"Print Job Card"_s)
 {
     LeftMargin = RightMargin = (pageWidth() - DesignWidth) / 2;
-    addSection(QStringLiteral("Section4"), Band::ReportHead);
-    addSection(QStringLiteral("Section2"), Band::PageHead);
+    addSection(u"Section4"_s, Band::ReportHead);
+    addSection(u"Section2"_s, Band::PageHead);
     designHead();
     designLine();
     designFoot();
-    Section& pageFoot = addSection(QStringLiteral("Section3"), Band::PageFoot, 260);
-    Label& number = paper::caption(pageFoot, QStringLiteral("lblPage"), {}, Left, 0, Width);
+    Section& pageFoot = addSection(u"Section3"_s, Band::PageFoot, 260);
+    Label& number = paper::caption(pageFoot, u"lblPage"_s, {}, Left, 0, Width);
     number.CountsPages = true;
     number.FontSize = 8;
     number.Alignment = Qt::AlignRight;
-    addSection(QStringLiteral("Section5"), Band::ReportFoot);
+    addSection(u"Section5"_s, Band::ReportFoot);
 }
 
 void rptJOBCARD::designHead()
 {
-    Section& head = addSection(QStringLiteral("Section6"), Band::Head, 4060);
-    head.addImage(QStringLiteral("logo")).place(Left, 0, LogoSize, LogoSize);
+    Section& head = addSection(u"Section6"_s, Band::Head, 4060);
+    head.addImage(u"logo"_s).place(Left, 0, LogoSize, LogoSize);
     paper::company(head, HeadingLeft, 0, Width + Left - HeadingLeft, 24);
     int top = 620;
     for (const char* name : {"lblAddress1", "lblAddress2", "lblAddress3", "lblContact"}) {
@@ -73,7 +75,7 @@ void rptJOBCARD::designHead()
         line.CanGrow = true;
         top += 270;
     }
-    Label& tag = head.addLabel(QStringLiteral("lblTag"), {});
+    Label& tag = head.addLabel(u"lblTag"_s, {});
     tag.place(Left, HeadingHeight + 60, Width, 280);
     tag.Italic = true;
     tag.Color = paper::Muted;
@@ -81,40 +83,38 @@ void rptJOBCARD::designHead()
     tag.CanGrow = true;
 
     top = HeadingHeight + 440;
-    paper::rule(head, QStringLiteral("Line1"), Left, top, Width, paper::Ink).Weight = 25;
+    paper::rule(head, u"Line1"_s, Left, top, Width, paper::Ink).Weight = 25;
 
     top += 160;
     constexpr int rowHeight = 340;
     constexpr int captionWidth = 1250;
     constexpr int right = Left + 6200;
     constexpr int rightCaption = 1350;
-    paper::caption(head, QStringLiteral("Label2"), QStringLiteral("Date:"), right, top, rightCaption);
-    paper::value(head, QStringLiteral("txtDate"), QStringLiteral("Date"), right + rightCaption, top,
+    paper::caption(head, u"Label2"_s, u"Date:"_s, right, top, rightCaption);
+    paper::value(head, u"txtDate"_s, u"Date"_s, right + rightCaption, top,
                  Left + Width - right - rightCaption, Day);
-    paper::caption(head, QStringLiteral("Label3"), QStringLiteral("Job Card #"), Left, top, captionWidth);
-    Field& number = paper::value(head, QStringLiteral("txtJOBID"), QStringLiteral("JOBID"),
-                                 Left + captionWidth, top - 45, 3000);
+    paper::caption(head, u"Label3"_s, u"Job Card #"_s, Left, top, captionWidth);
+    Field& number = paper::value(head, u"txtJOBID"_s, u"JOBID"_s, Left + captionWidth, top - 45, 3000);
     number.FontSize = 13;
     number.Bold = true;
     top += rowHeight;
-    paper::caption(head, QStringLiteral("Label4"), QStringLiteral("Client Name :"), Left, top, captionWidth);
-    Field& client = paper::value(head, QStringLiteral("txtNAME"), QStringLiteral("NAME"), Left + captionWidth,
-                                 top, right - Left - captionWidth - Gap);
+    paper::caption(head, u"Label4"_s, u"Client Name :"_s, Left, top, captionWidth);
+    Field& client = paper::value(head, u"txtNAME"_s, u"NAME"_s, Left + captionWidth, top,
+                                 right - Left - captionWidth - Gap);
     client.Bold = true;
     client.CanGrow = true;
     client.Height += rowHeight; // the room beside the trial date
-    paper::caption(head, QStringLiteral("Label5"), QStringLiteral("Delivery Date :"), right, top,
-                   rightCaption);
-    paper::value(head, QStringLiteral("txtDELDATE"), QStringLiteral("DELDATE"), right + rightCaption, top,
+    paper::caption(head, u"Label5"_s, u"Delivery Date :"_s, right, top, rightCaption);
+    paper::value(head, u"txtDELDATE"_s, u"DELDATE"_s, right + rightCaption, top,
                  Left + Width - right - rightCaption, Day)
         .Bold = true;
     top += rowHeight;
-    paper::caption(head, QStringLiteral("Label16"), QStringLiteral("Trial Date:"), right, top, rightCaption);
-    paper::value(head, QStringLiteral("Text3"), QStringLiteral("TrialDate"), right + rightCaption, top,
+    paper::caption(head, u"Label16"_s, u"Trial Date:"_s, right, top, rightCaption);
+    paper::value(head, u"Text3"_s, u"TrialDate"_s, right + rightCaption, top,
                  Left + Width - right - rightCaption, Day);
 
     top += rowHeight + 40;
-    paper::bar(head, QStringLiteral("Shape1"), Left, top, Width, 380).Repeats = true;
+    paper::bar(head, u"Shape1"_s, Left, top, Width, 380).Repeats = true;
     for (const Column& column : columns) {
         Label& title = head.addLabel(QLatin1String(column.title), QLatin1String(column.caption));
         title.place(column.left, top + 70, column.width, 240);
@@ -129,7 +129,7 @@ void rptJOBCARD::designHead()
 
 void rptJOBCARD::designLine()
 {
-    Section& line = addSection(QStringLiteral("Section1"), Band::Detail, 400);
+    Section& line = addSection(u"Section1"_s, Band::Detail, 400);
     for (const Column& column : columns) {
         const bool isMoney = column.alignment == Qt::AlignRight;
         Field& field = paper::value(line, QLatin1String(column.field), QLatin1String(column.dataField),
@@ -137,12 +137,12 @@ void rptJOBCARD::designLine()
         field.Alignment = column.alignment;
         field.CanGrow = !isMoney;
     }
-    paper::rule(line, QStringLiteral("Line2"), Left, 400, Width);
+    paper::rule(line, u"Line2"_s, Left, 400, Width);
 }
 
 void rptJOBCARD::designFoot()
 {
-    Section& foot = addSection(QStringLiteral("Section7"), Band::Foot, 3560);
+    Section& foot = addSection(u"Section7"_s, Band::Foot, 3560);
     constexpr int right = Left + 5900;
     constexpr int captionWidth = 1700;
     constexpr int rowHeight = 330;
@@ -159,8 +159,7 @@ void rptJOBCARD::designFoot()
                            Sum{"Label17", "Amount Due", "Text4", "AMOUNT"}}) {
         const bool isBalance = qstrcmp(sum.field, "Text4") == 0;
         if (isBalance) {
-            paper::bar(foot, QStringLiteral("Shape2"), right - Gap, top + 10, Left + Width - right + Gap,
-                       400);
+            paper::bar(foot, u"Shape2"_s, right - Gap, top + 10, Left + Width - right + Gap, 400);
             top += 80;
         }
         paper::caption(foot, QLatin1String(sum.label), QLatin1String(sum.caption), right, top, captionWidth)
@@ -174,34 +173,32 @@ void rptJOBCARD::designFoot()
     }
 
     constexpr int boxHeight = 2700;
-    Shape& samples = foot.addShape(QStringLiteral("Shape3"));
+    Shape& samples = foot.addShape(u"Shape3"_s);
     samples.place(Left, 220, 5400, boxHeight);
     samples.Frame = true;
     samples.Dashed = true;
     samples.Color = paper::Muted;
-    Label& staple = paper::caption(foot, QStringLiteral("Label15"),
-                                   QStringLiteral("Staple Cloth Samples here..."), Left + 160, 320, 5000);
+    Label& staple =
+        paper::caption(foot, u"Label15"_s, u"Staple Cloth Samples here..."_s, Left + 160, 320, 5000);
     staple.Italic = true;
 
-    Label& company = foot.addLabel(QStringLiteral("lblForCompany"), {});
+    Label& company = foot.addLabel(u"lblForCompany"_s, {});
     company.place(right, 1500, Left + Width - right - Gap, 260);
     company.Alignment = Qt::AlignRight;
     company.Color = paper::Ink;
     company.CanGrow = true;
-    paper::rule(foot, QStringLiteral("Line3"), right + 1400, 2620, Left + Width - right - Gap - 1400,
-                paper::Muted);
-    paper::caption(foot, QStringLiteral("Label9"), QStringLiteral("Auth Sig"), right, 2660,
-                   Left + Width - right - Gap)
-        .Alignment = Qt::AlignRight;
-    Label& house = paper::caption(foot, QStringLiteral("Label8"),
-                                  QStringLiteral("Seamwise - The Whole Shop at Hand"), Left, 3140, Width);
+    paper::rule(foot, u"Line3"_s, right + 1400, 2620, Left + Width - right - Gap - 1400, paper::Muted);
+    paper::caption(foot, u"Label9"_s, u"Auth Sig"_s, right, 2660, Left + Width - right - Gap).Alignment =
+        Qt::AlignRight;
+    Label& house =
+        paper::caption(foot, u"Label8"_s, u"Seamwise - The Whole Shop at Hand"_s, Left, 3140, Width);
     house.FontSize = 8;
     house.Alignment = Qt::AlignHCenter;
 }
 
 void rptJOBCARD::closeUpHeading()
 {
-    Section& head = section(QStringLiteral("Section6"));
+    Section& head = section(u"Section6"_s);
     int bottom = 0;
     for (const char* name : {"lblCompany", "lblAddress1", "lblAddress2", "lblAddress3", "lblContact"}) {
         Label& line = head.label(QLatin1String(name));
@@ -210,10 +207,10 @@ void rptJOBCARD::closeUpHeading()
         if (line.Visible)
             bottom += line.Height;
     }
-    const Image& logo = head.image(QStringLiteral("logo"));
+    const Image& logo = head.image(u"logo"_s);
     if (!logo.Picture.isNull())
         bottom = std::max(bottom, logo.Top + logo.Height);
-    Label& tag = head.label(QStringLiteral("lblTag"));
+    Label& tag = head.label(u"lblTag"_s);
     tag.Visible = !tag.Caption.isEmpty();
     const int aboveTag = HeadingHeight - bottom;
     const int belowTag = aboveTag + (tag.Visible ? 0 : tag.Height);

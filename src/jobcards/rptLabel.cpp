@@ -2,6 +2,8 @@
 
 #include "jobcards/PaperDesign.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace report;
 
 namespace {
@@ -14,15 +16,15 @@ constexpr int RowHeight = 340;
 } // namespace
 
 rptLabel::rptLabel()
-    : Report(QStringLiteral("Print Label"))
+    : Report(u"Print Label"_s)
 {
     PageSize = LabelSize;
     LeftMargin = RightMargin = mm(5);
     TopMargin = BottomMargin = mm(4);
 
-    Section& line = addSection(QStringLiteral("Section1"), Band::Detail);
+    Section& line = addSection(u"Section1"_s, Band::Detail);
     paper::company(line, 0, 0, Width, 12);
-    paper::rule(line, QStringLiteral("Line1"), 0, 340, Width, paper::Ink).Weight = 15;
+    paper::rule(line, u"Line1"_s, 0, 340, Width, paper::Ink).Weight = 15;
     const auto row = [&](const char* label, const char* caption, const char* field, const char* dataField,
                          int top, int width) -> Field& {
         paper::caption(line, QLatin1String(label), QLatin1String(caption), 0, top, CaptionWidth);
@@ -39,17 +41,15 @@ rptLabel::rptLabel()
     job.Top -= 45;
     job.Bold = true;
     job.CanGrow = false;
-    Shape& tag = line.addShape(QStringLiteral("Shape1"));
+    Shape& tag = line.addShape(u"Shape1"_s);
     tag.place(CaptionWidth + 960, top - 25, 460, 290);
     tag.Frame = true;
     tag.Color = paper::Ink;
-    Field& item =
-        paper::value(line, QStringLiteral("Text1"), QStringLiteral("ItemSr"), tag.Left, top, tag.Width);
+    Field& item = paper::value(line, u"Text1"_s, u"ItemSr"_s, tag.Left, top, tag.Width);
     item.Bold = true;
     item.Alignment = Qt::AlignHCenter;
-    paper::caption(line, QStringLiteral("Label1"), QStringLiteral("Date :"), 3160, top, 600);
-    paper::value(line, QStringLiteral("txtDATE"), QStringLiteral("DATE"), 3760, top, Width - 3760,
-                 QStringLiteral("dd-mmm-yy"));
+    paper::caption(line, u"Label1"_s, u"Date :"_s, 3160, top, 600);
+    paper::value(line, u"txtDATE"_s, u"DATE"_s, 3760, top, Width - 3760, u"dd-mmm-yy"_s);
     top += RowHeight;
     row("Label3", "Client Name:", "txtClintName", "ClintName", top, wide).Bold = true;
     top += RowHeight;
@@ -64,13 +64,12 @@ rptLabel::rptLabel()
 void rptLabel::numberLabels()
 {
     const Row& line = rows().front();
-    Section& foot = addSection(QStringLiteral("Section3"), Band::PageFoot, 240);
-    Label& number =
-        paper::caption(foot, QStringLiteral("lblPage"),
-                       QStringLiteral("%1 / %2").arg(line.value(QStringLiteral("JobID")).toString(),
-                                                     line.value(QStringLiteral("ItemSr")).toString()) +
-                           QStringLiteral(" · %p of %P"),
-                       0, 0, Width);
+    Section& foot = addSection(u"Section3"_s, Band::PageFoot, 240);
+    Label& number = paper::caption(
+        foot, u"lblPage"_s,
+        u"%1 / %2"_s.arg(line.value(u"JobID"_s).toString(), line.value(u"ItemSr"_s).toString()) +
+            u" · %p of %P"_s,
+        0, 0, Width);
     number.CountsPages = true;
     number.FontSize = 8;
     number.Alignment = Qt::AlignRight;

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 using namespace report;
 
 namespace {
@@ -17,21 +19,21 @@ constexpr int RowHeight = 340;
 constexpr int MeasureHeight = 320;
 constexpr int NameWidth = 3500; ///< of a measurement's name
 
-const QString Day = QStringLiteral("dd-MMM-yyyy");
+const QString Day = u"dd-MMM-yyyy"_s;
 
 } // namespace
 
 rptWorkerJobCard::rptWorkerJobCard()
-    : Report(QStringLiteral("Job Order"))
+    : Report(u"Job Order"_s)
 {
     PageSize = A5;
     LeftMargin = RightMargin = TopMargin = BottomMargin = mm(12);
 
-    Section& head = addSection(QStringLiteral("Section2"), Band::PageHead, 620);
+    Section& head = addSection(u"Section2"_s, Band::PageHead, 620);
     paper::company(head, 0, 0, Width, 16);
-    paper::rule(head, QStringLiteral("Line1"), 0, 480, Width, paper::Ink).Weight = 20;
+    paper::rule(head, u"Line1"_s, 0, 480, Width, paper::Ink).Weight = 20;
 
-    Section& line = addSection(QStringLiteral("Section1"), Band::Detail);
+    Section& line = addSection(u"Section1"_s, Band::Detail);
     const auto left = [&](const char* label, const char* caption, const char* field, const char* dataField,
                           int top, int width) -> Field& {
         paper::caption(line, QLatin1String(label), QLatin1String(caption), 0, top, CaptionWidth);
@@ -50,10 +52,9 @@ rptWorkerJobCard::rptWorkerJobCard()
     job.FontSize = 13;
     job.Top -= 45;
     job.Bold = true;
-    Label& itemCaption = paper::caption(line, QStringLiteral("Label11"), QStringLiteral("Item"),
-                                        CaptionWidth + 1020, top, 480);
-    Field& item = paper::value(line, QStringLiteral("Text4"), QStringLiteral("ItemSr"),
-                               itemCaption.Left + itemCaption.Width, top - 45, 700);
+    Label& itemCaption = paper::caption(line, u"Label11"_s, u"Item"_s, CaptionWidth + 1020, top, 480);
+    Field& item =
+        paper::value(line, u"Text4"_s, u"ItemSr"_s, itemCaption.Left + itemCaption.Width, top - 45, 700);
     item.FontSize = 13;
     item.Bold = true;
 
@@ -72,26 +73,24 @@ rptWorkerJobCard::rptWorkerJobCard()
     right("Label7", "QNT:", "txtQNT", "QNT", top, CaptionWidth).Bold = true;
 
     top += RowHeight + 40;
-    paper::bar(line, QStringLiteral("Shape1"), 0, top, Width, 360);
-    Label& specifications =
-        paper::caption(line, QStringLiteral("Label8"), QStringLiteral("Specifications"), 120, top + 50, 3000);
+    paper::bar(line, u"Shape1"_s, 0, top, Width, 360);
+    Label& specifications = paper::caption(line, u"Label8"_s, u"Specifications"_s, 120, top + 50, 3000);
     specifications.Bold = true;
     specifications.Color = paper::Ink;
     top += 440;
-    Field& names = paper::value(line, QStringLiteral("txtItemDetails"), QStringLiteral("ItemDetails"), 120,
-                                top, NameWidth);
+    Field& names = paper::value(line, u"txtItemDetails"_s, u"ItemDetails"_s, 120, top, NameWidth);
     names.FontSize = 11;
     names.LineHeight = MeasureHeight;
     names.CanGrow = true;
-    Field& measures = paper::value(line, QStringLiteral("Text1"), QStringLiteral("ItemDetailsValue"),
-                                   NameWidth + 240, top, Width - NameWidth - 240);
+    Field& measures =
+        paper::value(line, u"Text1"_s, u"ItemDetailsValue"_s, NameWidth + 240, top, Width - NameWidth - 240);
     measures.FontSize = 11;
     measures.LineHeight = MeasureHeight;
     measures.Bold = true;
     measures.CanGrow = true;
 
     top += 340;
-    paper::rule(line, QStringLiteral("Line2"), 0, top, Width);
+    paper::rule(line, u"Line2"_s, 0, top, Width);
     top += 100;
     left("Label9", "Remark:", "Text2", "Remarks", top, Width - CaptionWidth).CanGrow = true;
     top += RowHeight;
@@ -101,18 +100,18 @@ rptWorkerJobCard::rptWorkerJobCard()
 
 void rptWorkerJobCard::useHindiMeasurements()
 {
-    Section& line = section(QStringLiteral("Section1"));
-    Field& names = line.field(QStringLiteral("txtItemDetails"));
-    names.FontFamily = QStringLiteral("Kruti Dev 010");
-    names.FontSize = line.field(QStringLiteral("Text1")).FontSize = 14;
+    Section& line = section(u"Section1"_s);
+    Field& names = line.field(u"txtItemDetails"_s);
+    names.FontFamily = u"Kruti Dev 010"_s;
+    names.FontSize = line.field(u"Text1"_s).FontSize = 14;
 }
 
 void rptWorkerJobCard::setLine(Row line)
 {
-    const QString lineBreak = QStringLiteral("\r\n");
-    Section& section1 = section(QStringLiteral("Section1"));
-    const Field& nameField = section1.field(QStringLiteral("txtItemDetails"));
-    const Field& valueField = section1.field(QStringLiteral("Text1"));
+    const QString lineBreak = u"\r\n"_s;
+    Section& section1 = section(u"Section1"_s);
+    const Field& nameField = section1.field(u"txtItemDetails"_s);
+    const Field& valueField = section1.field(u"Text1"_s);
     const QStringList names = line.value(nameField.DataField).toString().split(lineBreak);
     const QStringList values = line.value(valueField.DataField).toString().split(lineBreak);
     QStringList left;

@@ -1,14 +1,16 @@
 #include "masters/EditMaster.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
 #include "ui/swTextBox.h"
 
 #include <QLabel>
 #include <QPushButton>
+
+using namespace Qt::StringLiterals;
 
 EditMaster::EditMaster(Kind kind, ado::Recordset& recordset)
     : m_kind(std::move(kind))
@@ -29,19 +31,19 @@ void EditMaster::AddNew()
         m_addAnother = false;
         m_controls.txtName->setText({});
         clear();
-        show(QStringLiteral("N"), m_kind.titleNew);
+        show(u"N"_s, m_kind.titleNew);
     } while (m_addAnother);
 }
 
 void EditMaster::Edit(qint16 id)
 {
     m_id = id;
-    m_recordset.Open(QStringLiteral("Select * from %1 where id=%2").arg(m_kind.table).arg(id));
+    m_recordset.Open(u"Select * from %1 where id=%2"_s.arg(m_kind.table).arg(id));
     m_keptName = m_recordset[m_kind.nameField].text();
     m_controls.txtName->setText(m_keptName);
     read(m_recordset);
     m_recordset.Close();
-    show(QStringLiteral("E"), m_kind.titleEdit);
+    show(u"E"_s, m_kind.titleEdit);
 }
 
 void EditMaster::show(const QString& mode, const QString& title)
@@ -56,7 +58,7 @@ void EditMaster::Form_Load() { SetFormLanguage(*this); }
 
 void EditMaster::save()
 {
-    const bool isNew = m_mode == QLatin1String("N");
+    const bool isNew = m_mode == "N"_L1;
     const QString name = m_controls.txtName->Text();
     if (name.isEmpty()) {
         ShowMsg(m_kind.nameMissing);
@@ -64,15 +66,15 @@ void EditMaster::save()
         return;
     }
     if ((isNew || name.toUpper() != m_keptName.toUpper()) && isTaken(name)) {
-        ShowMsg(QStringLiteral("Duplicate!"));
+        ShowMsg(u"Duplicate!"_s);
         m_controls.txtName->setFocus();
         return;
     }
 
     DE.connection().writeBatch([&] {
-        QString sql = QStringLiteral("Select * from ") + m_kind.table;
+        QString sql = u"Select * from "_s + m_kind.table;
         if (!isNew)
-            sql += QStringLiteral(" where id=%1").arg(m_id);
+            sql += u" where id=%1"_s.arg(m_id);
         m_recordset.Open(sql);
         if (isNew)
             m_recordset.AddNew();
@@ -95,22 +97,21 @@ void EditMaster::save()
 
 bool EditMaster::isTaken(const QString& name)
 {
-    return FieldValueExists(name, m_kind.nameField, QStringLiteral("ID"), m_kind.table, m_recordset)
-               .toLongLong() > 0;
+    return FieldValueExists(name, m_kind.nameField, u"ID"_s, m_kind.table, m_recordset).toLongLong() > 0;
 }
 
 bool EditMaster::addsAnotherAfter(const QString&) { return true; }
 
 void EditMaster::remove()
 {
-    if (m_mode != QLatin1String("E") || !ShowMsg(QStringLiteral("Are you sure?"), 2))
+    if (m_mode != "E"_L1 || !ShowMsg(u"Are you sure?"_s, 2))
         return;
     if (isInUse(m_id)) {
-        ShowMsg(QStringLiteral("Cant't Delete!"));
+        ShowMsg(u"Cant't Delete!"_s);
         return;
     }
-    DE.connection().Execute(QStringLiteral("Delete from %1 where id=%2").arg(m_kind.table).arg(m_id));
-    ShowMsg(QStringLiteral("Deleted."));
+    DE.connection().Execute(u"Delete from %1 where id=%2"_s.arg(m_kind.table).arg(m_id));
+    ShowMsg(u"Deleted."_s);
     session.RefreshLists = true;
     unload();
 }

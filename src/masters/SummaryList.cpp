@@ -1,12 +1,14 @@
 #include "masters/SummaryList.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
 #include "ui_SummaryList.h"
+
+using namespace Qt::StringLiterals;
 
 SummaryList::SummaryList(const Kind& kind)
     : m_kind(kind)
@@ -79,7 +81,7 @@ void SummaryList::openSelected()
 {
     if (ui->lstSummary->ListIndex() < 0)
         return;
-    const QVariant id = FieldValueExists(ui->lstSummary->Text(), m_kind.keyField, QStringLiteral("ID"),
-                                         m_kind.table, DE.rsaccounts);
+    const QVariant id =
+        FieldValueExists(ui->lstSummary->Text(), m_kind.keyField, u"ID"_s, m_kind.table, DE.rsaccounts);
     editRecord(values::toInt16(id.toLongLong()));
 }

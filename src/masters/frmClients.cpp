@@ -1,19 +1,19 @@
 #include "masters/frmClients.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
 #include "masters/frmEditClients.h"
 
+using namespace Qt::StringLiterals;
+
 frmClients::frmClients()
-    : SummaryList({QStringLiteral("frmClients"), QStringLiteral("Clients"), QStringLiteral("Accounts"),
-                   QStringLiteral("Title"), SearchFrom::SecondEntry})
+    : SummaryList({u"frmClients"_s, u"Clients"_s, u"Accounts"_s, u"Title"_s, SearchFrom::SecondEntry})
 {
 }
 
 void frmClients::fill(ListTarget& list)
 {
-    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where Type=0"), list,
-             DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, u" where Type=0"_s, list, DE.rsaccounts);
 }
 
 void frmClients::addRecord() { std::make_unique<frmEditClients>()->AddNew(); }

@@ -1,18 +1,20 @@
 #include "masters/frmEditClients.h"
 
-#include "core/DE.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Session.h"
 #include "ui/ModOtherFUN.h"
 #include "ui_frmEditClients.h"
 
+using namespace Qt::StringLiterals;
+
 frmEditClients::frmEditClients()
-    : EditMaster({.table = QStringLiteral("Accounts"),
-                  .nameField = QStringLiteral("Title"),
-                  .titleNew = QStringLiteral("Add New Client"),
-                  .titleEdit = QStringLiteral("Edit Client Information"),
-                  .nameMissing = QStringLiteral("Please Enter Client Name!"),
-                  .added = QStringLiteral("New Client Created."),
-                  .edited = QStringLiteral("Client Information Updated.")},
+    : EditMaster({.table = u"Accounts"_s,
+                  .nameField = u"Title"_s,
+                  .titleNew = u"Add New Client"_s,
+                  .titleEdit = u"Edit Client Information"_s,
+                  .nameMissing = u"Please Enter Client Name!"_s,
+                  .added = u"New Client Created."_s,
+                  .edited = u"Client Information Updated."_s},
                  DE.rsaccounts)
     , ui(std::make_unique<Ui::frmEditClients>())
 {
@@ -60,7 +62,7 @@ void frmEditClients::write(ado::Recordset& row)
 
 bool frmEditClients::isInUse(qint16 id)
 {
-    return hasRows(DE.rsJOBS_DETAIL, QStringLiteral("Select * from JOBS_DETAIL where ClintID=%1").arg(id));
+    return hasRows(DE.rsJOBS_DETAIL, u"Select * from JOBS_DETAIL where ClintID=%1"_s.arg(id));
 }
 
 bool frmEditClients::addsAnotherAfter(const QString& name)

@@ -1,12 +1,14 @@
 #include "masters/frmEditItem.h"
 
-#include "core/DE.h"
+#include "core/store/DE.h"
 #include "platform/values/Numbers.h"
 #include "ui_frmEditItem.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString LineBreak = QStringLiteral("\r\n");
+const QString LineBreak = u"\r\n"_s;
 
 /// A number typed into a box, as the text columns keep it: letters are 0.
 QString numberText(const swTextBox& box) { return values::CStr(values::Val(box.Text())); }
@@ -16,13 +18,13 @@ Currency money(const swTextBox& box) { return Currency::fromDouble(values::Val(b
 } // namespace
 
 frmEditItem::frmEditItem()
-    : EditMaster({.table = QStringLiteral("Items"),
-                  .nameField = QStringLiteral("Name"),
-                  .titleNew = QStringLiteral("Add New Item"),
-                  .titleEdit = QStringLiteral("Edit Item"),
-                  .nameMissing = QStringLiteral("Please Enter Item Name!"),
-                  .added = QStringLiteral("New Item Added."),
-                  .edited = QStringLiteral("Item Edited.")},
+    : EditMaster({.table = u"Items"_s,
+                  .nameField = u"Name"_s,
+                  .titleNew = u"Add New Item"_s,
+                  .titleEdit = u"Edit Item"_s,
+                  .nameMissing = u"Please Enter Item Name!"_s,
+                  .added = u"New Item Added."_s,
+                  .edited = u"Item Edited."_s},
                  DE.rsITEMS)
     , ui(std::make_unique<Ui::frmEditItem>())
 {
@@ -37,8 +39,7 @@ frmEditItem::~frmEditItem() = default;
 
 void frmEditItem::clear()
 {
-    ui->txtItemDetails->setText(
-        QStringLiteral("Measurement 1\r\nMeasurement 2\r\nMeasurement 3=Default Value"));
+    ui->txtItemDetails->setText(u"Measurement 1\r\nMeasurement 2\r\nMeasurement 3=Default Value"_s);
     for (swTextBox* box : {ui->txtFees, ui->txtWorkerFees, ui->txtProductionCap, ui->txtPendingOrdersBal})
         box->setText({});
 }
@@ -82,5 +83,5 @@ void frmEditItem::write(ado::Recordset& row)
 
 bool frmEditItem::isInUse(qint16 id)
 {
-    return hasRows(DE.rsJOBS_DETAIL, QStringLiteral("Select * from JOBS_DETAIL where ItemID=%1").arg(id));
+    return hasRows(DE.rsJOBS_DETAIL, u"Select * from JOBS_DETAIL where ItemID=%1"_s.arg(id));
 }

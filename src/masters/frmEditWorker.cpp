@@ -1,16 +1,18 @@
 #include "masters/frmEditWorker.h"
 
-#include "core/DE.h"
+#include "core/store/DE.h"
 #include "ui_frmEditWorker.h"
 
+using namespace Qt::StringLiterals;
+
 frmEditWorker::frmEditWorker()
-    : EditMaster({.table = QStringLiteral("Accounts"),
-                  .nameField = QStringLiteral("Title"),
-                  .titleNew = QStringLiteral("Add New Worker"),
-                  .titleEdit = QStringLiteral("Edit Worker Information"),
-                  .nameMissing = QStringLiteral("Please Enter Worker Name!"),
-                  .added = QStringLiteral("New Worker Added."),
-                  .edited = QStringLiteral("Worker Information Updated.")},
+    : EditMaster({.table = u"Accounts"_s,
+                  .nameField = u"Title"_s,
+                  .titleNew = u"Add New Worker"_s,
+                  .titleEdit = u"Edit Worker Information"_s,
+                  .nameMissing = u"Please Enter Worker Name!"_s,
+                  .added = u"New Worker Added."_s,
+                  .edited = u"Worker Information Updated."_s},
                  DE.rsaccounts)
     , ui(std::make_unique<Ui::frmEditWorker>())
 {
@@ -45,6 +47,6 @@ void frmEditWorker::write(ado::Recordset& row)
 
 bool frmEditWorker::isInUse(qint16 id)
 {
-    return hasRows(DE.rsJOBS_DETAIL, QStringLiteral("Select * from JOBS_DETAIL where WorkerID=%1").arg(id)) ||
-           hasRows(DE.rspostings, QStringLiteral("Select * from Postings where AccID=%1").arg(id));
+    return hasRows(DE.rsJOBS_DETAIL, u"Select * from JOBS_DETAIL where WorkerID=%1"_s.arg(id)) ||
+           hasRows(DE.rspostings, u"Select * from Postings where AccID=%1"_s.arg(id));
 }

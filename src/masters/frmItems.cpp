@@ -1,19 +1,17 @@
 #include "masters/frmItems.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
 #include "masters/frmEditItem.h"
 
+using namespace Qt::StringLiterals;
+
 frmItems::frmItems()
-    : SummaryList({QStringLiteral("frmItems"), QStringLiteral("Items"), QStringLiteral("Items"),
-                   QStringLiteral("Name"), SearchFrom::SecondEntry})
+    : SummaryList({u"frmItems"_s, u"Items"_s, u"Items"_s, u"Name"_s, SearchFrom::SecondEntry})
 {
 }
 
-void frmItems::fill(ListTarget& list)
-{
-    FillCombo(QStringLiteral("Name"), QStringLiteral("Items"), list, DE.rsITEMS);
-}
+void frmItems::fill(ListTarget& list) { FillCombo(u"Name"_s, u"Items"_s, list, DE.rsITEMS); }
 
 void frmItems::addRecord() { std::make_unique<frmEditItem>()->AddNew(); }
 

@@ -1,19 +1,19 @@
 #include "masters/frmWorkers.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
 #include "masters/frmEditWorker.h"
 
+using namespace Qt::StringLiterals;
+
 frmWorkers::frmWorkers()
-    : SummaryList({QStringLiteral("frmWorkers"), QStringLiteral("Workers"), QStringLiteral("Accounts"),
-                   QStringLiteral("Title"), SearchFrom::SecondEntry})
+    : SummaryList({u"frmWorkers"_s, u"Workers"_s, u"Accounts"_s, u"Title"_s, SearchFrom::SecondEntry})
 {
 }
 
 void frmWorkers::fill(ListTarget& list)
 {
-    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where Type=1"), list,
-             DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, u" where Type=1"_s, list, DE.rsaccounts);
 }
 
 void frmWorkers::addRecord() { std::make_unique<frmEditWorker>()->AddNew(); }

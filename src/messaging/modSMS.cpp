@@ -1,11 +1,13 @@
 #include "messaging/modSMS.h"
 
-#include "core/DE.h"
-#include "core/Settings.h"
+#include "core/store/DE.h"
+#include "core/store/Settings.h"
 #include "platform/values/Numbers.h"
 
 #include <QEventLoop>
 #include <QProcess>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -17,18 +19,18 @@ constexpr qint32 DueBalanceSetting = 26;
 QString jobSms(qint32 setting, const QString& defaultDraft, qint32 jobId, double amount)
 {
     QString text = GetSetting(setting, defaultDraft);
-    text.replace(QLatin1String("%eid%"), QString::number(jobId));
-    text.replace(QLatin1String("%amount%"), values::CStr(amount));
-    return text + QLatin1Char('\r') + GetSetting(SignatureSetting, QString());
+    text.replace("%eid%"_L1, QString::number(jobId));
+    text.replace("%amount%"_L1, values::CStr(amount));
+    return text + u'\r' + GetSetting(SignatureSetting, QString());
 }
 
 bool allItemsInState(qint32 jobId, int state)
 {
-    const QString all = QStringLiteral("Select * from Jobs_Detail where JobID=") + QString::number(jobId);
+    const QString all = u"Select * from Jobs_Detail where JobID="_s + QString::number(jobId);
     auto& lines = DE.rsJOBS_DETAIL;
     lines.Open(all);
     const int count = lines.RecordCount();
-    lines.Open(all + QStringLiteral(" and DoneByWorker=") + QString::number(state));
+    lines.Open(all + u" and DoneByWorker="_s + QString::number(state));
     const int inState = lines.RecordCount();
     lines.Close();
     return inState == count;
@@ -38,20 +40,17 @@ bool allItemsInState(qint32 jobId, int state)
 
 QString DefaultJobRegisteredDraft()
 {
-    return QStringLiteral("Dear Customer\r Your Job ID # %eid%\r of Rs. %amount% has been booked. "
-                          "To track job status call us with this ID.\r\r");
+    return u"Dear Customer\r Your Job ID # %eid%\r of Rs. %amount% has been booked. "
+           "To track job status call us with this ID.\r\r"_s;
 }
 
 QString DefaultJobFinishedDraft()
 {
-    return QStringLiteral("Dear Customer Your Job ID # %eid% has been completed. "
-                          "Please visit our shop to collect clothes.\r\r");
+    return u"Dear Customer Your Job ID # %eid% has been completed. "
+           "Please visit our shop to collect clothes.\r\r"_s;
 }
 
-QString DefaultDueBalanceDraft()
-{
-    return QStringLiteral("Dear Customer\r Your Due Balance is : Rs. %amount%\r\r\r");
-}
+QString DefaultDueBalanceDraft() { return u"Dear Customer\r Your Due Balance is : Rs. %amount%\r\r\r"_s; }
 
 QString MakeJobRegisteredSms(qint32 jobId, double amount)
 {
@@ -65,7 +64,7 @@ QString MakeJobFinishedSms(qint32 jobId, double amount)
 
 QString MakeDueBalanceSms(const QString& amount)
 {
-    return GetSetting(DueBalanceSetting, DefaultDueBalanceDraft()).replace(QLatin1String("%amount%"), amount);
+    return GetSetting(DueBalanceSetting, DefaultDueBalanceDraft()).replace("%amount%"_L1, amount);
 }
 
 QString GetClientMobile(const QString& title, qint16 id)
@@ -79,11 +78,11 @@ QString GetClientMobile(const QString& title, qint16 id)
         clients.Close();
     };
     if (!title.isEmpty()) {
-        read(QStringLiteral("Select * from Accounts where type=0 and  Title='") +
-             QString(title).replace(QLatin1String("'"), QLatin1String("''")) + QStringLiteral("'"));
+        read(u"Select * from Accounts where type=0 and  Title='"_s + QString(title).replace("'"_L1, "''"_L1) +
+             u"'"_s);
     }
     if (id > 0)
-        read(QStringLiteral("Select * from Accounts where  type=0 and  ID=") + QString::number(id));
+        read(u"Select * from Accounts where  type=0 and  ID="_s + QString::number(id));
     return mobile;
 }
 
@@ -92,7 +91,7 @@ QString GetClientContact(qint16 id)
     if (id <= 0)
         return {};
     auto& account = DE.rsaccounts;
-    account.Open(QStringLiteral("Select * from Accounts where ID=") + QString::number(id));
+    account.Open(u"Select * from Accounts where ID="_s + QString::number(id));
     const QString contact = account.AtEOF() ? QString() : ContactOf(account);
     account.Close();
     return contact;
@@ -100,9 +99,9 @@ QString GetClientContact(qint16 id)
 
 QString ContactOf(ado::Recordset& account)
 {
-    const QString contact = account["Mobile"].text() + QStringLiteral("   ") + account["Address"].text() +
-                            QStringLiteral("   ") + account["City"].text() + QStringLiteral("    ");
-    return contact.trimmed().isEmpty() ? QStringLiteral("No Information Found") : contact;
+    const QString contact = account["Mobile"].text() + u"   "_s + account["Address"].text() + u"   "_s +
+                            account["City"].text() + u"    "_s;
+    return contact.trimmed().isEmpty() ? u"No Information Found"_s : contact;
 }
 
 bool AllItemsCompleted(qint32 jobId) { return allItemsInState(jobId, 1); }

@@ -1,6 +1,6 @@
 #include "messaging/swSMS.h"
 
-#include "core/Settings.h"
+#include "core/store/Settings.h"
 #include "messaging/modSMS.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/values/Errors.h"
@@ -9,6 +9,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint32 PortSetting = 4;
@@ -16,7 +18,7 @@ constexpr char EndOfMessage = 26; // Ctrl+Z
 
 QByteArray dialled(const QString& number)
 {
-    return values::Format(std::trunc(values::Val(number)), QStringLiteral("0")).toLatin1();
+    return values::Format(std::trunc(values::Val(number)), u"0"_s).toLatin1();
 }
 
 } // namespace
@@ -46,11 +48,11 @@ bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString&
     const QString mobile = GetClientMobile(title, id);
     const QString port = GetSetting(PortSetting, QString());
     if (mobile.isEmpty()) {
-        ShowMsg(QStringLiteral("Mobile Number Not Found!\r\nSMS Sending has been Failed."));
+        ShowMsg(u"Mobile Number Not Found!\r\nSMS Sending has been Failed."_s);
         return false;
     }
     if (port.isEmpty()) {
-        ShowMsg(QStringLiteral("Modem Com Port Error!\r\nSMS Sending has been Failed."));
+        ShowMsg(u"Modem Com Port Error!\r\nSMS Sending has been Failed."_s);
         return false;
     }
     sms.SendSMS(values::CInt(values::Val(port)), mobile, text);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/devices/SerialPort.h"
+#include "platform/values/Literals.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -28,7 +29,7 @@ public:
 private:
     QPointer<QWidget> m_screen;
     devices::SerialPort m_port;
-    QString m_deviceFolder = QStringLiteral("/dev");
+    QString m_deviceFolder = u"/dev"_s;
 };
 
 /// The step by which every screen tells a client something: looks up the client's mobile number (by title or

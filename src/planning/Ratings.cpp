@@ -1,7 +1,9 @@
 #include "planning/Ratings.h"
 
-#include "core/DE.h"
+#include "core/store/DE.h"
 #include "platform/values/Numbers.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -17,7 +19,7 @@ qint32 numberOfWorker(const QString& sql, qint32 workerId)
 
 qint32 sumOfScores(qint32 workerId)
 {
-    return numberOfWorker(QStringLiteral("SELECT Sum(Score) from Jobs_Detail where WorkerID="), workerId);
+    return numberOfWorker(u"SELECT Sum(Score) from Jobs_Detail where WorkerID="_s, workerId);
 }
 
 } // namespace
@@ -26,8 +28,7 @@ qint16 GetWorkerScore(qint32 workerId) { return values::toInt16(sumOfScores(work
 
 qint16 GetWorkerRating(qint32 workerId)
 {
-    const qint32 lines =
-        numberOfWorker(QStringLiteral("Select Count(*) from Jobs_Detail where WorkerID="), workerId);
+    const qint32 lines = numberOfWorker(u"Select Count(*) from Jobs_Detail where WorkerID="_s, workerId);
     const qint32 sum = sumOfScores(workerId);
     return lines < sum ? values::CInt(double(sum) / lines) : qint16(0);
 }
@@ -36,13 +37,13 @@ bool RebuildRank()
 {
     bool anyWorkers = false;
     DE.connection().writeBatch([&] {
-        DE.connection().Execute(QStringLiteral("Delete from Rank"));
+        DE.connection().Execute(u"Delete from Rank"_s);
         ado::Recordset& workers = DE.rsaccounts;
-        workers.Open(QStringLiteral("Select * from Accounts where type=%1").arg(1));
+        workers.Open(u"Select * from Accounts where type=%1"_s.arg(1));
         anyWorkers = !workers.AtEOF();
         if (anyWorkers) {
             ado::Recordset& ranks = DE.rsrank;
-            ranks.Open(QStringLiteral("Select * from Rank"));
+            ranks.Open(u"Select * from Rank"_s);
             for (; !workers.AtEOF(); workers.MoveNext()) {
                 const qint32 worker = workers["ID"].integer();
                 ranks.AddNew();

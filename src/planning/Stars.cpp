@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int highest = 5;
@@ -21,8 +23,8 @@ QPixmap stars(int rating, int height)
     row.setDevicePixelRatio(ratio);
     row.fill(Qt::transparent);
     QPainter painter(&row);
-    const QPixmap golden = forms::picture(QStringLiteral("star-golden"), height);
-    const QPixmap pale = forms::picture(QStringLiteral("star-pale"), height);
+    const QPixmap golden = forms::picture(u"star-golden"_s, height);
+    const QPixmap pale = forms::picture(u"star-pale"_s, height);
     for (int star = 0; star < highest; ++star)
         painter.drawPixmap(star * step, 0, star < rating ? golden : pale);
     return row;

@@ -1,12 +1,14 @@
 #include "planning/frmFeedBack.h"
 
-#include "core/DE.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Session.h"
 #include "planning/Stars.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
 #include "ui_frmFeedBack.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -43,7 +45,7 @@ QList<QLabel*> frmFeedBack::starPictures() const
 ado::Recordset& frmFeedBack::openLine()
 {
     ado::Recordset& line = DE.rsJOBS_DETAIL;
-    line.Open(QStringLiteral("Select * from Jobs_Detail where id=") + QString::number(m_lineId));
+    line.Open(u"Select * from Jobs_Detail where id="_s + QString::number(m_lineId));
     return line;
 }
 
@@ -78,7 +80,7 @@ void frmFeedBack::save()
     line.Close();
     m_saved = score;
     session.RefreshLists = true;
-    ShowMsg(QStringLiteral("Feedback saved!"));
+    ShowMsg(u"Feedback saved!"_s);
 }
 
 void GiveFeedback(qint32 lineId, qint16 readOnly, QVariant& result)

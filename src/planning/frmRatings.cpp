@@ -1,10 +1,12 @@
 #include "planning/frmRatings.h"
 
-#include "core/DE.h"
+#include "core/store/DE.h"
 #include "planning/Ratings.h"
 #include "planning/Stars.h"
 #include "ui/modLang.h"
 #include "ui_frmRatings.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,10 +20,10 @@ frmRatings::frmRatings()
 {
     ui->setupUi(this);
     ui->lvSummary->setColumns({{QString(), 7, Qt::AlignRight},
-                               {QStringLiteral("Rank"), 10, Qt::AlignRight},
-                               {QStringLiteral("Worker Name"), forms::ListView::rest},
-                               {QStringLiteral("Scorer"), 13, Qt::AlignRight},
-                               {QStringLiteral("Rating"), 24}});
+                               {u"Rank"_s, 10, Qt::AlignRight},
+                               {u"Worker Name"_s, forms::ListView::rest},
+                               {u"Scorer"_s, 13, Qt::AlignRight},
+                               {u"Rating"_s, 24}});
 }
 
 frmRatings::~frmRatings() = default;
@@ -42,8 +44,7 @@ void frmRatings::GetRank()
         ImageList1.push_back(stars(rating, heightOfStars));
     ado::Recordset& ranks = DE.rsrank;
     std::vector<forms::ListView::Row> rows;
-    for (ranks.Open(QStringLiteral("Select * from Rank order by Score desc")); !ranks.AtEOF();
-         ranks.MoveNext()) {
+    for (ranks.Open(u"Select * from Rank order by Score desc"_s); !ranks.AtEOF(); ranks.MoveNext()) {
         const QString position = QString::number(rows.size() + 1);
         forms::ListView::Row row{
             {position, position, ranks["Name"].text(), ranks["Score"].text(), QString()}};

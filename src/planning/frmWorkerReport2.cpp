@@ -1,9 +1,11 @@
 #include "planning/frmWorkerReport2.h"
 
-#include "core/DE.h"
+#include "core/store/DE.h"
 #include "platform/values/Numbers.h"
 #include "ui/modLang.h"
 #include "ui_frmWorkerReport2.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,9 +18,9 @@ frmWorkerReport2::frmWorkerReport2(const QString& sql)
     , m_sql(sql)
 {
     ui->setupUi(this);
-    ui->lvSummary->setColumns({{QStringLiteral("Sr"), 12, Qt::AlignRight},
-                               {QStringLiteral("Worker"), forms::ListView::rest},
-                               {QStringLiteral("Jobs in Hand"), 28, Qt::AlignRight}});
+    ui->lvSummary->setColumns({{u"Sr"_s, 12, Qt::AlignRight},
+                               {u"Worker"_s, forms::ListView::rest},
+                               {u"Jobs in Hand"_s, 28, Qt::AlignRight}});
     onKeyPress(ui->lvSummary, [this](int& key) {
         if (key != forms::key::Enter)
             return;
@@ -40,7 +42,7 @@ void frmWorkerReport2::fill()
 {
     ado::Recordset& workers = DE.rsaccounts;
     std::vector<forms::ListView::Row> rows;
-    workers.Open(QStringLiteral("Select * from Accounts where type=%1 order by Title").arg(1));
+    workers.Open(u"Select * from Accounts where type=%1 order by Title"_s.arg(1));
     for (; !workers.AtEOF(); workers.MoveNext()) {
         qint16 count = 0;
         JobCount(values::toInt16(workers["ID"].integer()), count);
@@ -54,7 +56,7 @@ void frmWorkerReport2::fill()
 void frmWorkerReport2::JobCount(qint16 workerId, qint16& count) const
 {
     ado::Recordset& lines = DE.rsJOBS_DETAIL2;
-    lines.Open(QString(m_sql).replace(QLatin1String("%id"), QString::number(workerId)));
+    lines.Open(QString(m_sql).replace("%id"_L1, QString::number(workerId)));
     count = values::toInt16(lines.RecordCount());
     lines.Close();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/Screen.h"
+#include "platform/values/Literals.h"
 
 #include <memory>
 
@@ -32,7 +33,7 @@ private:
 
     const std::unique_ptr<Ui::frmWorkerReport2> ui;
     const QString m_sql;
-    QString m_chosen = QStringLiteral("-1000");
+    QString m_chosen = u"-1000"_s;
 };
 
 /// Shows the workers with their numbers of lines; `result` is the name of the one picked, or "-1000". `sql`

@@ -1,11 +1,13 @@
 #include "registers/JobLines.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
 #include "messaging/modSMS.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -26,15 +28,15 @@ QString statusName(qint32 state)
 {
     switch (state) {
     case 0:
-        return QStringLiteral("Uncompleted");
+        return u"Uncompleted"_s;
     case 1:
-        return QStringLiteral("Completed");
+        return u"Completed"_s;
     case 2:
-        return QStringLiteral("Delivered");
+        return u"Delivered"_s;
     case 3:
-        return QStringLiteral("Alteration");
+        return u"Alteration"_s;
     case 4:
-        return QStringLiteral("Canceled");
+        return u"Canceled"_s;
     default:
         return {};
     }
@@ -44,33 +46,33 @@ QString cuttingName(qint32 mark)
 {
     switch (mark) {
     case 0:
-        return QStringLiteral("Not Done");
+        return u"Not Done"_s;
     case 1:
-        return QStringLiteral("Done");
+        return u"Done"_s;
     default:
         return {};
     }
 }
 
-QString lineDate(const QDate& date) { return values::Format(date, QStringLiteral("DD-MMM-YYYY")); }
+QString lineDate(const QDate& date) { return values::Format(date, u"DD-MMM-YYYY"_s); }
 
 QString daysAhead(const QDate& date) { return QString::number(session.WorkingDate.daysTo(date)); }
 
 QString balanceText(double balance)
 {
-    const QString size = values::Format(std::abs(balance), QStringLiteral("0.00"));
+    const QString size = values::Format(std::abs(balance), u"0.00"_s);
     if (balance > 0)
-        return size + QStringLiteral(" Cr");
-    return balance < 0 ? QString(size + QStringLiteral(" Dr")) : QStringLiteral("None");
+        return size + u" Cr"_s;
+    return balance < 0 ? QString(size + u" Dr"_s) : u"None"_s;
 }
 
 void LineNames::readAll(const QString& query)
 {
-    const QString lines = query.left(query.indexOf(QStringLiteral(" order by ")));
+    const QString lines = query.left(query.indexOf(u" order by "_s));
     ado::Recordset& accounts = DE.rsaccounts;
     for (const char* who : {"ClintID", "WorkerID"}) {
-        for (accounts.Open(QStringLiteral("Select * from Accounts where ID in (Select %1 from (%2))")
-                               .arg(QLatin1String(who), lines));
+        for (accounts.Open(u"Select * from Accounts where ID in (Select %1 from (%2))"_s.arg(
+                 QLatin1String(who), lines));
              !accounts.AtEOF(); accounts.MoveNext()) {
             const qint32 id = accounts["ID"].integer();
             m_accounts.insert(id, accounts["Title"].text());
@@ -79,10 +81,9 @@ void LineNames::readAll(const QString& query)
         accounts.Close();
     }
     ado::Recordset& balances = DE.rspostings;
-    for (balances.Open(
-             QStringLiteral("Select accID, sum(Amount) from Postings where status=0 and date between "
-                            "#17-11-1985# and #%1# and accID in (Select ClintID from (%2)) group by accID")
-                 .arg(values::CStr(m_balancesUpTo), lines));
+    for (balances.Open(u"Select accID, sum(Amount) from Postings where status=0 and date between "
+                       "#17-11-1985# and #%1# and accID in (Select ClintID from (%2)) group by accID"_s.arg(
+                           values::CStr(m_balancesUpTo), lines));
          !balances.AtEOF(); balances.MoveNext())
         m_balances.insert(balances[0].integer(), balanceText(balances[1].number()));
     balances.Close();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ado/Recordset.h"
+#include "platform/values/Literals.h"
 
 #include <QDate>
 #include <QHash>
@@ -19,7 +20,7 @@ QString statusName(qint32 state);
 QString cuttingName(qint32 mark);
 
 /// What stands in place of a worker's name for a line without one.
-inline const QString noWorker = QStringLiteral("NA");
+inline const QString noWorker = u"NA"_s;
 
 /// "25-Dec-2024".
 QString lineDate(const QDate& date);

@@ -1,8 +1,8 @@
 #include "registers/LineRegister.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/MessageBox.h"
@@ -13,9 +13,11 @@
 #include <QPixmapCache>
 #include <QScopeGuard>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString allWorkers = QStringLiteral("*All");
+const QString allWorkers = u"*All"_s;
 constexpr int totalColumn = 2;
 constexpr QRgb totalColour = 0xFFFF0000;
 
@@ -56,12 +58,11 @@ void LineRegister::resetCriteria()
 {
     m_criteria.from->setValue(session.WorkingDate);
     m_criteria.to->setValue(session.WorkingDate);
-    FillList(QStringLiteral("Title"), QStringLiteral("Accounts"), QStringLiteral(" where type=%1").arg(1),
-             *m_criteria.worker, DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, u" where type=%1"_s.arg(1), *m_criteria.worker, DE.rsaccounts);
     m_criteria.worker->insertItem(0, allWorkers);
     m_criteria.worker->setText(allWorkers);
     m_criteria.condition->setListIndex(0);
-    SearchMode = QStringLiteral("C");
+    SearchMode = u"C"_s;
     ReturnIndex = 0;
 }
 
@@ -105,8 +106,8 @@ forms::ListView::Row LineRegister::totalRow(size_t lines) const
 {
     forms::ListView::Row total;
     for (int column = 0; column < m_criteria.list->model()->columnCount(); ++column)
-        total.cells << QStringLiteral(" ");
-    total.cells[totalColumn] = QStringLiteral("Total JOBS : %1").arg(lines);
+        total.cells << u" "_s;
+    total.cells[totalColumn] = u"Total JOBS : %1"_s.arg(lines);
     total.looks[totalColumn] = {{}, {}, true, QColor(totalColour)};
     return total;
 }
@@ -124,15 +125,15 @@ void LineRegister::conditionStep()
 void LineRegister::view()
 {
     if (m_criteria.from->value() > m_criteria.to->value()) {
-        forms::criticalMessage(this, QStringLiteral("Invalid date selection!"));
+        forms::criticalMessage(this, u"Invalid date selection!"_s);
         return;
     }
     if (ComboFindIndex(*m_criteria.worker) < 0) {
-        ShowMsg(QStringLiteral("Please Select Worker Name!"));
+        ShowMsg(u"Please Select Worker Name!"_s);
         return;
     }
     const bool all = m_criteria.worker->text() == allWorkers;
-    SearchMode = all ? QStringLiteral("C") : QStringLiteral("S");
+    SearchMode = all ? u"C"_s : u"S"_s;
     session.RefreshLists = true;
     conditionStep();
 }

@@ -2,6 +2,7 @@
 
 #include "platform/forms/ListView.h"
 #include "platform/forms/Screen.h"
+#include "platform/values/Literals.h"
 
 namespace forms {
 class ComboBox;
@@ -59,9 +60,9 @@ protected:
     /// Opens another screen that works on the selected row's line, and refreshes the list after it, once.
     void openOnRow(const std::function<void()>& open);
 
-    QString SearchMode = QStringLiteral("C"); ///< "C": all workers, "S": one; others are the register's own
-    QString SearchSql;                        ///< what the list shows
-    qint16 ReturnIndex = 0;                   ///< position to select after a refresh, from 1; 0: none
+    QString SearchMode = u"C"_s; ///< "C": all workers, "S": one; others are the register's own
+    QString SearchSql;           ///< what the list shows
+    qint16 ReturnIndex = 0;      ///< position to select after a refresh, from 1; 0: none
 
 private:
     forms::ListView::Row totalRow(size_t lines) const;

@@ -1,9 +1,11 @@
 #include "registers/frmSearchClient.h"
 
-#include "core/DE.h"
-#include "core/Settings.h"
+#include "core/store/DE.h"
+#include "core/store/Settings.h"
 #include "ui/modLang.h"
 #include "ui_frmSearchClient.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -15,10 +17,8 @@ frmSearchClient::frmSearchClient()
     : ui(std::make_unique<Ui::frmSearchClient>())
 {
     ui->setupUi(this);
-    ui->lvResults->setColumns({{QStringLiteral("Name"), 33},
-                               {QStringLiteral("Address"), forms::ListView::rest},
-                               {QStringLiteral("City"), 16},
-                               {QStringLiteral("Mobile"), 19}});
+    ui->lvResults->setColumns(
+        {{u"Name"_s, 33}, {u"Address"_s, forms::ListView::rest}, {u"City"_s, 16}, {u"Mobile"_s, 19}});
     ui->fmQuery->hide();
 
     const auto chooseOnEnter = [this](int& key) {
@@ -27,11 +27,11 @@ frmSearchClient::frmSearchClient()
         key = 0;
         choose();
     };
-    const std::pair<swTextBox*, QString> boxes[] = {{ui->txtName, QStringLiteral("Title")},
-                                                    {ui->txtAddress, QStringLiteral("Address")},
-                                                    {ui->txtCity, QStringLiteral("City")},
-                                                    {ui->txtState, QStringLiteral("State")},
-                                                    {ui->txtMobile, QStringLiteral("Mobile")}};
+    const std::pair<swTextBox*, QString> boxes[] = {{ui->txtName, u"Title"_s},
+                                                    {ui->txtAddress, u"Address"_s},
+                                                    {ui->txtCity, u"City"_s},
+                                                    {ui->txtState, u"State"_s},
+                                                    {ui->txtMobile, u"Mobile"_s}};
     for (const auto& [typed, field] : boxes) {
         on(typed, &swTextBox::Change, [this, box = typed, name = field] {
             SearchText(box->Text(), name);
@@ -43,7 +43,7 @@ frmSearchClient::frmSearchClient()
     onKeyPress(ui->lvResults, chooseOnEnter);
     on(ui->lvResults, &forms::ListView::dblClicked, &frmSearchClient::choose);
     on(ui->opShowAllUndel, &QCheckBox::clicked,
-       [this] { SetSetting(ShowAllJobsSetting, allJobs() ? QStringLiteral("1") : QStringLiteral("0")); });
+       [this] { SetSetting(ShowAllJobsSetting, allJobs() ? u"1"_s : u"0"_s); });
     on(ui->Command1, &QPushButton::clicked, &frmSearchClient::choose);
     on(ui->Command2, &QPushButton::clicked, &frmSearchClient::unload);
 }
@@ -53,7 +53,7 @@ frmSearchClient::~frmSearchClient() = default;
 void frmSearchClient::Form_Load()
 {
     SetFormLanguage(*this);
-    ui->opShowAllUndel->setChecked(GetSetting(ShowAllJobsSetting, QStringLiteral("0")) == QLatin1String("1"));
+    ui->opShowAllUndel->setChecked(GetSetting(ShowAllJobsSetting, u"0"_s) == "1"_L1);
 }
 
 void frmSearchClient::offerAllJobs() { ui->fmQuery->show(); }
@@ -66,9 +66,8 @@ void frmSearchClient::SearchText(const QString& text, const QString& field)
     if (text.isEmpty())
         return;
     ado::Recordset& found = DE.rsaccounts;
-    found.Open(QStringLiteral("Select * from Accounts  where type=%1 and ").arg(0) + field +
-               QStringLiteral(" like '%") + QString(text).replace(u'\'', QLatin1String("''")) +
-               QStringLiteral("%'"));
+    found.Open(u"Select * from Accounts  where type=%1 and "_s.arg(0) + field + u" like '%"_s +
+               QString(text).replace(u'\'', "''"_L1) + u"%'"_s);
     std::vector<forms::ListView::Row> rows;
     for (; !found.AtEOF(); found.MoveNext())
         rows.push_back(

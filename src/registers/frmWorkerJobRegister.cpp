@@ -1,8 +1,8 @@
 #include "registers/frmWorkerJobRegister.h"
 
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
 #include "planning/frmWorkerReport2.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
@@ -15,11 +15,13 @@
 #include <QHeaderView>
 #include <QScopeGuard>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double heightOfScreen = 0.97;
-const QString allLines = QStringLiteral("Select * from JOBS_Detail where ");
-const QString blank = QStringLiteral(" ");
+const QString allLines = u"Select * from JOBS_Detail where "_s;
+const QString blank = u" "_s;
 
 } // namespace
 
@@ -29,30 +31,27 @@ frmWorkerJobRegister::frmWorkerJobRegister()
     ui->setupUi(this);
     setCriteria({ui->lvSummary, ui->DateFrom, ui->DateTo, ui->cmbClient, ui->cmbCondition});
     // What the told shares leave is the balance's. A column never gets too narrow for what it mostly holds.
-    ui->lvSummary->setColumns({{QStringLiteral("Date"), 10, Qt::AlignLeft, 110},
-                               {QStringLiteral("JOB ID"), 5, Qt::AlignLeft, 76},
-                               {QStringLiteral("Client Name"), 12, Qt::AlignLeft, 130},
-                               {QStringLiteral("Item Name"), 12, Qt::AlignLeft, 110},
-                               {QStringLiteral("Remark"), 7, Qt::AlignLeft, 80},
-                               {QStringLiteral("Del. Date"), 10, Qt::AlignLeft, 160},
-                               {QStringLiteral("Worker Name"), 7, Qt::AlignLeft, 112},
-                               {QStringLiteral("Cutting"), 7, Qt::AlignLeft, 84},
-                               {QStringLiteral("Status"), 10, Qt::AlignLeft, 124},
-                               {QStringLiteral("Location"), 9, Qt::AlignLeft, 84},
-                               {QStringLiteral("Balance"), forms::ListView::rest, Qt::AlignRight, 112}});
-    ui->lvDetails->setColumns(
-        {{QStringLiteral("Name of Item"), 72}, {QStringLiteral("QNT"), 28, Qt::AlignRight}});
-    ui->cmbCondition->AddItems({QStringLiteral("*All"), QStringLiteral("Completed"),
-                                QStringLiteral("Uncompleted"), QStringLiteral("Delivered"),
-                                QStringLiteral("Alteration"), QStringLiteral("Canceled"),
-                                QStringLiteral("Assigned"), QStringLiteral("Not Assigned"),
-                                QStringLiteral("Cutting Done"), QStringLiteral("Cutting Not Done")});
+    ui->lvSummary->setColumns({{u"Date"_s, 10, Qt::AlignLeft, 110},
+                               {u"JOB ID"_s, 5, Qt::AlignLeft, 76},
+                               {u"Client Name"_s, 12, Qt::AlignLeft, 130},
+                               {u"Item Name"_s, 12, Qt::AlignLeft, 110},
+                               {u"Remark"_s, 7, Qt::AlignLeft, 80},
+                               {u"Del. Date"_s, 10, Qt::AlignLeft, 160},
+                               {u"Worker Name"_s, 7, Qt::AlignLeft, 112},
+                               {u"Cutting"_s, 7, Qt::AlignLeft, 84},
+                               {u"Status"_s, 10, Qt::AlignLeft, 124},
+                               {u"Location"_s, 9, Qt::AlignLeft, 84},
+                               {u"Balance"_s, forms::ListView::rest, Qt::AlignRight, 112}});
+    ui->lvDetails->setColumns({{u"Name of Item"_s, 72}, {u"QNT"_s, 28, Qt::AlignRight}});
+    ui->cmbCondition->AddItems({u"*All"_s, u"Completed"_s, u"Uncompleted"_s, u"Delivered"_s, u"Alteration"_s,
+                                u"Canceled"_s, u"Assigned"_s, u"Not Assigned"_s, u"Cutting Done"_s,
+                                u"Cutting Not Done"_s});
     ui->picDetails->hide();
     ui->listArea->installEventFilter(this);
 
     on(ui->txtSearchID, &QLineEdit::textChanged, [this](const QString& text) {
         if (text.isEmpty())
-            SearchMode = QStringLiteral("C");
+            SearchMode = u"C"_s;
     });
     onKeyPress(ui->txtSearchID, [this](int& key) { txtSearchID_KeyPress(key); });
     onKeyPress(ui->cmbClient, [this](int& key) {
@@ -112,19 +111,19 @@ bool frmWorkerJobRegister::eventFilter(QObject* watched, QEvent* event)
 
 // Filling
 
-QString frmWorkerJobRegister::order() const { return QStringLiteral(" order by JobID,id,") + DateField; }
+QString frmWorkerJobRegister::order() const { return u" order by JobID,id,"_s + DateField; }
 
 /// The dates of the range, as a statement ends with them.
 QString frmWorkerJobRegister::between() const
 {
-    return lineDate(ui->DateFrom->value()) + QStringLiteral("# and #") + lineDate(ui->DateTo->value()) + u'#';
+    return lineDate(ui->DateFrom->value()) + u"# and #"_s + lineDate(ui->DateTo->value()) + u'#';
 }
 
 /// The lines of one worker.
 QString frmWorkerJobRegister::workerSearch(const QString& workerId) const
 {
-    return allLines + QStringLiteral("WorkerID=") + workerId + QStringLiteral(" and ") + DateField +
-           QStringLiteral("  between #") + between() + order();
+    return allLines + u"WorkerID="_s + workerId + u" and "_s + DateField + u"  between #"_s + between() +
+           order();
 }
 
 QString frmWorkerJobRegister::searchText() const
@@ -132,21 +131,20 @@ QString frmWorkerJobRegister::searchText() const
     if (SearchMode == u"S")
         return workerSearch(QString::number(GetAccountID(ui->cmbClient->Text())));
     if (SearchMode == u"SID")
-        return allLines + QStringLiteral("JOBid=") + values::CStr(values::Val(ui->txtSearchID->text()));
+        return allLines + u"JOBid="_s + values::CStr(values::Val(ui->txtSearchID->text()));
     if (SearchMode == u"CUST")
-        return allLines + QStringLiteral("ClintID=%1 and ").arg(GetAccountID(SearchClient)) + DateField +
-               QStringLiteral(" between #") + between() + order();
+        return allLines + u"ClintID=%1 and "_s.arg(GetAccountID(SearchClient)) + DateField + u" between #"_s +
+               between() + order();
     if (SearchMode == u"CUSTUNDEL")
-        return allLines + QStringLiteral("ClintID=%1  order by ").arg(GetAccountID(SearchClient)) +
-               DateField + QStringLiteral(" desc");
-    return allLines + DateField + QStringLiteral(" between #") + values::CStr(ui->DateFrom->value()) +
-           QStringLiteral("# and #") + values::CStr(ui->DateTo->value()) + u'#' + order();
+        return allLines + u"ClintID=%1  order by "_s.arg(GetAccountID(SearchClient)) + DateField + u" desc"_s;
+    return allLines + DateField + u" between #"_s + values::CStr(ui->DateFrom->value()) + u"# and #"_s +
+           values::CStr(ui->DateTo->value()) + u'#' + order();
 }
 
 void frmWorkerJobRegister::ExecuteSQL()
 {
     orderDates();
-    DateField = ui->opDt1->isChecked() ? QStringLiteral("Date") : QStringLiteral("JobDelDate");
+    DateField = ui->opDt1->isChecked() ? u"Date"_s : u"JobDelDate"_s;
     showLines([this](std::vector<forms::ListView::Row>& rows) {
         SearchSql = searchText();
         LineNames names(ui->DateTo->value());
@@ -167,11 +165,9 @@ forms::ListView::Row frmWorkerJobRegister::rowOf(ado::Recordset& line, LineNames
     const QDate delivery = line["JobDelDate"].date();
     const qint32 state = markOf(line["DoneByWorker"]);
     forms::ListView::Row row;
-    row.cells << names.date(line["Date"].date())
-              << line["JobID"].text() + QLatin1Char('/') + line["ItemSr"].text() << names.account(client)
-              << names.item(line["ItemID"].integer()) << line["Remarks"].text()
-              << names.date(delivery) + QLatin1String(" (") + daysAhead(delivery) + QLatin1String(" D)")
-              << names.worker(worker);
+    row.cells << names.date(line["Date"].date()) << line["JobID"].text() + u'/' + line["ItemSr"].text()
+              << names.account(client) << names.item(line["ItemID"].integer()) << line["Remarks"].text()
+              << names.date(delivery) + " ("_L1 + daysAhead(delivery) + " D)"_L1 << names.worker(worker);
     row.looks[ClientColumn].toolTip = names.contact(client);
     if (worker != 0)
         row.looks[WorkerColumn].toolTip = names.contact(worker);
@@ -191,7 +187,7 @@ void frmWorkerJobRegister::fillDetails()
 {
     ui->lvDetails->Clear();
     ado::Recordset& items = DE.rsITEMS;
-    for (items.Open(QStringLiteral("Select * from Items order by Name")); !items.AtEOF(); items.MoveNext()) {
+    for (items.Open(u"Select * from Items order by Name"_s); !items.AtEOF(); items.MoveNext()) {
         qint32 count = 0;
         if (SearchMode == u"S")
             GetItemWiseDetails(items["ID"].integer(), count);
@@ -205,21 +201,19 @@ void frmWorkerJobRegister::fillDetails()
 
 void frmWorkerJobRegister::GetItemWiseDetails(qint32 itemId, qint32& count)
 {
-    countLines(QStringLiteral("%1and WorkerID=%2and date between #")
-                   .arg(itemId)
-                   .arg(GetAccountID(ui->cmbClient->Text())),
+    countLines(u"%1and WorkerID=%2and date between #"_s.arg(itemId).arg(GetAccountID(ui->cmbClient->Text())),
                count);
 }
 
 void frmWorkerJobRegister::GetItemWiseDetails2(qint32 itemId, qint32& count)
 {
-    countLines(QStringLiteral("%1and date between #").arg(itemId), count);
+    countLines(u"%1and date between #"_s.arg(itemId), count);
 }
 
 void frmWorkerJobRegister::countLines(const QString& condition, qint32& count)
 {
     ado::Recordset& counting = DE.rsJOBS_DETAIL2;
-    counting.Open(QStringLiteral("Select count(QNT) from JOBS_Detail where ItemID=") + condition + between());
+    counting.Open(u"Select count(QNT) from JOBS_Detail where ItemID="_s + condition + between());
     count = counting[0].integer();
     counting.Close();
 }
@@ -262,7 +256,7 @@ void frmWorkerJobRegister::txtSearchID_KeyPress(int& key)
     if (key != forms::key::Enter)
         return;
     key = 0;
-    SearchMode = QStringLiteral("SID");
+    SearchMode = u"SID"_s;
     ExecuteSQL();
 }
 
@@ -273,7 +267,7 @@ void frmWorkerJobRegister::Command8_Click()
     SearchClient2(allJobs, SearchClient);
     if (SearchClient.isEmpty())
         return;
-    SearchMode = allJobs == 1 ? QStringLiteral("CUSTUNDEL") : QStringLiteral("CUST");
+    SearchMode = allJobs == 1 ? u"CUSTUNDEL"_s : u"CUST"_s;
     session.RefreshLists = true;
     ExecuteSQL();
     ui->lvSummary->setFocus();
@@ -283,7 +277,7 @@ void frmWorkerJobRegister::Command8_Click()
 void frmWorkerJobRegister::Command3_Click()
 {
     QString worker;
-    ShowWorkerOverView(workerSearch(QStringLiteral("%id")), worker);
+    ShowWorkerOverView(workerSearch(u"%id"_s), worker);
     if (worker == u"-1000")
         return;
     ui->cmbClient->setText(worker);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/values/Literals.h"
 #include "registers/LineRegister.h"
 
 #include <memory>
@@ -76,6 +77,6 @@ private:
     void writeDelivered(qint32 job);
 
     const std::unique_ptr<Ui::frmWorkerJobRegister> ui;
-    QString DateField = QStringLiteral("Date"); ///< the column that the dates range over
-    QString SearchClient;                       ///< the client that Quick Find gave
+    QString DateField = u"Date"_s; ///< the column that the dates range over
+    QString SearchClient;          ///< the client that Quick Find gave
 };

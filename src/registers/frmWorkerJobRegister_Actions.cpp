@@ -1,5 +1,5 @@
-#include "core/DE.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Session.h"
 #include "jobcards/frmEditJOB.h"
 #include "jobcards/frmEditWorkerAssign.h"
 #include "platform/forms/MessageBox.h"
@@ -7,6 +7,8 @@
 #include "registers/frmWorkerJobRegister.h"
 #include "ui/ModOtherFUN.h"
 #include "ui_frmWorkerJobRegister.h"
+
+using namespace Qt::StringLiterals;
 
 // Keys of the screen
 
@@ -71,7 +73,7 @@ bool frmWorkerJobRegister::asked(const QString& question) const { return ShowMsg
 
 QString frmWorkerJobRegister::askLocation()
 {
-    return forms::inputBox(this, QStringLiteral("Please specify location!"), QStringLiteral("KORVANE"));
+    return forms::inputBox(this, u"Please specify location!"_s, u"KORVANE"_s);
 }
 
 // The state of a line. None of the actions asks what it was before.
@@ -80,7 +82,7 @@ QString frmWorkerJobRegister::askLocation()
 void frmWorkerJobRegister::writeLine(qint32 line, const std::function<void(ado::Recordset&)>& write)
 {
     ado::Recordset& row = DE.rsJOBS_DETAIL;
-    row.Open(QStringLiteral("Select * from jobs_detail where id=%1").arg(line));
+    row.Open(u"Select * from jobs_detail where id=%1"_s.arg(line));
     write(row);
     row.Update();
     row.Close();
@@ -91,7 +93,7 @@ void frmWorkerJobRegister::writeLine(qint32 line, const std::function<void(ado::
 void frmWorkerJobRegister::mnuUn_Click()
 {
     const qint32 line = selectedLine();
-    if (line == 0 || !asked(QStringLiteral("Mark Item as Cutting Done?")))
+    if (line == 0 || !asked(u"Mark Item as Cutting Done?"_s))
         return;
     writeLine(line, [](ado::Recordset& row) {
         row["CuttingStatus"] = 1;
@@ -102,7 +104,7 @@ void frmWorkerJobRegister::mnuUn_Click()
 void frmWorkerJobRegister::mnuCom_Click()
 {
     const qint32 line = selectedLine();
-    if (line == 0 || !asked(QStringLiteral("Mark Item as Completed?")))
+    if (line == 0 || !asked(u"Mark Item as Completed?"_s))
         return;
     const QString location = askLocation();
     writeLine(line, [&location](ado::Recordset& row) {
@@ -116,7 +118,7 @@ void frmWorkerJobRegister::mnuCom_Click()
 void frmWorkerJobRegister::mnuALt_Click()
 {
     const qint32 line = selectedLine();
-    if (line == 0 || !asked(QStringLiteral("Mark Item as Alteration?")))
+    if (line == 0 || !asked(u"Mark Item as Alteration?"_s))
         return;
     const QString location = askLocation();
     writeLine(line, [&location](ado::Recordset& row) {
@@ -130,7 +132,7 @@ void frmWorkerJobRegister::mnuALt_Click()
 void frmWorkerJobRegister::mnuDel_Click()
 {
     const qint32 line = selectedLine();
-    if (line == 0 || !asked(QStringLiteral("Mark Item as Delivered to Client?")))
+    if (line == 0 || !asked(u"Mark Item as Delivered to Client?"_s))
         return;
     writeLine(line, [](ado::Recordset& row) {
         row["DelToCustDate"] = session.TodayDate;
@@ -143,7 +145,7 @@ void frmWorkerJobRegister::mnuDel_Click()
 void frmWorkerJobRegister::mnuJobFulPay_Click()
 {
     const qint32 job = selectedJob();
-    if (job == 0 || !asked(QStringLiteral("Job Card as Delivered to Client?")))
+    if (job == 0 || !asked(u"Job Card as Delivered to Client?"_s))
         return;
     writeDelivered(job);
     keepPosition();
@@ -164,13 +166,13 @@ void frmWorkerJobRegister::writeDelivered(qint32 job)
 {
     DE.connection().writeBatch([job] {
         ado::Recordset& card = DE.rsJobs2;
-        card.Open(QStringLiteral("Select * from Jobs where id=%1").arg(job));
+        card.Open(u"Select * from Jobs where id=%1"_s.arg(job));
         card["ClientDeliveryDate"] = session.TodayDate;
         card["JOBFINISHED"] = 1;
         card.Update();
         card.Close();
         ado::Recordset& lines = DE.rsJOBS_DETAIL;
-        lines.Open(QStringLiteral("Select * from jobs_detail where JobID=%1").arg(job));
+        lines.Open(u"Select * from jobs_detail where JobID=%1"_s.arg(job));
         for (lines.MoveFirst(); !lines.AtEOF(); lines.MoveNext()) {
             lines["DelToCustDate"] = session.TodayDate;
             lines["DoneByWorker"] = 2;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Span
@@ -42,8 +44,7 @@ Span spanBetween(QDate from, QDate to)
 
 QString part(int number, const QString& name, bool singular)
 {
-    return QString::number(number) + QLatin1Char(' ') + name +
-           (singular && number == 1 ? QString() : QStringLiteral("s"));
+    return QString::number(number) + u' ' + name + (singular && number == 1 ? QString() : u"s"_s);
 }
 
 } // namespace
@@ -55,10 +56,10 @@ QString DateDiffText(QDate from, QDate to, bool allParts, bool singular)
     const Span span = spanBetween(from, to);
     const bool withYears = allParts || span.years >= 1;
     const bool withMonths = withYears || span.months >= 1;
-    QString text = part(span.days, QStringLiteral("day"), singular);
+    QString text = part(span.days, u"day"_s, singular);
     if (withMonths)
-        text.prepend(part(span.months, QStringLiteral("month"), singular) + QStringLiteral(", "));
+        text.prepend(part(span.months, u"month"_s, singular) + u", "_s);
     if (withYears)
-        text.prepend(part(span.years, QStringLiteral("year"), singular) + QStringLiteral(", "));
+        text.prepend(part(span.years, u"year"_s, singular) + u", "_s);
     return text;
 }

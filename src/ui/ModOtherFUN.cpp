@@ -10,6 +10,8 @@
 #include <QApplication>
 #include <QScopeGuard>
 
+using namespace Qt::StringLiterals;
+
 using namespace forms;
 
 namespace {
@@ -73,7 +75,7 @@ int EnterAsTab(int key)
 {
     if (key != key::Enter)
         return key;
-    cSendKeys().SendKeys(QStringLiteral("{tab}"));
+    cSendKeys().SendKeys(u"{tab}"_s);
     return 0;
 }
 
@@ -81,7 +83,7 @@ int ArrowsAsTab(int key)
 {
     if (key != key::PageDown && key != key::PageUp)
         return key;
-    cSendKeys().SendKeys(key == key::PageDown ? QStringLiteral("{tab}") : QStringLiteral("+{tab}"));
+    cSendKeys().SendKeys(key == key::PageDown ? u"{tab}"_s : u"+{tab}"_s);
     return 0;
 }
 

@@ -6,37 +6,39 @@
 #include <QHash>
 #include <QKeyEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QHash<QString, int>& namedKeys()
 {
     static const QHash<QString, int> keys = [] {
-        QHash<QString, int> named{{QStringLiteral("BACKSPACE"), Qt::Key_Backspace},
-                                  {QStringLiteral("BS"), Qt::Key_Backspace},
-                                  {QStringLiteral("BKSP"), Qt::Key_Backspace},
-                                  {QStringLiteral("BREAK"), Qt::Key_Cancel},
-                                  {QStringLiteral("CAPSLOCK"), Qt::Key_CapsLock},
-                                  {QStringLiteral("DELETE"), Qt::Key_Delete},
-                                  {QStringLiteral("DEL"), Qt::Key_Delete},
-                                  {QStringLiteral("DOWN"), Qt::Key_Down},
-                                  {QStringLiteral("END"), Qt::Key_End},
-                                  {QStringLiteral("ENTER"), Qt::Key_Return},
-                                  {QStringLiteral("ESC"), Qt::Key_Escape},
-                                  {QStringLiteral("HELP"), Qt::Key_Help},
-                                  {QStringLiteral("HOME"), Qt::Key_Home},
-                                  {QStringLiteral("INS"), Qt::Key_Insert},
-                                  {QStringLiteral("INSERT"), Qt::Key_Insert},
-                                  {QStringLiteral("LEFT"), Qt::Key_Left},
-                                  {QStringLiteral("NUMLOCK"), Qt::Key_NumLock},
-                                  {QStringLiteral("PGDN"), Qt::Key_PageDown},
-                                  {QStringLiteral("PGUP"), Qt::Key_PageUp},
-                                  {QStringLiteral("PRTSC"), Qt::Key_Print},
-                                  {QStringLiteral("RIGHT"), Qt::Key_Right},
-                                  {QStringLiteral("SCROLLLOCK"), Qt::Key_ScrollLock},
-                                  {QStringLiteral("TAB"), Qt::Key_Tab},
-                                  {QStringLiteral("UP"), Qt::Key_Up}};
+        QHash<QString, int> named{{u"BACKSPACE"_s, Qt::Key_Backspace},
+                                  {u"BS"_s, Qt::Key_Backspace},
+                                  {u"BKSP"_s, Qt::Key_Backspace},
+                                  {u"BREAK"_s, Qt::Key_Cancel},
+                                  {u"CAPSLOCK"_s, Qt::Key_CapsLock},
+                                  {u"DELETE"_s, Qt::Key_Delete},
+                                  {u"DEL"_s, Qt::Key_Delete},
+                                  {u"DOWN"_s, Qt::Key_Down},
+                                  {u"END"_s, Qt::Key_End},
+                                  {u"ENTER"_s, Qt::Key_Return},
+                                  {u"ESC"_s, Qt::Key_Escape},
+                                  {u"HELP"_s, Qt::Key_Help},
+                                  {u"HOME"_s, Qt::Key_Home},
+                                  {u"INS"_s, Qt::Key_Insert},
+                                  {u"INSERT"_s, Qt::Key_Insert},
+                                  {u"LEFT"_s, Qt::Key_Left},
+                                  {u"NUMLOCK"_s, Qt::Key_NumLock},
+                                  {u"PGDN"_s, Qt::Key_PageDown},
+                                  {u"PGUP"_s, Qt::Key_PageUp},
+                                  {u"PRTSC"_s, Qt::Key_Print},
+                                  {u"RIGHT"_s, Qt::Key_Right},
+                                  {u"SCROLLLOCK"_s, Qt::Key_ScrollLock},
+                                  {u"TAB"_s, Qt::Key_Tab},
+                                  {u"UP"_s, Qt::Key_Up}};
         for (int number = 1; number <= 16; ++number)
-            named.insert(QStringLiteral("F%1").arg(number), Qt::Key_F1 + number - 1);
+            named.insert(u"F%1"_s.arg(number), Qt::Key_F1 + number - 1);
         return named;
     }();
     return keys;
@@ -61,11 +63,11 @@ QString textOfKey(int key)
 {
     switch (key) {
     case Qt::Key_Return:
-        return QStringLiteral("\r");
+        return u"\r"_s;
     case Qt::Key_Backspace:
-        return QStringLiteral("\b");
+        return u"\b"_s;
     case Qt::Key_Escape:
-        return QStringLiteral("\x1b");
+        return u"\x1b"_s;
     default:
         return key < Qt::Key_Escape ? QString(QChar(key)).toLower() : QString();
     }
@@ -87,7 +89,7 @@ public:
         while (m_at < m_keys.size())
             readOne();
         if (!m_groups.empty())
-            throw Error(QStringLiteral("Invalid sendkeys command: more open brackets than close brackets."));
+            throw Error(u"Invalid sendkeys command: more open brackets than close brackets."_s);
         return std::move(m_strokes);
     }
 
@@ -106,15 +108,14 @@ private:
             m_next |= Qt::AltModifier;
             break;
         case '~':
-            add(QStringLiteral("ENTER"), 1);
+            add(u"ENTER"_s, 1);
             break;
         case '(':
             m_groups.push_back(std::exchange(m_next, Qt::NoModifier));
             break;
         case ')':
             if (m_groups.empty())
-                throw Error(QStringLiteral("Invalid sendkeys command: unmatched ) at position ") +
-                            position());
+                throw Error(u"Invalid sendkeys command: unmatched ) at position "_s + position());
             m_groups.pop_back();
             break;
         case '{':
@@ -130,26 +131,23 @@ private:
     {
         const QStringView rest = QStringView(m_keys).mid(m_at + 1);
         // A closing bracket can itself be the key: {}} or {} 3}.
-        const bool closingIsKey =
-            rest.startsWith(QLatin1String("}}")) || rest.startsWith(QLatin1String("} "));
-        if (rest.isEmpty() || (rest.startsWith(QLatin1Char('}')) && !closingIsKey))
-            throw Error(QStringLiteral(
-                            "Invalid sendkeys command; opening { without content or closing } at position ") +
+        const bool closingIsKey = rest.startsWith("}}"_L1) || rest.startsWith("} "_L1);
+        if (rest.isEmpty() || (rest.startsWith(u'}') && !closingIsKey))
+            throw Error(u"Invalid sendkeys command; opening { without content or closing } at position "_s +
                         position());
-        const qsizetype close = rest.indexOf(QLatin1Char('}'), 1);
+        const qsizetype close = rest.indexOf(u'}', 1);
         if (close < 0)
-            throw Error(QStringLiteral("Invalid sendkeys command; opening { without closing } at position ") +
-                        position());
+            throw Error(u"Invalid sendkeys command; opening { without closing } at position "_s + position());
         const QString content = rest.left(close).toString();
-        const qsizetype blank = content.indexOf(QLatin1Char(' '), 1);
+        const qsizetype blank = content.indexOf(u' ', 1);
         int times = 1;
         if (blank > 0) {
             const QString count = content.mid(blank + 1);
             bool isNumber = false;
             times = count.toInt(&isNumber);
             if (!isNumber || times < 0)
-                throw Error(QStringLiteral("Invalid sendkeys command; key repetitions '") + count +
-                            QStringLiteral("' is invalid near position ") + position());
+                throw Error(u"Invalid sendkeys command; key repetitions '"_s + count +
+                            u"' is invalid near position "_s + position());
         }
         add(blank > 0 ? content.left(blank) : content, times);
         m_at += close + 1;
@@ -210,7 +208,7 @@ int cSendKeys::KeyCode(const QString& name)
         return name.at(0).toUpper().unicode();
     const int key = namedKeys().value(name.toUpper(), 0);
     if (key == 0)
-        throw Error(QStringLiteral("Key ") + name + QStringLiteral(" could not be interpreted."));
+        throw Error(u"Key "_s + name + u" could not be interpreted."_s);
     return key;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/values/Errors.h"
+#include "platform/values/Literals.h"
 
 #include <QString>
 #include <Qt>
@@ -21,7 +22,7 @@ public:
     {
     public:
         using OperatorError::OperatorError;
-        static QString source() { return QStringLiteral(".cSendKeys"); }
+        static QString source() { return u".cSendKeys"_s; }
     };
 
     /// Types the keys of the text: before it returns, or, without `wait`, as soon as the event in progress is

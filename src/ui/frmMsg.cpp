@@ -1,12 +1,14 @@
 #include "ui/frmMsg.h"
 
-#include "core/Session.h"
-#include "core/Settings.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "platform/ado/Recordset.h"
 #include "platform/forms/Metrics.h"
 #include "ui_frmMsg.h"
 
 #include <QScreen>
+
+using namespace Qt::StringLiterals;
 
 using forms::twips;
 
@@ -15,9 +17,9 @@ namespace {
 constexpr qint32 withOK = 1;
 constexpr qint32 withYesNo = 2;
 
-const QString hindi = QStringLiteral("Hindi");
-const QString english = QStringLiteral("English");
-const QString hindiFont = QStringLiteral("Kruti Dev 010");
+const QString hindi = u"Hindi"_s;
+const QString english = u"English"_s;
+const QString hindiFont = u"Kruti Dev 010"_s;
 
 void setCaption(QWidget& control, const QString& family, double size, const QString& caption)
 {
@@ -37,7 +39,7 @@ void SetHindiFont(QWidget& control, const QString& caption) { setCaption(control
 
 void SetEngFont(QWidget& control, const QString& caption)
 {
-    setCaption(control, QStringLiteral("MS Sans Serif"), 8, caption);
+    setCaption(control, u"MS Sans Serif"_s, 8, caption);
 }
 
 frmMsg::frmMsg(QWidget* parent)
@@ -58,8 +60,8 @@ void frmMsg::Form_Load()
     if (GetSetting(0, english) != hindi)
         return;
     // A sheet of its own, for the screens' sheet gives headings another size and weight.
-    ui->lblTitle->setStyleSheet(QStringLiteral("font: bold %1pt '%2'").arg(forms::points(14)).arg(hindiFont));
-    ui->lblTitle->setText(QStringLiteral("lqpuk"));
+    ui->lblTitle->setStyleSheet(u"font: bold %1pt '%2'"_s.arg(forms::points(14)).arg(hindiFont));
+    ui->lblTitle->setText(u"lqpuk"_s);
 }
 
 void frmMsg::ShowMessage(const QString& text, qint32 kind, qint16& result)
@@ -70,7 +72,7 @@ void frmMsg::ShowMessage(const QString& text, qint32 kind, qint16& result)
         LoadHindiText(text, kind);
     } else if (session.Language == english) {
         SetEngFont(*ui->lblMsg, text);
-        SetEngFont(*ui->cmdOK, QStringLiteral("Ok"));
+        SetEngFont(*ui->cmdOK, u"Ok"_s);
     }
     layOut();
     if (kind == withOK || kind == withYesNo) {
@@ -88,16 +90,16 @@ void frmMsg::LoadHindiText(const QString& text, qint32)
     ado::Connection language;
     language.open(session.languageDatabasePath(), {}, ado::Connection::Mode::ReadOnly);
     ado::Recordset messages(language);
-    const QString quoted = QString(text).replace(QLatin1Char('\''), QLatin1String("''"));
-    messages.Open(QStringLiteral("Select * from messages where EngMessage='") + quoted + QLatin1Char('\''));
+    const QString quoted = QString(text).replace(u'\'', "''"_L1);
+    messages.Open(u"Select * from messages where EngMessage='"_s + quoted + u'\'');
     if (messages.AtEOF()) {
         SetEngFont(*ui->lblMsg, text);
-        SetEngFont(*ui->cmdOK, QStringLiteral("Ok"));
+        SetEngFont(*ui->cmdOK, u"Ok"_s);
     } else {
         SetHindiFont(*ui->lblMsg, messages["HindiMessage"].text());
-        SetHindiFont(*ui->cmdOK, QStringLiteral("Bhd gS"));
-        SetHindiFont(*ui->cmdYes, QStringLiteral("gk"));
-        SetHindiFont(*ui->cmdNo, QStringLiteral("ugh"));
+        SetHindiFont(*ui->cmdOK, u"Bhd gS"_s);
+        SetHindiFont(*ui->cmdYes, u"gk"_s);
+        SetHindiFont(*ui->cmdNo, u"ugh"_s);
     }
     messages.Close();
 }

@@ -3,6 +3,8 @@
 #include "ui/ModOtherFUN.h"
 #include "ui_frmSelectDate.h"
 
+using namespace Qt::StringLiterals;
+
 frmSelectDate::frmSelectDate(QWidget* parent)
     : Screen(parent)
     , ui(std::make_unique<Ui::frmSelectDate>())
@@ -41,7 +43,7 @@ void frmSelectDate::followDateFrom()
 void frmSelectDate::select()
 {
     if (ui->DateFrom->value() > ui->DateTo->value()) {
-        ShowMsg(QStringLiteral("Invalid Dates!"));
+        ShowMsg(u"Invalid Dates!"_s);
         return;
     }
     m_confirmed = true;

@@ -8,10 +8,12 @@
 #include <QStandardPaths>
 #include <QStorageInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString cancelled = QStringLiteral("Cancel");
-const QString upwards = QStringLiteral("..");
+const QString cancelled = u"Cancel"_s;
+const QString upwards = u".."_s;
 
 /// The drives, or on systems with one tree its root and what is mounted for the operator.
 QStringList drives()
@@ -19,8 +21,7 @@ QStringList drives()
     QStringList paths;
     for (const QFileInfo& drive : QDir::drives())
         paths += drive.absoluteFilePath();
-    static const QStringList operatorsFolders{QStringLiteral("/media/"), QStringLiteral("/run/media/"),
-                                              QStringLiteral("/mnt/"), QStringLiteral("/Volumes/")};
+    static const QStringList operatorsFolders{u"/media/"_s, u"/run/media/"_s, u"/mnt/"_s, u"/Volumes/"_s};
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
         const QString path = volume.rootPath();
         for (const QString& folder : operatorsFolders)
@@ -69,9 +70,8 @@ QString frmSelectFile::SelFile()
 void frmSelectFile::Form_Load()
 {
     ui->cmbFIletype->Clear();
-    ui->cmbFIletype->AddItems({QStringLiteral("*.gif"), QStringLiteral("*.wmf"), QStringLiteral("*.ico"),
-                               QStringLiteral("*.bmp"), QStringLiteral("*.jpg")});
-    ui->cmbFIletype->setText(QStringLiteral("*.*"));
+    ui->cmbFIletype->AddItems({u"*.gif"_s, u"*.wmf"_s, u"*.ico"_s, u"*.bmp"_s, u"*.jpg"_s});
+    ui->cmbFIletype->setText(u"*.*"_s);
     ui->drv->Clear();
     ui->drv->AddItems(drives());
     openFolder(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
@@ -104,17 +104,17 @@ void frmSelectFile::openFolder(const QString& path)
 void frmSelectFile::enterFolder()
 {
     if (ui->Dir->ListIndex() >= 0)
-        openFolder(QDir::cleanPath(m_folder + QLatin1Char('/') + ui->Dir->Text()));
+        openFolder(QDir::cleanPath(m_folder + u'/' + ui->Dir->Text()));
 }
 
 void frmSelectFile::applyPattern()
 {
     // "*.*" means all files, those without a point in their name too.
     QString pattern = ui->cmbFIletype->text().trimmed();
-    if (pattern == QLatin1String("*.*"))
-        pattern = QStringLiteral("*");
-    const QStringList names = QDir(m_folder).entryList(pattern.split(QLatin1Char(';'), Qt::SkipEmptyParts),
-                                                       QDir::Files, QDir::Name | QDir::IgnoreCase);
+    if (pattern == "*.*"_L1)
+        pattern = u"*"_s;
+    const QStringList names = QDir(m_folder).entryList(pattern.split(u';', Qt::SkipEmptyParts), QDir::Files,
+                                                       QDir::Name | QDir::IgnoreCase);
     ui->files->Clear();
     ui->files->AddItems(names);
 }

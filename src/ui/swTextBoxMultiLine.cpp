@@ -4,6 +4,8 @@
 #include "ui/NumKey.h"
 #include "ui/boxes.h"
 
+using namespace Qt::StringLiterals;
+
 swTextBoxMultiLine::swTextBoxMultiLine(QWidget* parent)
     : QPlainTextEdit(parent)
 {
@@ -11,10 +13,7 @@ swTextBoxMultiLine::swTextBoxMultiLine(QWidget* parent)
     connect(this, &QPlainTextEdit::textChanged, this, &swTextBoxMultiLine::Change);
 }
 
-QString swTextBoxMultiLine::Text() const
-{
-    return toPlainText().replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-}
+QString swTextBoxMultiLine::Text() const { return toPlainText().replace(u'\n', "\r\n"_L1); }
 
 void swTextBoxMultiLine::setText(const QString& text) { setPlainText(boxes::shown(text, m_boxType)); }
 

@@ -1,7 +1,7 @@
 #include "accounts/frmAccountsList.h"
 #include "accounts/frmEditAccount.h"
-#include "core/Lookups.h"
-#include "core/Session.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
 #include "support/ShopTest.h"
 
 #include <QTest>

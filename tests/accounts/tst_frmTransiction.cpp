@@ -1,6 +1,6 @@
 #include "accounts/frmTransiction.h"
-#include "core/DE.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Session.h"
 #include "support/ShopTest.h"
 
 #include <QRandomGenerator>
@@ -14,7 +14,7 @@ QString labels(QWidget& form)
     QStringList words;
     for (const char* name : {"lblMain", "lblMainType", "lblRef", "lblRefType"})
         words << label(form, name);
-    return words.join(QLatin1Char(' '));
+    return words.join(u' ');
 }
 
 void fill(QWidget& form, const QString& kind, const QString& account, const QString& amount)

@@ -1,5 +1,5 @@
-#include "core/Settings.h"
-#include "core/frmSettings.h"
+#include "core/shell/frmSettings.h"
+#include "core/store/Settings.h"
 #include "messaging/modSMS.h"
 #include "support/ShopTest.h"
 #include "ui/frmSelectFile.h"

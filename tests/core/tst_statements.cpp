@@ -1,6 +1,6 @@
 // The statements that the program sends, on the real tables: each shape must be taken as it stands and find
 // its rows.
-#include "core/DE.h"
+#include "core/store/DE.h"
 #include "support/Shop.h"
 
 #include <QTest>

@@ -1,9 +1,9 @@
-#include "core/DE.h"
-#include "core/Lookups.h"
-#include "core/Schema.h"
-#include "core/Session.h"
-#include "core/Settings.h"
-#include "core/Startup.h"
+#include "core/shell/Startup.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Schema.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "support/Shop.h"
 
 #include <QDir>

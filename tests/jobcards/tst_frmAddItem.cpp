@@ -1,5 +1,5 @@
-#include "core/DE.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Session.h"
 #include "jobcards/ColorBox.h"
 #include "jobcards/ItemDetails.h"
 #include "jobcards/PictureBox.h"
@@ -290,7 +290,7 @@ private Q_SLOTS:
             QCOMPARE(path, images + "/A_B\\%1 %3_11_02_2024_1_7_" + seconds + "_1.bmp");
             paint(path);
         }
-        paint(picturefiles::newPath(QStringLiteral("👔").repeated(3000), sunday, 1));
+        paint(picturefiles::newPath(u"👔"_s.repeated(3000), sunday, 1));
         QVERIFY(QDir(images).removeRecursively());
         writeFile(images, "in the way");
         QVERIFY_THROWS_EXCEPTION(OperatorError, picturefiles::copy(source, stored));
@@ -299,3 +299,5 @@ private Q_SLOTS:
 
 QTEST_MAIN(tst_frmAddItem)
 #include "tst_frmAddItem.moc"
+
+using namespace Qt::StringLiterals;

@@ -1,6 +1,6 @@
-#include "core/Lookups.h"
-#include "core/Session.h"
-#include "core/Settings.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "jobcards/frmAddItem.h"
 #include "jobcards/frmEditJOB.h"
 #include "masters/frmEditClients.h"
@@ -12,7 +12,7 @@ namespace {
 
 forms::ListView& lines(frmEditJOB& job) { return listView(job, "lvItems"); }
 
-int count(const char* rowsOf) { return Shop::count(QStringLiteral("Select * from ") + rowsOf); }
+int count(const char* rowsOf) { return Shop::count(u"Select * from "_s + rowsOf); }
 
 void onNewCard(const std::function<void(frmEditJOB&)>& act)
 {
@@ -287,3 +287,5 @@ private Q_SLOTS:
 
 QTEST_MAIN(tst_frmEditJOB)
 #include "tst_frmEditJOB.moc"
+
+using namespace Qt::StringLiterals;

@@ -1,5 +1,5 @@
-#include "core/Session.h"
-#include "core/Settings.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "jobcards/PictureBox.h"
 #include "jobcards/frmEditWorkerAssign.h"
 #include "media/frmPreview.h"

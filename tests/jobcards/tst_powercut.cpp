@@ -1,5 +1,5 @@
-#include "core/DE.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Session.h"
 #include "jobcards/JobCard.h"
 #include "support/Shop.h"
 

@@ -1,5 +1,5 @@
-#include "core/Session.h"
-#include "core/Settings.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "jobcards/JobCard.h"
 #include "jobcards/MODPrintJOBCARD.h"
 #include "jobcards/frmAddItem.h"

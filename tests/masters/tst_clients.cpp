@@ -1,4 +1,4 @@
-#include "core/Session.h"
+#include "core/store/Session.h"
 #include "masters/frmClients.h"
 #include "masters/frmEditClients.h"
 #include "masters/frmEditWorker.h"

@@ -1,4 +1,4 @@
-#include "core/Settings.h"
+#include "core/store/Settings.h"
 #include "messaging/modSMS.h"
 #include "messaging/swSMS.h"
 #include "support/Files.h"

@@ -1,4 +1,4 @@
-#include "core/Session.h"
+#include "core/store/Session.h"
 #include "planning/Ratings.h"
 #include "planning/Stars.h"
 #include "planning/frmFeedBack.h"

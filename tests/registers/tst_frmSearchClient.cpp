@@ -1,4 +1,4 @@
-#include "core/Settings.h"
+#include "core/store/Settings.h"
 #include "jobcards/frmEditJOB.h"
 #include "registers/frmSearchClient.h"
 #include "support/ShopTest.h"

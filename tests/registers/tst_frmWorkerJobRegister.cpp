@@ -1,4 +1,4 @@
-#include "core/Session.h"
+#include "core/store/Session.h"
 #include "jobcards/frmEditJOB.h"
 #include "jobcards/frmEditWorkerAssign.h"
 #include "planning/frmWorkerReport2.h"

@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <deque>
 
+using namespace Qt::StringLiterals;
+
 namespace modal {
 
 namespace {
@@ -104,7 +106,7 @@ private:
         if (!m_acts.empty() && m_acts.front().waiting.hasExpired(patience)) {
             const QString name = m_acts.front().className;
             m_acts.clear();
-            QTest::qFail(qPrintable(QStringLiteral("No %1 came to the front").arg(name)), __FILE__, __LINE__);
+            QTest::qFail(qPrintable(u"No %1 came to the front"_s.arg(name)), __FILE__, __LINE__);
             closeAll();
         }
         if (m_acts.empty())

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void fail(const QString& what) { QTest::qFail(qPrintable(what), __FILE__, __LINE__); }
@@ -23,7 +25,7 @@ void press(QWidget& dialog, QAbstractButton* button, Answer answer)
     } else if (button && button->isVisible()) {
         QTest::mouseClick(button, Qt::LeftButton);
     } else {
-        fail(QStringLiteral("The prompt has no button for the answer"));
+        fail(u"The prompt has no button for the answer"_s);
         dialog.close();
     }
 }
@@ -39,7 +41,7 @@ Prompts::Prompts()
 Prompts::~Prompts()
 {
     if (!m_expected.empty())
-        fail(QStringLiteral("Expected prompts are left over"));
+        fail(u"Expected prompts are left over"_s);
 }
 
 void Prompts::expect(const QString& text, Answer answer) { m_expected.push_back({text, answer, {}}); }
@@ -83,22 +85,20 @@ void Prompts::look()
 Prompts::Expected Prompts::answerTo(const QString& text)
 {
     if (m_expected.empty()) {
-        fail(QStringLiteral("Unexpected prompt: ") + text);
+        fail(u"Unexpected prompt: "_s + text);
         return {text, Answer::Esc, {}};
     }
     const Expected next = m_expected.front();
     m_expected.pop_front();
     if (next.text != text)
-        fail(QStringLiteral("Prompt: %1\nexpected: %2").arg(text, next.text));
+        fail(u"Prompt: %1\nexpected: %2"_s.arg(text, next.text));
     return next;
 }
 
 void Prompts::answer(frmMsg& dialog)
 {
-    const Answer given = answerTo(dialog.findChild<QLabel*>(QStringLiteral("lblMsg"))->text()).answer;
-    const QString name = given == Answer::Ok    ? QStringLiteral("cmdOK")
-                         : given == Answer::Yes ? QStringLiteral("cmdYes")
-                                                : QStringLiteral("cmdNo");
+    const Answer given = answerTo(dialog.findChild<QLabel*>(u"lblMsg"_s)->text()).answer;
+    const QString name = given == Answer::Ok ? u"cmdOK"_s : given == Answer::Yes ? u"cmdYes"_s : u"cmdNo"_s;
     press(dialog, dialog.findChild<QPushButton*>(name), given);
 }
 

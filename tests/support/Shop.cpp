@@ -1,9 +1,9 @@
 #include "support/Shop.h"
 
-#include "core/DE.h"
-#include "core/Schema.h"
-#include "core/Session.h"
-#include "core/Startup.h"
+#include "core/shell/Startup.h"
+#include "core/store/DE.h"
+#include "core/store/Schema.h"
+#include "core/store/Session.h"
 
 #include <QFile>
 

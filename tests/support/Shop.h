@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/values/Literals.h"
+
 #include <QDate>
 #include <QString>
 #include <QTemporaryDir>
@@ -27,7 +29,7 @@ public:
     qint32 addClient(const QString& title, const QString& mobile = {});
     qint32 addWorker(const QString& title);
     qint32 addItem(const QString& name, double fees = 100, double workerFees = 40,
-                   const QString& details = QStringLiteral("Length\r\nChest=40"));
+                   const QString& details = u"Length\r\nChest=40"_s);
     /// A line of job card 1.
     qint32 addJobLine(qint32 client, qint32 item, qint32 worker = 0);
     /// The two lines of a receipt: `main` is credited with the amount, `ref` debited.

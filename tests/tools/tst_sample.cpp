@@ -1,6 +1,6 @@
 // The sample shop: the books agree, every state of a line is there, the same plan lays the same shop.
-#include "core/DE.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Session.h"
 #include "sample/SampleShop.h"
 
 #include <QDir>
@@ -41,7 +41,7 @@ QStringList allRows()
         for (rows.Open(QLatin1String(table)); !rows.AtEOF(); rows.MoveNext()) {
             QStringList fields{QLatin1String(table)};
             for (int field = 0; field < rows.FieldCount(); ++field)
-                fields << rows[field].text().replace(session.appFolder, QStringLiteral("."));
+                fields << rows[field].text().replace(session.appFolder, u"."_s);
             result << fields.join(u'|');
         }
     }
@@ -109,8 +109,8 @@ void tst_sample::asPlanned_data()
         0);
     for (const char* state : {"0", "1", "2", "3", "4"})
         QTest::addRow("state %s", state)
-            << QStringLiteral("Select count(*) from Jobs_Detail where DoneByWorker=") + QLatin1String(state)
-            << 1.0 << 280.0;
+            << u"Select count(*) from Jobs_Detail where DoneByWorker="_s + QLatin1String(state) << 1.0
+            << 280.0;
     row("unassigned", "Select count(*) from Jobs_Detail where WorkerID=0", 5, 100);
     row("cut, not yet made", "Select count(*) from Jobs_Detail where CuttingStatus=1 and DoneByWorker=0", 1,
         100);
@@ -158,3 +158,5 @@ void tst_sample::sameSeedSameShop()
 
 QTEST_GUILESS_MAIN(tst_sample)
 #include "tst_sample.moc"
+
+using namespace Qt::StringLiterals;

@@ -1,5 +1,5 @@
-#include "core/Session.h"
-#include "core/Settings.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "platform/ado/Connection.h"
 #include "platform/ado/DatabaseError.h"
 #include "platform/forms/Metrics.h"

@@ -15,7 +15,7 @@ struct Line
     int quantity = 1;
     QString remark;
     QString clientRemark;
-    QString values; ///< the measures
+    QString values;    ///< the measures
     quint32 cloth = 0; ///< its colour, 0xRRGGBB
     bool pictured = false;
 

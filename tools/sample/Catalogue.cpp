@@ -1,15 +1,17 @@
 #include "sample/Catalogue.h"
 
-#include "core/DE.h"
+#include "core/store/DE.h"
 
 #include <QStringList>
 #include <cmath>
+
+using namespace Qt::StringLiterals;
 
 namespace sample {
 
 namespace {
 
-const QString lineBreak = QStringLiteral("\r\n");
+const QString lineBreak = u"\r\n"_s;
 
 struct Measurement
 {
@@ -128,7 +130,7 @@ const std::vector<Garment>& catalogue()
 void writeCatalogue()
 {
     ado::Recordset& items = DE.rsITEMS;
-    items.Open(QStringLiteral("Select * from Items"));
+    items.Open(u"Select * from Items"_s);
     for (const Garment& garment : catalogue()) {
         items.AddNew();
         items["Name"] = QString::fromLatin1(garment.name);
@@ -136,7 +138,7 @@ void writeCatalogue()
         items["WorkerFees"] = garment.wage;
         items["ItemDetails"] = garment.details();
         items["ProdcutionCap"] = QString::number(garment.capacity);
-        items["OpPendingOrders"] = QStringLiteral("0");
+        items["OpPendingOrders"] = u"0"_s;
     }
     items.UpdateBatch();
     items.Close();

@@ -5,11 +5,13 @@
 #include <algorithm>
 #include <map>
 
+using namespace Qt::StringLiterals;
+
 namespace sample {
 
 namespace {
 
-QString dayText(const QDate& day) { return values::Format(day, QStringLiteral("dd-MMM-yyyy")); }
+QString dayText(const QDate& day) { return values::Format(day, u"dd-MMM-yyyy"_s); }
 
 class Books
 {
@@ -23,8 +25,7 @@ public:
 
     std::vector<Voucher> keep(const People& people)
     {
-        receive(m_plan.firstDay(), account::capital, account::bank, 150000,
-                QStringLiteral("Put in to begin"));
+        receive(m_plan.firstDay(), account::capital, account::bank, 150000, u"Put in to begin"_s);
         collectBalances();
         for (const Worker& worker : people.workers)
             payWages(worker);
@@ -60,7 +61,7 @@ private:
             const int into = m_random.chance(30) ? account::bank : account::cash;
             if (day <= m_plan.lastDay)
                 receive(day, card.client->account, into, part ? balance / 200 * 100 : balance,
-                        QStringLiteral("Balance of card %1").arg(card.number));
+                        u"Balance of card %1"_s.arg(card.number));
         }
     }
 
@@ -91,13 +92,13 @@ private:
                 total += done.line->item().wage;
                 covered.push_back(done.line);
             }
-            const QString period = QStringLiteral("Wages [ From :%1 To %2 ]")
-                                       .arg(dayText(from), dayText(month.addMonths(1).addDays(-1)));
+            const QString period =
+                u"Wages [ From :%1 To %2 ]"_s.arg(dayText(from), dayText(month.addMonths(1).addDays(-1)));
             m_vouchers.push_back({payday, "Wages", worker.account, account::wages, total, period, covered});
             owed += total;
             const int paid = m_random.chance(40) ? owed : owed / 500 * 500;
             if (paid > 0)
-                spend(payday, worker.account, account::cash, paid, QStringLiteral("Wages paid"));
+                spend(payday, worker.account, account::cash, paid, u"Wages paid"_s);
             owed -= paid;
         }
     }
@@ -112,12 +113,12 @@ private:
                 if (date >= first && date <= m_plan.lastDay)
                     spend(date, on, outOf, amount, remark);
             };
-            cost(5, account::rent, account::bank, 18000, QStringLiteral("Rent of the month"));
+            cost(5, account::rent, account::bank, 18000, u"Rent of the month"_s);
             cost(12, account::electricity, account::bank, m_random.between(22, 48) * 100,
-                 QStringLiteral("Electricity bill"));
+                 u"Electricity bill"_s);
             if (m_random.chance(40))
                 cost(20, account::repairs, account::cash, m_random.between(3, 15) * 100,
-                     QStringLiteral("Machine serviced"));
+                     u"Machine serviced"_s);
         }
     }
 
@@ -141,9 +142,9 @@ private:
             const bool monthEnds = next != flow.end() && next->first.month() != day->first.month();
             const int spare = (cash - till) / 1000 * 1000;
             if (cash < least)
-                spend(day->first, account::cash, account::bank, -spare, QStringLiteral("Drawn for the till"));
+                spend(day->first, account::cash, account::bank, -spare, u"Drawn for the till"_s);
             else if (monthEnds && spare > 0)
-                spend(day->first, account::bank, account::cash, spare, QStringLiteral("Paid in"));
+                spend(day->first, account::bank, account::cash, spare, u"Paid in"_s);
             else
                 continue;
             cash -= spare;

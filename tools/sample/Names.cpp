@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 namespace sample {
 
 namespace {
@@ -151,7 +153,7 @@ const Region& region(Random& random)
     return regions[0];
 }
 
-QString initial(Random& random) { return QChar(u'A' + random.below(20)) + QStringLiteral("."); }
+QString initial(Random& random) { return QChar(u'A' + random.below(20)) + u"."_s; }
 
 QString fullName(Random& random, const QString& given, const QString& middle, const QString& family,
                  int again)
@@ -163,7 +165,7 @@ QString fullName(Random& random, const QString& given, const QString& middle, co
         parts << initial(random);
     parts << family;
     if (again > 3) // as the shop's register tells namesakes apart
-        parts << QStringLiteral("(%1)").arg(QLatin1String(random.pick(localities)));
+        parts << u"(%1)"_s.arg(QLatin1String(random.pick(localities)));
     return parts.join(u' ');
 }
 
@@ -192,10 +194,9 @@ Place place(Random& random)
     const QString locality = QLatin1String(random.pick(localities));
     const QString house = QString::number(random.between(1, 280));
     if (random.chance(82))
-        return {house + QStringLiteral(", ") + locality, QStringLiteral("Jaipur"),
-                QStringLiteral("Rajasthan")};
+        return {house + u", "_s + locality, u"Jaipur"_s, u"Rajasthan"_s};
     const Town& town = random.pick(townsNear);
-    return {house + QStringLiteral(", Station Road"), QLatin1String(town.name), QLatin1String(town.state)};
+    return {house + u", Station Road"_s, QLatin1String(town.name), QLatin1String(town.state)};
 }
 
 QString mobile(Random& random)

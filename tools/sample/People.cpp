@@ -1,9 +1,11 @@
 #include "sample/People.h"
 
-#include "core/DE.h"
+#include "core/store/DE.h"
 #include "sample/Names.h"
 
 #include <QSet>
+
+using namespace Qt::StringLiterals;
 
 namespace sample {
 
@@ -122,7 +124,7 @@ People invitePeople(const Plan& plan, Random& random)
 void writeAccounts(const People& people)
 {
     ado::Recordset& accounts = DE.rsaccounts;
-    accounts.Open(QStringLiteral("Select * from Accounts"));
+    accounts.Open(u"Select * from Accounts"_s);
     for (const LedgerAccount& ledger : ledgerAccounts) {
         accounts.AddNew();
         accounts["Title"] = QString::fromLatin1(ledger.title);

@@ -1,10 +1,10 @@
 #include "sample/SampleShop.h"
 
-#include "core/DE.h"
-#include "core/Schema.h"
-#include "core/Session.h"
-#include "core/Settings.h"
-#include "core/Startup.h"
+#include "core/shell/Startup.h"
+#include "core/store/DE.h"
+#include "core/store/Schema.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "messaging/modSMS.h"
 #include "platform/values/Dates.h"
 #include "sample/Catalogue.h"
@@ -13,6 +13,8 @@
 
 #include <QDir>
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace sample {
 
@@ -33,13 +35,13 @@ void choosePictures(std::vector<Card>& cards, int count, Random& random)
 
 void writeProfile(const Plan& plan)
 {
-    session.ShopName = QStringLiteral("Rangoli Tailors");
-    session.ShopAddress1 = QStringLiteral("14, Johari Bazaar");
-    session.ShopAddress2 = QStringLiteral("Near Sanganeri Gate");
-    session.ShopAddress3 = QStringLiteral("Jaipur 302003");
-    session.ShopContacts = QStringLiteral("0141-2570000, 98290 14523");
+    session.ShopName = u"Rangoli Tailors"_s;
+    session.ShopAddress1 = u"14, Johari Bazaar"_s;
+    session.ShopAddress2 = u"Near Sanganeri Gate"_s;
+    session.ShopAddress3 = u"Jaipur 302003"_s;
+    session.ShopContacts = u"0141-2570000, 98290 14523"_s;
     ado::Recordset& shop = DE.rsSHOP;
-    shop.Open(QStringLiteral("Select * from Shop"));
+    shop.Open(u"Select * from Shop"_s);
     shop.AddNew();
     shop["Name"] = session.ShopName;
     shop["Address1"] = session.ShopAddress1;
@@ -49,13 +51,13 @@ void writeProfile(const Plan& plan)
     shop.Update();
     shop.Close();
 
-    const QString logo = session.appFolder + QStringLiteral("/logo.png");
+    const QString logo = session.appFolder + u"/logo.png"_s;
     drawLogo(logo);
     SetSetting(1, values::CStr(plan.lastDay));
     SetSetting(5, logo);
-    SetSetting(6, QStringLiteral("Ladies' and gents' tailoring since 1974"));
-    SetSetting(10, QStringLiteral("Rangoli")); // ten characters at most
-    SetSetting(13, QStringLiteral("7"));
+    SetSetting(6, u"Ladies' and gents' tailoring since 1974"_s);
+    SetSetting(10, u"Rangoli"_s); // ten characters at most
+    SetSetting(13, u"7"_s);
     SetSetting(23, QString::number(plan.firstNumber));
     SetSetting(24, DefaultJobRegisteredDraft());
     SetSetting(25, DefaultJobFinishedDraft());

@@ -1,5 +1,7 @@
 #include "sample/Texts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace sample {
 
 namespace {
@@ -76,7 +78,7 @@ QString feedback(int score, Random& random)
 QString shelf(Random& random)
 {
     const QChar rack(u'A' + random.below(5));
-    return QStringLiteral("Rack %1%2").arg(rack).arg(random.between(1, 12));
+    return u"Rack %1%2"_s.arg(rack).arg(random.between(1, 12));
 }
 
 quint32 cloth(Random& random) { return random.pick(cloths); }

@@ -1,10 +1,12 @@
 #include "sample/Write.h"
 
-#include "core/DE.h"
-#include "core/Session.h"
+#include "core/store/DE.h"
+#include "core/store/Session.h"
 #include "jobcards/JobCard.h"
 #include "platform/values/Dates.h"
 #include "sample/Pictures.h"
+
+using namespace Qt::StringLiterals;
 
 namespace sample {
 
@@ -26,9 +28,8 @@ QString colourNumber(quint32 colour)
 /// The name that the shop gives to a picture: client, day, a time, the picture's number.
 QString picturePath(const Card& card, int line, int picture)
 {
-    return QStringLiteral("%1/%2_%3_%4_%5_%6_%7.bmp")
-        .arg(session.imagesFolder(), card.client->title,
-             values::Format(card.date, QStringLiteral("DD_MM_YYYY")))
+    return u"%1/%2_%3_%4_%5_%6_%7.bmp"_s
+        .arg(session.imagesFolder(), card.client->title, values::Format(card.date, u"DD_MM_YYYY"_s))
         .arg(card.date.dayOfWeek() % 7 + 1)
         .arg(card.number % 10)
         .arg(10 + line)
@@ -55,7 +56,7 @@ void addRow(JobCard& form, const Card& card, int number)
 void writeProgress(qint32 id, const Line& line)
 {
     ado::Recordset& row = DE.rsJOBS_DETAIL;
-    row.Open(QStringLiteral("Select * from jobs_detail where id=") + QString::number(id));
+    row.Open(u"Select * from jobs_detail where id="_s + QString::number(id));
     if (line.worker) {
         row["WorkerID"] = line.worker->account;
         row["WorkerName"] = line.worker->title;
@@ -79,7 +80,7 @@ void writeProgress(qint32 id, const Line& line)
 void writeTrialAndEnd(const Card& card)
 {
     ado::Recordset& row = DE.rsJOBS;
-    row.Open(QStringLiteral("Select * from jobs where id=") + QString::number(card.number));
+    row.Open(u"Select * from jobs where id="_s + QString::number(card.number));
     row["appeared"] = card.appeared;
     row["appearedDate"] = dateOrNull(card.appearedOn);
     if (card.closed) {
@@ -104,8 +105,7 @@ void writeCard(const Card& card)
     head.Total = Currency::fromDouble(card.total());
     head.Paid = Currency::fromDouble(card.paid);
     head.Remark = card.remark;
-    head.ReceiptAccount =
-        card.receiptAccount == account::cash ? QStringLiteral("Cash") : QStringLiteral("Bank");
+    head.ReceiptAccount = card.receiptAccount == account::cash ? u"Cash"_s : u"Bank"_s;
     head.Cancelled = card.cancelled;
     head.CancelReason = card.cancelReason;
     form.SaveNew(head);
@@ -119,7 +119,7 @@ void writeCard(const Card& card)
 void writeVoucher(const Voucher& voucher, int number)
 {
     ado::Recordset& postings = DE.rspostings;
-    postings.Open(QStringLiteral("Select * from Postings order by ID"));
+    postings.Open(u"Select * from Postings order by ID"_s);
     for (const int serial : {1, 2}) {
         const bool main = serial == 1;
         postings.AddNew();

@@ -10,6 +10,8 @@
 #include <exception>
 #include <sqlcipher/sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace ado {
 
 namespace {
@@ -23,7 +25,7 @@ QString engineText(sqlite3* database) { return QString::fromUtf8(sqlite3_errmsg(
 sqlite3* Connection::Private::openHandle() const
 {
     if (!database)
-        throw DatabaseError(QStringLiteral("The connection is closed."));
+        throw DatabaseError(u"The connection is closed."_s);
     return database;
 }
 
@@ -56,7 +58,7 @@ QString Connection::Private::faultText(int code) const
     case SQLITE_FULL:
     case SQLITE_CANTOPEN:
     case SQLITE_NOTADB:
-        return path.isEmpty() ? text : path + QStringLiteral(": ") + text;
+        return path.isEmpty() ? text : path + u": "_s + text;
     default:
         return text;
     }
@@ -95,12 +97,11 @@ QVariant Connection::Private::firstValue(const QString& sql)
 
 void Connection::Private::makeDurable()
 {
-    const bool truncate =
-        firstValue(QStringLiteral("PRAGMA journal_mode=TRUNCATE")).toString() == u"truncate";
-    run(QStringLiteral("PRAGMA synchronous=FULL"));
+    const bool truncate = firstValue(u"PRAGMA journal_mode=TRUNCATE"_s).toString() == u"truncate";
+    run(u"PRAGMA synchronous=FULL"_s);
     constexpr int full = 2;
-    if (!truncate || firstValue(QStringLiteral("PRAGMA synchronous")).toInt() != full)
-        throw DatabaseError(QStringLiteral("The journal cannot be made safe."));
+    if (!truncate || firstValue(u"PRAGMA synchronous"_s).toInt() != full)
+        throw DatabaseError(u"The journal cannot be made safe."_s);
 }
 
 Connection::Connection()
@@ -114,7 +115,7 @@ void Connection::create(const QString& path, const QString& password)
 {
     close();
     if (QFileInfo::exists(path))
-        throw DatabaseError(path + QStringLiteral(": the file exists already."));
+        throw DatabaseError(path + u": the file exists already."_s);
     openFile(path, password, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
 }
 
@@ -123,12 +124,12 @@ void Connection::open(const QString& path, const QString& password, Mode mode)
     close();
     const QFileInfo file(path);
     if (!file.exists())
-        throw DatabaseError(path + QStringLiteral(": the file does not exist."));
+        throw DatabaseError(path + u": the file does not exist."_s);
     if (!file.isFile())
-        throw DatabaseError(path + QStringLiteral(": this is no file."));
+        throw DatabaseError(path + u": this is no file."_s);
     // The engine would take an empty file for a new database.
     if (file.size() == 0)
-        throw DatabaseError(path + QStringLiteral(": the file is empty."));
+        throw DatabaseError(path + u": the file is empty."_s);
     openFile(path, password, mode == Mode::ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
 }
 
@@ -144,17 +145,17 @@ void Connection::openFile(const QString& path, const QString& password, int flag
             const QByteArray key = password.toUtf8();
             if (sqlite3_key(d->database, key.constData(), static_cast<int>(key.size())) != SQLITE_OK)
                 throw DatabaseError(engineText(d->database));
-            d->run(QStringLiteral("PRAGMA cipher_page_size=4096"));
+            d->run(u"PRAGMA cipher_page_size=4096"_s);
         }
         // Only this first read proves the password.
-        d->firstValue(QStringLiteral("SELECT count(*) FROM sqlite_master"));
+        d->firstValue(u"SELECT count(*) FROM sqlite_master"_s);
         if (flags & SQLITE_OPEN_READWRITE)
             d->makeDurable();
-        d->run(QStringLiteral("PRAGMA cache_size=-65536"));
+        d->run(u"PRAGMA cache_size=-65536"_s);
         registerFunctions(d->database);
     } catch (const DatabaseError& error) {
         close();
-        throw DatabaseError(path + QStringLiteral(": ") + error.text());
+        throw DatabaseError(path + u": "_s + error.text());
     }
     d->path = path;
 }
@@ -192,7 +193,7 @@ void Connection::writeBatch(const std::function<void()>& work)
         work();
         return;
     }
-    d->run(QStringLiteral("BEGIN IMMEDIATE"));
+    d->run(u"BEGIN IMMEDIATE"_s);
     d->inBatch = true;
     d->lostBy.clear();
     std::exception_ptr failure;
@@ -206,7 +207,7 @@ void Connection::writeBatch(const std::function<void()>& work)
     if (!lostBy.isEmpty())
         throw DatabaseError(lostBy, true);
     try {
-        d->run(QStringLiteral("COMMIT"));
+        d->run(u"COMMIT"_s);
     } catch (const DatabaseError& error) {
         throw DatabaseError(error.text(), true);
     }

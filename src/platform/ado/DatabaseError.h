@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/values/Errors.h"
+#include "platform/values/Literals.h"
 
 namespace ado {
 
@@ -26,7 +27,7 @@ class NoCurrentRecordError : public DatabaseError
 {
 public:
     NoCurrentRecordError()
-        : DatabaseError(QStringLiteral("No current record: the query found no row, or all have been passed."))
+        : DatabaseError(u"No current record: the query found no row, or all have been passed."_s)
     {
     }
 };

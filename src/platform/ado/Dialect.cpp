@@ -7,6 +7,8 @@
 #include <array>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace ado::dialect {
 
 namespace {
@@ -21,9 +23,9 @@ struct Clauses
         int depth = 0;
         for (size_t i = 0; i < words.size(); ++i) {
             const Word& word = words[i];
-            if (word.is(QLatin1StringView("(")))
+            if (word.is("("_L1))
                 ++depth;
-            else if (word.is(QLatin1StringView(")")))
+            else if (word.is(")"_L1))
                 --depth;
             else if (depth == 0)
                 note(words, i);
@@ -34,11 +36,10 @@ struct Clauses
             const Word& table = words[from + 1];
             named = table.kind == Word::Kind::Name || table.kind == Word::Kind::QuotedName;
             for (size_t i = from + 2; i < end; ++i)
-                named =
-                    named && words[i].kind != Word::Kind::Symbol && !words[i].is(QLatin1StringView("join"));
+                named = named && words[i].kind != Word::Kind::Symbol && !words[i].is("join"_L1);
         }
         plain = named && !combined;
-        all = plain && from == 2 && words[1].is(QLatin1StringView("*"));
+        all = plain && from == 2 && words[1].is("*"_L1);
         body = std::min(order, words.size());
     }
 
@@ -62,8 +63,8 @@ private:
             if (place == none)
                 place = i;
         };
-        const bool called = i + 1 < words.size() && words[i + 1].is(QLatin1StringView("("));
-        const bool ordering = i + 1 < words.size() && words[i + 1].is(QLatin1StringView("by"));
+        const bool called = i + 1 < words.size() && words[i + 1].is("("_L1);
+        const bool ordering = i + 1 < words.size() && words[i + 1].is("by"_L1);
         if (isWord("from"))
             first(from);
         else if (isWord("where"))
@@ -87,24 +88,24 @@ QString reversedOrder(const Words& words, size_t first)
     size_t begin = first;
     for (size_t i = first; i <= words.size(); ++i) {
         const bool atEnd = i == words.size();
-        if (!atEnd && words[i].is(QLatin1StringView("(")))
+        if (!atEnd && words[i].is("("_L1))
             ++depth;
-        else if (!atEnd && words[i].is(QLatin1StringView(")")))
+        else if (!atEnd && words[i].is(")"_L1))
             --depth;
-        if (!atEnd && !(depth == 0 && words[i].is(QLatin1StringView(","))))
+        if (!atEnd && !(depth == 0 && words[i].is(","_L1)))
             continue;
         size_t end = i;
-        QString direction = QStringLiteral(" DESC");
-        if (end > begin && words[end - 1].is(QLatin1StringView("desc"))) {
+        QString direction = u" DESC"_s;
+        if (end > begin && words[end - 1].is("desc"_L1)) {
             direction.clear();
             --end;
-        } else if (end > begin && words[end - 1].is(QLatin1StringView("asc"))) {
+        } else if (end > begin && words[end - 1].is("asc"_L1)) {
             --end;
         }
         terms << join(words, begin, end) + direction;
         begin = i + 1;
     }
-    return terms.join(QStringLiteral(", "));
+    return terms.join(u", "_s);
 }
 
 Statement translateSelect(const Words& words)
@@ -114,33 +115,31 @@ Statement translateSelect(const Words& words)
     statement.isSelect = true;
     if (!clauses.plain) {
         statement.sql = join(words);
-        statement.countSql = QStringLiteral("SELECT count(*) FROM (") + statement.sql + u')';
+        statement.countSql = u"SELECT count(*) FROM ("_s + statement.sql + u')';
         return statement;
     }
     QString head = join(words, 0, clauses.body);
     if (clauses.all) {
         statement.table = words[clauses.from + 1].unquoted();
-        head = QStringLiteral("SELECT rowid, * ") + join(words, clauses.from, clauses.body);
+        head = u"SELECT rowid, * "_s + join(words, clauses.from, clauses.body);
     }
     // Equals come in order of insertion too, whatever index serves the order.
     const bool ordered = clauses.order != none;
     statement.sql = head + u' ' +
-                    (ordered ? join(words, clauses.order, words.size()) + QStringLiteral(", rowid")
-                             : QStringLiteral("ORDER BY rowid"));
-    const QString turned =
-        ordered ? reversedOrder(words, clauses.order + 2) + QStringLiteral(", ") : QString();
-    statement.reversed = head + QStringLiteral(" ORDER BY ") + turned + QStringLiteral("rowid DESC LIMIT 1");
-    statement.countSql = QStringLiteral("SELECT count(*) ") + join(words, clauses.from, clauses.body);
+                    (ordered ? join(words, clauses.order, words.size()) + u", rowid"_s : u"ORDER BY rowid"_s);
+    const QString turned = ordered ? reversedOrder(words, clauses.order + 2) + u", "_s : QString();
+    statement.reversed = head + u" ORDER BY "_s + turned + u"rowid DESC LIMIT 1"_s;
+    statement.countSql = u"SELECT count(*) "_s + join(words, clauses.from, clauses.body);
     return statement;
 }
 
 Words wordsOf(const QString& sql)
 {
     Words words = split(sql);
-    while (!words.empty() && words.back().is(QLatin1StringView(";")))
+    while (!words.empty() && words.back().is(";"_L1))
         words.pop_back();
     if (words.empty())
-        throw DatabaseError(QStringLiteral("The statement is empty."));
+        throw DatabaseError(u"The statement is empty."_s);
     return words;
 }
 
@@ -149,9 +148,9 @@ Words wordsOf(const QString& sql)
 Statement translate(const QString& sql)
 {
     Words words = wordsOf(sql);
-    if (words[0].is(QLatin1StringView("select")))
+    if (words[0].is("select"_L1))
         return translateSelect(words);
-    if (words[0].is(QLatin1StringView("delete")) && words.size() > 1 && words[1].is(QLatin1StringView("*")))
+    if (words[0].is("delete"_L1) && words.size() > 1 && words[1].is("*"_L1))
         words.erase(words.begin() + 1);
     Statement statement;
     statement.sql = join(words);
@@ -162,7 +161,7 @@ QString expandTableName(const QString& command)
 {
     const Words words = wordsOf(command);
     const bool table = words.size() == 1 && words[0].kind != Word::Kind::Symbol;
-    return table ? QStringLiteral("SELECT * FROM ") + command : command;
+    return table ? u"SELECT * FROM "_s + command : command;
 }
 
 QString withCondition(const QString& select, const QString& condition)
@@ -170,10 +169,10 @@ QString withCondition(const QString& select, const QString& condition)
     const Words words = wordsOf(select);
     const Clauses clauses(words);
     if (!clauses.plain)
-        return QStringLiteral("SELECT * FROM (%1) WHERE %2").arg(join(words), condition);
-    QString sql = join(words, 0, clauses.end) + QStringLiteral(" WHERE ") + condition;
+        return u"SELECT * FROM (%1) WHERE %2"_s.arg(join(words), condition);
+    QString sql = join(words, 0, clauses.end) + u" WHERE "_s + condition;
     if (clauses.where != none)
-        sql += QStringLiteral(" AND (") + join(words, clauses.where + 1, clauses.body) + u')';
+        sql += u" AND ("_s + join(words, clauses.where + 1, clauses.body) + u')';
     return sql + u' ' + join(words, clauses.body, words.size());
 }
 

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <sqlcipher/sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace ado {
 
 namespace {
@@ -15,10 +17,10 @@ QString quotedName(const QString& name) { return u'`' + name + u'`'; }
 QString literal(const QVariant& stored)
 {
     if (!stored.isValid())
-        return QStringLiteral("NULL");
+        return u"NULL"_s;
     if (stored.typeId() != QMetaType::QString)
         return toText(ColumnType::Double, stored);
-    return u'\'' + stored.toString().replace(u'\'', QLatin1String("''")) + u'\'';
+    return u'\'' + stored.toString().replace(u'\'', "''"_L1) + u'\'';
 }
 
 } // namespace
@@ -35,8 +37,8 @@ const QVariant& Recordset::Private::value(int column)
         current->untaken[place] = false;
     }
     if (current->unread && !current->isChanged(place)) {
-        auto rereading = base().prepare(QStringLiteral("SELECT rowid, * FROM ") + quotedName(words.table) +
-                                        QStringLiteral(" WHERE rowid=?"));
+        auto rereading =
+            base().prepare(u"SELECT rowid, * FROM "_s + quotedName(words.table) + u" WHERE rowid=?"_s);
         rereading->bind(1, QVariant(current->key));
         if (base().step(*rereading)) {
             RowPtr stored = readRow(*rereading);
@@ -90,13 +92,12 @@ void Recordset::Private::insert(Row& row)
         if (!row.isChanged(i))
             continue;
         names << quotedName(column(i).name);
-        marks << QStringLiteral("?");
+        marks << u"?"_s;
     }
-    const QString target = QStringLiteral("INSERT INTO ") + quotedName(words.table);
-    auto inserting =
-        base().prepare(names.isEmpty() ? QString(target + QStringLiteral(" DEFAULT VALUES"))
-                                       : QString(target + u'(' + names.join(u',') +
-                                                 QStringLiteral(") VALUES(") + marks.join(u',') + u')'));
+    const QString target = u"INSERT INTO "_s + quotedName(words.table);
+    auto inserting = base().prepare(names.isEmpty() ? QString(target + u" DEFAULT VALUES"_s)
+                                                    : QString(target + u'(' + names.join(u',') +
+                                                              u") VALUES("_s + marks.join(u',') + u')'));
     bindChanged(*inserting, row);
     base().beforeWrite(words.table);
     base().step(*inserting);
@@ -110,18 +111,17 @@ void Recordset::Private::update(Row& row)
     QStringList terms;
     for (size_t i = 0; i < row.values.size(); ++i) {
         if (row.isChanged(i))
-            terms << quotedName(column(i).name) + QStringLiteral("=?");
+            terms << quotedName(column(i).name) + u"=?"_s;
     }
-    auto updating =
-        base().prepare(QStringLiteral("UPDATE ") + quotedName(words.table) + QStringLiteral(" SET ") +
-                       terms.join(u',') + QStringLiteral(" WHERE rowid=?"));
+    auto updating = base().prepare(u"UPDATE "_s + quotedName(words.table) + u" SET "_s + terms.join(u',') +
+                                   u" WHERE rowid=?"_s);
     bindChanged(*updating, row);
     updating->bind(static_cast<int>(terms.size()) + 1, QVariant(row.key));
     base().beforeWrite(words.table);
     base().step(*updating);
     base().statements.giveBack(std::move(updating));
     if (sqlite3_changes(base().database) == 0)
-        throw DatabaseError(QStringLiteral("The row cannot be written: it has been deleted meanwhile."));
+        throw DatabaseError(u"The row cannot be written: it has been deleted meanwhile."_s);
 }
 
 // The public face
@@ -140,7 +140,7 @@ void Recordset::Open(const QString& sql)
     d->shape = dialect::parseShape(select);
     d->words = dialect::translate(d->shape ? d->shape->parentSql : select);
     if (!d->words.isSelect)
-        throw DatabaseError(QStringLiteral("A recordset opens on a select only: ") + sql);
+        throw DatabaseError(u"A recordset opens on a select only: "_s + sql);
     d->hiddenColumns = d->words.table.isEmpty() ? 0 : 1;
     d->runQuery();
     d->open = true;
@@ -200,7 +200,7 @@ QString Recordset::FieldName(int column) const
 Field Recordset::fieldAt(int column, QAnyStringView name)
 {
     if (column < 0 || column >= FieldCount())
-        throw DatabaseError(QStringLiteral("There is no field %1.").arg(name.toString()));
+        throw DatabaseError(u"There is no field %1."_s.arg(name.toString()));
     d->readBlock();
     if (!d->current)
         throw NoCurrentRecordError();
@@ -259,11 +259,10 @@ Recordset& Recordset::Chapter(const QString& name)
 {
     d->requireOpen();
     if (!d->shape || name.compare(d->shape->chapter, Qt::CaseInsensitive) != 0)
-        throw DatabaseError(QStringLiteral("There is no chapter ") + name);
+        throw DatabaseError(u"There is no chapter "_s + name);
     const QVariant key = (*this)[d->shape->parentField].stored();
-    const QString condition = key.isValid()
-                                  ? QString(quotedName(d->shape->childField) + u'=' + literal(key))
-                                  : QString(quotedName(d->shape->childField) + QStringLiteral(" IS NULL"));
+    const QString condition = key.isValid() ? QString(quotedName(d->shape->childField) + u'=' + literal(key))
+                                            : QString(quotedName(d->shape->childField) + u" IS NULL"_s);
     if (!d->chapter)
         d->chapter = std::make_unique<Recordset>(d->connection);
     d->chapter->Open(dialect::withCondition(d->shape->childSql, condition));

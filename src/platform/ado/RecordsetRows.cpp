@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace ado {
 
 namespace {
@@ -19,7 +21,13 @@ bool sameName(const QString& column, QAnyStringView name)
             const auto lower = [](char16_t letter) {
                 return letter >= u'A' && letter <= u'Z' ? char16_t(letter + (u'a' - u'A')) : letter;
             };
-            if (lower(column[i].unicode()) != lower(char16_t(QChar(letters[i]).unicode())))
+            const QChar letter = [](auto unit) {
+                if constexpr (std::is_convertible_v<decltype(unit), QChar>)
+                    return QChar(unit);
+                else
+                    return QChar::fromLatin1(unit); // column names are ASCII
+            }(letters[i]);
+            if (lower(column[i].unicode()) != lower(letter.unicode()))
                 return false;
         }
         return true;
@@ -33,13 +41,13 @@ bool sameName(const QString& column, QAnyStringView name)
 void Recordset::Private::requireOpen() const
 {
     if (!open)
-        throw DatabaseError(QStringLiteral("The recordset is closed."));
+        throw DatabaseError(u"The recordset is closed."_s);
 }
 
 void Recordset::Private::requireWritable() const
 {
     if (words.table.isEmpty())
-        throw DatabaseError(QStringLiteral("The rows of this query cannot be written."));
+        throw DatabaseError(u"The rows of this query cannot be written."_s);
 }
 
 int Recordset::Private::columnIndex(QAnyStringView name) const

@@ -3,6 +3,8 @@
 #include "platform/ado/DatabaseError.h"
 #include "platform/ado/Words.h"
 
+using namespace Qt::StringLiterals;
+
 namespace ado::dialect {
 
 namespace {
@@ -71,16 +73,15 @@ private:
         shape.chapter = alias;
         shape.parentField = group;
         shape.childField = group;
-        shape.parentSql =
-            QStringLiteral("SELECT sum(`%1`) AS `%2`, `%3` FROM (%4) GROUP BY `%3` ORDER BY `%3`")
-                .arg(summed, sumName, group, rows);
+        shape.parentSql = u"SELECT sum(`%1`) AS `%2`, `%3` FROM (%4) GROUP BY `%3` ORDER BY `%3`"_s.arg(
+            summed, sumName, group, rows);
         return shape;
     }
 
     QString readBraces()
     {
         const qsizetype begin = expect("{").end;
-        while (m_at < m_words.size() && !m_words[m_at].is(QLatin1StringView("}")))
+        while (m_at < m_words.size() && !m_words[m_at].is("}"_L1))
             ++m_at;
         const qsizetype end = expect("}").begin;
         return m_sql.mid(begin, end - begin).trimmed();
@@ -109,10 +110,7 @@ private:
         return m_words[m_at - 1];
     }
 
-    [[noreturn]] void fail() const
-    {
-        throw DatabaseError(QStringLiteral("Syntax error in SHAPE command: %1").arg(m_sql));
-    }
+    [[noreturn]] void fail() const { throw DatabaseError(u"Syntax error in SHAPE command: %1"_s.arg(m_sql)); }
 
     const QString m_sql;
     const Words m_words;
@@ -123,7 +121,7 @@ private:
 
 std::optional<Shape> parseShape(const QString& sql)
 {
-    if (!QStringView(sql).trimmed().startsWith(QLatin1StringView("shape"), Qt::CaseInsensitive))
+    if (!QStringView(sql).trimmed().startsWith("shape"_L1, Qt::CaseInsensitive))
         return std::nullopt;
     return ShapeReader(sql).read();
 }

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <sqlcipher/sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace ado {
 
 namespace {
@@ -38,7 +40,7 @@ Prepared::Prepared(sqlite3* database, const QString& sql)
                                   [](char c) { return c != ';' && !QChar::isSpace(static_cast<uchar>(c)); });
     if (!m_statement || more) {
         sqlite3_finalize(m_statement);
-        throw DatabaseError(QStringLiteral("Only one statement can be run at a time."));
+        throw DatabaseError(u"Only one statement can be run at a time."_s);
     }
     m_columns = readColumns(m_statement);
 }
@@ -59,7 +61,7 @@ QVariant Prepared::column(int index) const
     }
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(m_statement, index));
     const int bytes = sqlite3_column_bytes(m_statement, index);
-    return bytes == 0 ? QStringLiteral("") : QString::fromUtf8(text, bytes);
+    return bytes == 0 ? u""_s : QString::fromUtf8(text, bytes);
 }
 
 void Prepared::bind(int index, const QVariant& stored)

@@ -7,6 +7,8 @@
 
 #include <QDateTime>
 
+using namespace Qt::StringLiterals;
+
 namespace ado {
 
 namespace {
@@ -84,7 +86,7 @@ QVariant storedInteger(const QVariant& value)
 QString dateWithTime(const QDateTime& moment)
 {
     const QString date = values::CStr(moment.date());
-    return moment.time() == QTime(0, 0) ? date : date + moment.time().toString(QStringLiteral(" HH:mm:ss"));
+    return moment.time() == QTime(0, 0) ? date : date + moment.time().toString(u" HH:mm:ss"_s);
 }
 
 QVariant storedDateOf(const QVariant& value)
@@ -102,7 +104,7 @@ QVariant storedDateOf(const QVariant& value)
 QVariant storedText(const QVariant& value)
 {
     if (value.typeId() == QMetaType::QString)
-        return value.toString().isNull() ? QStringLiteral("") : value.toString();
+        return value.toString().isNull() ? u""_s : value.toString();
     if (value.typeId() == QMetaType::QDate || value.typeId() == QMetaType::QDateTime)
         return storedDateOf(value);
     if (isMoney(value))

@@ -3,6 +3,8 @@
 #include "platform/ado/DatabaseError.h"
 #include "platform/ado/StoredForm.h"
 
+using namespace Qt::StringLiterals;
+
 namespace ado::dialect {
 
 namespace {
@@ -23,8 +25,7 @@ qsizetype closing(const QString& sql, qsizetype begin, QChar mark)
             return i + 1;
         ++i;
     }
-    throw DatabaseError(
-        QStringLiteral("Syntax error in the statement: %1 is not closed: %2").arg(mark).arg(sql));
+    throw DatabaseError(u"Syntax error in the statement: %1 is not closed: %2"_s.arg(mark).arg(sql));
 }
 
 qsizetype numberEnd(const QString& sql, qsizetype begin)
@@ -52,7 +53,7 @@ QString dateText(const QString& marked)
 {
     const auto date = storedDate(marked.mid(1, marked.size() - 2));
     if (!date)
-        throw DatabaseError(QStringLiteral("Syntax error in date: %1").arg(marked));
+        throw DatabaseError(u"Syntax error in date: %1"_s.arg(marked));
     return u'\'' + *date + u'\'';
 }
 

@@ -4,17 +4,19 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace devices {
 
 QString serialPortName(int number, const QString& folder)
 {
 #ifdef Q_OS_WIN
     Q_UNUSED(folder)
-    return QStringLiteral("COM%1").arg(number);
+    return u"COM%1"_s.arg(number);
 #else
     QString path;
     for (const auto* kind : {"ttyUSB", "ttyACM", "ttyS"}) {
-        path = QStringLiteral("%1/%2%3").arg(folder, QLatin1String(kind)).arg(number - 1);
+        path = u"%1/%2%3"_s.arg(folder, QLatin1String(kind)).arg(number - 1);
         if (QFileInfo::exists(path))
             break;
     }

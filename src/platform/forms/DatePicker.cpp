@@ -5,6 +5,8 @@
 #include <QLocale>
 #include <QWheelEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace forms {
 
 DatePicker::DatePicker(QWidget* parent)
@@ -12,7 +14,7 @@ DatePicker::DatePicker(QWidget* parent)
 {
     setLocale(QLocale::c());
     setCalendarPopup(true);
-    setCustomFormat(QStringLiteral("dd-MMM-yyyy"));
+    setCustomFormat(u"dd-MMM-yyyy"_s);
     connect(this, &QDateEdit::dateChanged, this, &DatePicker::changed);
 }
 
@@ -55,7 +57,7 @@ bool DatePicker::typeMonth(const QKeyEvent& event)
 {
     const int digit = event.key() - Qt::Key_0;
     if (currentSection() != MonthSection || digit < 0 || digit > 9 || !date().isValid() ||
-        !displayFormat().contains(QLatin1String("MMM")))
+        !displayFormat().contains("MMM"_L1))
         return false;
     int month = m_monthTyped * 10 + digit;
     if (month > 12)

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+using namespace Qt::StringLiterals;
+
 namespace forms {
 
 namespace {
@@ -15,7 +17,7 @@ constexpr int iconSize = 24;
 /// The drawing of an icon; empty where there is none.
 QByteArray drawingOf(const QString& name)
 {
-    QFile file(QStringLiteral(":/icons/") + name + QStringLiteral(".svg"));
+    QFile file(u":/icons/"_s + name + u".svg"_s);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 

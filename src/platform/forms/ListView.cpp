@@ -76,9 +76,7 @@ public:
     QVariant data(const QModelIndex& index, int role) const override
     {
         if (role == Qt::DisplayRole)
-            return m_rows[size_t(index.row())]
-                .cells.value(index.column())
-                .replace(QLatin1Char('\n'), QLatin1Char(' '));
+            return m_rows[size_t(index.row())].cells.value(index.column()).replace(u'\n', u' ');
         if (role == Qt::TextAlignmentRole)
             return alignment(index.column());
         if (role == Qt::SizeHintRole)

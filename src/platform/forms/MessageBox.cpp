@@ -15,7 +15,7 @@ constexpr qsizetype mostLines = 25;
 /// What a screen can hold of a text.
 QString cut(const QString& text)
 {
-    QString shown = text.section(QLatin1Char('\n'), 0, mostLines - 1).left(longestText);
+    QString shown = text.section(u'\n', 0, mostLines - 1).left(longestText);
     if (shown.size() < text.size())
         shown += QChar(0x2026);
     return shown;

@@ -17,6 +17,8 @@
 #include <QWindow>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace forms {
 
 namespace {
@@ -58,7 +60,7 @@ bool guarded(QWidget* parent, const std::function<void()>& procedure)
     } catch (const std::exception& error) {
         text = QString::fromLocal8Bit(error.what());
     } catch (...) {
-        text = QStringLiteral("Unknown error");
+        text = u"Unknown error"_s;
     }
     QWidget* front = Screen::front();
     showError(over && over->isVisible() ? over.data() : front, text);

@@ -8,6 +8,8 @@
 #include <QRegularExpression>
 #include <QStyleFactory>
 
+using namespace Qt::StringLiterals;
+
 namespace forms {
 
 namespace {
@@ -17,14 +19,13 @@ constexpr double basePointSize = 10.5;
 void loadFonts(const QString& folder)
 {
     const QDir fonts(folder);
-    for (const QString& file :
-         fonts.entryList({QStringLiteral("*.otf"), QStringLiteral("*.ttf")}, QDir::Files))
+    for (const QString& file : fonts.entryList({u"*.otf"_s, u"*.ttf"_s}, QDir::Files))
         QFontDatabase::addApplicationFont(fonts.filePath(file));
 
-    const QString ours = QStringLiteral("Inter");
+    const QString ours = u"Inter"_s;
     for (const char* told : {"MS Sans Serif", "Trebuchet MS", "Verdana"})
         QFont::insertSubstitution(QString::fromLatin1(told), ours);
-    QFont::insertSubstitution(QStringLiteral("Kruti Dev 010"), QStringLiteral("Seamwise Devanagari"));
+    QFont::insertSubstitution(u"Kruti Dev 010"_s, u"Seamwise Devanagari"_s);
 }
 
 QPalette palette()
@@ -49,14 +50,12 @@ QPalette palette()
 
 QString expandStyleSheet(const QString& sheet)
 {
-    static const QRegularExpression definition(QStringLiteral("^@(\\w+):\\s*(.+);$"),
-                                               QRegularExpression::MultilineOption);
+    static const QRegularExpression definition(u"^@(\\w+):\\s*(.+);$"_s, QRegularExpression::MultilineOption);
     QString expanded = sheet;
     expanded.remove(definition);
     for (auto match = definition.globalMatch(sheet); match.hasNext();) {
         const auto found = match.next();
-        expanded.replace(QRegularExpression(u'@' + found.captured(1) + QStringLiteral("\\b")),
-                         found.captured(2));
+        expanded.replace(QRegularExpression(u'@' + found.captured(1) + u"\\b"_s), found.captured(2));
     }
     return expanded;
 }
@@ -64,12 +63,12 @@ QString expandStyleSheet(const QString& sheet)
 void applyTheme(QApplication& application, const QString& fontFolder)
 {
     loadFonts(fontFolder);
-    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    application.setStyle(QStyleFactory::create(u"Fusion"_s));
     application.setPalette(palette());
-    QFont base(QStringLiteral("Inter"));
+    QFont base(u"Inter"_s);
     base.setPointSizeF(basePointSize);
     application.setFont(base);
-    QFile sheet(QStringLiteral(":/style.qss"));
+    QFile sheet(u":/style.qss"_s);
     if (sheet.open(QIODevice::ReadOnly))
         application.setStyleSheet(expandStyleSheet(QString::fromUtf8(sheet.readAll())));
 }

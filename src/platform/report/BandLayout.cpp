@@ -3,6 +3,8 @@
 #include <QFontMetricsF>
 #include <QTextLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace report {
 
 namespace {
@@ -21,7 +23,7 @@ QFont fontOf(const TextControl& control, const Report& report)
 
 QStringList paragraphs(QString text)
 {
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n').replace(u'\t', u' ');
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(u'\t', u' ');
     QStringList result = text.split(u'\n');
     while (result.size() > 1 && result.last().trimmed().isEmpty())
         result.removeLast();

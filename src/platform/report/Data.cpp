@@ -6,6 +6,8 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace report {
 
 namespace {
@@ -36,7 +38,7 @@ QVariant Row::value(const QString& field) const
     if (found != m_values.end())
         return found->second;
     if (!m_values.empty())
-        throw std::logic_error(QStringLiteral("No field %1 in the report's rows").arg(field).toStdString());
+        throw std::logic_error(u"No field %1 in the report's rows"_s.arg(field).toStdString());
     return {};
 }
 

@@ -5,6 +5,8 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace report {
 
 namespace {
@@ -194,8 +196,7 @@ void PageFiller::finish()
         }
         for (Piece& piece : m_pages[page]) {
             if (auto* text = std::get_if<TextPiece>(&piece); text && text->counted)
-                text->text.replace(QStringLiteral("%p"), QString::number(page + 1))
-                    .replace(QStringLiteral("%P"), count);
+                text->text.replace(u"%p"_s, QString::number(page + 1)).replace(u"%P"_s, count);
         }
     }
 }

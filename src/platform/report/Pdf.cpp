@@ -10,6 +10,8 @@
 #include <QPdfWriter>
 #include <QSaveFile>
 
+using namespace Qt::StringLiterals;
+
 namespace report {
 
 QByteArray pdf(const Pages& pages, const QString& title, int first, int last)
@@ -19,7 +21,7 @@ QByteArray pdf(const Pages& pages, const QString& title, int first, int last)
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setTitle(title);
-    writer.setCreator(QStringLiteral("Seamwise"));
+    writer.setCreator(u"Seamwise"_s);
     writer.setResolution(twipsPerInch);
     writer.setPageSize(QPageSize(pages.size() / 20, QPageSize::Point, {}, QPageSize::ExactMatch));
     writer.setPageMargins({});
@@ -41,7 +43,7 @@ void saveFile(const QByteArray& content, const QString& path)
     const bool written =
         file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(content) == content.size();
     if (!written || !file.commit())
-        throw OperatorError(QDir::toNativeSeparators(path) + QStringLiteral("\n\n") + file.errorString());
+        throw OperatorError(QDir::toNativeSeparators(path) + u"\n\n"_s + file.errorString());
 }
 
 } // namespace report

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace report {
 
 namespace {
@@ -20,7 +22,7 @@ constexpr double zoomStep = 1.25;
 constexpr int iconButtonWidth = 38;
 constexpr int labelGap = 14;
 
-QString pageText(int page, int count) { return QStringLiteral("Page %1 of %2").arg(page).arg(count); }
+QString pageText(int page, int count) { return u"Page %1 of %2"_s.arg(page).arg(count); }
 
 } // namespace
 
@@ -30,7 +32,7 @@ Preview::Preview(const Report& report, QWidget* parent)
     , m_pages(report)
     , m_view(new PageView(m_pages, this))
 {
-    setObjectName(QStringLiteral("Preview"));
+    setObjectName(u"Preview"_s);
     setWindowTitle(report.Title);
     auto* tools = new QHBoxLayout;
     tools->setSpacing(4);
@@ -39,49 +41,42 @@ Preview::Preview(const Report& report, QWidget* parent)
         return button;
     };
     QPushButton* first =
-        add(addButton(QStringLiteral("cmdPrint"), QStringLiteral("&Print"), QStringLiteral("print"),
-                      QStringLiteral("Ctrl+P"), [this] { print(); }));
+        add(addButton(u"cmdPrint"_s, u"&Print"_s, u"print"_s, u"Ctrl+P"_s, [this] { print(); }));
     first->setProperty("primary", true);
-    add(addButton(QStringLiteral("cmdSavePdf"), QStringLiteral("&Save as PDF"), QStringLiteral("pdf"),
-                  QStringLiteral("Ctrl+S"), [this] { saveAsPdf(); }));
+    add(addButton(u"cmdSavePdf"_s, u"&Save as PDF"_s, u"pdf"_s, u"Ctrl+S"_s, [this] { saveAsPdf(); }));
     tools->addStretch();
-    cmdFirst = add(addButton(QStringLiteral("cmdFirst"), {}, QStringLiteral("first"),
-                             QStringLiteral("First page (Home)"), [this] { m_view->turnTo(0); }));
-    cmdPrevious = add(addButton(QStringLiteral("cmdPrevious"), {}, QStringLiteral("previous"),
-                                QStringLiteral("Page before (Page Up)"),
+    cmdFirst =
+        add(addButton(u"cmdFirst"_s, {}, u"first"_s, u"First page (Home)"_s, [this] { m_view->turnTo(0); }));
+    cmdPrevious = add(addButton(u"cmdPrevious"_s, {}, u"previous"_s, u"Page before (Page Up)"_s,
                                 [this] { m_view->turnTo(m_view->page() - 1); }));
     lblPage = new QLabel;
-    lblPage->setObjectName(QStringLiteral("lblPage"));
+    lblPage->setObjectName(u"lblPage"_s);
     lblPage->setAlignment(Qt::AlignCenter);
     lblPage->setMinimumWidth(fontMetrics().horizontalAdvance(pageText(m_pages.count(), m_pages.count())) +
                              labelGap);
     tools->addWidget(lblPage);
-    cmdNext = add(addButton(QStringLiteral("cmdNext"), {}, QStringLiteral("next"),
-                            QStringLiteral("Next page (Page Down)"),
+    cmdNext = add(addButton(u"cmdNext"_s, {}, u"next"_s, u"Next page (Page Down)"_s,
                             [this] { m_view->turnTo(m_view->page() + 1); }));
-    cmdLast =
-        add(addButton(QStringLiteral("cmdLast"), {}, QStringLiteral("last"),
-                      QStringLiteral("Last page (End)"), [this] { m_view->turnTo(m_pages.count() - 1); }));
+    cmdLast = add(addButton(u"cmdLast"_s, {}, u"last"_s, u"Last page (End)"_s,
+                            [this] { m_view->turnTo(m_pages.count() - 1); }));
     tools->addStretch();
-    add(addButton(QStringLiteral("cmdZoomOut"), {}, QStringLiteral("zoom-out"), QStringLiteral("Smaller (-)"),
+    add(addButton(u"cmdZoomOut"_s, {}, u"zoom-out"_s, u"Smaller (-)"_s,
                   [this] { m_view->setZoom(m_view->zoom() / zoomStep); }));
     lblZoom = new QLabel;
-    lblZoom->setObjectName(QStringLiteral("lblZoom"));
+    lblZoom->setObjectName(u"lblZoom"_s);
     lblZoom->setAlignment(Qt::AlignCenter);
-    lblZoom->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("500 %")) + labelGap);
+    lblZoom->setMinimumWidth(fontMetrics().horizontalAdvance(u"500 %"_s) + labelGap);
     tools->addWidget(lblZoom);
-    add(addButton(QStringLiteral("cmdZoomIn"), {}, QStringLiteral("zoom-in"), QStringLiteral("Larger (+)"),
+    add(addButton(u"cmdZoomIn"_s, {}, u"zoom-in"_s, u"Larger (+)"_s,
                   [this] { m_view->setZoom(m_view->zoom() * zoomStep); }));
-    add(addButton(QStringLiteral("cmdFullSize"), QStringLiteral("100 %"), {},
-                  QStringLiteral("Paper's own size (1)"), [this] { m_view->setZoom(1); }));
-    add(addButton(QStringLiteral("cmdFitWidth"), {}, QStringLiteral("fit-width"),
-                  QStringLiteral("As wide as the screen (2)"),
+    add(addButton(u"cmdFullSize"_s, u"100 %"_s, {}, u"Paper's own size (1)"_s,
+                  [this] { m_view->setZoom(1); }));
+    add(addButton(u"cmdFitWidth"_s, {}, u"fit-width"_s, u"As wide as the screen (2)"_s,
                   [this] { m_view->setFit(PageView::Fit::Width); }));
-    add(addButton(QStringLiteral("cmdFitPage"), {}, QStringLiteral("fit-page"),
-                  QStringLiteral("Whole page (3)"), [this] { m_view->setFit(PageView::Fit::Page); }));
+    add(addButton(u"cmdFitPage"_s, {}, u"fit-page"_s, u"Whole page (3)"_s,
+                  [this] { m_view->setFit(PageView::Fit::Page); }));
     tools->addStretch();
-    add(addButton(QStringLiteral("cmdClose"), QStringLiteral("&Close"), {}, QStringLiteral("Esc"),
-                  [this] { unload(); }));
+    add(addButton(u"cmdClose"_s, u"&Close"_s, {}, u"Esc"_s, [this] { unload(); }));
 
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(16, 12, 16, 16);
@@ -89,7 +84,7 @@ Preview::Preview(const Report& report, QWidget* parent)
     all->addLayout(tools);
     all->addWidget(m_view, 1);
     forms::applyIcons(*this, forms::iconInk);
-    first->setIcon(forms::lineIcon(QStringLiteral("print"), forms::iconLight));
+    first->setIcon(forms::lineIcon(u"print"_s, forms::iconLight));
     connect(m_view, &PageView::viewChanged, this, &Preview::refresh);
     useScreenHeight(shareOfScreen);
 }
@@ -120,7 +115,7 @@ void Preview::Form_Load()
 void Preview::refresh()
 {
     lblPage->setText(pageText(m_view->page() + 1, m_pages.count()));
-    lblZoom->setText(QStringLiteral("%1 %").arg(qRound(m_view->zoom() * 100)));
+    lblZoom->setText(u"%1 %"_s.arg(qRound(m_view->zoom() * 100)));
     const bool before = m_view->page() > 0;
     const bool behind = m_view->page() < m_pages.count() - 1;
     cmdFirst->setEnabled(before);
@@ -174,12 +169,12 @@ void Preview::print() { PrintDialog(m_report.Title, m_pages, this).showModal(); 
 
 void Preview::saveAsPdf()
 {
-    QFileDialog dialog(this, QStringLiteral("Save as PDF"), {}, QStringLiteral("PDF files (*.pdf)"));
+    QFileDialog dialog(this, u"Save as PDF"_s, {}, u"PDF files (*.pdf)"_s);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    dialog.setDefaultSuffix(u"pdf"_s);
     dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    dialog.selectFile(m_report.Title + QStringLiteral(".pdf"));
+    dialog.selectFile(m_report.Title + u".pdf"_s);
     if (dialog.exec() == QDialog::Accepted)
         saveFile(pdf(m_pages, m_report.Title), dialog.selectedFiles().constFirst());
 }

@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+using namespace Qt::StringLiterals;
+
 namespace report {
 
 namespace {
@@ -33,14 +35,14 @@ PrintDialog::PrintDialog(const QString& title, const Pages& pages, QWidget* pare
     , m_title(title)
     , m_pages(pages)
     , cmbPrinter(new QComboBox)
-    , txtCopies(numberBox(QStringLiteral("txtCopies"), mostCopies, 1))
-    , txtFrom(numberBox(QStringLiteral("txtFrom"), pages.count(), 1))
-    , txtTo(numberBox(QStringLiteral("txtTo"), pages.count(), pages.count()))
+    , txtCopies(numberBox(u"txtCopies"_s, mostCopies, 1))
+    , txtFrom(numberBox(u"txtFrom"_s, pages.count(), 1))
+    , txtTo(numberBox(u"txtTo"_s, pages.count(), pages.count()))
 {
-    setObjectName(QStringLiteral("PrintDialog"));
-    setWindowTitle(QStringLiteral("Print"));
-    cmbPrinter->setObjectName(QStringLiteral("cmbPrinter"));
-    cmbPrinter->addItem(QStringLiteral("Default printer"), QString());
+    setObjectName(u"PrintDialog"_s);
+    setWindowTitle(u"Print"_s);
+    cmbPrinter->setObjectName(u"cmbPrinter"_s);
+    cmbPrinter->addItem(u"Default printer"_s, QString());
     cmbPrinter->setMinimumWidth(280);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(24, 24, 24, 24);
@@ -52,16 +54,16 @@ PrintDialog::PrintDialog(const QString& title, const Pages& pages, QWidget* pare
         grid->addWidget(label, row, 0);
         grid->addWidget(field, row, 1);
     };
-    add(0, QStringLiteral("P&rinter :"), cmbPrinter);
-    add(1, QStringLiteral("&Copies :"), txtCopies);
-    add(2, QStringLiteral("&From page :"), txtFrom);
-    add(3, QStringLiteral("&To page :"), txtTo);
+    add(0, u"P&rinter :"_s, cmbPrinter);
+    add(1, u"&Copies :"_s, txtCopies);
+    add(2, u"&From page :"_s, txtFrom);
+    add(3, u"&To page :"_s, txtTo);
 
-    auto* printing = new QPushButton(QStringLiteral("&Print"));
-    printing->setObjectName(QStringLiteral("cmdPrint"));
+    auto* printing = new QPushButton(u"&Print"_s);
+    printing->setObjectName(u"cmdPrint"_s);
     printing->setProperty("primary", true);
-    auto* cancel = new QPushButton(QStringLiteral("Cancel"));
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
+    auto* cancel = new QPushButton(u"Cancel"_s);
+    cancel->setObjectName(u"cmdCancel"_s);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(printing);

@@ -11,6 +11,8 @@
 #include <QProcess>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace report {
 
 namespace {
@@ -106,16 +108,14 @@ void tellEnd(SpoolerRun::End end, const QString& title, const QString& complaint
     case SpoolerRun::End::Done:
         return;
     case SpoolerRun::End::Missing:
-        tellFailure(QStringLiteral("\"%1\" was not printed: this computer has no print system (the program "
-                                   "\"lp\" is missing).")
-                        .arg(title));
+        tellFailure(u"\"%1\" was not printed: this computer has no print system (the program "
+                    "\"lp\" is missing)."_s.arg(title));
         return;
     case SpoolerRun::End::Refused:
-        tellFailure(QStringLiteral("\"%1\" was not printed.\n\n%2").arg(title, complaint));
+        tellFailure(u"\"%1\" was not printed.\n\n%2"_s.arg(title, complaint));
         return;
     case SpoolerRun::End::Silent:
-        tellFailure(
-            QStringLiteral("The printer does not answer. \"%1\" may not have been printed.").arg(title));
+        tellFailure(u"The printer does not answer. \"%1\" may not have been printed."_s.arg(title));
         return;
     }
 }
@@ -126,10 +126,10 @@ void setPrintPatience(int milliseconds) { patience = milliseconds; }
 
 void print(const PrintJob& job)
 {
-    QStringList arguments{QStringLiteral("-t"), job.title, QStringLiteral("-n"), QString::number(job.copies)};
+    QStringList arguments{u"-t"_s, job.title, u"-n"_s, QString::number(job.copies)};
     if (!job.printer.isEmpty())
-        arguments << QStringLiteral("-d") << job.printer;
-    new SpoolerRun(QStringLiteral("lp"), arguments, job.pdf,
+        arguments << u"-d"_s << job.printer;
+    new SpoolerRun(u"lp"_s, arguments, job.pdf,
                    [title = job.title](SpoolerRun::End end, const QByteArray&, const QString& complaint) {
                        tellEnd(end, title, complaint);
                    });
@@ -145,15 +145,15 @@ void printPicture(const QString& path, int left, int top)
     const QImage picture = forms::loadPicture(path, finestPicture).toImage();
     if (picture.isNull())
         throw OperatorError(QDir::toNativeSeparators(path) +
-                            QStringLiteral("\n\nThis file holds no picture that can be printed."));
+                            u"\n\nThis file holds no picture that can be printed."_s);
     Report page(path.section(u'/', -1));
     page.LeftMargin = page.TopMargin = page.RightMargin = page.BottomMargin = 0;
     const QSize room(page.pageWidth() - 2 * left, page.pageHeight() - 2 * top);
     QSize size = picture.size() * twipsPerPixel;
     if (size.boundedTo(room) != size)
         size.scale(room, Qt::KeepAspectRatio);
-    Image& image = page.addSection(QStringLiteral("Picture"), Band::ReportHead, top + size.height())
-                       .addImage(QStringLiteral("Picture"));
+    Image& image =
+        page.addSection(u"Picture"_s, Band::ReportHead, top + size.height()).addImage(u"Picture"_s);
     image.Picture = picture;
     image.place(left, top, size.width(), size.height());
     printDirect(page);
@@ -162,7 +162,7 @@ void printPicture(const QString& path, int left, int top)
 void askPrinters(QObject* context, std::function<void(const QStringList&)> answer)
 {
     const QPointer<QObject> asking = context;
-    new SpoolerRun(QStringLiteral("lpstat"), {QStringLiteral("-e")}, {},
+    new SpoolerRun(u"lpstat"_s, {u"-e"_s}, {},
                    [asking, answer](SpoolerRun::End end, const QByteArray& output, const QString&) {
                        if (!asking)
                            return;

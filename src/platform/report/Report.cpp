@@ -2,13 +2,15 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace report {
 
 namespace {
 
 [[noreturn]] void missing(const QString& what, const QString& where)
 {
-    throw std::logic_error((QStringLiteral("No %1 on %2").arg(what, where)).toStdString());
+    throw std::logic_error((u"No %1 on %2"_s.arg(what, where)).toStdString());
 }
 
 bool isNamed(const QString& name, const QString& wanted)

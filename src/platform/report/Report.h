@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/report/Data.h"
+#include "platform/values/Literals.h"
 
 #include <QImage>
 #include <QSizeF>
@@ -165,7 +166,7 @@ public:
     int TopMargin = 720;
     int RightMargin = 720;
     int BottomMargin = 720;
-    QString FontFamily = QStringLiteral("Verdana");
+    QString FontFamily = u"Verdana"_s;
 
     int pageWidth() const { return mm(PageSize.width()); }
     int pageHeight() const { return mm(PageSize.height()); }

@@ -30,14 +30,13 @@ QString Currency::toString() const
 {
     const bool negative = m_units < 0;
     // Negating the smallest number would overflow; its digits do not.
-    QString text =
-        QString::number(m_units).mid(negative ? 1 : 0).rightJustified(decimals + 1, QLatin1Char('0'));
-    text.insert(text.size() - decimals, QLatin1Char('.'));
-    while (text.endsWith(QLatin1Char('0')))
+    QString text = QString::number(m_units).mid(negative ? 1 : 0).rightJustified(decimals + 1, u'0');
+    text.insert(text.size() - decimals, u'.');
+    while (text.endsWith(u'0'))
         text.chop(1);
-    if (text.endsWith(QLatin1Char('.')))
+    if (text.endsWith(u'.'))
         text.chop(1);
-    return negative ? QLatin1Char('-') + text : text;
+    return negative ? u'-' + text : text;
 }
 
 Currency Currency::operator+(Currency other) const

@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace values {
 
 namespace {
@@ -39,7 +41,7 @@ int monthNumber(const QString& name)
 /// A date as the file keeps it, "2024-02-10"; invalid for any other text.
 QDate readStored(const QString& text)
 {
-    if (text.size() != 10 || text[4] != QLatin1Char('-') || text[7] != QLatin1Char('-'))
+    if (text.size() != 10 || text[4] != u'-' || text[7] != u'-')
         return {};
     int numbers[3] = {};
     for (int i = 0, part = 0; i < 10; ++i) {
@@ -57,12 +59,12 @@ QDate readStored(const QString& text)
 QString formatRun(const QDate& date, QChar letter, qsizetype length)
 {
     const auto digits = [](int number, qsizetype width) {
-        return QString::number(number).rightJustified(width, QLatin1Char('0'));
+        return QString::number(number).rightJustified(width, u'0');
     };
     const auto nameFormat = length == 3 ? QLocale::ShortFormat : QLocale::LongFormat;
-    if (letter == QLatin1Char('d'))
+    if (letter == u'd')
         return length <= 2 ? digits(date.day(), length) : QLocale::c().dayName(date.dayOfWeek(), nameFormat);
-    if (letter == QLatin1Char('m'))
+    if (letter == u'm')
         return length <= 2 ? digits(date.month(), length) : monthName(date.month(), nameFormat);
     return length <= 2 ? digits(date.year() % 100, 2) : digits(date.year(), 4);
 }
@@ -75,14 +77,10 @@ QDate readDate(const QString& text)
 {
     if (const QDate stored = readStored(text); stored.isValid())
         return stored;
-    static const QString time =
-        QStringLiteral("(?:[ T]+\\d{1,2}:\\d{2}(?::\\d{2}(?:\\.\\d+)?)?(?: ?[AaPp][Mm])?)?");
-    static const QRegularExpression yearFirst(QStringLiteral("^(\\d{4})[-/](\\d{1,2})[-/](\\d{1,2})") + time +
-                                              QStringLiteral("$"));
-    static const QRegularExpression named(QStringLiteral("^(\\d{1,2})[-/ ]([A-Za-z]+)[-/ ](\\d{4})") + time +
-                                          QStringLiteral("$"));
-    static const QRegularExpression yearLast(QStringLiteral("^(\\d{1,2})[-/](\\d{1,2})[-/](\\d{4})") + time +
-                                             QStringLiteral("$"));
+    static const QString time = u"(?:[ T]+\\d{1,2}:\\d{2}(?::\\d{2}(?:\\.\\d+)?)?(?: ?[AaPp][Mm])?)?"_s;
+    static const QRegularExpression yearFirst(u"^(\\d{4})[-/](\\d{1,2})[-/](\\d{1,2})"_s + time + u"$"_s);
+    static const QRegularExpression named(u"^(\\d{1,2})[-/ ]([A-Za-z]+)[-/ ](\\d{4})"_s + time + u"$"_s);
+    static const QRegularExpression yearLast(u"^(\\d{1,2})[-/](\\d{1,2})[-/](\\d{4})"_s + time + u"$"_s);
 
     const QString trimmed = text.trimmed();
     if (const auto match = yearFirst.match(trimmed); match.hasMatch())
@@ -117,8 +115,7 @@ QString Format(const QDate& date, const QString& pattern)
         qsizetype end = i + 1;
         while (end < pattern.size() && pattern[end].toLower() == letter)
             ++end;
-        const bool isField =
-            letter == QLatin1Char('d') || letter == QLatin1Char('m') || letter == QLatin1Char('y');
+        const bool isField = letter == u'd' || letter == u'm' || letter == u'y';
         text += isField ? formatRun(date, letter, end - i) : pattern.mid(i, end - i);
         i = end;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/values/Literals.h"
+
 #include <QString>
 #include <stdexcept>
 
@@ -24,7 +26,7 @@ class OverflowError : public OperatorError
 {
 public:
     OverflowError()
-        : OperatorError(QStringLiteral("Overflow"))
+        : OperatorError(u"Overflow"_s)
     {
     }
 };
@@ -34,7 +36,7 @@ class TypeMismatchError : public OperatorError
 {
 public:
     TypeMismatchError()
-        : OperatorError(QStringLiteral("Type mismatch"))
+        : OperatorError(u"Type mismatch"_s)
     {
     }
 };
@@ -44,7 +46,7 @@ class SubscriptError : public OperatorError
 {
 public:
     SubscriptError()
-        : OperatorError(QStringLiteral("Subscript out of range"))
+        : OperatorError(u"Subscript out of range"_s)
     {
     }
 };

@@ -8,13 +8,15 @@
 #include <limits>
 #include <map>
 
+using namespace Qt::StringLiterals;
+
 namespace values {
 
 namespace {
 
-bool isDigit(QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }
+bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
 
-bool isSign(QChar c) { return c == QLatin1Char('+') || c == QLatin1Char('-'); }
+bool isSign(QChar c) { return c == u'+' || c == u'-'; }
 
 /// Walks over a text and copies what belongs to its leading number. Blanks count for nothing, wherever they
 /// stand.
@@ -31,7 +33,7 @@ public:
         if (isSign(peek()))
             take();
         bool any = takeDigits();
-        if (peek() == QLatin1Char('.')) {
+        if (peek() == u'.') {
             take();
             any = takeDigits() || any;
         }
@@ -58,7 +60,7 @@ private:
     }
     void takeExponent()
     {
-        if (peek().toLower() != QLatin1Char('e'))
+        if (peek().toLower() != u'e')
             return;
         const QByteArray mantissa = m_number;
         take();
@@ -97,37 +99,37 @@ struct NumberPattern
     explicit NumberPattern(const QString& section)
     {
         qsizetype begin = 0;
-        while (begin < section.size() && !QStringLiteral("0#").contains(section[begin]))
+        while (begin < section.size() && !u"0#"_s.contains(section[begin]))
             ++begin;
         qsizetype end = begin;
-        while (end < section.size() && QStringLiteral("0#,.").contains(section[end]))
+        while (end < section.size() && u"0#,."_s.contains(section[end]))
             ++end;
         before = section.left(begin);
         after = section.mid(end);
         const QString body = section.mid(begin, end - begin);
-        const QString whole = body.section(QLatin1Char('.'), 0, 0);
-        const QString fraction = body.section(QLatin1Char('.'), 1);
-        grouped = whole.contains(QLatin1Char(','));
-        minWhole = static_cast<int>(whole.count(QLatin1Char('0')));
-        minPlaces = static_cast<int>(fraction.count(QLatin1Char('0')));
-        maxPlaces = minPlaces + static_cast<int>(fraction.count(QLatin1Char('#')));
+        const QString whole = body.section(u'.', 0, 0);
+        const QString fraction = body.section(u'.', 1);
+        grouped = whole.contains(u',');
+        minWhole = static_cast<int>(whole.count(u'0'));
+        minPlaces = static_cast<int>(fraction.count(u'0'));
+        maxPlaces = minPlaces + static_cast<int>(fraction.count(u'#'));
     }
 
     QString text(const Decimal& rounded) const
     {
         QString whole = QString::fromLatin1(rounded.digits.chopped(rounded.places));
         QString fraction = QString::fromLatin1(rounded.digits.last(rounded.places));
-        while (fraction.size() > minPlaces && fraction.endsWith(QLatin1Char('0')))
+        while (fraction.size() > minPlaces && fraction.endsWith(u'0'))
             fraction.chop(1);
-        if (minWhole == 0 && whole == QLatin1String("0"))
+        if (minWhole == 0 && whole == "0"_L1)
             whole.clear();
-        whole = whole.rightJustified(minWhole, QLatin1Char('0'));
+        whole = whole.rightJustified(minWhole, u'0');
         if (grouped) {
             for (qsizetype at = whole.size() - 3; at > 0; at -= 3)
-                whole.insert(at, QLatin1Char(','));
+                whole.insert(at, u',');
         }
         if (!fraction.isEmpty())
-            fraction.prepend(QLatin1Char('.'));
+            fraction.prepend(u'.');
         return before + whole + fraction + after;
     }
 
@@ -143,9 +145,9 @@ struct NumberPattern
 struct Pattern
 {
     explicit Pattern(const QString& pattern)
-        : main(pattern.section(QLatin1Char(';'), 0, 0))
-        , negative(pattern.section(QLatin1Char(';'), 1, 1))
-        , hasNegative(!pattern.section(QLatin1Char(';'), 1, 1).isEmpty())
+        : main(pattern.section(u';', 0, 0))
+        , negative(pattern.section(u';', 1, 1))
+        , hasNegative(!pattern.section(u';', 1, 1).isEmpty())
     {
     }
     NumberPattern main;
@@ -180,7 +182,7 @@ qint32 toInt32(qint64 number) { return narrow<qint32>(number); }
 QString CStr(double number)
 {
     if (number == 0.0)
-        return QStringLiteral("0");
+        return u"0"_s;
     const char form = std::fabs(number) < 1e15 ? 'f' : 'g';
     return QString::number(number, form, QLocale::FloatingPointShortest);
 }
@@ -195,9 +197,9 @@ QString Format(double number, const QString& pattern)
     rounded.round((ownSection ? sections.negative : sections.main).maxPlaces, Decimal::Half::AwayFromZero);
     if (!rounded.negative || rounded.isZero())
         return sections.main.text(rounded);
-    return ownSection ? sections.negative.text(rounded) : QLatin1Char('-') + sections.main.text(rounded);
+    return ownSection ? sections.negative.text(rounded) : u'-' + sections.main.text(rounded);
 }
 
-QString formatMoneyText(const QString& text) { return Format(Val(text), QStringLiteral("0.00")); }
+QString formatMoneyText(const QString& text) { return Format(Val(text), u"0.00"_s); }
 
 } // namespace values

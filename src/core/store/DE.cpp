@@ -1,6 +1,8 @@
-#include "core/DE.h"
+#include "core/store/DE.h"
 
-#include "core/Schema.h"
+#include "core/store/Schema.h"
+
+using namespace Qt::StringLiterals;
 
 DataEnvironment DE;
 
@@ -36,14 +38,14 @@ void DataEnvironment::ensureIndexes()
     try {
         QStringList present;
         ado::Recordset names(m_connection);
-        for (names.Open(QStringLiteral("Select name from sqlite_master where type='index'")); !names.AtEOF();
+        for (names.Open(u"Select name from sqlite_master where type='index'"_s); !names.AtEOF();
              names.MoveNext())
             present << names[0].text();
         names.Close();
         QStringList statements;
         for (const Index& index : indexes)
             if (const QLatin1String name(index.name); !present.contains(name))
-                statements << QStringLiteral("CREATE INDEX %1 ON %2").arg(name, QLatin1String(index.columns));
+                statements << u"CREATE INDEX %1 ON %2"_s.arg(name, QLatin1String(index.columns));
         if (statements.isEmpty()) // the usual start takes no lock on the file
             return;
         m_connection.writeBatch([&] {

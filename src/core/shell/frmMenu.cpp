@@ -1,4 +1,4 @@
-#include "core/frmMenu.h"
+#include "core/shell/frmMenu.h"
 
 #include "planning/frmRatings.h"
 #include "platform/forms/Icons.h"

@@ -1,17 +1,19 @@
-#include "core/frmAbout.h"
+#include "core/shell/frmAbout.h"
 
-#include "core/Schema.h"
+#include "core/store/Schema.h"
 #include "platform/forms/Icons.h"
 #include "ui_frmAbout.h"
 
 #include <QCoreApplication>
 #include <QVersionNumber>
 
+using namespace Qt::StringLiterals;
+
 frmAbout::frmAbout()
     : ui(std::make_unique<Ui::frmAbout>())
 {
     ui->setupUi(this);
-    ui->Image1->setPixmap(forms::picture(QStringLiteral("app"), 104));
+    ui->Image1->setPixmap(forms::picture(u"app"_s, 104));
     on(ui->Command1, &QPushButton::clicked, &frmAbout::unload);
 }
 
@@ -20,7 +22,7 @@ frmAbout::~frmAbout() = default;
 void frmAbout::Form_Load()
 {
     const int major = QVersionNumber::fromString(QCoreApplication::applicationVersion()).majorVersion();
-    ui->lblAppVer->setText(QStringLiteral("Version : %1").arg(major));
-    ui->lblDBVer->setText(QStringLiteral("Database Version : %1").arg(DatabaseVersion));
-    ui->lblInfo->setText(QStringLiteral("Build Date : 2-March-2012"));
+    ui->lblAppVer->setText(u"Version : %1"_s.arg(major));
+    ui->lblDBVer->setText(u"Database Version : %1"_s.arg(DatabaseVersion));
+    ui->lblInfo->setText(u"Build Date : 2-March-2012"_s);
 }

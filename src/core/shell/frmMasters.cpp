@@ -1,4 +1,4 @@
-#include "core/frmMasters.h"
+#include "core/shell/frmMasters.h"
 
 #include "accounts/frmAccountsList.h"
 #include "masters/frmClients.h"

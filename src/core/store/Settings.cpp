@@ -1,12 +1,14 @@
-#include "core/Settings.h"
+#include "core/store/Settings.h"
 
-#include "core/DE.h"
+#include "core/store/DE.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 QString settingQuery(qint32 number)
 {
-    return QStringLiteral("Select * from Settings where SETTING='") + QString::number(number) + u'\'';
+    return u"Select * from Settings where SETTING='"_s + QString::number(number) + u'\'';
 }
 
 } // namespace

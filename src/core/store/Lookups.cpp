@@ -1,11 +1,13 @@
-#include "core/Lookups.h"
+#include "core/store/Lookups.h"
 
-#include "core/DE.h"
+#include "core/store/DE.h"
 #include "platform/values/Dates.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-QString quoted(const QString& text) { return QString(text).replace(u'\'', QLatin1String("''")); }
+QString quoted(const QString& text) { return QString(text).replace(u'\'', "''"_L1); }
 
 /// Reads with `read` from the first row of the query.
 template <typename Read>
@@ -54,39 +56,39 @@ double sum(const QString& sql)
 
 qint32 GetAccountID(const QString& title)
 {
-    return integerOfFirst(QStringLiteral("Select * from Accounts where Title='") + title + u'\'', "ID");
+    return integerOfFirst(u"Select * from Accounts where Title='"_s + title + u'\'', "ID");
 }
 
 QString GetAccountTitle(qint32 id)
 {
-    return textOfFirst(QStringLiteral("Select * from Accounts where ID=") + QString::number(id), "Title");
+    return textOfFirst(u"Select * from Accounts where ID="_s + QString::number(id), "Title");
 }
 
 double GetItemFees(qint32 id)
 {
-    return numberOfFirst(QStringLiteral("Select * from Items where id=") + QString::number(id), "Fees");
+    return numberOfFirst(u"Select * from Items where id="_s + QString::number(id), "Fees");
 }
 
 double GetItemWorkerFees(const QString& name)
 {
-    return numberOfFirst(QStringLiteral("Select * from Items where Name='") + name + u'\'', "WorkerFees");
+    return numberOfFirst(u"Select * from Items where Name='"_s + name + u'\'', "WorkerFees");
 }
 
 qint32 GetItemID(const QString& name)
 {
-    return integerOfFirst(QStringLiteral("Select * from Items where Name='") + quoted(name) + u'\'', "ID");
+    return integerOfFirst(u"Select * from Items where Name='"_s + quoted(name) + u'\'', "ID");
 }
 
 QString GetItemName(qint32 id)
 {
-    return textOfFirst(QStringLiteral("Select * from Items where ID=") + QString::number(id), "Name");
+    return textOfFirst(u"Select * from Items where ID="_s + QString::number(id), "Name");
 }
 
 QVariant FieldValueExists(const QString& value, const QString& keyField, const QString& resultField,
                           const QString& table, ado::Recordset& recordset)
 {
-    recordset.Open(QStringLiteral("Select ") + resultField + QStringLiteral(" from ") + table +
-                   QStringLiteral(" where ") + keyField + QStringLiteral("='") + quoted(value) + u'\'');
+    recordset.Open(u"Select "_s + resultField + u" from "_s + table + u" where "_s + keyField + u"='"_s +
+                   quoted(value) + u'\'');
     if (recordset.AtEOF()) {
         recordset.Close();
         return -1;
@@ -97,36 +99,32 @@ QVariant FieldValueExists(const QString& value, const QString& keyField, const Q
 
 void FillCombo(const QString& field, const QString& table, ListTarget& control, ado::Recordset& recordset)
 {
-    fill(QStringLiteral("Select ") + field + QStringLiteral(" from ") + table + QStringLiteral(" order by ") +
-             field,
-         control, recordset);
+    fill(u"Select "_s + field + u" from "_s + table + u" order by "_s + field, control, recordset);
 }
 
 void FillList(const QString& field, const QString& table, const QString& condition, ListTarget& control,
               ado::Recordset& recordset)
 {
-    fill(QStringLiteral("Select ") + field + QStringLiteral(" from ") + table + condition +
-             QStringLiteral(" order by ") + field,
-         control, recordset);
+    fill(u"Select "_s + field + u" from "_s + table + condition + u" order by "_s + field, control,
+         recordset);
 }
 
 double GetBalance(qint16 account, const QDate& date)
 {
-    return sum(QStringLiteral("Select sum(Amount) from Postings where status=0 and  AccID=") +
-               QString::number(account) + QStringLiteral(" and date between #17-11-1985# and #") +
-               values::CStr(date) + u'#');
+    return sum(u"Select sum(Amount) from Postings where status=0 and  AccID="_s + QString::number(account) +
+               u" and date between #17-11-1985# and #"_s + values::CStr(date) + u'#');
 }
 
 double GetPositiveTotal(qint16 account, const QDate& from, const QDate& to)
 {
-    return sum(QStringLiteral("Select sum(Amount) from Postings where amount>0 and status=0 and  AccID=") +
-               QString::number(account) + QStringLiteral(" and date between #") + values::CStr(from) +
-               QStringLiteral("# and #") + values::CStr(to) + u'#');
+    return sum(u"Select sum(Amount) from Postings where amount>0 and status=0 and  AccID="_s +
+               QString::number(account) + u" and date between #"_s + values::CStr(from) + u"# and #"_s +
+               values::CStr(to) + u'#');
 }
 
 double GetNegativeTotal(qint16 account, const QDate& from, const QDate& to)
 {
-    return sum(QStringLiteral("Select sum(Amount) from Postings where amount<0 and status=0 and  AccID=") +
-               QString::number(account) + QStringLiteral(" and date between #") + values::CStr(from) +
-               QStringLiteral("# and #") + values::CStr(to) + u'#');
+    return sum(u"Select sum(Amount) from Postings where amount<0 and status=0 and  AccID="_s +
+               QString::number(account) + u" and date between #"_s + values::CStr(from) + u"# and #"_s +
+               values::CStr(to) + u'#');
 }

@@ -1,11 +1,13 @@
-#include "core/Schema.h"
+#include "core/store/Schema.h"
 
-#include "core/DE.h"
-#include "core/Session.h"
-#include "core/Settings.h"
+#include "core/store/DE.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 
 #include <QFile>
 #include <QFileInfo>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -31,7 +33,7 @@ constexpr const char* Money = "MONEY";
 constexpr const char* Double = "DOUBLE";
 constexpr const char* Date = "DATE";
 /// What the engine puts behind a file's name to call its journal.
-const QString journal = QStringLiteral("-journal");
+const QString journal = u"-journal"_s;
 
 constexpr Column Id{"Id", Integer, Rule::Autonumber};
 
@@ -179,13 +181,13 @@ QString declaration(const Column& column)
 {
     QString text = QLatin1String(column.name) + u' ' + QLatin1String(column.type);
     if (column.rule == Rule::Autonumber)
-        return text + QLatin1String(" PRIMARY KEY AUTOINCREMENT");
+        return text + " PRIMARY KEY AUTOINCREMENT"_L1;
     if (column.rule == Rule::Required)
-        text += QLatin1String(" NOT NULL");
+        text += " NOT NULL"_L1;
     if (column.defaultValue)
-        text += QLatin1String(" DEFAULT ") + QLatin1String(column.defaultValue);
+        text += " DEFAULT "_L1 + QLatin1String(column.defaultValue);
     if (column.type == LongText)
-        text += QLatin1String(" COLLATE NOCASE");
+        text += " COLLATE NOCASE"_L1;
     return text;
 }
 
@@ -194,8 +196,8 @@ void createTable(const Table& table)
     QStringList declarations;
     for (const Column& column : table.columns)
         declarations << declaration(column);
-    DE.connection().Execute(QStringLiteral("CREATE TABLE %1 (%2)")
-                                .arg(QLatin1String(table.name), declarations.join(QLatin1String(", "))));
+    DE.connection().Execute(
+        u"CREATE TABLE %1 (%2)"_s.arg(QLatin1String(table.name), declarations.join(", "_L1)));
 }
 
 void addBuiltInAccounts()
@@ -206,7 +208,7 @@ void addBuiltInAccounts()
         int nature;
     };
     ado::Recordset& accounts = DE.rsaccounts;
-    accounts.Open(QStringLiteral("Select * from accounts order by id"));
+    accounts.Open(u"Select * from accounts order by id"_s);
     for (const Account& account :
          {Account{"Wages", 1}, Account{"Sales", 0}, Account{"Purchase", 1}, Account{"Cash", 0}}) {
         accounts.AddNew();
@@ -221,15 +223,15 @@ void addBuiltInAccounts()
 
 } // namespace
 
-QString databasePassword() { return QStringLiteral("measuretwicecut"); }
+QString databasePassword() { return u"measuretwicecut"_s; }
 
 void CreateDatabase()
 {
     const QString path = session.databasePath();
     if (QFileInfo::exists(path))
-        throw ado::DatabaseError(path + QStringLiteral(": there is something else of this name."));
+        throw ado::DatabaseError(path + u": there is something else of this name."_s);
     // Built under another name: a power cut on the way leaves no half-made shop under the real one.
-    const QString building = path + QStringLiteral(".new");
+    const QString building = path + u".new"_s;
     const auto clearAway = [&] {
         DE.close();
         QFile::remove(building);
@@ -246,10 +248,10 @@ void CreateDatabase()
         });
         DE.close();
         // The journal of a database that is gone would be played back into this one.
-        QFile::rename(path + journal, path + QStringLiteral(".lost") + journal);
+        QFile::rename(path + journal, path + u".lost"_s + journal);
         QFile file(building);
         if (!file.rename(path))
-            throw ado::DatabaseError(path + QStringLiteral(": ") + file.errorString());
+            throw ado::DatabaseError(path + u": "_s + file.errorString());
     } catch (...) {
         clearAway();
         throw;

@@ -1,4 +1,4 @@
-#include "core/Wallpaper.h"
+#include "core/shell/Wallpaper.h"
 
 #include "platform/forms/Pictures.h"
 
@@ -8,10 +8,12 @@
 #include <QScreen>
 #include <QSvgRenderer>
 
+using namespace Qt::StringLiterals;
+
 Wallpaper::Wallpaper(QWidget* desktop)
     : QWidget(desktop)
 {
-    setObjectName(QStringLiteral("MyWall"));
+    setObjectName(u"MyWall"_s);
     desktop->installEventFilter(this);
     resize(desktop->size());
 }
@@ -62,7 +64,7 @@ void Wallpaper::drawBuiltIn()
     m_builtIn = QPixmap(size() * ratio);
     m_builtIn.setDevicePixelRatio(ratio);
     m_builtIn.fill(palette().color(QPalette::Window));
-    QSvgRenderer drawing(QStringLiteral(":/wallpaper.svg"));
+    QSvgRenderer drawing(u":/wallpaper.svg"_s);
     const QSizeF covering = QSizeF(drawing.defaultSize()).scaled(size(), Qt::KeepAspectRatioByExpanding);
     QRectF target(QPointF(), covering);
     target.moveCenter(QRectF(rect()).center());

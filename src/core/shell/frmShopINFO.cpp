@@ -1,10 +1,12 @@
-#include "core/frmShopINFO.h"
+#include "core/shell/frmShopINFO.h"
 
-#include "core/DE.h"
-#include "core/Settings.h"
+#include "core/store/DE.h"
+#include "core/store/Settings.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
 #include "ui_frmShopINFO.h"
+
+using namespace Qt::StringLiterals;
 
 frmShopINFO::frmShopINFO()
     : ui(std::make_unique<Ui::frmShopINFO>())
@@ -20,7 +22,7 @@ void frmShopINFO::Form_Load()
 {
     SetFormLanguage(*this);
     ado::Recordset& shop = DE.rsSHOP;
-    shop.Open(QStringLiteral("Select * from Shop where id=1"));
+    shop.Open(u"Select * from Shop where id=1"_s);
     ui->txtName->setText(shop["Name"].text());
     ui->txtADDRESS1->setText(shop["Address1"].text());
     ui->txtADDRESS2->setText(shop["Address2"].text());
@@ -28,7 +30,7 @@ void frmShopINFO::Form_Load()
     ui->txtCONTACTS->setText(shop["Contacts"].text());
     shop.Close();
 
-    const bool locked = GetSetting(7, QStringLiteral("0")) == QLatin1String("1");
+    const bool locked = GetSetting(7, u"0"_s) == "1"_L1;
     ui->Check1->setChecked(locked);
     ui->Frame1->setEnabled(locked);
     if (locked) {
@@ -54,13 +56,13 @@ void frmShopINFO::Command1_Click()
 {
     const bool locked = ui->Check1->isChecked();
     if (locked && (ui->txtUserName->text().isEmpty() || ui->txtPassword->text().isEmpty())) {
-        ShowMsg(QStringLiteral("Please enter User Name and Password!"));
+        ShowMsg(u"Please enter User Name and Password!"_s);
         ui->txtUserName->setFocus();
         return;
     }
     DE.connection().writeBatch([this, locked] {
         ado::Recordset& shop = DE.rsSHOP;
-        shop.Open(QStringLiteral("Select * from Shop where id=1"));
+        shop.Open(u"Select * from Shop where id=1"_s);
         shop["Name"] = ui->txtName->text();
         shop["Address1"] = ui->txtADDRESS1->text();
         shop["Address2"] = ui->txtADDRESS2->text();
@@ -68,9 +70,9 @@ void frmShopINFO::Command1_Click()
         shop["Contacts"] = ui->txtCONTACTS->text();
         shop.UpdateBatch();
         shop.Close();
-        SetSetting(7, locked ? QStringLiteral("1") : QStringLiteral("0"));
+        SetSetting(7, locked ? u"1"_s : u"0"_s);
         SetSetting(8, locked ? ui->txtUserName->text() : QString());
         SetSetting(9, locked ? ui->txtPassword->text() : QString());
     });
-    ShowMsg(QStringLiteral("Shop Info Updated."));
+    ShowMsg(u"Shop Info Updated."_s);
 }

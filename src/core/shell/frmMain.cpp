@@ -1,15 +1,15 @@
-#include "core/frmMain.h"
+#include "core/shell/frmMain.h"
 
-#include "core/DE.h"
-#include "core/Session.h"
-#include "core/Settings.h"
-#include "core/Wallpaper.h"
-#include "core/frmAbout.h"
-#include "core/frmLogin.h"
-#include "core/frmMasters.h"
-#include "core/frmMenu.h"
-#include "core/frmSettings.h"
-#include "core/frmShopINFO.h"
+#include "core/shell/Wallpaper.h"
+#include "core/shell/frmAbout.h"
+#include "core/shell/frmLogin.h"
+#include "core/shell/frmMasters.h"
+#include "core/shell/frmMenu.h"
+#include "core/shell/frmSettings.h"
+#include "core/shell/frmShopINFO.h"
+#include "core/store/DE.h"
+#include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "jobcards/frmEditJOB.h"
 #include "platform/forms/Icons.h"
 #include "platform/values/Dates.h"
@@ -21,9 +21,11 @@
 
 #include <QSignalBlocker>
 
+using namespace Qt::StringLiterals;
+
 bool frmMain::start()
 {
-    if (values::Val(GetSetting(7, QStringLiteral("0"))) == 1 && !frmLogin().Login())
+    if (values::Val(GetSetting(7, u"0"_s)) == 1 && !frmLogin().Login())
         return false;
     auto* screen = new frmMain;
     connect(qApp, &QCoreApplication::aboutToQuit, screen, [screen] { delete screen; });
@@ -37,7 +39,7 @@ frmMain::frmMain()
     ui->setupUi(this);
     setWindowFlags(Qt::Window);
     forms::applyIcons(*this, forms::iconLight);
-    ui->Image2->setPixmap(forms::picture(QStringLiteral("app"), 48));
+    ui->Image2->setPixmap(forms::picture(u"app"_s, 48));
     MyWall = new Wallpaper(ui->Picture1);
 
     on(ui->cmdCreateJOB, &QPushButton::clicked, [] { frmEditJOB().ShowAddNew(); });
@@ -63,7 +65,7 @@ void frmMain::Form_Load()
 void frmMain::Form_Activate()
 {
     RefershINFO();
-    session.Language = GetSetting(0, QStringLiteral("English"));
+    session.Language = GetSetting(0, u"English"_s);
 }
 
 /// Called only at load: a wallpaper changed meanwhile shows at the next start.
@@ -77,12 +79,12 @@ void frmMain::SetWall()
 void frmMain::RefershINFO()
 {
     ado::Recordset& shop = DE.rsSHOP;
-    shop.Open(QStringLiteral("Select * from Shop"));
+    shop.Open(u"Select * from Shop"_s);
     if (shop.RecordCount() < 1) {
         shop.AddNew();
-        shop["Name"] = QStringLiteral("KORVANE");
+        shop["Name"] = u"KORVANE"_s;
         shop.UpdateBatch();
-        ui->lblShopName->setText(QStringLiteral("KORVANE"));
+        ui->lblShopName->setText(u"KORVANE"_s);
     } else {
         const auto copy = [&shop](const char* field, QString& line) {
             if (!shop[field].isNull())
@@ -106,7 +108,7 @@ void frmMain::Form_KeyPress(int& key)
     if (key != forms::key::Escape)
         return;
     key = 0;
-    if (ShowMsg(QStringLiteral("Are you sure to exit?"), 2))
+    if (ShowMsg(u"Are you sure to exit?"_s, 2))
         unload();
 }
 

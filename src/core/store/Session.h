@@ -1,12 +1,14 @@
 #pragma once
 
+#include "platform/values/Literals.h"
+
 #include <QDate>
 #include <QString>
 
 /// What holds for the whole session and is read by every screen: who the shop is and what day it works on.
 struct Session
 {
-    QString Language = QStringLiteral("English"); ///< "English" or "Hindi"; setting 0
+    QString Language = u"English"_s; ///< "English" or "Hindi"; setting 0
     QDate WorkingDate;         ///< the shop's current day; records are stamped with it, never with the clock
     QDate TodayDate;           ///< the date that the main screen shows; the registers stamp with it
     bool RefreshLists = false; ///< a list brought back to the front may be out of date
@@ -22,9 +24,9 @@ struct Session
     /// pictures lie in it.
     QString appFolder;
 
-    QString databasePath() const { return appFolder + QStringLiteral("/data.mdb"); }
-    QString imagesFolder() const { return appFolder + QStringLiteral("/images"); }
-    QString languageDatabasePath() const { return appFolder + QStringLiteral("/Lang.mdb"); }
+    QString databasePath() const { return appFolder + u"/data.mdb"_s; }
+    QString imagesFolder() const { return appFolder + u"/images"_s; }
+    QString languageDatabasePath() const { return appFolder + u"/Lang.mdb"_s; }
 };
 
 inline Session session;

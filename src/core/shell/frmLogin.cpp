@@ -1,15 +1,17 @@
-#include "core/frmLogin.h"
+#include "core/shell/frmLogin.h"
 
-#include "core/Settings.h"
+#include "core/store/Settings.h"
 #include "platform/forms/Icons.h"
 #include "ui/ModOtherFUN.h"
 #include "ui_frmLogin.h"
+
+using namespace Qt::StringLiterals;
 
 frmLogin::frmLogin()
     : ui(std::make_unique<Ui::frmLogin>())
 {
     ui->setupUi(this);
-    ui->Image1->setPixmap(forms::picture(QStringLiteral("login"), 104));
+    ui->Image1->setPixmap(forms::picture(u"login"_s, 104));
     on(ui->Command1, &QPushButton::clicked, &frmLogin::Command1_Click);
 }
 
@@ -31,19 +33,19 @@ void frmLogin::Form_KeyPress(int& key)
 void frmLogin::Command1_Click()
 {
     if (ui->txtUserName->text().isEmpty()) {
-        ShowMsg(QStringLiteral("Please enter user name!"));
+        ShowMsg(u"Please enter user name!"_s);
         ui->txtUserName->setFocus();
         return;
     }
     if (ui->txtPassword->text().isEmpty()) {
-        ShowMsg(QStringLiteral("Please enter password!"));
+        ShowMsg(u"Please enter password!"_s);
         ui->txtPassword->setFocus();
         return;
     }
     const QString userName = GetSetting(8, QString());
     const QString password = GetSetting(9, QString());
     if (ui->txtPassword->text() != password || ui->txtUserName->text() != userName) {
-        ShowMsg(QStringLiteral("Invalid user name or password!"));
+        ShowMsg(u"Invalid user name or password!"_s);
         ui->txtUserName->clear();
         ui->txtPassword->clear();
         ui->txtUserName->setFocus();

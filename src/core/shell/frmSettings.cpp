@@ -1,7 +1,7 @@
-#include "core/frmSettings.h"
+#include "core/shell/frmSettings.h"
 
-#include "core/DE.h"
-#include "core/Settings.h"
+#include "core/store/DE.h"
+#include "core/store/Settings.h"
 #include "messaging/modSMS.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/values/Numbers.h"
@@ -9,6 +9,8 @@
 #include "ui/frmSelectFile.h"
 #include "ui/modLang.h"
 #include "ui_frmSettings.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,7 +27,7 @@ frmSettings::frmSettings()
 {
     ui->setupUi(this);
     for (forms::ComboBox* combo : {ui->cmbSMSJobID, ui->cmbSendAutoSMS}) {
-        combo->AddItems({QStringLiteral("Yes"), QStringLiteral("No")});
+        combo->AddItems({u"Yes"_s, u"No"_s});
         onKeyPress(combo, [combo](int& key) { key = AutoSearchCombo(*combo, key); });
     }
     for (QLineEdit* box : {ui->txtDelMargin, ui->txtStartNum})
@@ -47,19 +49,19 @@ void frmSettings::Form_Load()
     const auto check = [](QCheckBox& box, qint32 setting, const char* standard) {
         box.setChecked(values::Val(GetSetting(setting, QLatin1String(standard))) == 1);
     };
-    ui->cmbSendAutoSMS->setText(GetSetting(2, QStringLiteral("No")));
-    ui->cmbSMSJobID->setText(GetSetting(3, QStringLiteral("No")));
+    ui->cmbSendAutoSMS->setText(GetSetting(2, u"No"_s));
+    ui->cmbSMSJobID->setText(GetSetting(3, u"No"_s));
     ui->cmbSMSPort->setText(GetSetting(4, QString()));
     ui->txtLogo->setText(GetSetting(5, QString()));
     ui->txtTagLine->setText(GetSetting(6, QString()));
     ui->txtSMSTitle->setText(GetSetting(10, QString()));
     ui->txtWall->setText(GetSetting(11, QString()));
-    ui->txtDelMargin->setText(GetSetting(13, QStringLiteral("0")));
+    ui->txtDelMargin->setText(GetSetting(13, u"0"_s));
     check(*ui->chPrintAfterSave, 14, "0");
     check(*ui->chPreview, 15, "1");
     ui->txtBackuppath->setText(GetSetting(19, QString()));
     check(*ui->opChangeDateAuto, 22, "0");
-    ui->txtStartNum->setText(GetSetting(23, QStringLiteral("1")));
+    ui->txtStartNum->setText(GetSetting(23, u"1"_s));
     showDraft(*ui->txtSMS1, GetSetting(24, DefaultJobRegisteredDraft()));
     showDraft(*ui->txtSMS2, GetSetting(25, DefaultJobFinishedDraft()));
     showDraft(*ui->txtSMS3, GetSetting(26, DefaultDueBalanceDraft()));
@@ -111,13 +113,13 @@ void frmSettings::txtSMSTitle_KeyPress(int& key)
 void frmSettings::selectPicture(QLineEdit& box)
 {
     const QString path = frmSelectFile().SelFile();
-    if (path != QLatin1String("Cancel"))
+    if (path != "Cancel"_L1)
         box.setText(path);
 }
 
 void frmSettings::Command8_Click()
 {
-    if (!forms::askPlain(this, QStringLiteral("Are you sure to load default SMS drafts?")))
+    if (!forms::askPlain(this, u"Are you sure to load default SMS drafts?"_s))
         return;
     showDraft(*ui->txtSMS1, DefaultJobRegisteredDraft());
     showDraft(*ui->txtSMS2, DefaultJobFinishedDraft());
@@ -127,12 +129,12 @@ void frmSettings::Command8_Click()
 void frmSettings::Command1_Click()
 {
     if (values::Val(ui->txtStartNum->text()) < 1)
-        ui->txtStartNum->setText(QStringLiteral("1"));
+        ui->txtStartNum->setText(u"1"_s);
     for (forms::ComboBox* combo : {ui->cmbSendAutoSMS, ui->cmbSMSJobID})
         if (combo->text().isEmpty())
-            combo->setText(QStringLiteral("No"));
+            combo->setText(u"No"_s);
     DE.connection().writeBatch([this] { writeSettings(); });
-    ShowMsg(QStringLiteral("Settings Updated."));
+    ShowMsg(u"Settings Updated."_s);
 }
 
 void frmSettings::writeSettings()

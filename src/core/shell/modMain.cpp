@@ -1,13 +1,15 @@
-#include "core/modMain.h"
+#include "core/shell/modMain.h"
 
-#include "core/DE.h"
-#include "core/Schema.h"
-#include "core/Session.h"
-#include "core/Startup.h"
-#include "core/frmMain.h"
+#include "core/shell/Startup.h"
+#include "core/shell/frmMain.h"
+#include "core/store/DE.h"
+#include "core/store/Schema.h"
+#include "core/store/Session.h"
 #include "platform/forms/MessageBox.h"
 
 #include <QFileInfo>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,8 +20,7 @@ bool openDatabase()
     MakeImagesFolder();
     DE.open(session.databasePath());
     if (!CheckDatabaseVersion()) {
-        forms::plainMessage(nullptr,
-                            QStringLiteral("Invalid Database!\r\nSeamwise Can not Run with this Database!"));
+        forms::plainMessage(nullptr, u"Invalid Database!\r\nSeamwise Can not Run with this Database!"_s);
         return false;
     }
     DE.ensureIndexes();

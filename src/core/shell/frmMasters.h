@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/MenuScreen.h"
+#include "core/shell/MenuScreen.h"
 
 #include <memory>
 
