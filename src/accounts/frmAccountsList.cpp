@@ -14,7 +14,7 @@ frmAccountsList::frmAccountsList()
 
 void frmAccountsList::fill(ListTarget& list)
 {
-    FillList(u"Title"_s, u"Accounts"_s, u" where type=2"_s, list, DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, whereType(AccountType::Ledger), list, DE.rsaccounts);
 }
 
 void frmAccountsList::addRecord() { std::make_unique<frmEditAccount>()->ShowAddNew(); }

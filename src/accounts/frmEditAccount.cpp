@@ -1,5 +1,6 @@
 #include "accounts/frmEditAccount.h"
 
+#include "core/store/Codes.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
@@ -23,7 +24,7 @@ frmEditAccount::~frmEditAccount() = default;
 void frmEditAccount::ShowAddNew()
 {
     AccountID = 0;
-    AccountMode = u"N"_s;
+    AccountMode = RecordMode::New;
     AccountReadOnly = 0;
     ui->lblTitle->setText(u"Add New Account"_s);
     ui->cmbType->setListIndex(-1);
@@ -33,7 +34,7 @@ void frmEditAccount::ShowAddNew()
 void frmEditAccount::ShowEdit(qint16 id)
 {
     AccountID = id;
-    AccountMode = u"E"_s;
+    AccountMode = RecordMode::Stored;
     ui->lblTitle->setText(u"Edit Account"_s);
     ado::Recordset& accounts = DE.rsaccounts;
     accounts.Open(u"Select * from accounts where id=%1"_s.arg(id));
@@ -65,7 +66,7 @@ void frmEditAccount::save()
         ui->cmbType->setFocus();
         return;
     }
-    if (AccountMode == "N"_L1)
+    if (AccountMode == RecordMode::New)
         saveNew();
     else
         saveEdit();
@@ -88,7 +89,7 @@ void frmEditAccount::saveNew()
     AccountID = values::toInt16(id);
     AccountTitle = ui->txtName->Text();
     ShowMsg(u"New Account created."_s);
-    AccountMode = u"E"_s;
+    AccountMode = RecordMode::Stored;
 }
 
 void frmEditAccount::saveEdit()
@@ -126,7 +127,7 @@ void frmEditAccount::writeFields()
 {
     ado::Recordset& account = DE.rsaccounts;
     account["Title"] = ui->txtName->Text();
-    account["Type"] = 2;
+    account["Type"] = AccountType::Ledger;
     account["Nature"] = ui->cmbType->ListIndex();
     account.UpdateBatch();
 }
@@ -137,7 +138,7 @@ void frmEditAccount::remove()
         ShowMsg(u"Cant't Delete!"_s);
         return;
     }
-    if (AccountMode != "E"_L1 || !ShowMsg(u"Are you sure?"_s, 2))
+    if (AccountMode != RecordMode::Stored || !ShowMsg(u"Are you sure?"_s, 2))
         return;
     int postings = 0;
     for (const char* field : {"AccID", "RefID"}) {

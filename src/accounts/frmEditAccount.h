@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/store/Codes.h"
 #include "platform/forms/Screen.h"
 
 #include <QString>
@@ -35,8 +36,8 @@ private:
     void remove();
 
     const std::unique_ptr<Ui::frmEditAccount> ui;
-    qint16 AccountID = 0;       ///< 0 for a new account
-    QString AccountMode;        ///< "N" new, "E" edit
+    qint16 AccountID = 0; ///< 0 for a new account
+    RecordMode AccountMode = RecordMode::New;
     QString AccountTitle;       ///< as read or last saved
     qint16 AccountReadOnly = 0; ///< 1 for an account that the shop began with
 };

@@ -1,8 +1,10 @@
 #include "accounts/frmTransiction.h"
 
+#include "accounts/Payroll.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
+#include "core/store/Voucher.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
@@ -46,14 +48,6 @@ bool takeEntry(forms::ComboBox& combo)
 
 } // namespace
 
-/// What the two lines of the voucher on the screen hold.
-struct frmTransiction::Pair
-{
-    qint32 mainID = 0;
-    qint32 refID = 0;
-    Currency mainAmount;
-};
-
 frmTransiction::frmTransiction()
     : ui(std::make_unique<Ui::frmTransiction>())
 {
@@ -90,7 +84,7 @@ void frmTransiction::ShowAddNew(const QString& accountTitle, qint16& saved)
     EntryAccount = accountTitle;
     EntryIsPayroll = 0;
     ui->VcDate->setValue(session.WorkingDate);
-    open(u"N"_s, u"Add New Entry"_s);
+    open(RecordMode::New, u"Add New Entry"_s);
     saved = EntrySaved;
 }
 
@@ -120,11 +114,11 @@ void frmTransiction::ShowEdit(qint32 vid, qint16& saved)
 
     EntryIsPayroll = line["isPayroll"].integer() > 0 ? -1 : 0;
     line.Close();
-    open(u"E"_s, u"Edit Entry"_s);
+    open(RecordMode::Stored, u"Edit Entry"_s);
     saved = EntrySaved;
 }
 
-void frmTransiction::open(const QString& mode, const QString& title)
+void frmTransiction::open(RecordMode mode, const QString& title)
 {
     EntryMode = mode;
     setWindowTitle(title);
@@ -140,18 +134,7 @@ void frmTransiction::fillAccounts()
         FillList(u"Title"_s, u"Accounts"_s, QString(), *combo, DE.rsaccounts);
 }
 
-void frmTransiction::GetNewNum(qint32& n)
-{
-    ado::Recordset& vouchers = DE.rspostings;
-    vouchers.Open(u"Select * from Postings where vtype=2 and sr=1 order by vID"_s);
-    qint32 last = 0;
-    if (vouchers.RecordCount() >= 1) {
-        vouchers.MoveLast();
-        last = vouchers["vid"].integer();
-    }
-    vouchers.Close();
-    n = values::toInt32(qint64(last) + 1);
-}
+void frmTransiction::GetNewNum(qint32& n) { n = Voucher::NextEntryNumber(); }
 
 void frmTransiction::Form_Load() { SetFormLanguage(*this); }
 
@@ -194,7 +177,7 @@ void frmTransiction::save()
         return;
     }
     applyLabels();
-    if (EntryMode == "N"_L1) {
+    if (EntryMode == RecordMode::New) {
         SaveNew();
         ShowMsg(u"New Entry saved."_s);
     } else {
@@ -205,69 +188,37 @@ void frmTransiction::save()
     EntrySaved = -1;
 }
 
-frmTransiction::Pair frmTransiction::pair() const
+/// What the two lines of the voucher on the screen hold; line 1 is the main account's.
+PostingPair frmTransiction::pair() const
 {
-    Pair pair;
     const Currency amount = Currency::fromDouble(values::Val(ui->txtAmount->Text()));
-    pair.mainAmount = ui->lblMainType->text() == "Cr"_L1 ? amount : -amount;
-    pair.mainID = mainAccountID(EntryAccount);
-    pair.refID = GetAccountID(ui->cmbRefAcc->text());
-    return pair;
-}
-
-/// Sets the fields that a new and a changed line share on the current row; line 1 is the main account's.
-void frmTransiction::writeLine(int line, const Pair& pair)
-{
-    ado::Recordset& row = DE.rspostings;
-    const bool main = line == 1;
-    row["particulars"] = ui->cmbParticulars->text();
-    row["Date"] = ui->VcDate->value();
-    row["accID"] = main ? pair.mainID : pair.refID;
-    row["refID"] = main ? pair.refID : pair.mainID;
-    row["Remark"] = ui->txtRemark->Text();
-    row["Amount"] = main ? pair.mainAmount : -pair.mainAmount;
-    row.UpdateBatch();
+    return {.particulars = ui->cmbParticulars->text(),
+            .date = ui->VcDate->value(),
+            .account = mainAccountID(EntryAccount),
+            .opposite = GetAccountID(ui->cmbRefAcc->text()),
+            .amount = ui->lblMainType->text() == "Cr"_L1 ? amount : -amount,
+            .remark = ui->txtRemark->Text()};
 }
 
 void frmTransiction::SaveNew()
 {
     EntryID = values::CLng(values::Val(ui->txtVID->Text()));
-    const Pair accounts = pair();
-    DE.connection().writeBatch([&] {
-        ado::Recordset& postings = DE.rspostings;
-        for (const int line : {1, 2}) {
-            postings.Open(u"Select * from Postings order by ID"_s);
-            postings.AddNew();
-            postings["vType"] = 2;
-            postings["VID"] = EntryID;
-            postings["Sr"] = line;
-            writeLine(line, accounts);
-            postings.Close();
-        }
-    });
-    EntryMode = u"E"_s;
+    const PostingPair entry = pair();
+    DE.connection().writeBatch([&] { Voucher(VoucherType::Entry, EntryID).AddPair(entry); });
+    EntryMode = RecordMode::Stored;
     setWindowTitle(u"Edit Entry"_s);
     ui->lblTitle->setText(windowTitle());
 }
 
 void frmTransiction::SaveEdit()
 {
-    const Pair accounts = pair();
-    DE.connection().writeBatch([&] {
-        ado::Recordset& postings = DE.rspostings;
-        postings.Open(u"Select * from Postings where vid=%1 and sr=1 and vtype=2"_s.arg(EntryID));
-        writeLine(1, accounts);
-        postings.Close();
-        postings.Open(u"Select * from Postings where vid=%1 and sr=2 and vtype=2"_s.arg(EntryID));
-        postings.MoveLast();
-        writeLine(2, accounts);
-        postings.Close();
-    });
+    const PostingPair entry = pair();
+    DE.connection().writeBatch([&] { Voucher(VoucherType::Entry, EntryID).ChangePair(entry); });
 }
 
 void frmTransiction::remove()
 {
-    if (EntryMode != "E"_L1 || !ShowMsg(u"Are you sure to delete entry?"_s, 2))
+    if (EntryMode != RecordMode::Stored || !ShowMsg(u"Are you sure to delete entry?"_s, 2))
         return;
     if (EntryIsPayroll != 0 &&
         !ShowMsg(u"You are going to delete a payroll?\r\nThis action will reset all jobs as unpaid?\r\n"
@@ -276,23 +227,10 @@ void frmTransiction::remove()
         return;
     DE.connection().writeBatch([&] {
         if (EntryIsPayroll != 0)
-            resetPaidJobs();
-        DE.connection().Execute(u"Delete from Postings where vid=%1 and vtype=2"_s.arg(EntryID));
+            payroll::Release(EntryID);
+        Voucher(VoucherType::Entry, EntryID).Delete();
     });
     session.RefreshLists = true;
     EntrySaved = -1;
     unload();
-}
-
-/// The job lines that the payroll covered are unpaid again.
-void frmTransiction::resetPaidJobs()
-{
-    ado::Recordset& jobs = DE.rsJOBS_DETAIL;
-    jobs.Open(u"Select * from jobs_detail where PayrollID=%1"_s.arg(EntryID));
-    for (; !jobs.AtEOF(); jobs.MoveNext()) {
-        jobs["MarkAsPaid"] = 0;
-        jobs["PayrollID"] = 0;
-    }
-    jobs.UpdateBatch();
-    jobs.Close();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/store/Codes.h"
+#include "core/store/Voucher.h"
 #include "platform/forms/Screen.h"
 #include "platform/values/Currency.h"
 
@@ -36,20 +38,16 @@ protected:
     void Form_Load() override;
 
 private:
-    struct Pair;
-
-    void open(const QString& mode, const QString& title);
+    void open(RecordMode mode, const QString& title);
     void fillAccounts();
     void mirrorAmount();
     void applyLabels();
     void save();
-    Pair pair() const;
-    void writeLine(int line, const Pair& pair);
+    PostingPair pair() const;
     void remove();
-    void resetPaidJobs();
 
     const std::unique_ptr<Ui::frmTransiction> ui;
-    QString EntryMode;         ///< "N" new, "E" existing
+    RecordMode EntryMode = RecordMode::New;
     qint16 EntrySaved = 0;     ///< -1 after a save or a delete
     qint32 EntryID = 0;        ///< the voucher's number
     qint16 EntryIsPayroll = 0; ///< -1 for a payroll

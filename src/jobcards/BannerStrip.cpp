@@ -48,7 +48,7 @@ BannerStrip::BannerStrip(QWidget* parent)
     lblLastvisit->setTextFormat(Qt::PlainText);
     Timer1->setObjectName(u"Timer1"_s);
     Timer1->setInterval(Tick);
-    connect(Timer1, &QTimer::timeout, this, &BannerStrip::Timer1_Timer);
+    connect(Timer1, &QTimer::timeout, this, &BannerStrip::step);
 }
 
 void BannerStrip::setText(const QString& text)
@@ -79,7 +79,7 @@ void BannerStrip::hideEvent(QHideEvent* event)
     QWidget::hideEvent(event);
 }
 
-void BannerStrip::Timer1_Timer()
+void BannerStrip::step()
 {
     // Once all of it has left, the text comes in again at the right edge.
     const int left = lblLastvisit->x() < -lblLastvisit->width() ? width() : lblLastvisit->x();

@@ -22,7 +22,7 @@ protected:
 
 private:
     void begin();
-    void Timer1_Timer();
+    void step();
 
     QLabel* lblLastvisit;
     QTimer* Timer1;

@@ -3,15 +3,12 @@
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/Settings.h"
+#include "core/store/Voucher.h"
 #include "platform/values/Errors.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qint32 FirstNumberSetting = 23;
-constexpr int JobVoucher = 1;   // Postings.vType
-constexpr int CanceledLine = 4; // Jobs_Detail.DoneByWorker
 
 void refuseTakenNumber(qint32 number)
 {
@@ -28,7 +25,7 @@ void refuseTakenNumber(qint32 number)
 
 qint32 JobCard::GetNewNum()
 {
-    qint32 last = values::CLng(values::Val(GetSetting(FirstNumberSetting, u"1"_s)) - 1);
+    qint32 last = values::CLng(values::Val(GetSetting(settings::FirstJobNumber)) - 1);
     auto& jobs = DE.rsJOBS;
     jobs.Open(u"Select * from JOBS order by ID"_s);
     if (!jobs.AtEOF()) {
@@ -79,7 +76,7 @@ void JobCard::SaveNew(const JobCardHead& head)
         jobs["ID"] = head.Number;
         writeHead(head, clientID);
         CurrentJobID = head.Number;
-        EditMode = u"E"_s;
+        EditMode = RecordMode::Stored;
         for (int row = 1; row <= JobRows.RowCount(); ++row)
             JobRows.SetSr(row, addLine(row, head, clientID));
         writeVoucher(head, clientID);
@@ -106,7 +103,7 @@ void JobCard::SaveEdit(const JobCardHead& head)
             DE.connection().Execute(u"Delete from jobs_detail where Id="_s + RemovedLineIDs);
             RemovedLineIDs.clear();
         }
-        DE.connection().Execute(u"Delete from Postings where vid="_s + number() + u"and vtype=1"_s);
+        Voucher(VoucherType::Job, CurrentJobID).Delete();
         writeVoucher(head, clientID);
         if (head.Cancelled)
             cancelLines();
@@ -119,7 +116,7 @@ void JobCard::Delete()
         auto& connection = DE.connection();
         connection.Execute(u"Delete from Jobs where id="_s + number());
         connection.Execute(u"Delete from Jobs_detail where jobid="_s + number());
-        connection.Execute(u"Delete from Postings where vid="_s + number() + u" and vtype=1"_s);
+        Voucher(VoucherType::Job, CurrentJobID).Delete();
     });
 }
 
@@ -192,11 +189,11 @@ qint32 JobCard::addLine(int row, const JobCardHead& head, qint32 clientID)
     line["CompletedDate"] = ado::Null;
     line["DelToCustDate"] = ado::Null;
     line["AltDate"] = ado::Null;
-    line["DoneByWorker"] = 0;
+    line["DoneByWorker"] = LineState::Uncompleted;
     // The catalogue's wage for one piece, whatever the quantity.
     line["WorkerWagesDue"] = GetItemWorkerFees(JobRows.ItemName(row));
     line["CuttingDate"] = head.Date;
-    line["CuttingStatus"] = 0;
+    line["CuttingStatus"] = CuttingMark::NotDone;
     line.Update();
     const qint32 id = line["ID"].integer();
     line.Close();
@@ -214,33 +211,25 @@ void JobCard::updateLine(int row, const JobCardHead& head, qint32 clientID)
     line.Close();
 }
 
+/// The sale, and the money taken with the order.
 void JobCard::writeVoucher(const JobCardHead& head, qint32 clientID)
 {
-    auto& postings = DE.rspostings;
-    postings.Open(u"Select * from Postings order by ID"_s);
-    int sr = 0;
-    const auto post = [&](const QString& particulars, qint32 account, qint32 opposite, Currency amount) {
-        postings.AddNew();
-        postings["VID"] = CurrentJobID;
-        postings["vType"] = JobVoucher;
-        postings["Sr"] = ++sr;
-        postings["Date"] = head.Date;
-        postings["accID"] = account;
-        postings["refID"] = opposite;
-        postings["particulars"] = particulars;
-        postings["Remark"] = QString(u"Job Card # :"_s + number());
-        postings["Amount"] = amount;
-        postings["Status"] = int(head.Cancelled);
-        postings.Update();
-    };
-    const auto postPair = [&](const QString& particulars, qint32 debited, qint32 credited, Currency amount) {
-        post(particulars, debited, credited, -amount);
-        post(particulars, credited, debited, amount);
-    };
-    postPair(u"Sales"_s, clientID, GetAccountID(u"Sales"_s), head.Total);
-    if (head.Paid > Currency())
-        postPair(u"Receipt"_s, GetAccountID(head.ReceiptAccount), clientID, head.Paid);
-    postings.Close();
+    Voucher voucher(VoucherType::Job, CurrentJobID);
+    const PostingMarks marks{.cancelled = head.Cancelled};
+    PostingPair pair{.particulars = u"Sales"_s,
+                     .date = head.Date,
+                     .account = clientID,
+                     .opposite = GetAccountID(u"Sales"_s),
+                     .amount = -head.Total,
+                     .remark = u"Job Card # :"_s + number()};
+    voucher.AddPair(pair, marks);
+    if (head.Paid > Currency()) {
+        pair.particulars = u"Receipt"_s;
+        pair.account = GetAccountID(head.ReceiptAccount);
+        pair.opposite = clientID;
+        pair.amount = -head.Paid;
+        voucher.AddPair(pair, marks);
+    }
 }
 
 void JobCard::cancelLines()
@@ -248,7 +237,7 @@ void JobCard::cancelLines()
     auto& lines = DE.rsJOBS_DETAIL;
     lines.Open(u"Select * from jobs_detail where JobID="_s + number());
     for (; !lines.AtEOF(); lines.MoveNext())
-        lines["DoneByWorker"] = CanceledLine;
+        lines["DoneByWorker"] = LineState::Canceled;
     lines.UpdateBatch();
     lines.Close();
 }

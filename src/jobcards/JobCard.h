@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/store/Codes.h"
 #include "jobcards/clsJobCardData.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Literals.h"
@@ -32,8 +33,8 @@ struct JobCardHead
 class JobCard
 {
 public:
-    QString EditMode = u"N"_s; ///< "N" while nothing of the card is stored, then "E"
-    qint32 CurrentJobID = 0;   ///< `Jobs.ID` of the stored card
+    RecordMode EditMode = RecordMode::New; ///< Stored once the card is in the file
+    qint32 CurrentJobID = 0;               ///< `Jobs.ID` of the stored card
     clsJobCardData JobRows;
     QString RemovedLineIDs; ///< the `Sr` of the lines removed since the card was loaded, joined by ","
 

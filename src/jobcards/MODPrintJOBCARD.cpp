@@ -67,9 +67,9 @@ std::unique_ptr<report::Report> JobCardPaper(qint32 JobID)
 
     auto card = std::make_unique<rptJOBCARD>();
     card->setDataSource(report::readRows(job, u"Body"_s));
-    PlaceLogo(*card, GetSetting(5, QString()));
+    PlaceLogo(*card, GetSetting(settings::Logo));
     report::Section& head = card->section(u"Section6"_s);
-    head.label(u"lblTag"_s).Caption = GetSetting(6, QString());
+    head.label(u"lblTag"_s).Caption = GetSetting(settings::TagLine);
     const QString lines[] = {session.ShopName, session.ShopAddress1, session.ShopAddress2,
                              session.ShopAddress3, session.ShopContacts};
     for (size_t i = 0; i < std::size(lines); ++i)
@@ -83,7 +83,7 @@ std::unique_ptr<report::Report> JobCardPaper(qint32 JobID)
 std::unique_ptr<report::Report> WorkerSlipPaper(qint32 LineID)
 {
     auto slip = std::make_unique<rptWorkerJobCard>();
-    if (GetSetting(0, u"English"_s) == "Hindi"_L1 && GetSetting(12, u"No"_s) == "Yes"_L1)
+    if (GetSetting(settings::Language) == "Hindi"_L1 && GetSetting(settings::HindiSlip) == "Yes"_L1)
         slip->useHindiMeasurements();
     slip->setLine(readLine(LineID));
     slip->section(u"Section2"_s).label(u"lblCompany"_s).Caption = session.ShopName;
@@ -103,7 +103,7 @@ std::unique_ptr<report::Report> LabelPaper(qint32 LineID)
 void PrintJobCard(qint32 JobID)
 {
     const auto card = JobCardPaper(JobID);
-    const QString preview = GetSetting(15, u"1"_s);
+    const QString preview = GetSetting(settings::PrintPreview);
     if (preview == "1"_L1)
         report::Preview(*card).showModal();
     else if (preview == "0"_L1)

@@ -55,22 +55,22 @@ frmAddItem::frmAddItem()
     : ui(std::make_unique<Ui::frmAddItem>())
 {
     ui->setupUi(this);
-    onGotFocus(ui->cmbItems, [this] { cmbItems_GotFocus(); });
-    onKeyPress(ui->cmbItems, [this](int& key) { cmbItems_KeyPress(key); });
-    on(ui->cmbItems, &forms::ComboBox::clicked, &frmAddItem::cmbItems_Click);
+    onGotFocus(ui->cmbItems, [this] { openItems(); });
+    onKeyPress(ui->cmbItems, [this](int& key) { typeItem(key); });
+    on(ui->cmbItems, &forms::ComboBox::clicked, &frmAddItem::chooseItem);
     for (QLineEdit* box : {ui->txtQnt, ui->txtFees})
         onKeyPress(box, [box](int& key) { key = EnterAsTab(key) == 0 ? 0 : NumbersOnly(box->text(), key); });
     onKeyPress(ui->txtRemark, [](int& key) { key = EnterAsTab(key); });
     onGotFocus(ui->txtClientRemark, [this] { LastKey = 0; });
-    onKeyPress(ui->txtClientRemark, [this](int& key) { txtClientRemark_KeyPress(key); });
-    on(ui->picColor, &ColorBox::clicked, &frmAddItem::picColor_Click);
-    on(ui->Command8, &QPushButton::clicked, &frmAddItem::Command8_Click);
+    onKeyPress(ui->txtClientRemark, [this](int& key) { typeClientRemark(key); });
+    on(ui->picColor, &ColorBox::clicked, &frmAddItem::chooseColor);
+    on(ui->Command8, &QPushButton::clicked, &frmAddItem::selectSecondPicture);
     on(ui->Command6, &QPushButton::clicked, [this] { clearPicture(*ui->pic1, *ui->picPath1); });
     on(ui->Command5, &QPushButton::clicked, [this] { clearPicture(*ui->pic2, *ui->picPath2); });
     on(ui->pic1, &PictureBox::dblClicked, [this] { preview(*ui->picPath1); });
     on(ui->pic2, &PictureBox::dblClicked, [this] { preview(*ui->picPath2); });
-    on(ui->Command2, &QPushButton::clicked, &frmAddItem::Command2_Click);
-    on(ui->Command1, &QPushButton::clicked, &frmAddItem::Command1_Click);
+    on(ui->Command2, &QPushButton::clicked, &frmAddItem::clear);
+    on(ui->Command1, &QPushButton::clicked, &frmAddItem::accept);
 }
 
 frmAddItem::~frmAddItem() = default;
@@ -79,21 +79,21 @@ frmAddItem::~frmAddItem() = default;
 
 bool frmAddItem::ItemDetails(clsJobCardData& rows, qint32 clientID)
 {
-    prepare(u"N"_s, rows, clientID);
+    prepare(RecordMode::New, rows, clientID);
     showModal();
     return LineCancelled;
 }
 
 bool frmAddItem::EditItemDetails(clsJobCardData& rows, qint32 clientID, qint32 rowIndex)
 {
-    prepare(u"E"_s, rows, clientID);
+    prepare(RecordMode::Stored, rows, clientID);
     RowIndex = rowIndex;
     showRow();
     showModal();
     return LineCancelled;
 }
 
-void frmAddItem::prepare(const QString& mode, clsJobCardData& rows, qint32 clientID)
+void frmAddItem::prepare(RecordMode mode, clsJobCardData& rows, qint32 clientID)
 {
     LineCancelled = true;
     LineMode = mode;
@@ -111,7 +111,7 @@ void frmAddItem::Form_Load()
 
 void frmAddItem::Form_Activate()
 {
-    if (LineMode == "E"_L1)
+    if (LineMode == RecordMode::Stored)
         ui->ItemDetails1->SetFocusToList();
 }
 
@@ -132,7 +132,7 @@ void frmAddItem::showRow()
 
 /// An entry is taken only where it is the box's text in whole: the item of an old line may have left the
 /// catalogue.
-void frmAddItem::cmbItems_GotFocus()
+void frmAddItem::openItems()
 {
     const int entry = ComboFindIndex(*ui->cmbItems);
     if (ui->cmbItems->List(entry).compare(ui->cmbItems->text(), Qt::CaseInsensitive) == 0)
@@ -140,7 +140,7 @@ void frmAddItem::cmbItems_GotFocus()
     ComboDropDown(*ui->cmbItems);
 }
 
-void frmAddItem::cmbItems_KeyPress(int& key)
+void frmAddItem::typeItem(int& key)
 {
     key = AutoSearchCombo(*ui->cmbItems, key);
     if (key != forms::key::Enter)
@@ -151,7 +151,7 @@ void frmAddItem::cmbItems_KeyPress(int& key)
         return;
     }
     ui->ItemDetails1->ClearList();
-    cmbItems_Click();
+    chooseItem();
     if (ui->ItemDetails1->Count() > 0)
         ui->ItemDetails1->SetFocusToList();
     else
@@ -159,7 +159,7 @@ void frmAddItem::cmbItems_KeyPress(int& key)
 }
 
 /// The fee always starts from the catalogue, also where the measurements come from an earlier order.
-void frmAddItem::cmbItems_Click()
+void frmAddItem::chooseItem()
 {
     const qint32 itemID = GetItemID(ui->cmbItems->text());
     LoadLastConfig(itemID, ClientID);
@@ -220,7 +220,7 @@ void frmAddItem::addPair(const QString& line)
 void frmAddItem::Form_KeyDown(int& key, Qt::KeyboardModifiers) { key = ArrowsAsTab(key); }
 
 /// A second Enter straight after the first ends the note.
-void frmAddItem::txtClientRemark_KeyPress(int& key)
+void frmAddItem::typeClientRemark(int& key)
 {
     const bool ends = key == forms::key::Enter && LastKey == forms::key::Enter;
     LastKey = ends ? 0 : key;
@@ -233,7 +233,7 @@ void frmAddItem::txtClientRemark_KeyPress(int& key)
 // Colour and pictures
 
 /// Black is no cloth's colour here: it is ignored.
-void frmAddItem::picColor_Click()
+void frmAddItem::chooseColor()
 {
     const QColor chosen = QColorDialog::getColor(ui->picColor->color(), this, u"Cloth Color"_s,
                                                  QColorDialog::DontUseNativeDialog);
@@ -243,7 +243,7 @@ void frmAddItem::picColor_Click()
 }
 
 /// The picture goes to the second place; its file is named as the first's are.
-void frmAddItem::Command8_Click()
+void frmAddItem::selectSecondPicture()
 {
     frmSelectFile picker;
     const QString source = picker.SelFile();
@@ -276,7 +276,7 @@ void frmAddItem::preview(const QLabel& picPath)
         frmPreview().ShowImage(picPath.text());
 }
 
-void frmAddItem::Command2_Click()
+void frmAddItem::clear()
 {
     clearPicture(*ui->pic1, *ui->picPath1);
     clearPicture(*ui->pic2, *ui->picPath2);
@@ -287,7 +287,7 @@ void frmAddItem::Command2_Click()
 // OK
 
 /// A line that could not be written counts as cancelled: the card must not list a row that it does not hold.
-void frmAddItem::Command1_Click()
+void frmAddItem::accept()
 {
     if (refuses(ui->cmbItems->text().isEmpty(), u"Please Select Item!"_s, *ui->cmbItems) ||
         refuses(Val(ui->txtFees->text()) == 0, u"Please Enter Fees!"_s, *ui->txtFees) ||
@@ -326,7 +326,7 @@ void frmAddItem::writeRow()
     const QString color = QString::number(ui->picColor->number());
     const QString note = ui->txtClientRemark->Text();
 
-    if (LineMode == "N"_L1) {
+    if (LineMode == RecordMode::New) {
         JobRows->AddNewRow(0, itemName, itemID, qty, fees, amount, remarks, details, detailsValue, 0, {}, {},
                            {}, {}, {}, 0, 0, 0, {}, img1, img2, color, 0, {}, note);
         return;

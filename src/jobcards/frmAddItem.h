@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/store/Codes.h"
 #include "platform/forms/Screen.h"
 
 #include <memory>
@@ -41,30 +42,30 @@ protected:
     void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
 
 private:
-    void prepare(const QString& mode, clsJobCardData& rows, qint32 clientID);
+    void prepare(RecordMode mode, clsJobCardData& rows, qint32 clientID);
     void showRow();
 
-    void cmbItems_GotFocus();
-    void cmbItems_KeyPress(int& key);
-    void cmbItems_Click();
+    void openItems();
+    void typeItem(int& key);
+    void chooseItem();
     void addPair(const QString& line);
 
-    void txtClientRemark_KeyPress(int& key);
-    void picColor_Click();
-    void Command8_Click();
+    void typeClientRemark(int& key);
+    void chooseColor();
+    void selectSecondPicture();
     static void clearPicture(PictureBox& pic, QLabel& picPath);
     static void showPicture(PictureBox& pic, QLabel& picPath, const QString& path);
     static void preview(const QLabel& picPath);
-    void Command2_Click();
+    void clear();
 
-    void Command1_Click();
+    void accept();
     bool refuses(bool refused, const QString& message, QWidget& field);
     void writeRow();
 
     std::unique_ptr<Ui::frmAddItem> ui;
 
     bool LineCancelled = true;
-    QString LineMode; ///< "N" a new line, "E" a row of the card
+    RecordMode LineMode = RecordMode::New;
     clsJobCardData* JobRows = nullptr;
     qint32 ClientID = 0;
     qint32 RowIndex = 0;

@@ -4,6 +4,7 @@
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "core/store/Texts.h"
 #include "jobcards/frmAddItem.h"
 #include "masters/frmEditClients.h"
 #include "messaging/swSMS.h"
@@ -20,12 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint32 DeliveryMarginSetting = 13;
 constexpr int AmountColumn = 4;
-
-QString money(double amount) { return values::Format(amount, u"0.00"_s); }
-
-QString dateText(const QDate& date) { return values::Format(date, u"dd-MMM-yyyy"_s); }
 
 bool matchesEntry(const forms::ComboBox& combo) { return ComboFindIndex(combo) >= 0; }
 
@@ -51,13 +47,13 @@ frmEditJOB::frmEditJOB(QWidget* parent)
             ComboDropDown(*combo);
         });
     }
-    onKeyPress(ui->cmbClient, [this](int& key) { cmbClient_KeyPress(key); });
-    onLostFocus(ui->cmbClient, [this] { cmbClient_LostFocus(); });
+    onKeyPress(ui->cmbClient, [this](int& key) { typeClient(key); });
+    onLostFocus(ui->cmbClient, [this] { greetClient(); });
     onKeyPress(ui->cmbAccount, [this](int& key) { key = AutoSearchCombo(*ui->cmbAccount, key); });
-    on(ui->txtAmountDue, &QLineEdit::textChanged, &frmEditJOB::txtAmountDue_Change);
-    onKeyPress(ui->txtAmountDue, [this](int& key) { txtAmountDue_KeyPress(key); });
-    onKeyDown(ui->txtAmountDue, [this](int& key) { txtAmountDue_KeyDown(key); });
-    on(ui->txtAmountPaid, &swTextBox::Change, &frmEditJOB::txtAmountPaid_Change);
+    on(ui->txtAmountDue, &QLineEdit::textChanged, &frmEditJOB::formatTotal);
+    onKeyPress(ui->txtAmountDue, [this](int& key) { typeTotal(key); });
+    onKeyDown(ui->txtAmountDue, [this](int& key) { deleteInTotal(key); });
+    on(ui->txtAmountPaid, &swTextBox::Change, &frmEditJOB::limitPaid);
     onKeyPress(ui->txtAmountPaid, [this](int& key) { key = NumbersOnly(ui->txtAmountPaid->text(), key); });
 
     on(ui->lvItems, &forms::ListView::dblClicked, &frmEditJOB::editLine);
@@ -68,17 +64,17 @@ frmEditJOB::frmEditJOB(QWidget* parent)
         }
     });
 
-    on(ui->Command1, &QPushButton::clicked, &frmEditJOB::Command1_Click);
-    on(ui->Command2, &QPushButton::clicked, &frmEditJOB::Command2_Click);
-    on(ui->Command3, &QPushButton::clicked, &frmEditJOB::Command3_Click);
-    on(ui->Command4, &QPushButton::clicked, &frmEditJOB::Command4_Click);
-    on(ui->Command5, &QPushButton::clicked, &frmEditJOB::Command5_Click);
-    on(ui->Command6, &QPushButton::clicked, &frmEditJOB::Command6_Click);
-    on(ui->Command7, &QPushButton::clicked, &frmEditJOB::Command7_Click);
-    on(ui->Command8, &QPushButton::clicked, &frmEditJOB::Command8_Click);
-    on(ui->Command9, &QPushButton::clicked, &frmEditJOB::Command9_Click);
-    on(ui->Command10, &QPushButton::clicked, &frmEditJOB::Command10_Click);
-    on(ui->Command12, &QPushButton::clicked, &frmEditJOB::Command12_Click);
+    on(ui->Command1, &QPushButton::clicked, &frmEditJOB::save);
+    on(ui->Command2, &QPushButton::clicked, &frmEditJOB::print);
+    on(ui->Command3, &QPushButton::clicked, &frmEditJOB::startNewCard);
+    on(ui->Command4, &QPushButton::clicked, &frmEditJOB::addLine);
+    on(ui->Command5, &QPushButton::clicked, &frmEditJOB::removeLine);
+    on(ui->Command6, &QPushButton::clicked, &frmEditJOB::clearLines);
+    on(ui->Command7, &QPushButton::clicked, &frmEditJOB::remove);
+    on(ui->Command8, &QPushButton::clicked, &frmEditJOB::toggleCancelReason);
+    on(ui->Command9, &QPushButton::clicked, &frmEditJOB::quickFind);
+    on(ui->Command10, &QPushButton::clicked, &frmEditJOB::copyLine);
+    on(ui->Command12, &QPushButton::clicked, &frmEditJOB::hideCancelReason);
 }
 
 frmEditJOB::~frmEditJOB() = default;
@@ -89,7 +85,8 @@ void frmEditJOB::Form_Load()
 {
     SetFormLanguage(*this);
     fillClients();
-    FillList(u"Title"_s, u"Accounts"_s, u" where type=2 and nature=0 "_s, *ui->cmbAccount, DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, whereType(AccountType::Ledger) + u" and nature=0 "_s, *ui->cmbAccount,
+             DE.rsaccounts);
     ui->lvItems->Clear();
     ui->picCancel->hide();
     m_card = JobCard();
@@ -107,7 +104,7 @@ void frmEditJOB::Form_Unload()
 
 void frmEditJOB::fillClients()
 {
-    FillList(u"Title"_s, u"Accounts"_s, u" where type=0"_s, *ui->cmbClient, DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, whereType(AccountType::Client), *ui->cmbClient, DE.rsaccounts);
 }
 
 void frmEditJOB::ShowAddNew()
@@ -148,7 +145,7 @@ void frmEditJOB::openWith(const std::function<void()>& fill)
 
 void frmEditJOB::showNewCard()
 {
-    const qint32 margin = values::CLng(values::Val(GetSetting(DeliveryMarginSetting, u"0"_s)));
+    const qint32 margin = values::CLng(values::Val(GetSetting(settings::DeliveryMargin)));
     JobCardHead head;
     head.Date = session.WorkingDate;
     head.DeliveryDate = session.WorkingDate.addDays(margin);
@@ -163,7 +160,7 @@ void frmEditJOB::showNewCard()
 void frmEditJOB::showStoredCard(qint32 JobID)
 {
     m_card.CurrentJobID = JobID;
-    m_card.EditMode = u"E"_s;
+    m_card.EditMode = RecordMode::Stored;
     auto& job = DE.rsJOBS;
     job.Open(u"Select * from JOBS where id="_s + QString::number(JobID));
     JobCardHead head;
@@ -226,7 +223,7 @@ void frmEditJOB::showHead(const JobCardHead& head)
 /// What tells a stored card from a new one. Its number never changes again.
 void frmEditJOB::showMode()
 {
-    if (m_card.EditMode != u"E"_s)
+    if (m_card.EditMode != RecordMode::Stored)
         return;
     ui->txtJOBID->setReadOnly(true);
     ui->txtJOBID->setText(QString::number(m_card.CurrentJobID));
@@ -252,7 +249,7 @@ void frmEditJOB::Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers)
     key = ArrowsAsTab(key);
 }
 
-void frmEditJOB::cmbClient_KeyPress(int& key)
+void frmEditJOB::typeClient(int& key)
 {
     if (key == forms::key::CtrlA) {
         QString added;
@@ -266,7 +263,7 @@ void frmEditJOB::cmbClient_KeyPress(int& key)
 }
 
 /// Greets the client with the last visit and the balance.
-void frmEditJOB::cmbClient_LostFocus()
+void frmEditJOB::greetClient()
 {
     if (!matchesEntry(*ui->cmbClient))
         return;
@@ -291,7 +288,7 @@ void frmEditJOB::cmbClient_LostFocus()
         greeting += u"  ago )  , Job # "_s + number;
     } else {
         // The sign is turned round either way, so that a credit shows with a minus.
-        greeting += u"  ago ) , Job # "_s + number + u" , Due Balance : "_s + money(-balance) +
+        greeting += u"  ago ) , Job # "_s + number + u" , Due Balance : "_s + moneyText(-balance) +
                     (balance < 0 ? u" Dr"_s : u" Cr"_s);
     }
     ui->picBanner->setText(greeting);
@@ -299,7 +296,7 @@ void frmEditJOB::cmbClient_LostFocus()
 
 /// Keeps the total in money form under the typing hand: the caret stays where it is as seen from the decimal
 /// point.
-void frmEditJOB::txtAmountDue_Change()
+void frmEditJOB::formatTotal()
 {
     const QString typed = ui->txtAmountDue->text();
     const QString formatted = values::formatMoneyText(typed);
@@ -314,7 +311,7 @@ void frmEditJOB::txtAmountDue_Change()
     ui->txtAmountDue->setCursorPosition(qBound(0, point(formatted) + fromPoint, int(formatted.size())));
 }
 
-void frmEditJOB::txtAmountDue_KeyPress(int& key)
+void frmEditJOB::typeTotal(int& key)
 {
     auto& box = *ui->txtAmountDue;
     const QString text = box.text();
@@ -331,7 +328,7 @@ void frmEditJOB::txtAmountDue_KeyPress(int& key)
     key = NumbersOnly(text, key);
 }
 
-void frmEditJOB::txtAmountDue_KeyDown(int& key)
+void frmEditJOB::deleteInTotal(int& key)
 {
     auto& box = *ui->txtAmountDue;
     if (key == forms::key::Delete && !box.hasSelectedText() &&
@@ -342,7 +339,7 @@ void frmEditJOB::txtAmountDue_KeyDown(int& key)
 }
 
 /// Nobody pays more than the total at the counter.
-void frmEditJOB::txtAmountPaid_Change()
+void frmEditJOB::limitPaid()
 {
     if (values::Val(ui->txtAmountPaid->text()) > values::Val(ui->txtAmountDue->text()))
         ui->txtAmountPaid->setText(ui->txtAmountDue->text());
@@ -352,7 +349,7 @@ void frmEditJOB::txtAmountPaid_Change()
 void frmEditJOB::showBalance()
 {
     ui->txtAmount->setText(
-        money(values::Val(ui->txtAmountDue->text()) - values::Val(ui->txtAmountPaid->text())));
+        moneyText(values::Val(ui->txtAmountDue->text()) - values::Val(ui->txtAmountPaid->text())));
 }
 
 void frmEditJOB::DoTotal()
@@ -363,11 +360,11 @@ void frmEditJOB::DoTotal()
     double total = 0;
     for (int row = 0; row < rows; ++row)
         total += values::Val(ui->lvItems->cell(row, AmountColumn));
-    ui->txtAmountDue->setText(money(total));
+    ui->txtAmountDue->setText(moneyText(total));
     showBalance();
 }
 
-void frmEditJOB::Command9_Click()
+void frmEditJOB::quickFind()
 {
     QString client;
     SearchClient(client);
@@ -382,8 +379,8 @@ void frmEditJOB::Command9_Click()
 QStringList frmEditJOB::lineCells(int row) const
 {
     const clsJobCardData& rows = m_card.JobRows;
-    return {rows.ItemName(row), rows.Remarks(row), QString::number(rows.Qty(row)), money(rows.Fees(row)),
-            money(rows.Amount(row))};
+    return {rows.ItemName(row), rows.Remarks(row), QString::number(rows.Qty(row)), moneyText(rows.Fees(row)),
+            moneyText(rows.Amount(row))};
 }
 
 /// Shows the last row of the card at the end of the list.
@@ -395,7 +392,7 @@ void frmEditJOB::appendLine()
 /// The row of the card (from 1) whose list entry is selected.
 int frmEditJOB::selectedLine() const { return qMax(0, ui->lvItems->selectedRow()) + 1; }
 
-void frmEditJOB::Command4_Click()
+void frmEditJOB::addLine()
 {
     if (ui->cmbClient->text().isEmpty()) {
         refuse(u"Please Select Client!"_s, ui->cmbClient);
@@ -424,7 +421,7 @@ void frmEditJOB::editLine()
     DoTotal();
 }
 
-void frmEditJOB::Command5_Click()
+void frmEditJOB::removeLine()
 {
     if (ui->lvItems->rowCount() == 0)
         return;
@@ -435,7 +432,7 @@ void frmEditJOB::Command5_Click()
     DoTotal();
 }
 
-void frmEditJOB::Command6_Click()
+void frmEditJOB::clearLines()
 {
     m_card.Clear();
     ui->lvItems->Clear();
@@ -443,7 +440,7 @@ void frmEditJOB::Command6_Click()
 }
 
 /// The copy shares the stored line of its source, and the total waits for the next change.
-void frmEditJOB::Command10_Click()
+void frmEditJOB::copyLine()
 {
     if (ui->lvItems->rowCount() == 0)
         return;
@@ -453,7 +450,7 @@ void frmEditJOB::Command10_Click()
 
 // The cancel panel, the next card
 
-void frmEditJOB::Command8_Click()
+void frmEditJOB::toggleCancelReason()
 {
     const bool show = !ui->picCancel->isVisible();
     ui->picCancel->setVisible(show);
@@ -461,13 +458,13 @@ void frmEditJOB::Command8_Click()
         ui->txtCancel->setFocus();
 }
 
-void frmEditJOB::Command12_Click()
+void frmEditJOB::hideCancelReason()
 {
     ui->picCancel->hide();
     ui->Command8->setFocus();
 }
 
-void frmEditJOB::Command3_Click()
+void frmEditJOB::startNewCard()
 {
     m_anotherCard = true;
     unload();

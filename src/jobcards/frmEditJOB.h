@@ -50,12 +50,12 @@ private:
     void showMode();
     void fillClients();
 
-    void cmbClient_KeyPress(int& key);
-    void cmbClient_LostFocus();
-    void txtAmountDue_Change();
-    void txtAmountDue_KeyPress(int& key);
-    void txtAmountDue_KeyDown(int& key);
-    void txtAmountPaid_Change();
+    void typeClient(int& key);
+    void greetClient();
+    void formatTotal();
+    void typeTotal(int& key);
+    void deleteInTotal(int& key);
+    void limitPaid();
     void showBalance();
 
     QStringList lineCells(int row) const;
@@ -63,17 +63,17 @@ private:
     int selectedLine() const;
     void editLine();
 
-    void Command1_Click();
-    void Command2_Click();
-    void Command3_Click();
-    void Command4_Click();
-    void Command5_Click();
-    void Command6_Click();
-    void Command7_Click();
-    void Command8_Click();
-    void Command9_Click();
-    void Command10_Click();
-    void Command12_Click();
+    void save();
+    void print();
+    void startNewCard();
+    void addLine();
+    void removeLine();
+    void clearLines();
+    void remove();
+    void toggleCancelReason();
+    void quickFind();
+    void copyLine();
+    void hideCancelReason();
 
     JobCardHead head() const;
     void refuse(const QString& message, QWidget* field);

@@ -14,14 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr qint32 OfferSmsSetting = 3;
-constexpr qint32 PrintAfterSaveSetting = 14;
-
-} // namespace
-
-void frmEditJOB::Command1_Click()
+void frmEditJOB::save()
 {
     if (ui->cmbClient->text().isEmpty()) {
         refuse(u"Please Select Client!"_s, ui->cmbClient);
@@ -37,10 +30,10 @@ void frmEditJOB::Command1_Click()
         refuse(u"Please Select Receipt Account!"_s, ui->cmbAccount);
         return;
     }
-    if (m_card.EditMode == u"N"_s) {
+    if (m_card.EditMode == RecordMode::New) {
         SaveNew();
-        if (values::Val(GetSetting(PrintAfterSaveSetting, u"0"_s)) == 1)
-            Command2_Click();
+        if (values::Val(GetSetting(settings::PrintAfterSave)) == 1)
+            print();
     } else {
         SaveEdit();
     }
@@ -57,7 +50,7 @@ void frmEditJOB::refuse(const QString& message, QWidget* field)
 JobCardHead frmEditJOB::head() const
 {
     JobCardHead head;
-    if (m_card.EditMode == u"N"_s)
+    if (m_card.EditMode == RecordMode::New)
         head.Number = values::CLng(values::Val(ui->txtJOBID->text()));
     head.Date = ui->JobDate->value();
     head.Client = ui->cmbClient->text();
@@ -95,7 +88,7 @@ void frmEditJOB::SaveEdit()
 
 void frmEditJOB::offerSms()
 {
-    if (GetSetting(OfferSmsSetting, u"No"_s) == u"No"_s)
+    if (GetSetting(settings::SmsAfterRegistration) == u"No"_s)
         return;
     if (!ShowMsg(u"This Job has been registered.\r\nWould you like to Inform Client via SMS?"_s, 2))
         return;
@@ -104,15 +97,15 @@ void frmEditJOB::offerSms()
 }
 
 /// A card that isn't stored has no paper yet: nothing comes.
-void frmEditJOB::Command2_Click()
+void frmEditJOB::print()
 {
-    if (m_card.EditMode == u"E"_s)
+    if (m_card.EditMode == RecordMode::Stored)
         PrintJobCard(m_card.CurrentJobID);
 }
 
-void frmEditJOB::Command7_Click()
+void frmEditJOB::remove()
 {
-    if (m_card.EditMode == u"N"_s)
+    if (m_card.EditMode == RecordMode::New)
         return;
     if (!ShowMsg(u"Are you sure to Delete!"_s, 2))
         return;

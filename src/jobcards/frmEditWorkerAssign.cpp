@@ -4,7 +4,9 @@
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "core/store/Texts.h"
 #include "jobcards/ItemColor.h"
+#include "jobcards/JobProgress.h"
 #include "jobcards/MODPrintJOBCARD.h"
 #include "media/frmPreview.h"
 #include "messaging/modSMS.h"
@@ -27,11 +29,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString NoWorker = u"NA"_s;
-constexpr qint32 WagesShownSetting = 20;
 constexpr int HeightOfStars = 20;
-
-QString dateText(const QDate& date) { return values::Format(date, u"dd-MMM-yyyy"_s); }
 
 /// Names and values of the measurements stand side by side: they scroll as one.
 void scrollTogether(QPlainTextEdit& one, QPlainTextEdit& other)
@@ -69,25 +67,25 @@ frmEditWorkerAssign::frmEditWorkerAssign()
     on(ui->pic1, &PictureBox::dblClicked, [this, preview] { preview(Img1Path); });
     on(ui->pic2, &PictureBox::dblClicked, [this, preview] { preview(Img2Path); });
 
-    on(ui->Command1, &QPushButton::clicked, &frmEditWorkerAssign::Command1_Click);
-    on(ui->Command2, &QPushButton::clicked, &frmEditWorkerAssign::Command2_Click);
+    on(ui->Command1, &QPushButton::clicked, &frmEditWorkerAssign::save);
+    on(ui->Command2, &QPushButton::clicked, &frmEditWorkerAssign::giveFeedback);
     on(ui->Command3, &QPushButton::clicked, [this] { PrintWorkerSlip(LineID); });
-    on(ui->Command4, &QPushButton::clicked, &frmEditWorkerAssign::Command4_Click);
+    on(ui->Command4, &QPushButton::clicked, &frmEditWorkerAssign::offerSms);
     on(ui->Command7, &QPushButton::clicked, [this] { PrintLabel(LineID); });
     const auto print = [](const QString& imgPath) { report::printPicture(imgPath, 100, 100); };
     on(ui->Command5, &QPushButton::clicked, [this, print] { print(Img1Path); });
     on(ui->Command6, &QPushButton::clicked, [this, print] { print(Img2Path); });
-    on(ui->lblHideShow, &QPushButton::clicked, &frmEditWorkerAssign::lblHideShow_Click);
+    on(ui->lblHideShow, &QPushButton::clicked, &frmEditWorkerAssign::toggleWages);
 }
 
 frmEditWorkerAssign::~frmEditWorkerAssign() = default;
 
 std::vector<frmEditWorkerAssign::State> frmEditWorkerAssign::states() const
 {
-    return {{ui->opUcom, 0, nullptr, nullptr},
-            {ui->opCom, 1, "CompletedDate", ui->lblDateCompleted},
-            {ui->opDel, 2, "DelToCustDate", ui->lblDateDeltoCust},
-            {ui->opAlt, 3, "AltDate", ui->lbldateAlt}};
+    return {{ui->opUcom, LineState::Uncompleted, nullptr},
+            {ui->opCom, LineState::Completed, ui->lblDateCompleted},
+            {ui->opDel, LineState::Delivered, ui->lblDateDeltoCust},
+            {ui->opAlt, LineState::Alteration, ui->lbldateAlt}};
 }
 
 // Opening
@@ -109,9 +107,9 @@ void frmEditWorkerAssign::ShowEdit(qint32 lineID)
 void frmEditWorkerAssign::Form_Load()
 {
     SetFormLanguage(*this);
-    FillList(u"Title"_s, u"Accounts"_s, u" where Type=1"_s, *ui->cmbWorker, DE.rsaccounts);
-    ui->cmbWorker->insertItem(0, NoWorker);
-    showWages(GetSetting(WagesShownSetting, u"1"_s) != "0"_L1);
+    FillList(u"Title"_s, u"Accounts"_s, whereType(AccountType::Worker), *ui->cmbWorker, DE.rsaccounts);
+    ui->cmbWorker->insertItem(0, noWorker);
+    showWages(GetSetting(settings::WorkerDetailsShown) != "0"_L1);
     swSMS1 = std::make_unique<swSMS>(this);
     swSMS1->setObjectName(u"swSMS1"_s);
 }
@@ -122,7 +120,7 @@ void frmEditWorkerAssign::showLine()
 {
     auto& line = openRow(DE.rsJOBS_DETAIL, "Select * from jobs_detail where ID=", LineID);
     const qint32 workerID = line["WorkerID"].integer();
-    const QString worker = workerID == 0 ? NoWorker : GetAccountTitle(workerID);
+    const QString worker = workerID == 0 ? noWorker : GetAccountTitle(workerID);
     LineDate = line["Date"].date();
     LineClientID = line["ClintID"].integer();
     LineItemID = line["ItemID"].integer();
@@ -136,12 +134,12 @@ void frmEditWorkerAssign::showLine()
     ui->txtSize->setText(line["ItemDetailsValue"].text());
 
     for (const State& state : states()) {
-        if (state.number == line["DoneByWorker"].integer())
+        if (state.state == line["DoneByWorker"].code<LineState>())
             state.option->setChecked(true);
         if (state.date)
-            state.date->setText(dateText(line[state.dateField].date()));
+            state.date->setText(dateText(line[dayColumn(state.state)].date()));
     }
-    ui->chCutting->setChecked(line["CuttingStatus"].integer() == 1);
+    ui->chCutting->setChecked(line["CuttingStatus"].code<CuttingMark>() == CuttingMark::Done);
     ui->DtCutting->setValue(line["CuttingDate"].date());
     const Currency wage = line["WorkerWagesDue"].money();
     ui->txtWagesDue->setText(wage.toString());
@@ -168,7 +166,7 @@ void frmEditWorkerAssign::showWagesPaid(Currency wage, qint32 payrollID)
         return;
     auto& payroll = openRow(DE.rspostings, "Select * from Postings where vType=2 and VID=", payrollID);
     if (!payroll.AtEOF()) {
-        ui->lblWagesPaid->setText(values::Format(wage.toDouble(), u"0.00"_s));
+        ui->lblWagesPaid->setText(moneyText(wage.toDouble()));
         ui->lblWagesPaidDate->setText(dateText(payroll["Date"].date()));
     }
     payroll.Close();
@@ -188,10 +186,10 @@ void frmEditWorkerAssign::showPicture(PictureBox& pic, QPushButton& print, QStri
 void frmEditWorkerAssign::showLastJob()
 {
     auto& lines = DE.rsJOBS_DETAIL;
-    lines.Open(u"Select * from JOBS_DETAIL where DATE<#%1# and ItemID=%2 and ClintID=%3"_s
-                   .arg(values::Format(LineDate, u"DD-MMM-YYYY"_s))
-                   .arg(LineItemID)
-                   .arg(LineClientID));
+    lines.Open(
+        u"Select * from JOBS_DETAIL where DATE<#%1# and ItemID=%2 and ClintID=%3"_s.arg(dateText(LineDate))
+            .arg(LineItemID)
+            .arg(LineClientID));
     if (lines.AtEOF()) {
         ui->lblLastJob->setText(u"No last record found"_s);
         lines.Close();
@@ -229,7 +227,7 @@ void frmEditWorkerAssign::RateWorker()
         if (const QPixmap picture = stars(rating, HeightOfStars); !picture.isNull())
             ui->imgStars->setPixmap(picture);
     });
-    if (!worker.isEmpty() && worker != NoWorker)
+    if (!worker.isEmpty() && worker != noWorker)
         rating = GetWorkerRating(GetAccountID(worker));
 }
 
@@ -239,7 +237,7 @@ void frmEditWorkerAssign::Form_KeyPress(int& key)
 {
     if (key == forms::key::CtrlS) {
         key = 0;
-        Command1_Click();
+        save();
     } else if (key == forms::key::CtrlP) {
         key = 0;
         ui->Command3->click();
@@ -251,7 +249,7 @@ void frmEditWorkerAssign::Form_KeyPress(int& key)
 
 // Save
 
-void frmEditWorkerAssign::Command1_Click()
+void frmEditWorkerAssign::save()
 {
     const QString worker = chosenWorker();
     if (worker.isEmpty()) {
@@ -262,16 +260,16 @@ void frmEditWorkerAssign::Command1_Click()
     writeLine(worker);
     session.RefreshLists = true;
     ShowMsg(u"Job Assign."_s);
-    Command4_Click();
+    offerSms();
     if (AllItemsDelivered(jobID()))
-        closeJob();
+        closeCard(jobID(), session.WorkingDate);
 }
 
 /// A line without a worker keeps the name of the one it had. A day once stamped stays when the state changes.
 void frmEditWorkerAssign::writeLine(const QString& worker)
 {
     auto& line = openRow(DE.rsJOBS_DETAIL, "Select * from jobs_detail where id=", LineID);
-    if (worker == NoWorker) {
+    if (worker == noWorker) {
         line["WorkerID"] = 0;
     } else {
         line["WorkerID"] = GetAccountID(worker);
@@ -280,13 +278,11 @@ void frmEditWorkerAssign::writeLine(const QString& worker)
     for (const State& state : states()) {
         if (!state.option->isChecked())
             continue;
-        line["DoneByWorker"] = state.number;
-        if (state.date) {
-            line[state.dateField] = session.WorkingDate;
+        enterState(line, state.state, session.WorkingDate);
+        if (state.date)
             state.date->setText(dateText(session.WorkingDate));
-        }
     }
-    line["CuttingStatus"] = int(ui->chCutting->isChecked());
+    line["CuttingStatus"] = ui->chCutting->isChecked() ? CuttingMark::Done : CuttingMark::NotDone;
     line["CuttingDate"] = ui->DtCutting->value();
     line["WorkerWagesDue"] = Currency::fromDouble(values::Val(ui->txtWagesDue->text()));
     line["MarkAsPaid"] = int(ui->chMarkasPaid->isChecked());
@@ -295,19 +291,9 @@ void frmEditWorkerAssign::writeLine(const QString& worker)
     line.Close();
 }
 
-/// All of the card is with the client: the promised day gives way to the real one.
-void frmEditWorkerAssign::closeJob()
-{
-    auto& job = openRow(DE.rsJOBS, "Select * from jobs where id=", jobID());
-    job["DeliveryDate"] = session.WorkingDate;
-    job["JOBFINISHED"] = 1;
-    job.Update();
-    job.Close();
-}
-
 // Commands
 
-void frmEditWorkerAssign::Command2_Click()
+void frmEditWorkerAssign::giveFeedback()
 {
     QVariant score;
     GiveFeedback(LineID, 0, score);
@@ -316,7 +302,7 @@ void frmEditWorkerAssign::Command2_Click()
 }
 
 /// Does nothing as long as a line of the card is not completed.
-void frmEditWorkerAssign::Command4_Click()
+void frmEditWorkerAssign::offerSms()
 {
     if (!AllItemsCompleted(jobID()) || !ShowMsg(u"Send SMS Now?"_s, 2))
         return;
@@ -329,9 +315,9 @@ void frmEditWorkerAssign::showWages(bool shown)
     ui->lblHideShow->setText(shown ? u"Hide Worker Details"_s : u"Show Worker Details"_s);
 }
 
-void frmEditWorkerAssign::lblHideShow_Click()
+void frmEditWorkerAssign::toggleWages()
 {
     const bool shown = !ui->fWorkerDetails->isVisible();
     showWages(shown);
-    SetSetting(WagesShownSetting, QString::number(int(shown)));
+    SetSetting(settings::WorkerDetailsShown, QString::number(int(shown)));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/store/Codes.h"
 #include "platform/forms/Screen.h"
 
 #include <QDate>
@@ -43,9 +44,8 @@ private:
     struct State
     {
         QRadioButton* option;
-        int number;
-        const char* dateField; ///< null: the state has no day
-        QLabel* date;
+        LineState state;
+        QLabel* date; ///< null: the state has no day
     };
     std::vector<State> states() const;
 
@@ -57,12 +57,11 @@ private:
     QString chosenWorker() const;
     qint32 jobID() const;
 
-    void Command1_Click();
+    void save();
     void writeLine(const QString& worker);
-    void closeJob();
-    void Command2_Click();
-    void Command4_Click();
-    void lblHideShow_Click();
+    void giveFeedback();
+    void offerSms();
+    void toggleWages();
 
     std::unique_ptr<Ui::frmEditWorkerAssign> ui;
     std::unique_ptr<swSMS> swSMS1;

@@ -31,7 +31,7 @@ void EditMaster::AddNew()
         m_addAnother = false;
         m_controls.txtName->setText({});
         clear();
-        show(u"N"_s, m_kind.titleNew);
+        show(RecordMode::New, m_kind.titleNew);
     } while (m_addAnother);
 }
 
@@ -43,10 +43,10 @@ void EditMaster::Edit(qint16 id)
     m_controls.txtName->setText(m_keptName);
     read(m_recordset);
     m_recordset.Close();
-    show(u"E"_s, m_kind.titleEdit);
+    show(RecordMode::Stored, m_kind.titleEdit);
 }
 
-void EditMaster::show(const QString& mode, const QString& title)
+void EditMaster::show(RecordMode mode, const QString& title)
 {
     m_mode = mode;
     m_controls.lblTitle->setText(title);
@@ -58,7 +58,7 @@ void EditMaster::Form_Load() { SetFormLanguage(*this); }
 
 void EditMaster::save()
 {
-    const bool isNew = m_mode == "N"_L1;
+    const bool isNew = m_mode == RecordMode::New;
     const QString name = m_controls.txtName->Text();
     if (name.isEmpty()) {
         ShowMsg(m_kind.nameMissing);
@@ -104,7 +104,7 @@ bool EditMaster::addsAnotherAfter(const QString&) { return true; }
 
 void EditMaster::remove()
 {
-    if (m_mode != "E"_L1 || !ShowMsg(u"Are you sure?"_s, 2))
+    if (m_mode != RecordMode::Stored || !ShowMsg(u"Are you sure?"_s, 2))
         return;
     if (isInUse(m_id)) {
         ShowMsg(u"Cant't Delete!"_s);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/store/Codes.h"
 #include "platform/ado/Recordset.h"
 #include "platform/forms/Screen.h"
 
@@ -59,7 +60,7 @@ protected:
     static bool hasRows(ado::Recordset& recordset, const QString& sql);
 
 private:
-    void show(const QString& mode, const QString& title);
+    void show(RecordMode mode, const QString& title);
     void save();
     void remove();
     bool isTaken(const QString& name);
@@ -67,7 +68,7 @@ private:
     const Kind m_kind;
     ado::Recordset& m_recordset;
     Controls m_controls{};
-    QString m_mode; ///< "N" new, "E" edit
+    RecordMode m_mode = RecordMode::New;
     qint16 m_id = 0;
     QString m_keptName; ///< the name as it stands in the table
     bool m_addAnother = false;

@@ -13,7 +13,7 @@ frmClients::frmClients()
 
 void frmClients::fill(ListTarget& list)
 {
-    FillList(u"Title"_s, u"Accounts"_s, u" where Type=0"_s, list, DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, whereType(AccountType::Client), list, DE.rsaccounts);
 }
 
 void frmClients::addRecord() { std::make_unique<frmEditClients>()->AddNew(); }

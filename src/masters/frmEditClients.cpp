@@ -1,5 +1,6 @@
 #include "masters/frmEditClients.h"
 
+#include "core/store/Codes.h"
 #include "core/store/DE.h"
 #include "core/store/Session.h"
 #include "ui/ModOtherFUN.h"
@@ -52,7 +53,7 @@ void frmEditClients::read(ado::Recordset& row)
 
 void frmEditClients::write(ado::Recordset& row)
 {
-    row["Type"] = 0;
+    row["Type"] = AccountType::Client;
     row["Address"] = ui->txtAddress->Text();
     row["City"] = ui->txtCity->Text();
     row["State"] = ui->txtState->Text();

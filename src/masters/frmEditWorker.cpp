@@ -1,5 +1,6 @@
 #include "masters/frmEditWorker.h"
 
+#include "core/store/Codes.h"
 #include "core/store/DE.h"
 #include "ui_frmEditWorker.h"
 
@@ -38,7 +39,7 @@ void frmEditWorker::read(ado::Recordset& row)
 
 void frmEditWorker::write(ado::Recordset& row)
 {
-    row["Type"] = 1;
+    row["Type"] = AccountType::Worker;
     row["Address"] = ui->txtAddress->Text();
     row["City"] = ui->txtCity->Text();
     row["State"] = ui->txtState->Text();

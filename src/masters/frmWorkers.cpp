@@ -13,7 +13,7 @@ frmWorkers::frmWorkers()
 
 void frmWorkers::fill(ListTarget& list)
 {
-    FillList(u"Title"_s, u"Accounts"_s, u" where Type=1"_s, list, DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, whereType(AccountType::Worker), list, DE.rsaccounts);
 }
 
 void frmWorkers::addRecord() { std::make_unique<frmEditWorker>()->AddNew(); }

@@ -1,7 +1,9 @@
 #include "messaging/modSMS.h"
 
+#include "core/store/Codes.h"
 #include "core/store/DE.h"
 #include "core/store/Settings.h"
+#include "core/store/Texts.h"
 #include "platform/values/Numbers.h"
 
 #include <QEventLoop>
@@ -11,26 +13,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint32 SignatureSetting = 10;
-constexpr qint32 JobRegisteredSetting = 24;
-constexpr qint32 JobFinishedSetting = 25;
-constexpr qint32 DueBalanceSetting = 26;
-
-QString jobSms(qint32 setting, const QString& defaultDraft, qint32 jobId, double amount)
+QString jobSms(const Setting& setting, const QString& defaultDraft, qint32 jobId, double amount)
 {
     QString text = GetSetting(setting, defaultDraft);
     text.replace("%eid%"_L1, QString::number(jobId));
     text.replace("%amount%"_L1, values::CStr(amount));
-    return text + u'\r' + GetSetting(SignatureSetting, QString());
+    return text + u'\r' + GetSetting(settings::SmsTitle);
 }
 
-bool allItemsInState(qint32 jobId, int state)
+bool allItemsInState(qint32 jobId, LineState state)
 {
     const QString all = u"Select * from Jobs_Detail where JobID="_s + QString::number(jobId);
     auto& lines = DE.rsJOBS_DETAIL;
     lines.Open(all);
     const int count = lines.RecordCount();
-    lines.Open(all + u" and DoneByWorker="_s + QString::number(state));
+    lines.Open(all + u" and DoneByWorker="_s + QString::number(qint32(state)));
     const int inState = lines.RecordCount();
     lines.Close();
     return inState == count;
@@ -54,17 +51,17 @@ QString DefaultDueBalanceDraft() { return u"Dear Customer\r Your Due Balance is 
 
 QString MakeJobRegisteredSms(qint32 jobId, double amount)
 {
-    return jobSms(JobRegisteredSetting, DefaultJobRegisteredDraft(), jobId, amount);
+    return jobSms(settings::SmsJobRegistered, DefaultJobRegisteredDraft(), jobId, amount);
 }
 
 QString MakeJobFinishedSms(qint32 jobId, double amount)
 {
-    return jobSms(JobFinishedSetting, DefaultJobFinishedDraft(), jobId, amount);
+    return jobSms(settings::SmsJobFinished, DefaultJobFinishedDraft(), jobId, amount);
 }
 
 QString MakeDueBalanceSms(const QString& amount)
 {
-    return GetSetting(DueBalanceSetting, DefaultDueBalanceDraft()).replace("%amount%"_L1, amount);
+    return GetSetting(settings::SmsDueBalance, DefaultDueBalanceDraft()).replace("%amount%"_L1, amount);
 }
 
 QString GetClientMobile(const QString& title, qint16 id)
@@ -78,8 +75,7 @@ QString GetClientMobile(const QString& title, qint16 id)
         clients.Close();
     };
     if (!title.isEmpty()) {
-        read(u"Select * from Accounts where type=0 and  Title='"_s + QString(title).replace("'"_L1, "''"_L1) +
-             u"'"_s);
+        read(u"Select * from Accounts where type=0 and  Title='"_s + sqlText(title) + u"'"_s);
     }
     if (id > 0)
         read(u"Select * from Accounts where  type=0 and  ID="_s + QString::number(id));
@@ -104,9 +100,9 @@ QString ContactOf(ado::Recordset& account)
     return contact.trimmed().isEmpty() ? u"No Information Found"_s : contact;
 }
 
-bool AllItemsCompleted(qint32 jobId) { return allItemsInState(jobId, 1); }
+bool AllItemsCompleted(qint32 jobId) { return allItemsInState(jobId, LineState::Completed); }
 
-bool AllItemsDelivered(qint32 jobId) { return allItemsInState(jobId, 2); }
+bool AllItemsDelivered(qint32 jobId) { return allItemsInState(jobId, LineState::Delivered); }
 
 void RunAndWait(const QString& commandLine)
 {

@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint32 PortSetting = 4;
 constexpr char EndOfMessage = 26; // Ctrl+Z
 
 QByteArray dialled(const QString& number)
@@ -46,7 +45,7 @@ void swSMS::SendSMS(qint16 port, const QString& number, const QString& message)
 bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString& text)
 {
     const QString mobile = GetClientMobile(title, id);
-    const QString port = GetSetting(PortSetting, QString());
+    const QString port = GetSetting(settings::ModemPort);
     if (mobile.isEmpty()) {
         ShowMsg(u"Mobile Number Not Found!\r\nSMS Sending has been Failed."_s);
         return false;

@@ -54,17 +54,7 @@ QString cuttingName(qint32 mark)
     }
 }
 
-QString lineDate(const QDate& date) { return values::Format(date, u"DD-MMM-YYYY"_s); }
-
 QString daysAhead(const QDate& date) { return QString::number(session.WorkingDate.daysTo(date)); }
-
-QString balanceText(double balance)
-{
-    const QString size = values::Format(std::abs(balance), u"0.00"_s);
-    if (balance > 0)
-        return size + u" Cr"_s;
-    return balance < 0 ? QString(size + u" Dr"_s) : u"None"_s;
-}
 
 void LineNames::readAll(const QString& query)
 {
@@ -105,4 +95,4 @@ const QString& LineNames::balance(qint32 client)
     });
 }
 
-const QString& LineNames::date(const QDate& day) { return knownOr(m_dates, day, lineDate); }
+const QString& LineNames::date(const QDate& day) { return knownOr(m_dates, day, dateText); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/store/Texts.h"
 #include "platform/ado/Recordset.h"
 #include "platform/values/Literals.h"
 
@@ -19,16 +20,8 @@ QString statusName(qint32 state);
 /// The mark of its cutting (`CuttingStatus`): "Not Done", "Done"; a null text for any other.
 QString cuttingName(qint32 mark);
 
-/// What stands in place of a worker's name for a line without one.
-inline const QString noWorker = u"NA"_s;
-
-/// "25-Dec-2024".
-QString lineDate(const QDate& date);
 /// Whole days from the working date; negative when the date has passed.
 QString daysAhead(const QDate& date);
-
-/// "12.50 Cr" (the shop owes), "12.50 Dr" (the client owes), "None".
-QString balanceText(double balance);
 
 /// The look-ups that the rows of a register repeat, each number asked of the file once. Lives as long as one
 /// filling of the list, so what it says is never older than the list. Throws like the look-ups themselves.
@@ -48,7 +41,7 @@ public:
     const QString& contact(qint32 id);
     const QString& item(qint32 id);
     const QString& balance(qint32 client);
-    /// The day as lineDate() words it.
+    /// The day as dateText() words it.
     const QString& date(const QDate& day);
     const QString& worker(qint32 id) { return id == 0 ? noWorker : account(id); }
 

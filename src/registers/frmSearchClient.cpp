@@ -2,16 +2,11 @@
 
 #include "core/store/DE.h"
 #include "core/store/Settings.h"
+#include "core/store/Texts.h"
 #include "ui/modLang.h"
 #include "ui_frmSearchClient.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr qint32 ShowAllJobsSetting = 28;
-
-} // namespace
 
 frmSearchClient::frmSearchClient()
     : ui(std::make_unique<Ui::frmSearchClient>())
@@ -43,7 +38,7 @@ frmSearchClient::frmSearchClient()
     onKeyPress(ui->lvResults, chooseOnEnter);
     on(ui->lvResults, &forms::ListView::dblClicked, &frmSearchClient::choose);
     on(ui->opShowAllUndel, &QCheckBox::clicked,
-       [this] { SetSetting(ShowAllJobsSetting, allJobs() ? u"1"_s : u"0"_s); });
+       [this] { SetSetting(settings::UndeliveredClientsOnly, allJobs() ? u"1"_s : u"0"_s); });
     on(ui->Command1, &QPushButton::clicked, &frmSearchClient::choose);
     on(ui->Command2, &QPushButton::clicked, &frmSearchClient::unload);
 }
@@ -53,7 +48,7 @@ frmSearchClient::~frmSearchClient() = default;
 void frmSearchClient::Form_Load()
 {
     SetFormLanguage(*this);
-    ui->opShowAllUndel->setChecked(GetSetting(ShowAllJobsSetting, u"0"_s) == "1"_L1);
+    ui->opShowAllUndel->setChecked(GetSetting(settings::UndeliveredClientsOnly) == "1"_L1);
 }
 
 void frmSearchClient::offerAllJobs() { ui->fmQuery->show(); }
@@ -67,7 +62,7 @@ void frmSearchClient::SearchText(const QString& text, const QString& field)
         return;
     ado::Recordset& found = DE.rsaccounts;
     found.Open(u"Select * from Accounts  where type=%1 and "_s.arg(0) + field + u" like '%"_s +
-               QString(text).replace(u'\'', "''"_L1) + u"%'"_s);
+               sqlText(text) + u"%'"_s);
     std::vector<forms::ListView::Row> rows;
     for (; !found.AtEOF(); found.MoveNext())
         rows.push_back(

@@ -53,7 +53,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
         if (text.isEmpty())
             SearchMode = u"C"_s;
     });
-    onKeyPress(ui->txtSearchID, [this](int& key) { txtSearchID_KeyPress(key); });
+    onKeyPress(ui->txtSearchID, [this](int& key) { typeJobId(key); });
     onKeyPress(ui->cmbClient, [this](int& key) {
         key = AutoSearchCombo(*ui->cmbClient, key);
         if (key != forms::key::Enter)
@@ -66,8 +66,8 @@ frmWorkerJobRegister::frmWorkerJobRegister()
         view();
         ui->lvSummary->setFocus();
     });
-    on(ui->Command8, &QPushButton::clicked, &frmWorkerJobRegister::Command8_Click);
-    on(ui->Command3, &QPushButton::clicked, &frmWorkerJobRegister::Command3_Click);
+    on(ui->Command8, &QPushButton::clicked, &frmWorkerJobRegister::quickFind);
+    on(ui->Command3, &QPushButton::clicked, &frmWorkerJobRegister::showOverview);
     on(ui->Command1, &QPushButton::clicked, [this] { showDetails(true); });
     on(ui->Image1, &QPushButton::clicked, [this] { showDetails(false); });
 
@@ -79,12 +79,12 @@ frmWorkerJobRegister::frmWorkerJobRegister()
         openLine();
     });
     on(ui->lvSummary, &forms::ListView::menuAsked, &frmWorkerJobRegister::askMenu);
-    on(ui->mnuUn, &QAction::triggered, &frmWorkerJobRegister::mnuUn_Click);
-    on(ui->mnuCom, &QAction::triggered, &frmWorkerJobRegister::mnuCom_Click);
-    on(ui->mnuALt, &QAction::triggered, &frmWorkerJobRegister::mnuALt_Click);
-    on(ui->mnuDel, &QAction::triggered, &frmWorkerJobRegister::mnuDel_Click);
-    on(ui->mnuJobFulPay, &QAction::triggered, &frmWorkerJobRegister::mnuJobFulPay_Click);
-    on(ui->mnuOpenJobCard, &QAction::triggered, &frmWorkerJobRegister::mnuOpenJobCard_Click);
+    on(ui->mnuUn, &QAction::triggered, &frmWorkerJobRegister::markCuttingDone);
+    on(ui->mnuCom, &QAction::triggered, &frmWorkerJobRegister::markCompleted);
+    on(ui->mnuALt, &QAction::triggered, &frmWorkerJobRegister::markAlteration);
+    on(ui->mnuDel, &QAction::triggered, &frmWorkerJobRegister::markDelivered);
+    on(ui->mnuJobFulPay, &QAction::triggered, &frmWorkerJobRegister::deliverWholeCard);
+    on(ui->mnuOpenJobCard, &QAction::triggered, &frmWorkerJobRegister::openJobCard);
 }
 
 frmWorkerJobRegister::~frmWorkerJobRegister() = default;
@@ -116,7 +116,7 @@ QString frmWorkerJobRegister::order() const { return u" order by JobID,id,"_s + 
 /// The dates of the range, as a statement ends with them.
 QString frmWorkerJobRegister::between() const
 {
-    return lineDate(ui->DateFrom->value()) + u"# and #"_s + lineDate(ui->DateTo->value()) + u'#';
+    return dateText(ui->DateFrom->value()) + u"# and #"_s + dateText(ui->DateTo->value()) + u'#';
 }
 
 /// The lines of one worker.
@@ -251,7 +251,7 @@ void frmWorkerJobRegister::RemoveUnwanted3(const QString& condition)
 
 // Criteria
 
-void frmWorkerJobRegister::txtSearchID_KeyPress(int& key)
+void frmWorkerJobRegister::typeJobId(int& key)
 {
     if (key != forms::key::Enter)
         return;
@@ -260,7 +260,7 @@ void frmWorkerJobRegister::txtSearchID_KeyPress(int& key)
     ExecuteSQL();
 }
 
-void frmWorkerJobRegister::Command8_Click()
+void frmWorkerJobRegister::quickFind()
 {
     SearchClient.clear();
     qint16 allJobs = 0;
@@ -274,7 +274,7 @@ void frmWorkerJobRegister::Command8_Click()
 }
 
 /// The worker picked from the numbers of lines of all.
-void frmWorkerJobRegister::Command3_Click()
+void frmWorkerJobRegister::showOverview()
 {
     QString worker;
     ShowWorkerOverView(workerSearch(u"%id"_s), worker);

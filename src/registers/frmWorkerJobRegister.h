@@ -54,21 +54,21 @@ private:
     void countLines(const QString& condition, qint32& count);
 
     // Criteria
-    void txtSearchID_KeyPress(int& key);
-    void Command8_Click();
-    void Command3_Click();
+    void typeJobId(int& key);
+    void quickFind();
+    void showOverview();
     void showDetails(bool show);
     void placeDetails();
 
     // Actions on the selected row
     void openLine();
     void askMenu(int row, const QPoint& place);
-    void mnuUn_Click();
-    void mnuCom_Click();
-    void mnuALt_Click();
-    void mnuDel_Click();
-    void mnuJobFulPay_Click();
-    void mnuOpenJobCard_Click();
+    void markCuttingDone();
+    void markCompleted();
+    void markAlteration();
+    void markDelivered();
+    void deliverWholeCard();
+    void openJobCard();
     qint32 selectedLine() const;
     qint32 selectedJob() const;
     QString askLocation();

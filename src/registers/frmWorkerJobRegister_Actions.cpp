@@ -1,5 +1,6 @@
 #include "core/store/DE.h"
 #include "core/store/Session.h"
+#include "jobcards/JobProgress.h"
 #include "jobcards/frmEditJOB.h"
 #include "jobcards/frmEditWorkerAssign.h"
 #include "platform/forms/MessageBox.h"
@@ -20,7 +21,7 @@ void frmWorkerJobRegister::Form_KeyPress(int& key)
         showDetails(true);
         break;
     case forms::key::CtrlF:
-        Command8_Click();
+        quickFind();
         break;
     default:
         return;
@@ -32,16 +33,16 @@ void frmWorkerJobRegister::Form_KeyDown(int& key, Qt::KeyboardModifiers)
 {
     switch (key) {
     case forms::key::F1:
-        mnuOpenJobCard_Click();
+        openJobCard();
         break;
     case forms::key::F6:
-        mnuUn_Click();
+        markCuttingDone();
         break;
     case forms::key::F7:
-        mnuCom_Click();
+        markCompleted();
         break;
     case forms::key::F8:
-        mnuDel_Click();
+        markDelivered();
         break;
     default:
         return;
@@ -90,32 +91,31 @@ void frmWorkerJobRegister::writeLine(qint32 line, const std::function<void(ado::
     conditionStep();
 }
 
-void frmWorkerJobRegister::mnuUn_Click()
+void frmWorkerJobRegister::markCuttingDone()
 {
     const qint32 line = selectedLine();
     if (line == 0 || !asked(u"Mark Item as Cutting Done?"_s))
         return;
     writeLine(line, [](ado::Recordset& row) {
-        row["CuttingStatus"] = 1;
+        row["CuttingStatus"] = CuttingMark::Done;
         row["CuttingDate"] = session.WorkingDate;
     });
 }
 
-void frmWorkerJobRegister::mnuCom_Click()
+void frmWorkerJobRegister::markCompleted()
 {
     const qint32 line = selectedLine();
     if (line == 0 || !asked(u"Mark Item as Completed?"_s))
         return;
     const QString location = askLocation();
     writeLine(line, [&location](ado::Recordset& row) {
-        row["CompletedDate"] = session.TodayDate;
-        row["DoneByWorker"] = 1;
+        enterState(row, LineState::Completed, session.TodayDate);
         if (!location.isEmpty())
             row["Loc"] = location;
     });
 }
 
-void frmWorkerJobRegister::mnuALt_Click()
+void frmWorkerJobRegister::markAlteration()
 {
     const qint32 line = selectedLine();
     if (line == 0 || !asked(u"Mark Item as Alteration?"_s))
@@ -124,25 +124,21 @@ void frmWorkerJobRegister::mnuALt_Click()
     writeLine(line, [&location](ado::Recordset& row) {
         if (!location.isEmpty())
             row["Loc"] = location;
-        row["AltDate"] = session.TodayDate;
-        row["DoneByWorker"] = 3;
+        enterState(row, LineState::Alteration, session.TodayDate);
     });
 }
 
-void frmWorkerJobRegister::mnuDel_Click()
+void frmWorkerJobRegister::markDelivered()
 {
     const qint32 line = selectedLine();
     if (line == 0 || !asked(u"Mark Item as Delivered to Client?"_s))
         return;
-    writeLine(line, [](ado::Recordset& row) {
-        row["DelToCustDate"] = session.TodayDate;
-        row["DoneByWorker"] = 2;
-    });
+    writeLine(line, [](ado::Recordset& row) { enterState(row, LineState::Delivered, session.TodayDate); });
 }
 
 // The whole card
 
-void frmWorkerJobRegister::mnuJobFulPay_Click()
+void frmWorkerJobRegister::deliverWholeCard()
 {
     const qint32 job = selectedJob();
     if (job == 0 || !asked(u"Job Card as Delivered to Client?"_s))
@@ -161,25 +157,10 @@ void frmWorkerJobRegister::DeliverJobCard()
     ExecuteSQL();
 }
 
-/// Closes the card and delivers each of its lines, whatever the line's state, also those not on the list.
+/// Also the lines that are not on the list.
 void frmWorkerJobRegister::writeDelivered(qint32 job)
 {
-    DE.connection().writeBatch([job] {
-        ado::Recordset& card = DE.rsJobs2;
-        card.Open(u"Select * from Jobs where id=%1"_s.arg(job));
-        card["ClientDeliveryDate"] = session.TodayDate;
-        card["JOBFINISHED"] = 1;
-        card.Update();
-        card.Close();
-        ado::Recordset& lines = DE.rsJOBS_DETAIL;
-        lines.Open(u"Select * from jobs_detail where JobID=%1"_s.arg(job));
-        for (lines.MoveFirst(); !lines.AtEOF(); lines.MoveNext()) {
-            lines["DelToCustDate"] = session.TodayDate;
-            lines["DoneByWorker"] = 2;
-        }
-        lines.UpdateBatch();
-        lines.Close();
-    });
+    DE.connection().writeBatch([job] { deliverCard(job, session.TodayDate); });
 }
 
 // Other screens
@@ -191,7 +172,7 @@ void frmWorkerJobRegister::openLine()
         openOnRow([line] { frmEditWorkerAssign().ShowEdit(line); });
 }
 
-void frmWorkerJobRegister::mnuOpenJobCard_Click()
+void frmWorkerJobRegister::openJobCard()
 {
     if (const qint32 job = selectedJob(); job != 0)
         frmEditJOB().ShowEdit(job);

@@ -2,6 +2,7 @@
 
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "core/store/Texts.h"
 #include "platform/ado/Recordset.h"
 #include "platform/forms/Metrics.h"
 #include "ui_frmMsg.h"
@@ -57,7 +58,7 @@ frmMsg::~frmMsg() = default;
 
 void frmMsg::Form_Load()
 {
-    if (GetSetting(0, english) != hindi)
+    if (GetSetting(settings::Language) != hindi)
         return;
     // A sheet of its own, for the screens' sheet gives headings another size and weight.
     ui->lblTitle->setStyleSheet(u"font: bold %1pt '%2'"_s.arg(forms::points(14)).arg(hindiFont));
@@ -90,7 +91,7 @@ void frmMsg::LoadHindiText(const QString& text, qint32)
     ado::Connection language;
     language.open(session.languageDatabasePath(), {}, ado::Connection::Mode::ReadOnly);
     ado::Recordset messages(language);
-    const QString quoted = QString(text).replace(u'\'', "''"_L1);
+    const QString quoted = sqlText(text);
     messages.Open(u"Select * from messages where EngMessage='"_s + quoted + u'\'');
     if (messages.AtEOF()) {
         SetEngFont(*ui->lblMsg, text);

@@ -81,7 +81,7 @@ private Q_SLOTS:
         addRow(card, "Shirt", 600.5);
         addRow(card, "Trouser", 450);
         card.SaveNew(head(1050.5, 200.25));
-        QCOMPARE(card.EditMode + QString::number(card.CurrentJobID), "E1000");
+        QVERIFY(card.EditMode == RecordMode::Stored && card.CurrentJobID == 1000);
         QCOMPARE(
             Shop::rows("Select ID, Date, DeliveryDate, trialdate, ClintID, AmountDue, AmountPaid, CashAccID, "
                        "Status, Remark from Jobs"),
@@ -179,12 +179,12 @@ private Q_SLOTS:
             QVERIFY(!reading.AtEOF());
             QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, card.SaveNew(head(600)));
         }
-        QCOMPARE(card.EditMode + QString::number(card.JobRows.Sr(1)), "N0");
+        QVERIFY(card.EditMode == RecordMode::New && card.JobRows.Sr(1) == 0);
         QCOMPARE(count("Jobs"), 0);
         addRow(card, "Trouser", 450);
         Shop::run("Delete from Items where Name='Trouser'"); // the card stands up to the line that fails
         QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, card.SaveNew(head(1050)));
-        QCOMPARE(card.EditMode + QString::number(card.JobRows.Sr(1)), "E1");
+        QVERIFY(card.EditMode == RecordMode::Stored && card.JobRows.Sr(1) == 1);
         QCOMPARE(count("Jobs") + count("Jobs_Detail"), 2);
         QCOMPARE(count("Postings"), 0);
     }
@@ -213,7 +213,7 @@ private Q_SLOTS:
                 QCOMPARE(sumOfPostings(), "0");
                 card = JobCard();
                 card.CurrentJobID = 1000;
-                card.EditMode = "E";
+                card.EditMode = RecordMode::Stored;
                 card.LoadLines();
                 card.SaveEdit(edited);
             }

@@ -12,15 +12,14 @@ using namespace Qt::StringLiterals;
 
 void MakeImagesFolder() { QDir().mkdir(session.imagesFolder()); }
 
-bool CheckDatabaseVersion() { return values::Val(GetSetting(16, u"0"_s)) == DatabaseVersion; }
+bool CheckDatabaseVersion() { return values::Val(GetSetting(settings::DatabaseVersion)) == DatabaseVersion; }
 
 void LoadSessionDefaults()
 {
-    const QString never = u"1-April-2011"_s;
-    session.Language = GetSetting(0, u"English"_s);
-    session.WorkingDate = values::readDate(GetSetting(1, never));
+    session.Language = GetSetting(settings::Language);
+    session.WorkingDate = values::readDate(GetSetting(settings::WorkingDate));
     if (!session.WorkingDate.isValid())
-        session.WorkingDate = values::CDate(never);
-    if (GetSetting(22, u"0"_s) == "1"_L1)
+        session.WorkingDate = values::CDate(settings::WorkingDate.standard);
+    if (GetSetting(settings::SystemDateAtStart) == "1"_L1)
         session.WorkingDate = QDate::currentDate();
 }

@@ -12,7 +12,7 @@ frmLogin::frmLogin()
 {
     ui->setupUi(this);
     ui->Image1->setPixmap(forms::picture(u"login"_s, 104));
-    on(ui->Command1, &QPushButton::clicked, &frmLogin::Command1_Click);
+    on(ui->Command1, &QPushButton::clicked, &frmLogin::logIn);
 }
 
 frmLogin::~frmLogin() = default;
@@ -30,7 +30,7 @@ void frmLogin::Form_KeyPress(int& key)
     key = EnterAsTab(key);
 }
 
-void frmLogin::Command1_Click()
+void frmLogin::logIn()
 {
     if (ui->txtUserName->text().isEmpty()) {
         ShowMsg(u"Please enter user name!"_s);
@@ -42,8 +42,8 @@ void frmLogin::Command1_Click()
         ui->txtPassword->setFocus();
         return;
     }
-    const QString userName = GetSetting(8, QString());
-    const QString password = GetSetting(9, QString());
+    const QString userName = GetSetting(settings::UserName);
+    const QString password = GetSetting(settings::Password);
     if (ui->txtPassword->text() != password || ui->txtUserName->text() != userName) {
         ShowMsg(u"Invalid user name or password!"_s);
         ui->txtUserName->clear();

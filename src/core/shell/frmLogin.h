@@ -23,7 +23,7 @@ protected:
     void Form_KeyPress(int& key) override;
 
 private:
-    void Command1_Click();
+    void logIn();
 
     std::unique_ptr<Ui::frmLogin> ui;
     bool m_loggedIn = false;

@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 
 bool frmMain::start()
 {
-    if (values::Val(GetSetting(7, u"0"_s)) == 1 && !frmLogin().Login())
+    if (values::Val(GetSetting(settings::LoginRequired)) == 1 && !frmLogin().Login())
         return false;
     auto* screen = new frmMain;
     connect(qApp, &QCoreApplication::aboutToQuit, screen, [screen] { delete screen; });
@@ -49,8 +49,8 @@ frmMain::frmMain()
     on(ui->Command5, &QPushButton::clicked, [] { frmShopINFO().showModal(); });
     on(ui->Command7, &QPushButton::clicked, [] { frmSettings().showModal(); });
     on(ui->Command4, &QPushButton::clicked, [] { frmAbout().showModal(); });
-    on(ui->TodayDate, &forms::DatePicker::changed, &frmMain::TodayDate_Change);
-    on(ui->TodayDate, &forms::DatePicker::calendarClosed, &frmMain::TodayDate_Change);
+    on(ui->TodayDate, &forms::DatePicker::changed, &frmMain::changeWorkingDate);
+    on(ui->TodayDate, &forms::DatePicker::calendarClosed, &frmMain::changeWorkingDate);
 }
 
 frmMain::~frmMain() = default;
@@ -65,13 +65,13 @@ void frmMain::Form_Load()
 void frmMain::Form_Activate()
 {
     RefershINFO();
-    session.Language = GetSetting(0, u"English"_s);
+    session.Language = GetSetting(settings::Language);
 }
 
 /// Called only at load: a wallpaper changed meanwhile shows at the next start.
 void frmMain::SetWall()
 {
-    const QString path = GetSetting(11, QString());
+    const QString path = GetSetting(settings::Wallpaper);
     if (!path.isEmpty())
         MyWall->loadPicture(path);
 }
@@ -122,11 +122,11 @@ void frmMain::Form_KeyDown(int& key, Qt::KeyboardModifiers)
 }
 
 /// The shop can be back-dated for a session; the next start remembers the day.
-void frmMain::TodayDate_Change()
+void frmMain::changeWorkingDate()
 {
     session.TodayDate = ui->TodayDate->value();
     session.WorkingDate = session.TodayDate;
-    SetSetting(1, values::CStr(session.WorkingDate));
+    SetSetting(settings::WorkingDate, values::CStr(session.WorkingDate));
 }
 
 void frmMain::Form_Unload() { QCoreApplication::quit(); }

@@ -31,7 +31,7 @@ protected:
 private:
     void SetWall();
     void RefershINFO();
-    void TodayDate_Change();
+    void changeWorkingDate();
 
     std::unique_ptr<Ui::frmMain> ui;
     Wallpaper* MyWall;

@@ -33,12 +33,12 @@ frmSettings::frmSettings()
     for (QLineEdit* box : {ui->txtDelMargin, ui->txtStartNum})
         onKeyPress(box, [box](int& key) { key = NumbersOnly(box->text(), key); });
     onGotFocus(ui->txtDelMargin, [this] { ui->txtDelMargin->selectAll(); });
-    onKeyPress(ui->txtSMSTitle, [this](int& key) { txtSMSTitle_KeyPress(key); });
+    onKeyPress(ui->txtSMSTitle, [this](int& key) { limitSmsTitle(key); });
 
     on(ui->Command3, &QPushButton::clicked, [this] { selectPicture(*ui->txtWall); });
     on(ui->Command2, &QPushButton::clicked, [this] { selectPicture(*ui->txtLogo); });
-    on(ui->Command8, &QPushButton::clicked, &frmSettings::Command8_Click);
-    on(ui->Command1, &QPushButton::clicked, &frmSettings::Command1_Click);
+    on(ui->Command8, &QPushButton::clicked, &frmSettings::loadDefaultDrafts);
+    on(ui->Command1, &QPushButton::clicked, &frmSettings::save);
 }
 
 frmSettings::~frmSettings() = default;
@@ -46,25 +46,25 @@ frmSettings::~frmSettings() = default;
 void frmSettings::Form_Load()
 {
     SetFormLanguage(*this);
-    const auto check = [](QCheckBox& box, qint32 setting, const char* standard) {
-        box.setChecked(values::Val(GetSetting(setting, QLatin1String(standard))) == 1);
+    const auto check = [](QCheckBox& box, const Setting& setting) {
+        box.setChecked(values::Val(GetSetting(setting)) == 1);
     };
-    ui->cmbSendAutoSMS->setText(GetSetting(2, u"No"_s));
-    ui->cmbSMSJobID->setText(GetSetting(3, u"No"_s));
-    ui->cmbSMSPort->setText(GetSetting(4, QString()));
-    ui->txtLogo->setText(GetSetting(5, QString()));
-    ui->txtTagLine->setText(GetSetting(6, QString()));
-    ui->txtSMSTitle->setText(GetSetting(10, QString()));
-    ui->txtWall->setText(GetSetting(11, QString()));
-    ui->txtDelMargin->setText(GetSetting(13, u"0"_s));
-    check(*ui->chPrintAfterSave, 14, "0");
-    check(*ui->chPreview, 15, "1");
-    ui->txtBackuppath->setText(GetSetting(19, QString()));
-    check(*ui->opChangeDateAuto, 22, "0");
-    ui->txtStartNum->setText(GetSetting(23, u"1"_s));
-    showDraft(*ui->txtSMS1, GetSetting(24, DefaultJobRegisteredDraft()));
-    showDraft(*ui->txtSMS2, GetSetting(25, DefaultJobFinishedDraft()));
-    showDraft(*ui->txtSMS3, GetSetting(26, DefaultDueBalanceDraft()));
+    ui->cmbSendAutoSMS->setText(GetSetting(settings::SmsWhenFinished));
+    ui->cmbSMSJobID->setText(GetSetting(settings::SmsAfterRegistration));
+    ui->cmbSMSPort->setText(GetSetting(settings::ModemPort));
+    ui->txtLogo->setText(GetSetting(settings::Logo));
+    ui->txtTagLine->setText(GetSetting(settings::TagLine));
+    ui->txtSMSTitle->setText(GetSetting(settings::SmsTitle));
+    ui->txtWall->setText(GetSetting(settings::Wallpaper));
+    ui->txtDelMargin->setText(GetSetting(settings::DeliveryMargin));
+    check(*ui->chPrintAfterSave, settings::PrintAfterSave);
+    check(*ui->chPreview, settings::PrintPreview);
+    ui->txtBackuppath->setText(GetSetting(settings::BackupFolder));
+    check(*ui->opChangeDateAuto, settings::SystemDateAtStart);
+    ui->txtStartNum->setText(GetSetting(settings::FirstJobNumber));
+    showDraft(*ui->txtSMS1, GetSetting(settings::SmsJobRegistered, DefaultJobRegisteredDraft()));
+    showDraft(*ui->txtSMS2, GetSetting(settings::SmsJobFinished, DefaultJobFinishedDraft()));
+    showDraft(*ui->txtSMS3, GetSetting(settings::SmsDueBalance, DefaultDueBalanceDraft()));
 }
 
 void frmSettings::showDraft(swTextBoxMultiLine& box, const QString& text)
@@ -102,7 +102,7 @@ void frmSettings::Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers)
 }
 
 /// A longer title that is already stored stays as it is.
-void frmSettings::txtSMSTitle_KeyPress(int& key)
+void frmSettings::limitSmsTitle(int& key)
 {
     if (key != forms::key::Backspace && ui->txtSMSTitle->text().size() == LongestSMSTitle)
         key = 0;
@@ -117,7 +117,7 @@ void frmSettings::selectPicture(QLineEdit& box)
         box.setText(path);
 }
 
-void frmSettings::Command8_Click()
+void frmSettings::loadDefaultDrafts()
 {
     if (!forms::askPlain(this, u"Are you sure to load default SMS drafts?"_s))
         return;
@@ -126,7 +126,7 @@ void frmSettings::Command8_Click()
     showDraft(*ui->txtSMS3, DefaultDueBalanceDraft());
 }
 
-void frmSettings::Command1_Click()
+void frmSettings::save()
 {
     if (values::Val(ui->txtStartNum->text()) < 1)
         ui->txtStartNum->setText(u"1"_s);
@@ -139,19 +139,19 @@ void frmSettings::Command1_Click()
 
 void frmSettings::writeSettings()
 {
-    SetSetting(4, ui->cmbSMSPort->text());
-    SetSetting(2, ui->cmbSendAutoSMS->text());
-    SetSetting(3, ui->cmbSMSJobID->text());
-    SetSetting(5, ui->txtLogo->text());
-    SetSetting(6, ui->txtTagLine->text());
-    SetSetting(10, ui->txtSMSTitle->text());
-    SetSetting(11, ui->txtWall->text());
-    SetSetting(13, numberText(*ui->txtDelMargin));
-    SetSetting(14, checkedText(*ui->chPrintAfterSave));
-    SetSetting(15, checkedText(*ui->chPreview));
-    SetSetting(22, checkedText(*ui->opChangeDateAuto));
-    SetSetting(23, numberText(*ui->txtStartNum));
-    SetSetting(24, draft(*ui->txtSMS1));
-    SetSetting(25, draft(*ui->txtSMS2));
-    SetSetting(26, draft(*ui->txtSMS3));
+    SetSetting(settings::ModemPort, ui->cmbSMSPort->text());
+    SetSetting(settings::SmsWhenFinished, ui->cmbSendAutoSMS->text());
+    SetSetting(settings::SmsAfterRegistration, ui->cmbSMSJobID->text());
+    SetSetting(settings::Logo, ui->txtLogo->text());
+    SetSetting(settings::TagLine, ui->txtTagLine->text());
+    SetSetting(settings::SmsTitle, ui->txtSMSTitle->text());
+    SetSetting(settings::Wallpaper, ui->txtWall->text());
+    SetSetting(settings::DeliveryMargin, numberText(*ui->txtDelMargin));
+    SetSetting(settings::PrintAfterSave, checkedText(*ui->chPrintAfterSave));
+    SetSetting(settings::PrintPreview, checkedText(*ui->chPreview));
+    SetSetting(settings::SystemDateAtStart, checkedText(*ui->opChangeDateAuto));
+    SetSetting(settings::FirstJobNumber, numberText(*ui->txtStartNum));
+    SetSetting(settings::SmsJobRegistered, draft(*ui->txtSMS1));
+    SetSetting(settings::SmsJobFinished, draft(*ui->txtSMS2));
+    SetSetting(settings::SmsDueBalance, draft(*ui->txtSMS3));
 }

@@ -29,10 +29,10 @@ protected:
 private:
     void showDraft(swTextBoxMultiLine& box, const QString& text);
     QString draft(const swTextBoxMultiLine& box) const;
-    void txtSMSTitle_KeyPress(int& key);
+    void limitSmsTitle(int& key);
     void selectPicture(QLineEdit& box);
-    void Command8_Click();
-    void Command1_Click();
+    void loadDefaultDrafts();
+    void save();
     void writeSettings();
 
     const std::unique_ptr<Ui::frmSettings> ui;

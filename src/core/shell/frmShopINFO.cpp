@@ -12,8 +12,8 @@ frmShopINFO::frmShopINFO()
     : ui(std::make_unique<Ui::frmShopINFO>())
 {
     ui->setupUi(this);
-    on(ui->Check1, &QCheckBox::clicked, &frmShopINFO::Check1_Click);
-    on(ui->Command1, &QPushButton::clicked, &frmShopINFO::Command1_Click);
+    on(ui->Check1, &QCheckBox::clicked, &frmShopINFO::toggleLogin);
+    on(ui->Command1, &QPushButton::clicked, &frmShopINFO::save);
 }
 
 frmShopINFO::~frmShopINFO() = default;
@@ -30,12 +30,12 @@ void frmShopINFO::Form_Load()
     ui->txtCONTACTS->setText(shop["Contacts"].text());
     shop.Close();
 
-    const bool locked = GetSetting(7, u"0"_s) == "1"_L1;
+    const bool locked = GetSetting(settings::LoginRequired) == "1"_L1;
     ui->Check1->setChecked(locked);
     ui->Frame1->setEnabled(locked);
     if (locked) {
-        ui->txtUserName->setText(GetSetting(8, QString()));
-        ui->txtPassword->setText(GetSetting(9, QString()));
+        ui->txtUserName->setText(GetSetting(settings::UserName));
+        ui->txtPassword->setText(GetSetting(settings::Password));
     }
 }
 
@@ -45,14 +45,14 @@ void frmShopINFO::Form_KeyPress(int& key)
     key = EnterAsTab(key);
 }
 
-void frmShopINFO::Check1_Click()
+void frmShopINFO::toggleLogin()
 {
     ui->Frame1->setEnabled(ui->Check1->isChecked());
     ui->txtUserName->clear();
     ui->txtPassword->clear();
 }
 
-void frmShopINFO::Command1_Click()
+void frmShopINFO::save()
 {
     const bool locked = ui->Check1->isChecked();
     if (locked && (ui->txtUserName->text().isEmpty() || ui->txtPassword->text().isEmpty())) {
@@ -70,9 +70,9 @@ void frmShopINFO::Command1_Click()
         shop["Contacts"] = ui->txtCONTACTS->text();
         shop.UpdateBatch();
         shop.Close();
-        SetSetting(7, locked ? u"1"_s : u"0"_s);
-        SetSetting(8, locked ? ui->txtUserName->text() : QString());
-        SetSetting(9, locked ? ui->txtPassword->text() : QString());
+        SetSetting(settings::LoginRequired, locked ? u"1"_s : u"0"_s);
+        SetSetting(settings::UserName, locked ? ui->txtUserName->text() : QString());
+        SetSetting(settings::Password, locked ? ui->txtPassword->text() : QString());
     });
     ShowMsg(u"Shop Info Updated."_s);
 }

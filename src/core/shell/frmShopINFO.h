@@ -21,8 +21,8 @@ protected:
     void Form_KeyPress(int& key) override;
 
 private:
-    void Check1_Click();
-    void Command1_Click();
+    void toggleLogin();
+    void save();
 
     std::unique_ptr<Ui::frmShopINFO> ui;
 };

@@ -1,13 +1,12 @@
 #include "core/store/Lookups.h"
 
 #include "core/store/DE.h"
+#include "core/store/Texts.h"
 #include "platform/values/Dates.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString quoted(const QString& text) { return QString(text).replace(u'\'', "''"_L1); }
 
 /// Reads with `read` from the first row of the query.
 template <typename Read>
@@ -76,7 +75,7 @@ double GetItemWorkerFees(const QString& name)
 
 qint32 GetItemID(const QString& name)
 {
-    return integerOfFirst(u"Select * from Items where Name='"_s + quoted(name) + u'\'', "ID");
+    return integerOfFirst(u"Select * from Items where Name='"_s + sqlText(name) + u'\'', "ID");
 }
 
 QString GetItemName(qint32 id)
@@ -88,7 +87,7 @@ QVariant FieldValueExists(const QString& value, const QString& keyField, const Q
                           const QString& table, ado::Recordset& recordset)
 {
     recordset.Open(u"Select "_s + resultField + u" from "_s + table + u" where "_s + keyField + u"='"_s +
-                   quoted(value) + u'\'');
+                   sqlText(value) + u'\'');
     if (recordset.AtEOF()) {
         recordset.Close();
         return -1;
@@ -96,6 +95,8 @@ QVariant FieldValueExists(const QString& value, const QString& keyField, const Q
     const ado::Field found = recordset[0];
     return found.isNull() ? QVariant(-1) : found.value();
 }
+
+QString whereType(AccountType type) { return u" where Type=%1"_s.arg(qint32(type)); }
 
 void FillCombo(const QString& field, const QString& table, ListTarget& control, ado::Recordset& recordset)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/store/Codes.h"
 #include "platform/ado/Recordset.h"
 #include "platform/values/ListTarget.h"
 
@@ -24,6 +25,9 @@ QString GetItemName(qint32 id);
 /// recordset stays open.
 QVariant FieldValueExists(const QString& value, const QString& keyField, const QString& resultField,
                           const QString& table, ado::Recordset& recordset);
+
+/// The condition of FillList for the accounts of one type.
+QString whereType(AccountType type);
 
 /// Fill a list or combo with one field of a table, in its order. `condition` is given whole with its leading
 /// blank.

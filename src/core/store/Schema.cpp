@@ -243,7 +243,7 @@ void CreateDatabase()
         DE.connection().writeBatch([] {
             for (const Table& table : tables())
                 createTable(table);
-            SetSetting(16, QString::number(DatabaseVersion));
+            SetSetting(settings::DatabaseVersion, QString::number(DatabaseVersion));
             addBuiltInAccounts();
         });
         DE.close();

@@ -33,3 +33,12 @@ void SetSetting(qint32 number, const QString& value)
     settings.UpdateBatch();
     settings.Close();
 }
+
+QString GetSetting(const Setting& setting) { return GetSetting(setting, setting.standard); }
+
+QString GetSetting(const Setting& setting, const QString& otherwise)
+{
+    return GetSetting(setting.number, otherwise);
+}
+
+void SetSetting(const Setting& setting, const QString& value) { SetSetting(setting.number, value); }

@@ -27,6 +27,12 @@ public:
     QString text() const;
     /// Throws OverflowError above 32 bits.
     qint32 integer() const;
+    /// The integer as a code of the column's kind; it may be one that the kind does not name.
+    template <typename Code>
+    Code code() const
+    {
+        return Code(integer());
+    }
     /// These throw TypeMismatchError for a text that is no number or date.
     double number() const;
     Currency money() const;
@@ -42,6 +48,9 @@ public:
     {
         return *this = QVariant(QString(text));
     }
+    /// A code is stored as its number.
+    template <typename Code>
+    requires std::is_enum_v<Code> Field& operator=(Code code) { return *this = QVariant(qint32(code)); }
     Field(const Field&) = default;
     Field& operator=(const Field&) = delete;
 

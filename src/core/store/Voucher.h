@@ -1,0 +1,58 @@
+#pragma once
+
+#include "core/store/Codes.h"
+#include "platform/values/Currency.h"
+
+#include <QDate>
+#include <QString>
+
+/// Two postings that move one account against another.
+struct PostingPair
+{
+    QString particulars; ///< the voucher's kind: "Receipt", "Payment", "Sales", "Purchase", "Wages"
+    QDate date;
+    qint32 account = 0;  ///< of the first posting; of the second it is the opposite account
+    qint32 opposite = 0; ///< the book of an account names its opposite
+    Currency amount; ///< of the first posting, negative debits its account; of the second it is the negative
+    QString remark;
+};
+
+/// What a pair is besides its money.
+struct PostingMarks
+{
+    bool cancelled = false; ///< of a cancelled card: left out of balances and books
+    bool payroll = false;
+};
+
+/// The postings that share a number and a type: one pair, or the two of a job card (the sale, and the money
+/// taken with it). Each pair sums to zero, and so do all the shop's postings. Write within a write batch. All
+/// throw ado::DatabaseError.
+class Voucher
+{
+public:
+    Voucher(VoucherType type, qint32 number)
+        : m_type(type)
+        , m_number(number)
+    {
+    }
+
+    /// Appends the pair as the voucher's next two lines (`Sr`), counted by this object from 1.
+    void AddPair(const PostingPair& pair, PostingMarks marks = {});
+    /// Writes the pair over the stored lines 1 and 2; number, type and marks stay. Throws
+    /// ado::NoCurrentRecordError when a line is not there.
+    void ChangePair(const PostingPair& pair);
+    void Delete();
+
+    /// One above the highest number of the entries: the number of a deleted last one is used again.
+    static qint32 NextEntryNumber();
+    /// A payroll takes the counter of the last entry's own row, plus 1: a series apart. Throws OverflowError
+    /// above 32767.
+    static qint16 NextPayrollNumber();
+
+private:
+    QString where() const;
+
+    VoucherType m_type;
+    qint32 m_number;
+    int m_lastLine = 0;
+};
