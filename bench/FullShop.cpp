@@ -1,6 +1,6 @@
 #include "FullShop.h"
 
-#include "core/shell/Startup.h"
+#include "core/store/Startup.h"
 #include "core/store/DE.h"
 #include "core/store/Session.h"
 

@@ -19,7 +19,7 @@ report::Label& caption(report::Section& section, const QString& name, const QStr
     report::Label& label = section.addLabel(name, text);
     label.place(left, top + BaseLineGap, width, LineHeight - BaseLineGap);
     label.FontSize = CaptionSize;
-    label.Color = Muted;
+    label.Color = palette::quietInk;
     return label;
 }
 
@@ -29,7 +29,7 @@ report::Field& value(report::Section& section, const QString& name, const QStrin
     report::Field& field = section.addField(name, dataField, format);
     field.place(left, top, width, LineHeight);
     field.FontSize = ValueSize;
-    field.Color = Ink;
+    field.Color = palette::ink;
     return field;
 }
 
@@ -40,7 +40,7 @@ report::Label& company(report::Section& section, int left, int top, int width, d
     label.place(left, top, width, int(fontSize * lineHeight));
     label.FontSize = fontSize;
     label.Bold = true;
-    label.Color = Ink;
+    label.Color = palette::ink;
     label.Alignment = Qt::AlignHCenter;
     label.CanGrow = true;
     return label;
@@ -60,8 +60,8 @@ report::Shape& bar(report::Section& section, const QString& name, int left, int 
     report::Shape& shape = section.addShape(name);
     shape.place(left, top, width, height);
     shape.Frame = true;
-    shape.Fill = Shade;
-    shape.Color = Shade;
+    shape.Fill = palette::shade;
+    shape.Color = palette::shade;
     return shape;
 }
 

@@ -1,14 +1,10 @@
 #pragma once
 
+#include "platform/forms/Palette.h"
 #include "platform/report/Report.h"
 
 /// The hand in which all papers of a job are set. Lengths are twips.
 namespace paper {
-
-inline constexpr QRgb Ink = 0xFF1F2933;
-inline constexpr QRgb Muted = 0xFF5B6470;
-inline constexpr QRgb Hairline = 0xFFBFB9AD;
-inline constexpr QRgb Shade = 0xFFEFEBE3;
 
 /// A caption in the smaller, quieter type.
 report::Label& caption(report::Section& section, const QString& name, const QString& text, int left, int top,
@@ -20,7 +16,7 @@ report::Field& value(report::Section& section, const QString& name, const QStrin
 report::Label& company(report::Section& section, int left, int top, int width, double fontSize);
 /// A rule across.
 report::Shape& rule(report::Section& section, const QString& name, int left, int top, int width,
-                    QRgb color = Hairline);
+                    QRgb color = palette::hairline);
 /// A shaded bar behind titles.
 report::Shape& bar(report::Section& section, const QString& name, int left, int top, int width, int height);
 

@@ -1,7 +1,7 @@
 #include "jobcards/PictureFiles.h"
 
-#include "core/shell/Startup.h"
 #include "core/store/Session.h"
+#include "core/store/Startup.h"
 #include "platform/forms/Pictures.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Errors.h"

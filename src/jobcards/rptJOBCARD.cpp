@@ -16,7 +16,7 @@ constexpr int Width = DesignWidth - 2 * Left;
 
 constexpr int LogoSize = 1800;
 constexpr int HeadingLeft = Left + LogoSize + 200;
-constexpr int HeadingHeight = 1800; ///< as designed, with all its lines
+constexpr int HeadingHeight = 1800; ///< with all its lines
 
 const QString Day = u"dd-MMM-yyyy"_s;
 const QString Money = u"0.00"_s;
@@ -70,7 +70,7 @@ void rptJOBCARD::designHead()
     for (const char* name : {"lblAddress1", "lblAddress2", "lblAddress3", "lblContact"}) {
         Label& line = head.addLabel(QLatin1String(name), {});
         line.place(HeadingLeft, top, Width + Left - HeadingLeft, 270);
-        line.Color = paper::Ink;
+        line.Color = palette::ink;
         line.Alignment = Qt::AlignHCenter;
         line.CanGrow = true;
         top += 270;
@@ -78,12 +78,12 @@ void rptJOBCARD::designHead()
     Label& tag = head.addLabel(u"lblTag"_s, {});
     tag.place(Left, HeadingHeight + 60, Width, 280);
     tag.Italic = true;
-    tag.Color = paper::Muted;
+    tag.Color = palette::quietInk;
     tag.Alignment = Qt::AlignHCenter;
     tag.CanGrow = true;
 
     top = HeadingHeight + 440;
-    paper::rule(head, u"Line1"_s, Left, top, Width, paper::Ink).Weight = 25;
+    paper::rule(head, u"Line1"_s, Left, top, Width, palette::ink).Weight = 25;
 
     top += 160;
     constexpr int rowHeight = 340;
@@ -120,7 +120,7 @@ void rptJOBCARD::designHead()
         title.place(column.left, top + 70, column.width, 240);
         title.FontSize = 9;
         title.Bold = true;
-        title.Color = paper::Ink;
+        title.Color = palette::ink;
         title.Alignment = column.alignment;
         title.Repeats = true;
     }
@@ -177,7 +177,7 @@ void rptJOBCARD::designFoot()
     samples.place(Left, 220, 5400, boxHeight);
     samples.Frame = true;
     samples.Dashed = true;
-    samples.Color = paper::Muted;
+    samples.Color = palette::quietInk;
     Label& staple =
         paper::caption(foot, u"Label15"_s, u"Staple Cloth Samples here..."_s, Left + 160, 320, 5000);
     staple.Italic = true;
@@ -185,9 +185,9 @@ void rptJOBCARD::designFoot()
     Label& company = foot.addLabel(u"lblForCompany"_s, {});
     company.place(right, 1500, Left + Width - right - Gap, 260);
     company.Alignment = Qt::AlignRight;
-    company.Color = paper::Ink;
+    company.Color = palette::ink;
     company.CanGrow = true;
-    paper::rule(foot, u"Line3"_s, right + 1400, 2620, Left + Width - right - Gap - 1400, paper::Muted);
+    paper::rule(foot, u"Line3"_s, right + 1400, 2620, Left + Width - right - Gap - 1400, palette::quietInk);
     paper::caption(foot, u"Label9"_s, u"Auth Sig"_s, right, 2660, Left + Width - right - Gap).Alignment =
         Qt::AlignRight;
     Label& house =

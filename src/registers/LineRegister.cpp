@@ -6,6 +6,7 @@
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/MessageBox.h"
+#include "platform/forms/Palette.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
 
@@ -19,10 +20,10 @@ namespace {
 
 const QString allWorkers = u"*All"_s;
 constexpr int totalColumn = 2;
-constexpr QRgb totalColour = 0xFFFF0000;
 
-/// Calm colours that tell the states apart at a glance: waiting, ready, gone, back on the table, void.
-constexpr QRgb stateColours[] = {0xFFE0A030, 0xFF2E9E6B, 0xFF9AA5B1, 0xFFD9704A, 0xFF5B6470};
+/// Of the dots: waiting, ready, gone, back on the table, void.
+constexpr QRgb stateColours[] = {palette::amber, palette::green, palette::grey, palette::rust,
+                                 palette::slate};
 
 } // namespace
 
@@ -108,7 +109,7 @@ forms::ListView::Row LineRegister::totalRow(size_t lines) const
     for (int column = 0; column < m_criteria.list->model()->columnCount(); ++column)
         total.cells << u" "_s;
     total.cells[totalColumn] = u"Total JOBS : %1"_s.arg(lines);
-    total.looks[totalColumn] = {{}, {}, true, QColor(totalColour)};
+    total.looks[totalColumn] = {{}, {}, true, QColor(palette::emphasis)};
     return total;
 }
 

@@ -30,7 +30,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
 {
     ui->setupUi(this);
     setCriteria({ui->lvSummary, ui->DateFrom, ui->DateTo, ui->cmbClient, ui->cmbCondition});
-    // What the told shares leave is the balance's. A column never gets too narrow for what it mostly holds.
+    // What the shares leave is the balance's. A column never gets too narrow for what it mostly holds.
     ui->lvSummary->setColumns({{u"Date"_s, 10, Qt::AlignLeft, 110},
                                {u"JOB ID"_s, 5, Qt::AlignLeft, 76},
                                {u"Client Name"_s, 12, Qt::AlignLeft, 130},

@@ -1,4 +1,4 @@
-#include "core/shell/Startup.h"
+#include "core/store/Startup.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/Schema.h"

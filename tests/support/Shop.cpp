@@ -1,6 +1,6 @@
 #include "support/Shop.h"
 
-#include "core/shell/Startup.h"
+#include "core/store/Startup.h"
 #include "core/store/DE.h"
 #include "core/store/Schema.h"
 #include "core/store/Session.h"

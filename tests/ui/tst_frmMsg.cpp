@@ -65,7 +65,7 @@ private Q_SLOTS:
         show("Saved", 1, [](frmMsg& dialog) {
             QCOMPARE(label(dialog, "lblTitle") + caption(dialog, "cmdOK"), "InformationOk");
         });
-        session.Language = "French"; // unknown: the dialog as it was designed
+        session.Language = "French"; // unknown: the dialog stays in English
         show("Saved", 1, [](frmMsg& dialog) { QCOMPARE(caption(dialog, "cmdOK"), "&Ok"); });
 
         session.Language = "Hindi";

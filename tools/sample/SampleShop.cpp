@@ -1,6 +1,6 @@
 #include "sample/SampleShop.h"
 
-#include "core/shell/Startup.h"
+#include "core/store/Startup.h"
 #include "core/store/DE.h"
 #include "core/store/Schema.h"
 #include "core/store/Session.h"

@@ -1,10 +1,10 @@
 #include "core/shell/modMain.h"
 
-#include "core/shell/Startup.h"
 #include "core/shell/frmMain.h"
 #include "core/store/DE.h"
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
+#include "core/store/Startup.h"
 #include "platform/forms/MessageBox.h"
 
 #include <QFileInfo>

@@ -10,7 +10,7 @@
 
 struct sqlite3;
 
-/// Access to the shop's tables in the vocabulary of connections and recordsets, over an encrypted SQLite
+/// Access to tables in the vocabulary of connections and recordsets, over an encrypted SQLite
 /// file.
 namespace ado {
 

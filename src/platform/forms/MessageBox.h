@@ -4,8 +4,7 @@
 
 class QWidget;
 
-/// Plain system message boxes. They are always in English; the shop's notices go through the message dialog
-/// instead.
+/// Plain system message boxes. They are always in English.
 namespace forms {
 
 void plainMessage(QWidget* parent, const QString& text);

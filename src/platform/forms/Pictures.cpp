@@ -7,7 +7,7 @@ namespace forms {
 
 namespace {
 
-/// Reads by content: the shop's pictures are all named .bmp. What is no plain file (a pipe, say) is never
+/// Reads by content: a picture's name may say another kind. What is no plain file (a pipe, say) is never
 /// opened.
 void aim(QImageReader& reader, const QString& path)
 {

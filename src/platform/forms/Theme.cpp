@@ -1,5 +1,7 @@
 #include "platform/forms/Theme.h"
 
+#include "platform/forms/Palette.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -23,26 +25,26 @@ void loadFonts(const QString& folder)
         QFontDatabase::addApplicationFont(fonts.filePath(file));
 
     const QString ours = u"Inter"_s;
-    for (const char* told : {"MS Sans Serif", "Trebuchet MS", "Verdana"})
-        QFont::insertSubstitution(QString::fromLatin1(told), ours);
-    QFont::insertSubstitution(u"Kruti Dev 010"_s, u"Seamwise Devanagari"_s);
+    for (const auto family : {"MS Sans Serif"_L1, "Trebuchet MS"_L1, "Verdana"_L1})
+        QFont::insertSubstitution(family, ours);
+    QFont::insertSubstitution(u"Kruti Dev 010"_s, u"Encoded Devanagari"_s);
 }
 
-QPalette palette()
+QPalette colours()
 {
     QPalette colours;
-    colours.setColor(QPalette::Window, QColor(0xF6, 0xF4, 0xEF));
-    colours.setColor(QPalette::WindowText, QColor(0x1F, 0x29, 0x33));
-    colours.setColor(QPalette::Base, Qt::white);
-    colours.setColor(QPalette::Text, QColor(0x1F, 0x29, 0x33));
-    colours.setColor(QPalette::Button, Qt::white);
-    colours.setColor(QPalette::ButtonText, QColor(0x1F, 0x29, 0x33));
-    colours.setColor(QPalette::Highlight, QColor(0x0F, 0x76, 0x6E));
-    colours.setColor(QPalette::HighlightedText, Qt::white);
-    colours.setColor(QPalette::Disabled, QPalette::Text, QColor(0x8A, 0x84, 0x7A));
-    colours.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x8A, 0x84, 0x7A));
-    colours.setColor(QPalette::Mid, QColor(0x9A, 0x94, 0x8A));
-    colours.setColor(QPalette::PlaceholderText, QColor(0x8A, 0x84, 0x7A));
+    colours.setColor(QPalette::Window, palette::window);
+    colours.setColor(QPalette::WindowText, palette::ink);
+    colours.setColor(QPalette::Base, palette::white);
+    colours.setColor(QPalette::Text, palette::ink);
+    colours.setColor(QPalette::Button, palette::white);
+    colours.setColor(QPalette::ButtonText, palette::ink);
+    colours.setColor(QPalette::Highlight, palette::accent);
+    colours.setColor(QPalette::HighlightedText, palette::white);
+    colours.setColor(QPalette::Disabled, QPalette::Text, palette::faint);
+    colours.setColor(QPalette::Disabled, QPalette::WindowText, palette::faint);
+    colours.setColor(QPalette::Mid, palette::border);
+    colours.setColor(QPalette::PlaceholderText, palette::faint);
     return colours;
 }
 
@@ -64,7 +66,7 @@ void applyTheme(QApplication& application, const QString& fontFolder)
 {
     loadFonts(fontFolder);
     application.setStyle(QStyleFactory::create(u"Fusion"_s));
-    application.setPalette(palette());
+    application.setPalette(colours());
     QFont base(u"Inter"_s);
     base.setPointSizeF(basePointSize);
     application.setFont(base);

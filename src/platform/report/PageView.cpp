@@ -1,5 +1,6 @@
 #include "platform/report/PageView.h"
 
+#include "platform/forms/Palette.h"
 #include "platform/report/Pages.h"
 
 #include <QPainter>
@@ -89,9 +90,9 @@ QRectF PageView::paper() const
 void PageView::paintEvent(QPaintEvent*)
 {
     QPainter painter(viewport());
-    painter.fillRect(viewport()->rect(), QColor(0x8C, 0x94, 0x9C));
+    painter.fillRect(viewport()->rect(), QColor(palette::desk));
     const QRectF sheet = paper();
-    painter.fillRect(sheet.translated(3, 4), QColor(0, 0, 0, 60));
+    painter.fillRect(sheet.translated(3, 4), QColor::fromRgba(palette::shadow));
     painter.fillRect(sheet, Qt::white);
     painter.setClipRect(sheet);
     painter.translate(sheet.topLeft());

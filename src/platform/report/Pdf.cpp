@@ -21,7 +21,7 @@ QByteArray pdf(const Pages& pages, const QString& title, int first, int last)
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setTitle(title);
-    writer.setCreator(u"Seamwise"_s);
+    writer.setCreator(QCoreApplication::applicationName());
     writer.setResolution(twipsPerInch);
     writer.setPageSize(QPageSize(pages.size() / 20, QPageSize::Point, {}, QPageSize::ExactMatch));
     writer.setPageMargins({});

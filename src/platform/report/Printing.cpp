@@ -42,7 +42,7 @@ void tellFailure(const QString& text)
 }
 
 /// One run of a program of the print system, under a time limit. It deletes itself when the program has
-/// ended. A program that is being handed paper when Seamwise closes is given the rest of its time.
+/// ended. A program that is being handed paper when the program closes is given the rest of its time.
 class SpoolerRun : public QObject
 {
 public:

@@ -1,4 +1,4 @@
-#include "core/shell/Startup.h"
+#include "core/store/Startup.h"
 
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
