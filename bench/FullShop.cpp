@@ -1,8 +1,8 @@
 #include "FullShop.h"
 
-#include "core/store/Startup.h"
 #include "core/store/DE.h"
 #include "core/store/Session.h"
+#include "core/store/Startup.h"
 
 #include <QFile>
 

@@ -1,9 +1,9 @@
-#include "core/store/Startup.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "core/store/Startup.h"
 #include "support/Shop.h"
 
 #include <QDir>

@@ -16,6 +16,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void choose(frmAddItem& line, const QString& item)
@@ -299,5 +301,3 @@ private Q_SLOTS:
 
 QTEST_MAIN(tst_frmAddItem)
 #include "tst_frmAddItem.moc"
-
-using namespace Qt::StringLiterals;

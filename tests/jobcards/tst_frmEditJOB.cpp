@@ -8,6 +8,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 forms::ListView& lines(frmEditJOB& job) { return listView(job, "lvItems"); }
@@ -287,5 +289,3 @@ private Q_SLOTS:
 
 QTEST_MAIN(tst_frmEditJOB)
 #include "tst_frmEditJOB.moc"
-
-using namespace Qt::StringLiterals;

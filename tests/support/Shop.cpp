@@ -1,9 +1,9 @@
 #include "support/Shop.h"
 
-#include "core/store/Startup.h"
 #include "core/store/DE.h"
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
+#include "core/store/Startup.h"
 
 #include <QFile>
 

@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Three months of a small shop, busy enough that everything happens.
@@ -101,7 +103,11 @@ void tst_sample::asPlanned_data()
         "from "
         "Jobs_Detail where PayrollID=VID and WorkerID=accID and MarkAsPaid=1)",
         0, 0);
-    row("payrolls", "Select count(*) from Postings where isPayroll=1 and Sr=1", 3, 100);
+    row("payrolls", "Select count(*) from Postings where isPayroll=1 and Sr=1", 12, 100);
+    row("kinds of entries", "Select count(distinct particulars) from Postings where vType=2", 5, 5);
+    row("advances", "Select count(*) from Postings where Sr=1 and Remark='Advance'", 1, 20);
+    row("till below nothing",
+        "Select count(*) from (Select sum(Amount) as a from Postings where accID=4) where a>0", 0, 0);
     row("cancelled cards", "Select count(*) from Jobs where Status=1 and CancelReason<>''", 1, 10);
     row("closed cards", "Select count(*) from Jobs where JobFinished=1", 60, 140);
     row("closed cards with a line in the shop",
@@ -158,5 +164,3 @@ void tst_sample::sameSeedSameShop()
 
 QTEST_GUILESS_MAIN(tst_sample)
 #include "tst_sample.moc"
-
-using namespace Qt::StringLiterals;

@@ -1,12 +1,10 @@
 #pragma once
 
+#include "core/store/Codes.h"
 #include "sample/People.h"
 #include "sample/Plan.h"
 
 namespace sample {
-
-/// `Jobs_Detail.DoneByWorker`
-enum class State { Uncompleted, Completed, Delivered, Alteration, Canceled };
 
 /// A garment that a client ordered, and what became of it by the shop's last day.
 struct Line
@@ -22,7 +20,7 @@ struct Line
     const Worker* worker = nullptr;
     bool cut = false;
     QDate cuttingDate;
-    State state = State::Uncompleted;
+    LineState state = LineState::Uncompleted;
     QDate completed; ///< invalid dates: not yet
     QDate altered;
     QDate delivered;
@@ -42,7 +40,7 @@ struct Card
     const Client* client = nullptr;
     QDate delivery; ///< promised
     QDate trial;
-    int appeared = 0; ///< `Jobs.appeared`
+    TrialState appeared = TrialState::NotAppeared;
     QDate appearedOn;
     QString remark;
     int paid = 0; ///< rupees received with the card

@@ -1,6 +1,6 @@
 #include "sample/Ledger.h"
 
-#include "platform/values/Dates.h"
+#include "core/store/Texts.h"
 
 #include <algorithm>
 #include <map>
@@ -10,8 +10,6 @@ using namespace Qt::StringLiterals;
 namespace sample {
 
 namespace {
-
-QString dayText(const QDate& day) { return values::Format(day, u"dd-MMM-yyyy"_s); }
 
 class Books
 {
@@ -29,6 +27,8 @@ public:
         collectBalances();
         for (const Worker& worker : people.workers)
             payWages(worker);
+        payHelpers(people);
+        sellCloth(people);
         payCosts();
         bankCash();
         buySupplies();
@@ -65,7 +65,8 @@ private:
         }
     }
 
-    /// Early each month what was finished in the month before, and the money a moment later.
+    /// Twice a month what was finished in the half before: the payroll, and the money a moment later. Some
+    /// ask for an advance in between, which the next payday takes off.
     void payWages(const Worker& worker)
     {
         struct Done
@@ -73,18 +74,17 @@ private:
             QDate taken;
             Line* line;
         };
-        std::map<QDate, std::vector<Done>> perMonth;
+        std::map<QDate, std::vector<Done>> halves; // by their last day
         for (Card& card : m_cards)
             for (Line& line : card.lines)
                 if (line.worker == &worker && line.completed.isValid())
-                    perMonth[QDate(line.completed.year(), line.completed.month(), 1)].push_back(
-                        {card.date, &line});
+                    halves[endOfHalf(line.completed)].push_back({card.date, &line});
         int owed = 0;
-        for (const auto& [month, lines] : perMonth) {
-            const QDate payday = month.addMonths(1).addDays(2);
+        for (const auto& [end, lines] : halves) {
+            const QDate payday = end.addDays(2);
             if (payday > m_plan.lastDay)
                 break;
-            QDate from = month;
+            QDate from = end;
             int total = 0;
             std::vector<Line*> covered;
             for (const Done& done : lines) {
@@ -92,14 +92,64 @@ private:
                 total += done.line->item().wage;
                 covered.push_back(done.line);
             }
-            const QString period =
-                u"Wages [ From :%1 To %2 ]"_s.arg(dayText(from), dayText(month.addMonths(1).addDays(-1)));
+            if (m_random.chance(20) && total >= 600) {
+                const int advance = total / 600 * 200;
+                const QDate day = end.addDays(-m_random.between(3, 9));
+                spend(std::max(day, m_plan.firstDay()), worker.account, account::cash, advance, u"Advance"_s);
+                owed -= advance;
+            }
+            const QString period = u"Wages [ From :%1 To %2 ]"_s.arg(dateText(from), dateText(end));
             m_vouchers.push_back({payday, "Wages", worker.account, account::wages, total, period, covered});
             owed += total;
             const int paid = m_random.chance(40) ? owed : owed / 500 * 500;
             if (paid > 0)
                 spend(payday, worker.account, account::cash, paid, u"Wages paid"_s);
-            owed -= paid;
+            owed -= std::max(paid, 0);
+        }
+    }
+
+    /// The 15th, or the last day of the month.
+    static QDate endOfHalf(const QDate& day)
+    {
+        return {day.year(), day.month(), day.day() <= 15 ? 15 : day.daysInMonth()};
+    }
+
+    /// A helper's day before a feast, paid by the day and not by the piece.
+    void payHelpers(const People& people)
+    {
+        for (QDate day = m_plan.firstDay().addDays(20); day < m_plan.lastDay; day = day.addDays(30)) {
+            const QDate last = day;
+            const auto present =
+                std::find_if(people.workers.begin(), people.workers.end(), [&last](const Worker& worker) {
+                    return worker.from <= last && last <= worker.to;
+                });
+            if (present == people.workers.end())
+                continue;
+            const int wage = m_random.between(6, 9) * 50;
+            m_vouchers.push_back({day,
+                                  "Wages",
+                                  present->account,
+                                  account::wages,
+                                  wage,
+                                  u"A day's help before the feast"_s,
+                                  {}});
+            spend(day, present->account, account::cash, wage, u"A day's help paid"_s);
+        }
+    }
+
+    /// Cloth from the shelf, now and then: on the client's account, who pays with the bill or some days
+    /// later.
+    void sellCloth(const People& people)
+    {
+        for (QDate day = m_plan.firstDay().addDays(3); day < m_plan.lastDay;
+             day = day.addDays(m_random.between(6, 16))) {
+            const int client = m_random.pick(people.clients).account;
+            const int price = m_random.between(4, 30) * 50;
+            m_vouchers.push_back(
+                {day, "Sales", client, account::sales, -price, u"Cloth, by the metre"_s, {}});
+            const QDate paid = day.addDays(m_random.chance(70) ? 0 : m_random.between(2, 12));
+            if (paid <= m_plan.lastDay)
+                receive(paid, client, account::cash, price, u"For cloth"_s);
         }
     }
 

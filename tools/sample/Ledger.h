@@ -20,8 +20,8 @@ struct Voucher
 };
 
 /// What was paid besides the money taken with the cards: receipts of balances, payrolls and their payments,
-/// the shop's costs, what went to the bank. In the order of their numbers, from 1; the lines of `cards` get
-/// the number of their payroll.
+/// advances, the shop's costs, what went to the bank. In the order of their numbers, from 1; the lines of
+/// `cards` get the number of their payroll.
 std::vector<Voucher> keepBooks(const Plan& plan, const People& people, std::vector<Card>& cards,
                                Random& random);
 

@@ -44,7 +44,7 @@ void complete(Line& line, const Card& card, const QDate& lastDay, Random& random
     if (!line.cut)
         cut(line, dayBetween(card.date.addDays(1), card.date.addDays(making / 3), lastDay, random));
     line.completed = dayBetween(line.cuttingDate.addDays(1), card.delivery, lastDay, random);
-    line.state = State::Completed;
+    line.state = LineState::Completed;
     line.location = shelf(random);
 }
 
@@ -52,7 +52,7 @@ void alter(Line& line, const Card& card, const QDate& lastDay, Random& random)
 {
     complete(line, card, lastDay, random);
     line.altered = dayBetween(line.completed, card.delivery.addDays(3), lastDay, random);
-    line.state = State::Alteration;
+    line.state = LineState::Alteration;
 }
 
 void judge(Line& line, Random& random)
@@ -72,7 +72,7 @@ void deliver(Line& line, const Card& card, const QDate& lastDay, Random& random)
         complete(line, card, lastDay, random);
     const QDate ready = line.altered.isValid() ? line.altered : line.completed;
     line.delivered = dayBetween(std::max(ready, card.delivery), card.delivery.addDays(4), lastDay, random);
-    line.state = State::Delivered;
+    line.state = LineState::Delivered;
     judge(line, random);
 }
 
@@ -89,7 +89,7 @@ void settle(Line& line, const Card& card, const QDate& lastDay, Random& random)
     else if (thrown < fetched + (1000 - fetched) * 8 / 10)
         alter(line, card, lastDay, random);
     else if (late > 30)
-        line.state = State::Canceled;
+        line.state = LineState::Canceled;
     else
         cut(line, dayBetween(card.date.addDays(1), card.delivery, lastDay, random));
 }
@@ -113,10 +113,10 @@ void comeForTrial(Card& card, const QDate& lastDay, Random& random)
         return;
     const int thrown = random.below(100);
     if (thrown < 80) {
-        card.appeared = 1;
+        card.appeared = TrialState::Appeared;
         card.appearedOn = dayBetween(card.trial, card.trial.addDays(1), lastDay, random);
     } else if (thrown < 88) {
-        card.appeared = 2;
+        card.appeared = TrialState::Canceled;
     }
 }
 
@@ -126,7 +126,7 @@ void cancel(Card& card, Random& random)
     card.cancelReason = cancelReason(random);
     card.paid = 0;
     for (Line& line : card.lines)
-        line.state = State::Canceled;
+        line.state = LineState::Canceled;
 }
 
 } // namespace
@@ -152,7 +152,7 @@ void live(Card& card, const Plan& plan, const People& people, Random& random)
     }
     comeForTrial(card, today, random);
     card.closed = std::all_of(card.lines.begin(), card.lines.end(),
-                              [](const Line& line) { return line.state == State::Delivered; });
+                              [](const Line& line) { return line.state == LineState::Delivered; });
     card.handedOver = card.closed && random.chance(40);
     if (card.handedOver) {
         const QDate day = card.deliveredOn();

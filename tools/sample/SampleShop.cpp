@@ -1,10 +1,10 @@
 #include "sample/SampleShop.h"
 
-#include "core/store/Startup.h"
 #include "core/store/DE.h"
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "core/store/Startup.h"
 #include "messaging/modSMS.h"
 #include "platform/values/Dates.h"
 #include "sample/Catalogue.h"
@@ -53,15 +53,15 @@ void writeProfile(const Plan& plan)
 
     const QString logo = session.appFolder + u"/logo.png"_s;
     drawLogo(logo);
-    SetSetting(1, values::CStr(plan.lastDay));
-    SetSetting(5, logo);
-    SetSetting(6, u"Ladies' and gents' tailoring since 1974"_s);
-    SetSetting(10, u"Rangoli"_s); // ten characters at most
-    SetSetting(13, u"7"_s);
-    SetSetting(23, QString::number(plan.firstNumber));
-    SetSetting(24, DefaultJobRegisteredDraft());
-    SetSetting(25, DefaultJobFinishedDraft());
-    SetSetting(26, DefaultDueBalanceDraft());
+    SetSetting(settings::WorkingDate, values::CStr(plan.lastDay));
+    SetSetting(settings::Logo, logo);
+    SetSetting(settings::TagLine, u"Ladies' and gents' tailoring since 1974"_s);
+    SetSetting(settings::SmsTitle, u"Rangoli"_s); // ten characters at most
+    SetSetting(settings::DeliveryMargin, u"7"_s);
+    SetSetting(settings::FirstJobNumber, QString::number(plan.firstNumber));
+    SetSetting(settings::SmsJobRegistered, DefaultJobRegisteredDraft());
+    SetSetting(settings::SmsJobFinished, DefaultJobFinishedDraft());
+    SetSetting(settings::SmsDueBalance, DefaultDueBalanceDraft());
 }
 
 } // namespace
@@ -94,7 +94,7 @@ Plan full(const QDate& lastDay)
     plan.lines = 32000;
     plan.lastMonthLines = 1500;
     plan.lastDayLines = 60;
-    plan.postings = 75000;
+    plan.postings = 82000;
     plan.pictures = 40;
     return plan;
 }

@@ -2,6 +2,7 @@
 
 #include "core/store/DE.h"
 #include "core/store/Session.h"
+#include "core/store/Voucher.h"
 #include "jobcards/JobCard.h"
 #include "platform/values/Dates.h"
 #include "sample/Pictures.h"
@@ -11,8 +12,6 @@ using namespace Qt::StringLiterals;
 namespace sample {
 
 namespace {
-
-constexpr int entryVoucher = 2; // Postings.vType
 
 QVariant dateOrNull(const QDate& date) { return date.isValid() ? QVariant(date) : ado::Null; }
 
@@ -61,11 +60,11 @@ void writeProgress(qint32 id, const Line& line)
         row["WorkerID"] = line.worker->account;
         row["WorkerName"] = line.worker->title;
     }
-    row["DoneByWorker"] = static_cast<int>(line.state);
+    row["DoneByWorker"] = line.state;
     row["CompletedDate"] = dateOrNull(line.completed);
     row["AltDate"] = dateOrNull(line.altered);
     row["DelToCustDate"] = dateOrNull(line.delivered);
-    row["CuttingStatus"] = int(line.cut);
+    row["CuttingStatus"] = line.cut ? CuttingMark::Done : CuttingMark::NotDone;
     row["CuttingDate"] = line.cuttingDate;
     row["MarkAsPaid"] = int(line.payroll > 0);
     row["PayrollID"] = line.payroll;
@@ -118,24 +117,14 @@ void writeCard(const Card& card)
 
 void writeVoucher(const Voucher& voucher, int number)
 {
-    ado::Recordset& postings = DE.rspostings;
-    postings.Open(u"Select * from Postings order by ID"_s);
-    for (const int serial : {1, 2}) {
-        const bool main = serial == 1;
-        postings.AddNew();
-        postings["vType"] = entryVoucher;
-        postings["VID"] = number;
-        postings["Sr"] = serial;
-        postings["particulars"] = QString::fromLatin1(voucher.particulars);
-        postings["Date"] = voucher.date;
-        postings["accID"] = main ? voucher.main : voucher.reference;
-        postings["refID"] = main ? voucher.reference : voucher.main;
-        postings["Remark"] = voucher.remark;
-        postings["Amount"] = main ? voucher.amount : -voucher.amount;
-        postings["isPayroll"] = int(!voucher.wages.empty());
-        postings.Update();
-    }
-    postings.Close();
+    ::Voucher(VoucherType::Entry, number)
+        .AddPair({.particulars = QString::fromLatin1(voucher.particulars),
+                  .date = voucher.date,
+                  .account = voucher.main,
+                  .opposite = voucher.reference,
+                  .amount = Currency::fromDouble(voucher.amount),
+                  .remark = voucher.remark},
+                 {.payroll = !voucher.wages.empty()});
 }
 
 } // namespace
