@@ -4,6 +4,7 @@
 #include "platform/forms/Keys.h"
 #include "platform/forms/ListBox.h"
 #include "ui/NumKey.h"
+#include "ui/boxes.h"
 #include "ui/cSendKeys.h"
 #include "ui/frmMsg.h"
 
@@ -70,6 +71,8 @@ void ComboSyncIndex(ComboBox& combo)
 }
 
 int NumbersOnly(const QString& text, int key) { return NumKey(text, key); }
+
+int NumbersOnly(const QLineEdit& box, int key) { return NumKey(boxes::unselectedText(box), key); }
 
 int EnterAsTab(int key)
 {

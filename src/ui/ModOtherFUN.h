@@ -21,6 +21,8 @@ void ComboSyncIndex(forms::ComboBox& combo);
 
 /// The key filter for a number in a plain box: gives the key, or 0 for one that has no place in it.
 int NumbersOnly(const QString& text, int key);
+/// The same for a key that comes to a box: what it replaces counts no more.
+int NumbersOnly(const QLineEdit& box, int key);
 /// Enter moves to the next field and gives 0; any other key comes back.
 int EnterAsTab(int key);
 /// Page Down and Page Up move to the next and the previous field and give 0; any other key comes back.

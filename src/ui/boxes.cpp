@@ -10,6 +10,12 @@ QString shown(const QString& text, int boxType)
     return boxType == Money && !text.isEmpty() ? values::formatMoneyText(text) : text;
 }
 
+QString unselectedText(const QLineEdit& box)
+{
+    QString rest = box.text();
+    return box.hasSelectedText() ? rest.remove(box.selectionStart(), box.selectionLength()) : rest;
+}
+
 bool isRealFocus(const QFocusEvent& event)
 {
     switch (event.reason()) {

@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <functional>
 
 /// What the input controls of the screens share.
@@ -12,6 +13,9 @@ inline constexpr int Money = 1;
 
 /// The text as a box of that type shows it.
 QString shown(const QString& text, int boxType);
+
+/// What stays of a box's text when a key replaces its selection.
+QString unselectedText(const QLineEdit& box);
 
 /// Focus that comes from, or goes to, another control or window: not an open list or a menu.
 bool isRealFocus(const QFocusEvent& event);

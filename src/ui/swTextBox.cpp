@@ -3,7 +3,6 @@
 #include "platform/forms/Keys.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
-#include "ui/NumKey.h"
 #include "ui/boxes.h"
 
 #include <QKeyEvent>
@@ -60,21 +59,14 @@ void swTextBox::keyPressEvent(QKeyEvent* event)
         [this](QKeyEvent* e) { QLineEdit::keyPressEvent(e); });
 }
 
-/// What stays of the text when a key replaces its selection.
-QString swTextBox::unselectedText() const
-{
-    QString rest = text();
-    return hasSelectedText() ? rest.remove(selectionStart(), selectionLength()) : rest;
-}
-
 int swTextBox::filterKey(int key)
 {
     if (m_autoTab && key == forms::key::Enter)
         return EnterAsTab(key);
     Q_EMIT KeyPress(key);
     if (m_boxType == boxes::Money)
-        return NumKey(unselectedText(), key);
-    const bool beginsWord = unselectedText().isEmpty() || m_lastKey == forms::key::Blank;
+        return NumbersOnly(*this, key);
+    const bool beginsWord = boxes::unselectedText(*this).isEmpty() || m_lastKey == forms::key::Blank;
     if (beginsWord && key >= forms::key::Blank)
         key = int(QChar::toUpper(char32_t(key)));
     m_lastKey = key;

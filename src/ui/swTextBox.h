@@ -41,7 +41,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    QString unselectedText() const;
     int filterKey(int key);
 
     int m_boxType = 0;

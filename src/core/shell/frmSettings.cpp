@@ -31,7 +31,7 @@ frmSettings::frmSettings()
         onKeyPress(combo, [combo](int& key) { key = AutoSearchCombo(*combo, key); });
     }
     for (QLineEdit* box : {ui->txtDelMargin, ui->txtStartNum})
-        onKeyPress(box, [box](int& key) { key = NumbersOnly(box->text(), key); });
+        onKeyPress(box, [box](int& key) { key = NumbersOnly(*box, key); });
     onGotFocus(ui->txtDelMargin, [this] { ui->txtDelMargin->selectAll(); });
     onKeyPress(ui->txtSMSTitle, [this](int& key) { limitSmsTitle(key); });
 
