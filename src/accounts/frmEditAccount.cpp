@@ -41,7 +41,7 @@ void frmEditAccount::ShowEdit(qint16 id)
     AccountTitle = accounts["Title"].text();
     ui->txtName->setText(AccountTitle);
     ui->cmbType->setListIndex(accounts["Nature"].integer());
-    AccountReadOnly = values::toInt16(accounts["ReadOnly"].integer());
+    AccountReadOnly = values::toInt16(accounts["ReadOnly"].integer(), u"Read-only mark"_s);
     accounts.Close();
     showModal();
 }
@@ -86,7 +86,7 @@ void frmEditAccount::saveNew()
         accounts.Close();
     });
     session.RefreshLists = true;
-    AccountID = values::toInt16(id);
+    AccountID = values::toInt16(id, u"Account number"_s);
     AccountTitle = ui->txtName->Text();
     ShowMsg(u"New Account created."_s);
     AccountMode = RecordMode::Stored;

@@ -191,7 +191,7 @@ void frmTransiction::save()
 /// What the two lines of the voucher on the screen hold; line 1 is the main account's.
 PostingPair frmTransiction::pair() const
 {
-    const Currency amount = Currency::fromDouble(values::Val(ui->txtAmount->Text()));
+    const Currency amount = Currency::fromDouble(values::Val(ui->txtAmount->Text()), u"Amount"_s);
     return {.particulars = ui->cmbParticulars->text(),
             .date = ui->VcDate->value(),
             .account = mainAccountID(EntryAccount),
@@ -202,7 +202,7 @@ PostingPair frmTransiction::pair() const
 
 void frmTransiction::SaveNew()
 {
-    EntryID = values::CLng(values::Val(ui->txtVID->Text()));
+    EntryID = values::CLng(values::Val(ui->txtVID->Text()), u"Voucher number"_s);
     const PostingPair entry = pair();
     DE.connection().writeBatch([&] { Voucher(VoucherType::Entry, EntryID).AddPair(entry); });
     EntryMode = RecordMode::Stored;

@@ -77,7 +77,7 @@ ItemDetails::~ItemDetails() = default;
 
 void ItemDetails::AddFeild(const QString& caption, const QString& value)
 {
-    const qint16 count = values::toInt16(m_count + 1);
+    const qint16 count = values::toInt16(m_count + 1, u"Number of measurements"_s);
     const bool hindi = m_language == "Hindi"_L1;
     if (m_count > 0) {
         makeRow();

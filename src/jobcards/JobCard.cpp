@@ -6,9 +6,22 @@
 #include "core/store/Voucher.h"
 #include "platform/values/Errors.h"
 
+#include <algorithm>
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The last number that leaves a next one.
+constexpr qint32 HighestNumber = std::numeric_limits<qint32>::max() - 1;
+
+void requireCardNumber(qint32 number)
+{
+    if (number < 1 || number > HighestNumber)
+        throw OperatorError(u"The JOB ID must be a number from 1 to %1, in digits alone. "
+                            "Nothing has been saved."_s.arg(HighestNumber));
+}
 
 void refuseTakenNumber(qint32 number)
 {
@@ -25,7 +38,7 @@ void refuseTakenNumber(qint32 number)
 
 qint32 JobCard::GetNewNum()
 {
-    qint32 last = values::CLng(values::Val(GetSetting(settings::FirstJobNumber)) - 1);
+    qint32 last = values::CLng(values::Val(GetSetting(settings::FirstJobNumber)) - 1, u"First JOB ID"_s);
     auto& jobs = DE.rsJOBS;
     jobs.Open(u"Select * from JOBS order by ID"_s);
     if (!jobs.AtEOF()) {
@@ -33,7 +46,17 @@ qint32 JobCard::GetNewNum()
         last = jobs["ID"].integer();
     }
     jobs.Close();
-    return values::toInt32(qint64(last) + 1);
+    return values::toInt32(qint64(last) + 1, u"Next JOB ID"_s);
+}
+
+qint32 JobCard::readNumber(const QString& text)
+{
+    const QString digits = text.trimmed();
+    const bool isNumber =
+        std::all_of(digits.begin(), digits.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    const qint32 number = isNumber ? digits.toInt() : 0; // too many digits are 0, too
+    requireCardNumber(number);
+    return number;
 }
 
 void JobCard::LoadLines()
@@ -68,6 +91,7 @@ void JobCard::Clear()
 void JobCard::SaveNew(const JobCardHead& head)
 {
     write([&] {
+        requireCardNumber(head.Number);
         refuseTakenNumber(head.Number);
         const qint32 clientID = GetAccountID(head.Client);
         auto& jobs = DE.rsJOBS;

@@ -24,6 +24,8 @@ struct JobCardHead
     QString ReceiptAccount; ///< title of the account that took the money; only read when something was paid
     bool Cancelled = false;
     QString CancelReason;
+
+    bool operator==(const JobCardHead&) const = default;
 };
 
 /// The one job card that is open: its lines, and what its saves must know of them. A card is written as head,
@@ -41,6 +43,9 @@ public:
     /// The number for the next card: one above the highest, or the shop's first number (setting 23) on the
     /// first card.
     static qint32 GetNewNum();
+    /// Reads the number of a new card. Throws OperatorError for what can't be one: it takes digits alone,
+    /// from 1 to 2147483646, so that another can follow.
+    static qint32 readNumber(const QString& text);
 
     /// Reads the lines of the stored card `CurrentJobID` into JobRows, under the names that the catalogue has
     /// now. Throws OverflowError for a line whose number is above 32767.
@@ -50,7 +55,8 @@ public:
     /// Forgets all rows. The lines of a stored card stay in the file.
     void Clear();
 
-    /// Stores a new card. Throws OperatorError, with nothing written, when its number is taken.
+    /// Stores a new card. Throws OperatorError, with nothing written, when its number is taken or
+    /// can't be a card's.
     void SaveNew(const JobCardHead& head);
     /// Stores the changes of a stored card and writes its voucher anew. A stored line keeps its worker, state
     /// and wage.

@@ -14,24 +14,24 @@ void clsJobCardData::AddNewRow(qint64 sr, const QString& itemName, qint64 itemID
                                const QString& img2, const QString& color, qint64 score,
                                const QString& clientFeedBack, const QString& clientRemarks)
 {
-    append({.Sr = values::toInt16(sr),
+    append({.Sr = values::toInt16(sr, LineNumber),
             .ItemName = itemName,
-            .ItemID = values::toInt16(itemID),
-            .Qty = values::toInt16(qty),
+            .ItemID = values::toInt16(itemID, ItemNumber),
+            .Qty = values::toInt16(qty, Quantity),
             .Fees = fees,
             .Amount = amount,
             .Remarks = remarks,
             .ItemDetails = itemDetails,
             .ItemDetailsValue = itemDetailsValue,
-            .WorkerID = values::toInt16(workerID),
+            .WorkerID = values::toInt16(workerID, WorkerNumber),
             .WorkerName = workerName,
             .JobDelDate = jobDelDate,
             .CompletedDate = completedDate,
             .AltDate = altDate,
             .DelToCustDate = delToCustDate,
-            .DoneByWorker = values::toInt16(doneByWorker),
+            .DoneByWorker = values::toInt16(doneByWorker, LineState),
             .WorkerWagesDue = workerWagesDue,
-            .MarkAsPaid = values::toInt16(markAsPaid),
+            .MarkAsPaid = values::toInt16(markAsPaid, PaidMark),
             .Loc = loc,
             .img1 = img1,
             .img2 = img2,
@@ -41,7 +41,7 @@ void clsJobCardData::AddNewRow(qint64 sr, const QString& itemName, qint64 itemID
             .ClientRemarks = clientRemarks});
 }
 
-void clsJobCardData::Copy(qint64 index) { append(Row(m_rows[position(values::toInt16(index))])); }
+void clsJobCardData::Copy(qint64 index) { append(Row(m_rows[position(values::toInt16(index, RowNumber))])); }
 
 void clsJobCardData::RemoveRow(qint32 index)
 {
@@ -55,7 +55,7 @@ void clsJobCardData::RemoveRow(qint32 index)
 
 bool clsJobCardData::within(qint64 index) const
 {
-    if (values::toInt16(index) <= m_rowCount)
+    if (values::toInt16(index, RowNumber) <= m_rowCount)
         return true;
     values::criticalNotice(u"Index Out of Bound!"_s);
     return false;
@@ -70,7 +70,7 @@ size_t clsJobCardData::position(qint64 index) const
 
 void clsJobCardData::append(const Row& row)
 {
-    resize(values::toInt16(m_rowCount + 1));
+    resize(values::toInt16(m_rowCount + 1, RowNumber));
     m_rows.back() = row;
 }
 

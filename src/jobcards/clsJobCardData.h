@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/values/Literals.h"
 #include "platform/values/Numbers.h"
 
 #include <QDate>
@@ -18,7 +19,7 @@ class clsJobCardData
 public:
     qint16 RowCount() const { return m_rowCount; }
     /// Changes the number alone; the rows behind it follow with the next row that is added or removed.
-    void SetRowCount(qint64 count) { m_rowCount = values::toInt16(count); }
+    void SetRowCount(qint64 count) { m_rowCount = values::toInt16(count, RowNumber); }
 
     /// Adds a row at the end. `sr` is the number of the stored line, 0 for a line that is not stored yet.
     /// Throws OverflowError, also for a row past 32767.
@@ -52,14 +53,20 @@ public:
     QString img1(qint64 index) const { return read(index, &Row::img1); }
     QString img2(qint64 index) const { return read(index, &Row::img2); }
     QString Color(qint64 index) const { return read(index, &Row::Color); }
-    qint16 Score(qint64 index) const { return values::CInt(values::Val(read(index, &Row::Score))); }
+    qint16 Score(qint64 index) const
+    {
+        return values::CInt(values::Val(read(index, &Row::Score)), ScoreNumber);
+    }
     QString ClientFeedBack(qint64 index) const { return read(index, &Row::ClientFeedBack); }
     QString ClientRemarks(qint64 index) const { return read(index, &Row::ClientRemarks); }
 
-    void SetSr(qint64 index, qint64 value) { write(index, &Row::Sr, values::toInt16(value)); }
+    void SetSr(qint64 index, qint64 value) { write(index, &Row::Sr, values::toInt16(value, LineNumber)); }
     void SetItemName(qint64 index, const QString& value) { write(index, &Row::ItemName, value); }
-    void SetItemID(qint64 index, qint64 value) { write(index, &Row::ItemID, values::toInt16(value)); }
-    void SetQty(qint64 index, qint64 value) { write(index, &Row::Qty, values::toInt16(value)); }
+    void SetItemID(qint64 index, qint64 value)
+    {
+        write(index, &Row::ItemID, values::toInt16(value, ItemNumber));
+    }
+    void SetQty(qint64 index, qint64 value) { write(index, &Row::Qty, values::toInt16(value, Quantity)); }
     void SetFees(qint64 index, double value) { write(index, &Row::Fees, value); }
     void SetAmount(qint64 index, double value) { write(index, &Row::Amount, value); }
     void SetRemarks(qint64 index, const QString& value) { write(index, &Row::Remarks, value); }
@@ -68,7 +75,10 @@ public:
     {
         write(index, &Row::ItemDetailsValue, value);
     }
-    void SetWorkerID(qint64 index, qint64 value) { write(index, &Row::WorkerID, values::toInt16(value)); }
+    void SetWorkerID(qint64 index, qint64 value)
+    {
+        write(index, &Row::WorkerID, values::toInt16(value, WorkerNumber));
+    }
     void SetWorkerName(qint64 index, const QString& value) { write(index, &Row::WorkerName, value); }
     void SetJobDelDate(qint64 index, const QDate& value) { write(index, &Row::JobDelDate, value); }
     void SetCompletedDate(qint64 index, const QDate& value) { write(index, &Row::CompletedDate, value); }
@@ -76,10 +86,13 @@ public:
     void SetDelToCustDate(qint64 index, const QDate& value) { write(index, &Row::DelToCustDate, value); }
     void SetDoneByWorker(qint64 index, qint64 value)
     {
-        write(index, &Row::DoneByWorker, values::toInt16(value));
+        write(index, &Row::DoneByWorker, values::toInt16(value, LineState));
     }
     void SetWorkerWagesDue(qint64 index, double value) { write(index, &Row::WorkerWagesDue, value); }
-    void setMarkAsPaid(qint64 index, qint64 value) { write(index, &Row::MarkAsPaid, values::toInt16(value)); }
+    void setMarkAsPaid(qint64 index, qint64 value)
+    {
+        write(index, &Row::MarkAsPaid, values::toInt16(value, PaidMark));
+    }
     void SetLoc(qint64 index, const QString& value) { write(index, &Row::Loc, value); }
     void SetImg1(qint64 index, const QString& value) { write(index, &Row::img1, value); }
     void SetImg2(qint64 index, const QString& value) { write(index, &Row::img2, value); }
@@ -96,6 +109,16 @@ public:
     void RemoveRow(qint32 index);
 
 private:
+    // What the operator calls the numbers.
+    static inline const QString LineNumber = u"Line number"_s;
+    static inline const QString ItemNumber = u"Item number"_s;
+    static inline const QString Quantity = u"Quantity"_s;
+    static inline const QString WorkerNumber = u"Worker number"_s;
+    static inline const QString LineState = u"State of the line"_s;
+    static inline const QString PaidMark = u"Paid mark"_s;
+    static inline const QString ScoreNumber = u"Score"_s;
+    static inline const QString RowNumber = u"Number of lines"_s;
+
     struct Row
     {
         qint16 Sr = 0;
@@ -138,7 +161,7 @@ private:
             m_rows[position(index)].*field = value;
     }
 
-    static QString scoreText(qint64 score) { return QString::number(values::toInt16(score)); }
+    static QString scoreText(qint64 score) { return QString::number(values::toInt16(score, ScoreNumber)); }
     bool within(qint64 index) const;
     /// Throws SubscriptError when the row is not there.
     size_t position(qint64 index) const;

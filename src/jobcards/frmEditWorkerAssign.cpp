@@ -59,7 +59,7 @@ frmEditWorkerAssign::frmEditWorkerAssign()
     onGotFocus(ui->cmbWorker, [this] { ui->cmbWorker->select(0, int(ui->cmbWorker->text().size())); });
     onKeyPress(ui->cmbWorker, [this](int& key) { key = AutoSearchCombo(*ui->cmbWorker, key); });
     on(ui->cmbWorker, &forms::ComboBox::changed, &frmEditWorkerAssign::RateWorker);
-    onKeyPress(ui->txtWagesDue, [this](int& key) { key = NumbersOnly(ui->txtWagesDue->text(), key); });
+    onKeyPress(ui->txtWagesDue, [this](int& key) { key = NumbersOnly(*ui->txtWagesDue, key); });
     const auto preview = [](const QString& imgPath) {
         if (!imgPath.isEmpty())
             frmPreview().ShowImage(imgPath);
@@ -204,7 +204,10 @@ void frmEditWorkerAssign::showLastJob()
     lines.Close();
 }
 
-qint32 frmEditWorkerAssign::jobID() const { return values::CLng(values::Val(ui->txtJOBID->text())); }
+qint32 frmEditWorkerAssign::jobID() const
+{
+    return values::CLng(values::Val(ui->txtJOBID->text()), u"JOB ID"_s);
+}
 
 // Worker and rating
 
@@ -284,7 +287,7 @@ void frmEditWorkerAssign::writeLine(const QString& worker)
     }
     line["CuttingStatus"] = ui->chCutting->isChecked() ? CuttingMark::Done : CuttingMark::NotDone;
     line["CuttingDate"] = ui->DtCutting->value();
-    line["WorkerWagesDue"] = Currency::fromDouble(values::Val(ui->txtWagesDue->text()));
+    line["WorkerWagesDue"] = Currency::fromDouble(values::Val(ui->txtWagesDue->text()), u"Wages Due"_s);
     line["MarkAsPaid"] = int(ui->chMarkasPaid->isChecked());
     line["Loc"] = ui->txtLoc->text();
     line.Update();

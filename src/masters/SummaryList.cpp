@@ -83,5 +83,5 @@ void SummaryList::openSelected()
         return;
     const QVariant id =
         FieldValueExists(ui->lstSummary->Text(), m_kind.keyField, u"ID"_s, m_kind.table, DE.rsaccounts);
-    editRecord(values::toInt16(id.toLongLong()));
+    editRecord(values::toInt16(id.toLongLong(), u"Number of the record"_s));
 }

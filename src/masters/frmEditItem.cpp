@@ -13,7 +13,10 @@ const QString LineBreak = u"\r\n"_s;
 /// A number typed into a box, as the text columns keep it: letters are 0.
 QString numberText(const swTextBox& box) { return values::CStr(values::Val(box.Text())); }
 
-Currency money(const swTextBox& box) { return Currency::fromDouble(values::Val(box.Text())); }
+Currency money(const swTextBox& box, const QString& field)
+{
+    return Currency::fromDouble(values::Val(box.Text()), field);
+}
 
 } // namespace
 
@@ -74,8 +77,8 @@ void frmEditItem::tidyTemplate()
 
 void frmEditItem::write(ado::Recordset& row)
 {
-    row["Fees"] = money(*ui->txtFees);
-    row["WorkerFees"] = money(*ui->txtWorkerFees);
+    row["Fees"] = money(*ui->txtFees, u"Fees"_s);
+    row["WorkerFees"] = money(*ui->txtWorkerFees, u"Worker's Fees"_s);
     row["ItemDetails"] = ui->txtItemDetails->Text();
     row["ProdcutionCap"] = numberText(*ui->txtProductionCap);
     row["OpPendingOrders"] = numberText(*ui->txtPendingOrdersBal);

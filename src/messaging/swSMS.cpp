@@ -54,6 +54,6 @@ bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString&
         ShowMsg(u"Modem Com Port Error!\r\nSMS Sending has been Failed."_s);
         return false;
     }
-    sms.SendSMS(values::CInt(values::Val(port)), mobile, text);
+    sms.SendSMS(values::CInt(values::Val(port), u"Com port"_s), mobile, text);
     return true;
 }

@@ -24,13 +24,16 @@ qint32 sumOfScores(qint32 workerId)
 
 } // namespace
 
-qint16 GetWorkerScore(qint32 workerId) { return values::toInt16(sumOfScores(workerId)); }
+qint16 GetWorkerScore(qint32 workerId)
+{
+    return values::toInt16(sumOfScores(workerId), u"Score of the worker"_s);
+}
 
 qint16 GetWorkerRating(qint32 workerId)
 {
     const qint32 lines = numberOfWorker(u"Select Count(*) from Jobs_Detail where WorkerID="_s, workerId);
     const qint32 sum = sumOfScores(workerId);
-    return lines < sum ? values::CInt(double(sum) / lines) : qint16(0);
+    return lines < sum ? values::CInt(double(sum) / lines, u"Rating of the worker"_s) : qint16(0);
 }
 
 bool RebuildRank()

@@ -72,7 +72,7 @@ void frmFeedBack::ChangeStars()
 
 void frmFeedBack::save()
 {
-    const qint16 score = values::CInt(values::Val(ui->cmbScore->text()));
+    const qint16 score = values::CInt(values::Val(ui->cmbScore->text()), u"Score"_s);
     ado::Recordset& line = openLine();
     line["Score"] = score;
     line["ClientFeedBack"] = ui->txtFeedback->Text();

@@ -45,7 +45,7 @@ void frmWorkerReport2::fill()
     workers.Open(u"Select * from Accounts where type=%1 order by Title"_s.arg(1));
     for (; !workers.AtEOF(); workers.MoveNext()) {
         qint16 count = 0;
-        JobCount(values::toInt16(workers["ID"].integer()), count);
+        JobCount(values::toInt16(workers["ID"].integer(), u"Worker number"_s), count);
         rows.push_back({{QString::number(rows.size() + 1), workers["Title"].text(), QString::number(count)}});
     }
     workers.Close();
@@ -57,7 +57,7 @@ void frmWorkerReport2::JobCount(qint16 workerId, qint16& count) const
 {
     ado::Recordset& lines = DE.rsJOBS_DETAIL2;
     lines.Open(QString(m_sql).replace("%id"_L1, QString::number(workerId)));
-    count = values::toInt16(lines.RecordCount());
+    count = values::toInt16(lines.RecordCount(), u"Number of lines"_s);
     lines.Close();
 }
 

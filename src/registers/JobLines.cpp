@@ -83,7 +83,9 @@ const QString& LineNames::account(qint32 id) { return knownOr(m_accounts, id, Ge
 
 const QString& LineNames::contact(qint32 id)
 {
-    return knownOr(m_contacts, id, [](qint32 account) { return GetClientContact(values::toInt16(account)); });
+    return knownOr(m_contacts, id, [](qint32 account) {
+        return GetClientContact(values::toInt16(account, u"Client number"_s));
+    });
 }
 
 const QString& LineNames::item(qint32 id) { return knownOr(m_items, id, GetItemName); }
@@ -91,7 +93,7 @@ const QString& LineNames::item(qint32 id) { return knownOr(m_items, id, GetItemN
 const QString& LineNames::balance(qint32 client)
 {
     return knownOr(m_balances, client, [this](qint32 account) {
-        return balanceText(GetBalance(values::toInt16(account), m_balancesUpTo));
+        return balanceText(GetBalance(values::toInt16(account, u"Client number"_s), m_balancesUpTo));
     });
 }
 

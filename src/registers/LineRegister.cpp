@@ -27,7 +27,10 @@ constexpr QRgb stateColours[] = {palette::amber, palette::green, palette::grey, 
 
 } // namespace
 
-qint32 tagOf(const forms::ListView& list, int row) { return values::CLng(values::Val(list.tag(row))); }
+qint32 tagOf(const forms::ListView& list, int row)
+{
+    return values::CLng(values::Val(list.tag(row)), u"Line number"_s);
+}
 
 QPixmap statusDot(qint32 state)
 {
@@ -144,7 +147,7 @@ void LineRegister::view()
 void LineRegister::keepPosition()
 {
     if (const int row = m_criteria.list->selectedRow(); row >= 0)
-        ReturnIndex = values::toInt16(row + 1);
+        ReturnIndex = values::toInt16(row + 1, u"Row of the list"_s);
 }
 
 void LineRegister::openOnRow(const std::function<void()>& open)

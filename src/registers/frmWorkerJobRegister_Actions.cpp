@@ -67,7 +67,8 @@ qint32 frmWorkerJobRegister::selectedLine() const
 /// The number before the "/"; 0 on the total row.
 qint32 frmWorkerJobRegister::selectedJob() const
 {
-    return values::CLng(values::Val(ui->lvSummary->cell(ui->lvSummary->selectedRow(), JobColumn)));
+    return values::CLng(values::Val(ui->lvSummary->cell(ui->lvSummary->selectedRow(), JobColumn)),
+                        u"Job ID"_s);
 }
 
 bool frmWorkerJobRegister::asked(const QString& question) const { return ShowMsg(question, 2); }

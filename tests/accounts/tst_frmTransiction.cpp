@@ -103,7 +103,9 @@ private Q_SLOTS:
             {"Sales", "Cash", "0.00", "Please enter amount!", "txtAmount"},
             {"Sales", "Cash", "", "Please enter amount!", "txtAmount"},
             {"Sales", "asha", "5", "Please Check accounts!", "Command1"},
-            {"Sales", "Cash", "999999999999999", "Overflow", "Command1"},
+            {"Sales", "Cash", "999999999999999",
+             "Overflow: Amount 999999999999999 is too large. The highest possible is 922337203685477.5807.",
+             "Command1"},
         };
         const qint16 saved = addNew("Asha", [&](frmTransiction& form) {
             for (const auto& [kind, account, amount, prompt, focus] : refusals) {

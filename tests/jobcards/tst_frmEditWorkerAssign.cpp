@@ -165,7 +165,7 @@ private Q_SLOTS:
             };
             send(u"Modem Com Port Error!\r\nSMS Sending has been Failed."_s);
             SetSetting(4, u"70000"_s);
-            send(OverflowError().text());
+            send(u"Overflow: Com port 70000 is too large. The highest possible is 32767."_s);
             SetSetting(4, u"usb"_s); // port 0
             send(u"No such file or directory"_s);
         });
@@ -204,7 +204,8 @@ private Q_SLOTS:
             refused(u"Please Select Worker Name!"_s);
             combo(screen, "cmbWorker").setText(u"ravi"_s);
             field(screen, "txtWagesDue").setText(u"999999999999999"_s);
-            refused(OverflowError().text());
+            refused(
+                u"Overflow: Wages Due 999999999999999 is too large. The highest possible is 922337203685477.5807."_s);
             QVERIFY(stored(u"WorkerID"_s) == "0");
             Shop::run(u"Delete from Jobs_Detail"_s);
             field(screen, "txtWagesDue").setText(u"letters"_s);

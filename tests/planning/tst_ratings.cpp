@@ -111,7 +111,7 @@ private Q_SLOTS:
             QCOMPARE(Shop::rows(kept), QStringList{u"4 Fits well"_s});
             QVERIFY(session.RefreshLists);
             score.setText(u"70000"_s);
-            prompts->expect(u"Overflow"_s);
+            prompts->expect(u"Overflow: Score 70000 is too large. The highest possible is 32767."_s);
             save();
             score.setText(u"7 of 5"_s);
             QVERIFY(shows(4));

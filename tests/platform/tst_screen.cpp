@@ -36,7 +36,7 @@ public:
         on(&leave, &QPushButton::clicked, [this] { unload(); });
         on(&second, &QLineEdit::textEdited, [](const QString& text) {
             if (text == "bad")
-                throw OverflowError();
+                throw TypeMismatchError();
         });
     }
 
@@ -170,7 +170,7 @@ private Q_SLOTS:
 
     void errorsReachTheOperatorAndTheProgramGoesOn()
     {
-        m_prompts->expect("Overflow");
+        m_prompts->expect("Type mismatch");
         inModal<Counter>([](Counter& screen) {
             screen.second.setFocus();
             typeText("badly");

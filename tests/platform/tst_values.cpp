@@ -94,7 +94,12 @@ private Q_SLOTS:
         QCOMPARE(CInt(-3.5), qint16(-4));
         QCOMPARE(CInt(32767.49), qint16(32767));
         QVERIFY_THROWS_EXCEPTION(OverflowError, CInt(32767.5));
-        QVERIFY_THROWS_EXCEPTION(OverflowError, CInt(-32768.51));
+        try {
+            CInt(-32768.51, "Quantity");
+            QFAIL("it does not fit");
+        } catch (const OverflowError& error) {
+            QCOMPARE(error.text(), "Overflow: Quantity -32769 is too small. The lowest possible is -32768.");
+        }
         QCOMPARE(CLng(2147483647.4), 2147483647);
         QVERIFY_THROWS_EXCEPTION(OverflowError, CLng(2147483648.0));
         QVERIFY_THROWS_EXCEPTION(OverflowError, CLng(1e300));

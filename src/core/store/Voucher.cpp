@@ -72,10 +72,12 @@ void Voucher::Delete() { DE.connection().Execute(u"Delete from Postings"_s + whe
 qint32 Voucher::NextEntryNumber()
 {
     return values::toInt32(
-        qint64(lastOf(u"Select * from Postings where vtype=2 and sr=1 order by vID"_s, "vid")) + 1);
+        qint64(lastOf(u"Select * from Postings where vtype=2 and sr=1 order by vID"_s, "vid")) + 1,
+        u"Next voucher number"_s);
 }
 
 qint16 Voucher::NextPayrollNumber()
 {
-    return values::toInt16(qint64(lastOf(u"Select * from Postings where vtype=2 order by vID"_s, "ID")) + 1);
+    return values::toInt16(qint64(lastOf(u"Select * from Postings where vtype=2 order by vID"_s, "ID")) + 1,
+                           u"Next payroll number"_s);
 }

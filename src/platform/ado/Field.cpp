@@ -15,6 +15,8 @@ const QVariant& Field::stored() const
 
 ColumnType Field::type() const { return m_owner.d->column(static_cast<size_t>(m_column)).type; }
 
+const QString& Field::name() const { return m_owner.d->column(static_cast<size_t>(m_column)).name; }
+
 bool Field::isNull() const { return !stored().isValid(); }
 
 QVariant Field::value() const
@@ -33,20 +35,20 @@ qint32 Field::integer() const
 {
     const QVariant& raw = stored();
     if (raw.typeId() == QMetaType::LongLong)
-        return values::toInt32(raw.toLongLong());
-    return values::CLng(toNumber(raw));
+        return values::toInt32(raw.toLongLong(), name());
+    return values::CLng(toNumber(raw), name());
 }
 
 double Field::number() const { return toNumber(stored()); }
 
-Currency Field::money() const { return Currency::fromDouble(number()); }
+Currency Field::money() const { return Currency::fromDouble(number(), name()); }
 
 QDate Field::date() const { return isNull() ? QDate() : values::CDate(text()); }
 
 Field& Field::operator=(const QVariant& value)
 {
     m_owner.d->requireWritable();
-    m_owner.d->setValue(m_column, storedForm(type(), value));
+    m_owner.d->setValue(m_column, storedForm(type(), value, name()));
     return *this;
 }
 

@@ -12,6 +12,8 @@ namespace ado {
 namespace {
 
 constexpr qint64 unitsPerWhole = 10000;
+constexpr auto beyondMoney =
+    "Overflow: the sum of the amounts is too large. The highest possible is 922337203685477.5807.";
 
 /// The running total of a sum, in ten-thousandths.
 struct Total
@@ -59,7 +61,7 @@ void sumFinal(sqlite3_context* context)
     if (!total || !total->any)
         sqlite3_result_null(context);
     else if (total->overflow)
-        sqlite3_result_error(context, "Overflow", -1);
+        sqlite3_result_error(context, beyondMoney, -1);
     else if (total->units % unitsPerWhole == 0)
         sqlite3_result_int64(context, total->units / unitsPerWhole);
     else

@@ -63,6 +63,7 @@ private:
     }
     const QVariant& stored() const;
     ColumnType type() const;
+    const QString& name() const;
 
     Recordset& m_owner;
     int m_column;

@@ -64,22 +64,22 @@ double numberOf(const QVariant& value)
 }
 
 /// Whole amounts are stored as whole numbers, others as the double nearest to their decimals.
-QVariant storedMoney(const QVariant& value)
+QVariant storedMoney(const QVariant& value, const QString& column)
 {
     Currency money;
     if (isMoney(value))
         money = value.value<Currency>();
     else
-        money = Currency::fromDouble(numberOf(value));
+        money = Currency::fromDouble(numberOf(value), column);
     if (money.units() % unitsPerWhole == 0)
         return QVariant(money.units() / unitsPerWhole);
     return QVariant(money.toDouble());
 }
 
-QVariant storedInteger(const QVariant& value)
+QVariant storedInteger(const QVariant& value, const QString& column)
 {
     const qint32 number =
-        isWhole(value) ? values::toInt32(value.toLongLong()) : values::CLng(numberOf(value));
+        isWhole(value) ? values::toInt32(value.toLongLong(), column) : values::CLng(numberOf(value), column);
     return QVariant(qint64(number));
 }
 
@@ -148,15 +148,15 @@ std::optional<QString> storedDate(const QString& text)
     return std::nullopt;
 }
 
-QVariant storedForm(ColumnType type, const QVariant& value)
+QVariant storedForm(ColumnType type, const QVariant& value, const QString& column)
 {
     if (isNothing(value))
         return {};
     switch (type) {
     case ColumnType::Integer:
-        return storedInteger(value);
+        return storedInteger(value, column);
     case ColumnType::Money:
-        return storedMoney(value);
+        return storedMoney(value, column);
     case ColumnType::Double:
         return QVariant(numberOf(value));
     case ColumnType::Date:

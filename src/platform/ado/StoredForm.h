@@ -19,7 +19,7 @@ std::optional<QString> storedDate(const QString& text);
 /// Brings a value to its column's form: a whole number, a double, a text, or nothing. Throws
 /// TypeMismatchError for a text that is no number or date where one is due, OverflowError for a number that
 /// leaves the column's range.
-QVariant storedForm(ColumnType type, const QVariant& value);
+QVariant storedForm(ColumnType type, const QVariant& value, const QString& column = {});
 
 /// Reads a stored value as a number. Null is 0; throws TypeMismatchError for a text that is none.
 double toNumber(const QVariant& stored);

@@ -16,6 +16,7 @@ inline constexpr int CtrlD = 4;
 inline constexpr int CtrlF = 6;
 inline constexpr int CtrlP = 16;
 inline constexpr int CtrlS = 19;
+inline constexpr int CtrlZ = 26;
 inline constexpr int Blank = 32;
 // key-down numbers
 inline constexpr int PageUp = 33;

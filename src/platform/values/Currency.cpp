@@ -2,19 +2,33 @@
 
 #include "platform/values/Decimal.h"
 #include "platform/values/Errors.h"
+#include "platform/values/Numbers.h"
 
 #include <cmath>
+#include <limits>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int decimals = 4;
 
+OverflowError overflow(double amount, const QString& field = {})
+{
+    using Limits = std::numeric_limits<qint64>;
+    const bool above = !(amount < 0);
+    const bool readable = std::fabs(amount) < 1e15;
+    return {field.isEmpty() ? u"the amount"_s : field, readable ? values::CStr(amount) : QString(),
+            above ? OverflowError::Beyond::Highest : OverflowError::Beyond::Lowest,
+            Currency::fromUnits(above ? Limits::max() : Limits::min()).toString()};
+}
+
 } // namespace
 
-Currency Currency::fromDouble(double amount)
+Currency Currency::fromDouble(double amount, const QString& field)
 {
     if (!std::isfinite(amount))
-        throw OverflowError();
+        throw overflow(amount, field);
     values::Decimal decimal(amount);
     decimal.round(decimals, values::Decimal::Half::ToEven);
     if (decimal.negative)
@@ -22,7 +36,7 @@ Currency Currency::fromDouble(double amount)
     bool fits = false;
     const qint64 units = decimal.digits.toLongLong(&fits);
     if (!fits)
-        throw OverflowError();
+        throw overflow(amount, field);
     return fromUnits(units);
 }
 
@@ -43,7 +57,7 @@ Currency Currency::operator+(Currency other) const
 {
     qint64 sum = 0;
     if (qAddOverflow(m_units, other.m_units, &sum))
-        throw OverflowError();
+        throw overflow(toDouble() + other.toDouble());
     return fromUnits(sum);
 }
 
@@ -51,7 +65,7 @@ Currency Currency::operator-(Currency other) const
 {
     qint64 difference = 0;
     if (qSubOverflow(m_units, other.m_units, &difference))
-        throw OverflowError();
+        throw overflow(toDouble() - other.toDouble());
     return fromUnits(difference);
 }
 

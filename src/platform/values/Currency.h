@@ -10,8 +10,9 @@ class Currency
 {
 public:
     constexpr Currency() = default;
-    /// Rounds half to even at the fourth decimal, on the decimal text of the number.
-    static Currency fromDouble(double amount);
+    /// Rounds half to even at the fourth decimal, on the decimal text of the number. `field` is what the
+    /// operator calls the amount.
+    static Currency fromDouble(double amount, const QString& field = {});
     /// `units` are ten-thousandths.
     static constexpr Currency fromUnits(qint64 units)
     {

@@ -21,12 +21,17 @@ private:
     QString m_text;
 };
 
-/// A number does not fit the place it is meant for (a 16-bit id above 32767, say).
+/// A number does not fit the place it is meant for (a 16-bit id above 32767, say). Its text names the field,
+/// in the operator's words, the number and the limit that it passes; an empty field or number is left out.
 class OverflowError : public OperatorError
 {
 public:
-    OverflowError()
-        : OperatorError(u"Overflow"_s)
+    enum class Beyond { Highest, Lowest };
+    OverflowError(const QString& field, const QString& number, Beyond beyond, const QString& limit)
+        : OperatorError(QString(u"Overflow: "_s + field + u' ' + number).simplified() +
+                        (beyond == Beyond::Highest ? u" is too large. The highest possible is "_s
+                                                   : u" is too small. The lowest possible is "_s) +
+                        limit + u'.')
     {
     }
 };

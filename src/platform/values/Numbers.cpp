@@ -75,22 +75,31 @@ private:
     QByteArray m_number;
 };
 
+using Beyond = OverflowError::Beyond;
+
 template <class Integer>
-Integer narrow(qint64 number)
+Integer narrow(qint64 number, const QString& field)
 {
-    if (number < std::numeric_limits<Integer>::min() || number > std::numeric_limits<Integer>::max())
-        throw OverflowError();
+    using Limits = std::numeric_limits<Integer>;
+    if (number < Limits::min())
+        throw OverflowError(field, QString::number(number), Beyond::Lowest, QString::number(Limits::min()));
+    if (number > Limits::max())
+        throw OverflowError(field, QString::number(number), Beyond::Highest, QString::number(Limits::max()));
     return static_cast<Integer>(number);
 }
 
 template <class Integer>
-Integer roundTo(double number)
+Integer roundTo(double number, const QString& field)
 {
-    constexpr double beyond =
-        9.0e15; // whole numbers are exact up to here, and every narrower place ends far below
-    if (!(std::fabs(number) < beyond))
-        throw OverflowError();
-    return narrow<Integer>(static_cast<qint64>(std::nearbyint(number)));
+    // Whole numbers are exact up to here, and every narrower place ends far below.
+    constexpr double exact = 9.0e15;
+    using Limits = std::numeric_limits<Integer>;
+    const QString named = field.isEmpty() ? u"the number"_s : field;
+    if (number <= -exact)
+        throw OverflowError(named, {}, Beyond::Lowest, QString::number(Limits::min()));
+    if (!(number < exact))
+        throw OverflowError(named, {}, Beyond::Highest, QString::number(Limits::max()));
+    return narrow<Integer>(static_cast<qint64>(std::nearbyint(number)), field);
 }
 
 /// One section of a number pattern: literal text, digit places, literal text.
@@ -171,13 +180,13 @@ double Val(const QString& text)
     return fits && std::isfinite(number) ? number : 0.0;
 }
 
-qint16 CInt(double number) { return roundTo<qint16>(number); }
+qint16 CInt(double number, const QString& field) { return roundTo<qint16>(number, field); }
 
-qint32 CLng(double number) { return roundTo<qint32>(number); }
+qint32 CLng(double number, const QString& field) { return roundTo<qint32>(number, field); }
 
-qint16 toInt16(qint64 number) { return narrow<qint16>(number); }
+qint16 toInt16(qint64 number, const QString& field) { return narrow<qint16>(number, field); }
 
-qint32 toInt32(qint64 number) { return narrow<qint32>(number); }
+qint32 toInt32(qint64 number, const QString& field) { return narrow<qint32>(number, field); }
 
 QString CStr(double number)
 {
@@ -190,7 +199,8 @@ QString CStr(double number)
 QString Format(double number, const QString& pattern)
 {
     if (!std::isfinite(number))
-        throw OverflowError();
+        throw OverflowError(u"the number"_s, {}, number < 0 ? Beyond::Lowest : Beyond::Highest,
+                            CStr(std::copysign(std::numeric_limits<double>::max(), number)));
     const Pattern& sections = parsed(pattern);
     Decimal rounded(number);
     const bool ownSection = rounded.negative && sections.hasNegative;

@@ -11,12 +11,12 @@ namespace values {
 double Val(const QString& text);
 
 /// Rounds half to even and narrows; throws OverflowError if the result does not fit, or `number` is not
-/// finite.
-qint16 CInt(double number);
-qint32 CLng(double number);
+/// finite. `field` is what the operator calls the number.
+qint16 CInt(double number, const QString& field = {});
+qint32 CLng(double number, const QString& field = {});
 /// Narrow a whole number; throws OverflowError if it does not fit.
-qint16 toInt16(qint64 number);
-qint32 toInt32(qint64 number);
+qint16 toInt16(qint64 number, const QString& field = {});
+qint32 toInt32(qint64 number, const QString& field = {});
 
 /// The shortest text that reads back as the same number, never in exponent form below 1e15: 301 is "301", 0.1
 /// is "0.1".
