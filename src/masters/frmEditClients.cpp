@@ -6,6 +6,8 @@
 #include "ui/ModOtherFUN.h"
 #include "ui_frmEditClients.h"
 
+#include <QStyle>
+
 using namespace Qt::StringLiterals;
 
 frmEditClients::frmEditClients()
@@ -22,6 +24,7 @@ frmEditClients::frmEditClients()
     ui->setupUi(this);
     setControls({ui->lblTitle, ui->txtName, ui->Command1, ui->Command2});
     onKeyPress(ui->dateDob, [](int& key) { key = EnterAsTab(key); });
+    on(ui->dateDob, &forms::DatePicker::changed, [this] { setDobKnown(true); });
 }
 
 frmEditClients::~frmEditClients() = default;
@@ -39,6 +42,18 @@ void frmEditClients::clear()
     for (swTextBox* box : {ui->txtAddress, ui->txtCity, ui->txtState, ui->txtMobile})
         box->setText({});
     ui->dateDob->setValue(session.WorkingDate);
+    setDobKnown(true);
+}
+
+/// A picker always shows a date; one that is nobody's birthday is dimmed, and a hint says so.
+void frmEditClients::setDobKnown(bool known)
+{
+    m_dobKnown = known;
+    ui->lblDobHint->setVisible(!known);
+    auto* shown = ui->dateDob->findChild<QLineEdit*>();
+    shown->setProperty("unset", !known);
+    shown->style()->unpolish(shown);
+    shown->style()->polish(shown);
 }
 
 void frmEditClients::read(ado::Recordset& row)
@@ -47,8 +62,8 @@ void frmEditClients::read(ado::Recordset& row)
     ui->txtCity->setText(row["CITY"].text());
     ui->txtState->setText(row["STATE"].text());
     ui->txtMobile->setText(row["MOBILE"].text());
-    // A picker always shows a date: a client without one gets the working date, as a new client does.
     ui->dateDob->setValue(row["DOB"].isNull() ? session.WorkingDate : row["DOB"].date());
+    setDobKnown(!row["DOB"].isNull());
 }
 
 void frmEditClients::write(ado::Recordset& row)
@@ -58,7 +73,8 @@ void frmEditClients::write(ado::Recordset& row)
     row["City"] = ui->txtCity->Text();
     row["State"] = ui->txtState->Text();
     row["Mobile"] = ui->txtMobile->Text();
-    row["dob"] = ui->dateDob->value();
+    if (m_dobKnown)
+        row["dob"] = ui->dateDob->value();
 }
 
 bool frmEditClients::isInUse(qint16 id)

@@ -26,7 +26,10 @@ private:
     bool isInUse(qint16 id) override;
     bool addsAnotherAfter(const QString& name) override;
 
+    void setDobKnown(bool known);
+
     const std::unique_ptr<Ui::frmEditClients> ui;
     bool m_fromJobCard = false;
+    bool m_dobKnown = true; ///< the date in the picker is the client's
     QString m_newTitle;
 };

@@ -74,10 +74,22 @@ private Q_SLOTS:
                 }
             });
             const QString updated = "Client Information Updated.";
-            prompts->expectAll({updated, "Duplicate!", updated, updated});
+            prompts->expectAll({updated, "Duplicate!", updated, updated, updated, updated});
             typeText("an");
             press(Qt::Key_Return);
             QCOMPARE(entries(list).List(0) + entries(list).List(1), "BelaChhaya");
+            onNextModal<frmEditClients>([&](frmEditClients& form) {
+                const auto& hint = control<QLabel>(form, "lblDobHint");
+                QVERIFY(hint.isVisible());
+                save();
+                QCOMPARE(Shop::count("Select * from Accounts where Title='Bela' and DOB is null"), 1);
+                date(form, "dateDob").setValue({1988, 1, 2});
+                QVERIFY(!hint.isVisible());
+                save();
+            });
+            fillIn(list, "txtSearch", "bel");
+            press(Qt::Key_Return);
+            QCOMPARE(Shop::rows("Select DOB from Accounts where Title='Bela'"), QStringList{"1988-01-02"});
             press(Qt::Key_Escape);
             QVERIFY(!list.isVisible());
         });
@@ -182,7 +194,7 @@ private Q_SLOTS:
             });
         }
         Shop::run("Insert into Accounts (Id, Title, Type) values (32768, 'Far', 0)"); // past 16 bits
-        prompts->expect("Overflow");
+        prompts->expect("Overflow: Number of the record 32768 is too large. The highest possible is 32767.");
         inModal<frmClients>([](frmClients& list) {
             press(Qt::Key_Down);
             press(Qt::Key_Return);
