@@ -59,7 +59,7 @@ frmAddItem::frmAddItem()
     onKeyPress(ui->cmbItems, [this](int& key) { typeItem(key); });
     on(ui->cmbItems, &forms::ComboBox::clicked, &frmAddItem::chooseItem);
     for (QLineEdit* box : {ui->txtQnt, ui->txtFees})
-        onKeyPress(box, [box](int& key) { key = EnterAsTab(key) == 0 ? 0 : NumbersOnly(box->text(), key); });
+        onKeyPress(box, [box](int& key) { key = EnterAsTab(key) == 0 ? 0 : NumbersOnly(*box, key); });
     onKeyPress(ui->txtRemark, [](int& key) { key = EnterAsTab(key); });
     onGotFocus(ui->txtClientRemark, [this] { LastKey = 0; });
     onKeyPress(ui->txtClientRemark, [this](int& key) { typeClientRemark(key); });
@@ -217,7 +217,17 @@ void frmAddItem::addPair(const QString& line)
 
 // Keys
 
-void frmAddItem::Form_KeyDown(int& key, Qt::KeyboardModifiers) { key = ArrowsAsTab(key); }
+/// Ctrl+Enter leaves the measurements from any row.
+void frmAddItem::Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers)
+{
+    if (key == forms::key::Enter && modifiers.testFlag(Qt::ControlModifier) &&
+        ui->ItemDetails1->isAncestorOf(focusWidget())) {
+        key = 0;
+        ui->txtQnt->setFocus();
+        return;
+    }
+    key = ArrowsAsTab(key);
+}
 
 /// A second Enter straight after the first ends the note.
 void frmAddItem::typeClientRemark(int& key)
@@ -312,11 +322,11 @@ bool frmAddItem::refuses(bool refused, const QString& message, QWidget& field)
 void frmAddItem::writeRow()
 {
     const QString itemName = ui->cmbItems->text();
-    const qint16 itemID = values::toInt16(GetItemID(itemName));
-    const qint16 qty = values::CInt(Val(ui->txtQnt->text()));
+    const qint16 itemID = values::toInt16(GetItemID(itemName), u"Item number"_s);
+    const qint16 qty = values::CInt(Val(ui->txtQnt->text()), u"Quantity"_s);
     const double fees = Val(ui->txtFees->text());
     const double amount = Val(ui->txtQnt->text()) * fees;
-    Currency::fromDouble(amount); // throws for a sum that no table could take
+    Currency::fromDouble(amount, u"Amount (quantity x fees)"_s); // throws for a sum that no table could take
     const Measurements grid = readGrid(*ui->ItemDetails1);
     const QString details = grid.names.join(LineBreak);
     const QString detailsValue = grid.values.join(LineBreak);

@@ -50,11 +50,8 @@ frmEditJOB::frmEditJOB(QWidget* parent)
     onKeyPress(ui->cmbClient, [this](int& key) { typeClient(key); });
     onLostFocus(ui->cmbClient, [this] { greetClient(); });
     onKeyPress(ui->cmbAccount, [this](int& key) { key = AutoSearchCombo(*ui->cmbAccount, key); });
-    on(ui->txtAmountDue, &QLineEdit::textChanged, &frmEditJOB::formatTotal);
-    onKeyPress(ui->txtAmountDue, [this](int& key) { typeTotal(key); });
-    onKeyDown(ui->txtAmountDue, [this](int& key) { deleteInTotal(key); });
-    on(ui->txtAmountPaid, &swTextBox::Change, &frmEditJOB::limitPaid);
-    onKeyPress(ui->txtAmountPaid, [this](int& key) { key = NumbersOnly(ui->txtAmountPaid->text(), key); });
+    on(ui->txtAmountPaid, &QLineEdit::textEdited, &frmEditJOB::limitPaid);
+    on(ui->txtAmountPaid, &swTextBox::Change, &frmEditJOB::showBalance);
 
     on(ui->lvItems, &forms::ListView::dblClicked, &frmEditJOB::editLine);
     onKeyDown(ui->lvItems, [this](int& key) {
@@ -92,12 +89,14 @@ void frmEditJOB::Form_Load()
     m_card = JobCard();
     CardChanged = false;
     m_anotherCard = false;
+    m_blank.reset();
     swSMS1 = std::make_unique<swSMS>(this);
     swSMS1->setObjectName(u"swSMS1"_s);
 }
 
 void frmEditJOB::Form_Unload()
 {
+    keepUnsaved();
     m_card.Clear();
     swSMS1.reset();
 }
@@ -145,7 +144,8 @@ void frmEditJOB::openWith(const std::function<void()>& fill)
 
 void frmEditJOB::showNewCard()
 {
-    const qint32 margin = values::CLng(values::Val(GetSetting(settings::DeliveryMargin)));
+    const qint32 margin =
+        values::CLng(values::Val(GetSetting(settings::DeliveryMargin)), u"Delivery margin"_s);
     JobCardHead head;
     head.Date = session.WorkingDate;
     head.DeliveryDate = session.WorkingDate.addDays(margin);
@@ -154,6 +154,8 @@ void frmEditJOB::showNewCard()
     ui->lblTitle->setText(u"Create New Job Card"_s);
     ui->txtJOBID->setReadOnly(false);
     ui->txtJOBID->setText(QString::number(GetNewNum()));
+    m_blank = draft();
+    showHelp();
     ui->cmbClient->setFocus();
 }
 
@@ -194,9 +196,7 @@ void frmEditJOB::showStoredCard(qint32 JobID)
     }
     job.Close();
     m_card.LoadLines();
-    for (int row = 1; row <= m_card.JobRows.RowCount(); ++row)
-        ui->lvItems->addRow(lineCells(row));
-    ui->lvItems->selectRow(0);
+    showLines();
     showBalance();
     ui->lvItems->setFocus();
 }
@@ -228,6 +228,7 @@ void frmEditJOB::showMode()
     ui->txtJOBID->setReadOnly(true);
     ui->txtJOBID->setText(QString::number(m_card.CurrentJobID));
     ui->lblTitle->setText(u"Edit JOB Card"_s);
+    showHelp();
 }
 
 // Fields and keys
@@ -235,6 +236,10 @@ void frmEditJOB::showMode()
 void frmEditJOB::Form_KeyPress(int& key)
 {
     Screen::Form_KeyPress(key);
+    if (key == forms::key::CtrlZ) {
+        key = 0;
+        undo();
+    }
     key = EnterAsTab(key);
 }
 
@@ -281,7 +286,7 @@ void frmEditJOB::greetClient()
     const QString number = visits["ID"].text();
     visits.Close();
 
-    const double balance = GetBalance(values::toInt16(clientID), session.WorkingDate);
+    const double balance = GetBalance(values::toInt16(clientID, u"Client number"_s), session.WorkingDate);
     QString greeting = u"Welcome back "_s + client + u", Your previous visit was: "_s + dateText(lastVisit) +
                        u" ( "_s + DateDiffText(lastVisit, session.WorkingDate, false, true);
     if (balance == 0) {
@@ -294,56 +299,12 @@ void frmEditJOB::greetClient()
     ui->picBanner->setText(greeting);
 }
 
-/// Keeps the total in money form under the typing hand: the caret stays where it is as seen from the decimal
-/// point.
-void frmEditJOB::formatTotal()
-{
-    const QString typed = ui->txtAmountDue->text();
-    const QString formatted = values::formatMoneyText(typed);
-    if (formatted == typed)
-        return;
-    const auto point = [](const QString& text) {
-        const auto at = text.indexOf(u'.');
-        return int(at < 0 ? text.size() : at);
-    };
-    const int fromPoint = ui->txtAmountDue->cursorPosition() - point(typed);
-    ui->txtAmountDue->setText(formatted);
-    ui->txtAmountDue->setCursorPosition(qBound(0, point(formatted) + fromPoint, int(formatted.size())));
-}
-
-void frmEditJOB::typeTotal(int& key)
-{
-    auto& box = *ui->txtAmountDue;
-    const QString text = box.text();
-    const int caret = box.cursorPosition();
-    const bool plainCaret = !box.hasSelectedText();
-    // The decimal point always stands; typing or erasing it steps over it.
-    if (plainCaret && key == '.' && text.mid(caret, 1) == "."_L1)
-        box.cursorForward(false);
-    if (plainCaret && key == forms::key::Backspace && caret > 0 && text.at(caret - 1) == u'.') {
-        box.cursorBackward(false);
-        key = 0;
-        return;
-    }
-    key = NumbersOnly(text, key);
-}
-
-void frmEditJOB::deleteInTotal(int& key)
-{
-    auto& box = *ui->txtAmountDue;
-    if (key == forms::key::Delete && !box.hasSelectedText() &&
-        box.text().mid(box.cursorPosition(), 1) == "."_L1) {
-        box.cursorForward(false);
-        key = 0;
-    }
-}
-
-/// Nobody pays more than the total at the counter.
+/// Nobody pays more than the total at the counter. A receipt that is stored stays what it is, also where the
+/// card's total has fallen below it.
 void frmEditJOB::limitPaid()
 {
     if (values::Val(ui->txtAmountPaid->text()) > values::Val(ui->txtAmountDue->text()))
         ui->txtAmountPaid->setText(ui->txtAmountDue->text());
-    showBalance();
 }
 
 void frmEditJOB::showBalance()
@@ -381,6 +342,14 @@ QStringList frmEditJOB::lineCells(int row) const
     const clsJobCardData& rows = m_card.JobRows;
     return {rows.ItemName(row), rows.Remarks(row), QString::number(rows.Qty(row)), moneyText(rows.Fees(row)),
             moneyText(rows.Amount(row))};
+}
+
+void frmEditJOB::showLines()
+{
+    ui->lvItems->Clear();
+    for (int row = 1; row <= m_card.JobRows.RowCount(); ++row)
+        ui->lvItems->addRow(lineCells(row));
+    ui->lvItems->selectRow(0);
 }
 
 /// Shows the last row of the card at the end of the list.

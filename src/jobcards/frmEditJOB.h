@@ -1,6 +1,6 @@
 #pragma once
 
-#include "jobcards/JobCard.h"
+#include "jobcards/UnsavedCards.h"
 #include "platform/forms/Screen.h"
 
 #include <memory>
@@ -52,13 +52,11 @@ private:
 
     void typeClient(int& key);
     void greetClient();
-    void formatTotal();
-    void typeTotal(int& key);
-    void deleteInTotal(int& key);
     void limitPaid();
     void showBalance();
 
     QStringList lineCells(int row) const;
+    void showLines();
     void appendLine();
     int selectedLine() const;
     void editLine();
@@ -75,6 +73,14 @@ private:
     void copyLine();
     void hideCancelReason();
 
+    bool isNew() const;
+    JobCardDraft draft() const;
+    void showDraft(const JobCardDraft& draft);
+    void keepUnsaved();
+    void undo();
+    void showHelp();
+
+    JobCardHead typedHead() const;
     JobCardHead head() const;
     void refuse(const QString& message, QWidget* field);
     void offerSms();
@@ -83,5 +89,6 @@ private:
     std::unique_ptr<swSMS> swSMS1;
     JobCard m_card;
     bool CardChanged = false;
-    bool m_anotherCard = false; ///< New was pressed: a fresh card follows this one
+    std::optional<JobCardDraft> m_blank; ///< a new card as it was when it opened
+    bool m_anotherCard = false;          ///< New was pressed: a fresh card follows this one
 };

@@ -30,7 +30,7 @@ void frmEditJOB::save()
         refuse(u"Please Select Receipt Account!"_s, ui->cmbAccount);
         return;
     }
-    if (m_card.EditMode == RecordMode::New) {
+    if (isNew()) {
         SaveNew();
         if (values::Val(GetSetting(settings::PrintAfterSave)) == 1)
             print();
@@ -46,25 +46,38 @@ void frmEditJOB::refuse(const QString& message, QWidget* field)
     field->setFocus();
 }
 
-/// Throws OperatorError for a number or an amount that no card can hold.
-JobCardHead frmEditJOB::head() const
+/// The head as it stands on the screen, without its number and amounts.
+JobCardHead frmEditJOB::typedHead() const
 {
     JobCardHead head;
-    if (m_card.EditMode == RecordMode::New)
-        head.Number = values::CLng(values::Val(ui->txtJOBID->text()));
     head.Date = ui->JobDate->value();
     head.Client = ui->cmbClient->text();
     head.DeliveryDate = ui->DateDel->value();
     head.TrialDate = ui->DateTrial->value();
-    head.Total = Currency::fromDouble(values::Val(ui->txtAmountDue->text()));
-    head.Paid = Currency::fromDouble(values::Val(ui->txtAmountPaid->text()));
-    if (head.Paid < Currency())
-        throw OperatorError(u"The amount received can't be below 0. Nothing has been saved."_s);
     head.Delivered = ui->chJobStatus->isChecked();
     head.Remark = ui->txtRemark->text();
     head.ReceiptAccount = ui->cmbAccount->text();
     head.Cancelled = ui->chStatus->isChecked();
     head.CancelReason = ui->txtCancel->text();
+    return head;
+}
+
+/// Throws OperatorError for a number or an amount that no card can hold.
+JobCardHead frmEditJOB::head() const
+{
+    JobCardHead head = typedHead();
+    if (isNew()) {
+        try {
+            head.Number = JobCard::readNumber(ui->txtJOBID->text());
+        } catch (const OperatorError&) {
+            ui->txtJOBID->setFocus();
+            throw;
+        }
+    }
+    head.Total = Currency::fromDouble(values::Val(ui->txtAmountDue->text()), u"Total Amount"_s);
+    head.Paid = Currency::fromDouble(values::Val(ui->txtAmountPaid->text()), u"Amount Received"_s);
+    if (head.Paid < Currency())
+        throw OperatorError(u"The amount received can't be below 0. Nothing has been saved."_s);
     return head;
 }
 

@@ -1,6 +1,7 @@
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "jobcards/ColorBox.h"
 #include "jobcards/frmAddItem.h"
 #include "jobcards/frmEditJOB.h"
 #include "masters/frmEditClients.h"
@@ -142,7 +143,9 @@ private Q_SLOTS:
             for (const auto& [name, text, message] :
                  {std::tuple("txtJOBID", "1",
                              "Job ID 1 is already taken by another job card. Nothing has been saved."),
-                  std::tuple("txtAmountDue", "999999999999999", "Overflow"),
+                  std::tuple("txtAmountDue", "999999999999999",
+                             "Overflow: Total Amount 999999999999999 is too large. The highest possible is "
+                             "922337203685477.5807."),
                   std::tuple("txtAmountPaid", "-5",
                              "The amount received can't be below 0. Nothing has been saved.")}) {
                 const QString before = field(job, name).text();
@@ -150,6 +153,14 @@ private Q_SLOTS:
                 refused("Command1", message, "txtRemark");
                 field(job, name).setText(before);
             }
+            for (const char* number : {"", "0", "-5", "12a", "2147483647", "99999999999"}) {
+                field(job, "txtJOBID").setText(number);
+                refused("Command1",
+                        "The JOB ID must be a number from 1 to 2147483646, in digits alone. Nothing has been "
+                        "saved.",
+                        "txtJOBID");
+            }
+            field(job, "txtJOBID").setText("2");
             field(job, "txtAmountPaid").setText("40");
             combo(job, "cmbAccount").setText("Nowhere");
             refused("Command1", "Please Select Receipt Account!", "cmbAccount");
@@ -197,9 +208,23 @@ private Q_SLOTS:
             for (const auto& [keys, total] :
                  {std::pair("1250", "1250.00"), std::pair("12.57", "12.57"), std::pair("1.2.3", "1.23"),
                   std::pair("a-1b2", "12.00"), std::pair("125<<7", "17.00"), std::pair("12.<<3", "13.00"),
-                  std::pair("12>5", "12.50"), std::pair("<8", "8.00")})
+                  std::pair("12>5", "12.50"), std::pair("<8", "8.00"), std::pair(".5", "0.50")})
                 QCOMPARE(typed("txtAmountDue", keys), total);
+            typed("txtAmountPaid", ".5");
+            press(Qt::Key_Tab);
+            QCOMPARE(field(job, "txtAmountPaid").text(), "0.50");
+            press(Qt::Key_Escape);
         });
+        Shop::run("Update Jobs set AmountDue=60"); // since lines were taken away; 100 have been received
+        onStoredCard([&](frmEditJOB& job) {
+            combo(job, "cmbAccount").setText("Cash");
+            field(job, "txtAmountPaid").setFocus();
+            press(Qt::Key_Tab);
+            prompts->expect("Job Edited.");
+            click(job, "Command1");
+        });
+        QCOMPARE(Shop::rows("Select AmountDue, AmountPaid from Jobs"), QStringList{"60 100"});
+        QCOMPARE(count("Postings where Sr=4 and Amount=100"), 1);
     }
 
     void linesOfTheListAndNextCard()
@@ -237,6 +262,58 @@ private Q_SLOTS:
             click(job, "Command3");
         });
         QCOMPARE(count("Jobs_Detail"), 2);
+    }
+
+    void aCardLeftUnsavedComesBackWhole()
+    {
+        unsavedCards = {};
+        shop->addItem("Kurta", 300, 120);
+        const auto offer = [](frmEditJOB& job) {
+            const auto& label = control<QLabel>(job, "lblUnsaved");
+            return label.isVisible() ? label.text().section("card ", 1) : QString();
+        };
+        const auto undo = [] { press(Qt::Key_Z, Qt::ControlModifier); };
+        onNewCard([&](frmEditJOB&) { press(Qt::Key_Escape); }); // nothing on it
+        onNewCard([&](frmEditJOB& job) {
+            QCOMPARE(offer(job), "");
+            typeFields({"ash"});
+            date(job, "DateDel").setValue({2024, 3, 8});
+            field(job, "txtRemark").setText("wedding");
+            onNextModal<frmAddItem>([](frmAddItem& line) {
+                typeFields({"kur", "30", "41", "2"});
+                control<QLabel>(line, "picPath1").setText("front.bmp");
+                control<ColorBox>(line, "picColor").setNumber(255);
+                click(line, "Command1");
+            });
+            click(job, "Command4");
+            combo(job, "cmbAccount").setText("Cash");
+            fillIn(job, "txtAmountPaid", "50");
+            field(job, "txtCancel").setText("too late");
+            click(job, "chStatus");
+            press(Qt::Key_Escape);
+        });
+        onNewCard([&](frmEditJOB& job) {
+            QCOMPARE(offer(job), "of Asha Rao, 1 line");
+            fillIn(job, "txtRemark", "x");
+            undo(); // the typing first
+            QCOMPARE(field(job, "txtRemark").text() + offer(job), "of Asha Rao, 1 line");
+            combo(job, "cmbClient").setText("Bela");
+            for (const char* other : {"of Bela", "of Asha Rao, 1 line", "of Bela"}) {
+                undo(); // the card that stood there is kept in its turn
+                QCOMPARE(offer(job), other);
+            }
+            QCOMPARE(field(job, "txtJOBID").text() + field(job, "txtAmount").text(), "2550.00");
+            prompts->expect("New Job Created.");
+            click(job, "Command1");
+            undo();
+            QCOMPARE(combo(job, "cmbClient").text() + offer(job), "Asha Rao"); // it is stored now
+        });
+        QCOMPARE(Shop::rows("Select DeliveryDate, Remark, AmountDue, AmountPaid, CashAccID, Status, "
+                            "CancelReason from Jobs where ID=2"),
+                 QStringList{"2024-03-08 wedding 600 50 4 1 too late"});
+        QCOMPARE(Shop::rows("Select QNT, ItemDetailsValue, img1, Color from Jobs_Detail where JobID=2"),
+                 QStringList{"2 30\r\n41 front.bmp 255"});
+        onNewCard([&](frmEditJOB& job) { QCOMPARE(offer(job), "of Bela"); });
     }
 
     void aStoredCardIsShownChangedAndDeleted()
