@@ -30,8 +30,7 @@ void refuseTakenNumber(qint32 number)
     const bool taken = !jobs.AtEOF();
     jobs.Close();
     if (taken)
-        throw OperatorError(u"Job ID %1 is already taken by another job card. "
-                            "Nothing has been saved."_s.arg(number));
+        throw OperatorError(u"Job ID %1 is already taken by another job card."_s.arg(number));
 }
 
 } // namespace
@@ -123,10 +122,7 @@ void JobCard::SaveEdit(const JobCardHead& head)
             else
                 addLine(row, head, clientID);
         }
-        if (!RemovedLineIDs.isEmpty()) {
-            DE.connection().Execute(u"Delete from jobs_detail where Id="_s + RemovedLineIDs);
-            RemovedLineIDs.clear();
-        }
+        deleteRemovedLines();
         Voucher(VoucherType::Job, CurrentJobID).Delete();
         writeVoucher(head, clientID);
         if (head.Cancelled)
@@ -149,9 +145,8 @@ void JobCard::write(const std::function<void()>& work)
     const JobCard before = *this;
     try {
         DE.connection().writeBatch(work);
-    } catch (const ado::DatabaseError& error) {
-        if (error.lostWrites())
-            *this = before;
+    } catch (...) {
+        *this = before;
         throw;
     }
 }
@@ -254,6 +249,22 @@ void JobCard::writeVoucher(const JobCardHead& head, qint32 clientID)
         pair.amount = -head.Paid;
         voucher.AddPair(pair, marks);
     }
+}
+
+/// The statement takes one line; the engine refuses it for two.
+void JobCard::deleteRemovedLines()
+{
+    if (RemovedLineIDs.isEmpty())
+        return;
+    try {
+        DE.connection().Execute(u"Delete from jobs_detail where Id="_s + RemovedLineIDs);
+    } catch (OperatorError& error) {
+        if (RemovedLineIDs.contains(u','))
+            error.putBefore(u"Two lines were removed before one save. Please open the card anew, and save it "
+                            "after each line that you remove."_s);
+        throw;
+    }
+    RemovedLineIDs.clear();
 }
 
 void JobCard::cancelLines()

@@ -29,9 +29,8 @@ struct JobCardHead
 };
 
 /// The one job card that is open: its lines, and what its saves must know of them. A card is written as head,
-/// lines and voucher, in this order and as one commit. A refused statement ends the writing where it stands,
-/// with what was written before it in the file; only when the commit itself fails is everything gone, and the
-/// card as it was before.
+/// lines and voucher, in this order and as one commit, whole or not at all: after a refused statement the
+/// file and this object are as before the save.
 class JobCard
 {
 public:
@@ -71,6 +70,7 @@ private:
     qint32 addLine(int row, const JobCardHead& head, qint32 clientID);
     void updateLine(int row, const JobCardHead& head, qint32 clientID);
     void writeVoucher(const JobCardHead& head, qint32 clientID);
+    void deleteRemovedLines();
     void cancelLines();
     QString number() const { return QString::number(CurrentJobID); }
 };

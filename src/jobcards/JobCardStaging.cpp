@@ -9,24 +9,26 @@ using namespace Qt::StringLiterals;
 void StageJobCard(qint32 JobID)
 {
     const QString number = QString::number(JobID);
-    DE.connection().writeBatch([&] {
-        DE.connection().Execute(u"Delete * from tmpHead"_s);
-        DE.connection().Execute(u"Delete * from tmpbody"_s);
+    DE.connection().writeBatch(
+        [&] {
+            DE.connection().Execute(u"Delete * from tmpHead"_s);
+            DE.connection().Execute(u"Delete * from tmpbody"_s);
 
-        ado::Recordset& job = DE.rsJOBS;
-        job.Open(u"Select * from Jobs where id="_s + number);
-        AddPrintHead(JobID, job["Date"].date(), GetAccountTitle(job["ClintID"].integer()),
-                     job["DeliveryDate"].date(), job["trialdate"].date(), job["AmountDue"].money(),
-                     job["AmountPaid"].money());
-        job.Close();
+            ado::Recordset& job = DE.rsJOBS;
+            job.Open(u"Select * from Jobs where id="_s + number);
+            AddPrintHead(JobID, job["Date"].date(), GetAccountTitle(job["ClintID"].integer()),
+                         job["DeliveryDate"].date(), job["trialdate"].date(), job["AmountDue"].money(),
+                         job["AmountPaid"].money());
+            job.Close();
 
-        ado::Recordset& lines = DE.rsJOBS_DETAIL;
-        for (lines.Open(u"Select * from Jobs_Detail where jobid="_s + number); !lines.AtEOF();
-             lines.MoveNext())
-            AddPrintBody(JobID, lines["QNT"].integer(), GetItemName(lines["ItemID"].integer()),
-                         lines["Remarks"].text(), lines["Fees"].money(), lines["Amount"].money());
-        lines.Close();
-    });
+            ado::Recordset& lines = DE.rsJOBS_DETAIL;
+            for (lines.Open(u"Select * from Jobs_Detail where jobid="_s + number); !lines.AtEOF();
+                 lines.MoveNext())
+                AddPrintBody(JobID, lines["QNT"].integer(), GetItemName(lines["ItemID"].integer()),
+                             lines["Remarks"].text(), lines["Fees"].money(), lines["Amount"].money());
+            lines.Close();
+        },
+        {});
 }
 
 void AddPrintHead(qint32 JobID, const QDate& date, const QString& name, const QDate& deliveryDate,

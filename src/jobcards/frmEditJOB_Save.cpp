@@ -10,8 +10,6 @@
 #include "ui/ModOtherFUN.h"
 #include "ui_frmEditJOB.h"
 
-#include <QScopeGuard>
-
 using namespace Qt::StringLiterals;
 
 void frmEditJOB::save()
@@ -83,11 +81,8 @@ JobCardHead frmEditJOB::head() const
 
 void frmEditJOB::SaveNew()
 {
-    {
-        // A save that breaks off behind the head leaves a stored card, too.
-        const auto show = qScopeGuard([this] { showMode(); });
-        m_card.SaveNew(head());
-    }
+    m_card.SaveNew(head());
+    showMode();
     ShowMsg(u"New Job Created."_s);
 }
 

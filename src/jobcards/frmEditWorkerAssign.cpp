@@ -278,13 +278,11 @@ void frmEditWorkerAssign::writeLine(const QString& worker)
         line["WorkerID"] = GetAccountID(worker);
         line["WorkerName"] = worker;
     }
-    for (const State& state : states()) {
-        if (!state.option->isChecked())
-            continue;
-        enterState(line, state.state, session.WorkingDate);
-        if (state.date)
-            state.date->setText(dateText(session.WorkingDate));
-    }
+    const std::vector<State> all = states();
+    const auto chosen =
+        std::find_if(all.begin(), all.end(), [](const State& state) { return state.option->isChecked(); });
+    if (chosen != all.end())
+        enterState(line, chosen->state, session.WorkingDate);
     line["CuttingStatus"] = ui->chCutting->isChecked() ? CuttingMark::Done : CuttingMark::NotDone;
     line["CuttingDate"] = ui->DtCutting->value();
     line["WorkerWagesDue"] = Currency::fromDouble(values::Val(ui->txtWagesDue->text()), u"Wages Due"_s);
@@ -292,6 +290,8 @@ void frmEditWorkerAssign::writeLine(const QString& worker)
     line["Loc"] = ui->txtLoc->text();
     line.Update();
     line.Close();
+    if (chosen != all.end() && chosen->date)
+        chosen->date->setText(dateText(session.WorkingDate));
 }
 
 // Commands

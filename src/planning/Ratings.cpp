@@ -39,25 +39,27 @@ qint16 GetWorkerRating(qint32 workerId)
 bool RebuildRank()
 {
     bool anyWorkers = false;
-    DE.connection().writeBatch([&] {
-        DE.connection().Execute(u"Delete from Rank"_s);
-        ado::Recordset& workers = DE.rsaccounts;
-        workers.Open(u"Select * from Accounts where type=%1"_s.arg(1));
-        anyWorkers = !workers.AtEOF();
-        if (anyWorkers) {
-            ado::Recordset& ranks = DE.rsrank;
-            ranks.Open(u"Select * from Rank"_s);
-            for (; !workers.AtEOF(); workers.MoveNext()) {
-                const qint32 worker = workers["ID"].integer();
-                ranks.AddNew();
-                ranks["Name"] = workers["Title"].text();
-                ranks["Score"] = GetWorkerScore(worker);
-                ranks["Rating"] = GetWorkerRating(worker);
+    DE.connection().writeBatch(
+        [&] {
+            DE.connection().Execute(u"Delete from Rank"_s);
+            ado::Recordset& workers = DE.rsaccounts;
+            workers.Open(u"Select * from Accounts where type=%1"_s.arg(1));
+            anyWorkers = !workers.AtEOF();
+            if (anyWorkers) {
+                ado::Recordset& ranks = DE.rsrank;
+                ranks.Open(u"Select * from Rank"_s);
+                for (; !workers.AtEOF(); workers.MoveNext()) {
+                    const qint32 worker = workers["ID"].integer();
+                    ranks.AddNew();
+                    ranks["Name"] = workers["Title"].text();
+                    ranks["Score"] = GetWorkerScore(worker);
+                    ranks["Rating"] = GetWorkerRating(worker);
+                }
+                ranks.UpdateBatch();
+                ranks.Close();
             }
-            ranks.UpdateBatch();
-            ranks.Close();
-        }
-        workers.Close();
-    });
+            workers.Close();
+        },
+        {});
     return anyWorkers;
 }

@@ -3,7 +3,7 @@
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
 #include "jobcards/JobCard.h"
-#include "platform/values/Errors.h"
+#include "support/Refusal.h"
 #include "support/Shop.h"
 
 #include <QRandomGenerator>
@@ -154,12 +154,14 @@ private Q_SLOTS:
         QCOMPARE(Shop::rows("Select ID from Jobs_Detail").join(u' '), "1 3 4 5 6");
         QVERIFY(card.RemovedLineIDs.isEmpty());
 
-        // Two at once make a statement that the engine refuses: head and lines stand, the voucher is the old
-        // one.
+        // Two at once make a statement that the engine refuses: nothing is saved, the box says the way out.
         card.RemoveLine(1);
         card.RemoveLine(1);
-        QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, card.SaveEdit(head(600)));
-        QCOMPARE(count("Jobs where AmountDue=600"), 1);
+        card.JobRows.SetRemarks(1, "not yet");
+        QVERIFY(refusal([&] {
+                    card.SaveEdit(head(600));
+                }).startsWith("Nothing has been saved.\r\nTwo lines were removed before one save."));
+        QCOMPARE(count("Jobs where AmountDue=600") + count("Jobs_Detail where Remarks='not yet'"), 0);
         QCOMPARE(count("Jobs_Detail"), 5);
         QCOMPARE(count("Postings where Amount=-2400"), 1);
         QCOMPARE(card.RemovedLineIDs, "1,3");
@@ -182,11 +184,25 @@ private Q_SLOTS:
         QVERIFY(card.EditMode == RecordMode::New && card.JobRows.Sr(1) == 0);
         QCOMPARE(count("Jobs"), 0);
         addRow(card, "Trouser", 450);
-        Shop::run("Delete from Items where Name='Trouser'"); // the card stands up to the line that fails
-        QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, card.SaveNew(head(1050)));
-        QVERIFY(card.EditMode == RecordMode::Stored && card.JobRows.Sr(1) == 1);
-        QCOMPARE(count("Jobs") + count("Jobs_Detail"), 2);
-        QCOMPARE(count("Postings"), 0);
+        Shop::run("Delete from Items where Name='Trouser'"); // the second line fails behind the first
+        QVERIFY(refusal([&] { card.SaveNew(head(1050)); }).startsWith("Nothing has been saved.\r\n"));
+        QVERIFY(card.EditMode == RecordMode::New && card.JobRows.Sr(1) == 0);
+        QCOMPARE(count("Jobs") + count("Jobs_Detail") + count("Postings"), 0);
+
+        // A stored card's new line is not stored again by each try that its voucher fails.
+        card = storedCard(1, 0);
+        addRow(card, "Shirt", 600);
+        JobCardHead unpayable = head(1200, 100);
+        unpayable.ReceiptAccount = "Nobody";
+        for (int attempt = 0; attempt < 2; ++attempt)
+            QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, card.SaveEdit(unpayable));
+        QCOMPARE(count("Jobs_Detail"), 1);
+        Shop::run("Update Accounts set Title='D''Souza' where id=5");
+        JobCardHead old = head(600);
+        old.Client = "D'Souza";
+        QVERIFY(refusal([&] {
+                    card.SaveEdit(old);
+                }).startsWith("Nothing has been saved.\r\nThe apostrophe in the name \"D'Souza\""));
     }
 
     void postingsSumToZeroAfterAnyEdits()

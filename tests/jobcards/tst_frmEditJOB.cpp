@@ -142,7 +142,7 @@ private Q_SLOTS:
             addLine(job, "Shirt", "1", "100");
             for (const auto& [name, text, message] :
                  {std::tuple("txtJOBID", "1",
-                             "Job ID 1 is already taken by another job card. Nothing has been saved."),
+                             "Nothing has been saved.\r\nJob ID 1 is already taken by another job card."),
                   std::tuple("txtAmountDue", "999999999999999",
                              "Overflow: Total Amount 999999999999999 is too large. The highest possible is "
                              "922337203685477.5807."),

@@ -189,7 +189,9 @@ private Q_SLOTS:
     {
         shop->addWorker(u"O'Neil"_s); // cannot be looked up
         const QString told =
-            u"Syntax error in the statement: ' is not closed: Select * from Accounts where Title='O'Neil'"_s;
+            u"The apostrophe in the name \"O'Neil\" is in the way. Please open it in Masters, type the "
+            u"apostrophe "
+            "anew, and save it.\r\nSyntax error in the statement: ' is not closed: Select * from Accounts where Title='O'Neil'"_s;
         onLine([&](frmEditWorkerAssign& screen) {
             const auto refused = [&](const QString& message) {
                 prompts->expect(message);

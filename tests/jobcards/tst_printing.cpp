@@ -211,7 +211,6 @@ private Q_SLOTS:
         storeCard();
         JobCardPaper(7);
         QVERIFY_THROWS_EXCEPTION(ado::NoCurrentRecordError, PrintJobCard(8));
-        QCOMPARE(Shop::count("Select * from tmpHead"), 0);
         QVERIFY_THROWS_EXCEPTION(ado::NoCurrentRecordError, PrintWorkerSlip(99));
         QVERIFY_THROWS_EXCEPTION(ado::NoCurrentRecordError, PrintLabel(99));
     }

@@ -2,6 +2,7 @@
 #include "platform/ado/Connection.h"
 #include "platform/ado/Recordset.h"
 #include "support/Files.h"
+#include "support/Refusal.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -39,16 +40,7 @@ int rowCount(Connection& connection)
     return rows[0].integer();
 }
 
-/// What the work is refused with: text, and a word of lost writes. Empty when it is not refused.
-QString refusal(const std::function<void()>& work)
-{
-    try {
-        work();
-    } catch (const DatabaseError& error) {
-        return (error.lostWrites() ? QString("lost: ") : QString()) + error.text();
-    }
-    return {};
-}
+constexpr char nothingSaved[] = "Nothing has been saved.\r\n";
 
 } // namespace
 
@@ -149,7 +141,7 @@ private Q_SLOTS:
         other.Execute("BEGIN EXCLUSIVE");
         sqlite3_busy_timeout(m_connection->handle(), 20);
         QCOMPARE(refusal([this] { m_connection->writeBatch([] { QFAIL("the file is locked"); }); }),
-                 fault("database is locked"));
+                 nothingSaved + fault("database is locked"));
         QVERIFY_THROWS_EXCEPTION(DatabaseError, addRow(*m_connection, 1));
         QVERIFY_THROWS_EXCEPTION(DatabaseError, rowCount(*m_connection));
         other.Execute("ROLLBACK");
@@ -162,14 +154,14 @@ private Q_SLOTS:
         QCOMPARE(refusal(add), QString());
         reading.Open("Select * from Lines");
         QVERIFY(!reading.AtEOF());
-        QCOMPARE(refusal(add), "lost: " + fault("database is locked"));
+        QCOMPARE(refusal(add), nothingSaved + fault("database is locked"));
         QCOMPARE(rowCount(*m_connection), 41);
         reading.Close();
         QCOMPARE(refusal(add), QString());
         QCOMPARE(rowCount(other), 42);
     }
 
-    void whatWasWrittenIsCommitted()
+    void aBatchIsWholeOrNotAtAll()
     {
         Connection other;
         other.open(m_path, password);
@@ -179,13 +171,18 @@ private Q_SLOTS:
             QCOMPARE(rowCount(other), 0);
             m_connection->Execute("Delete from Lines where Id=1,2");
         };
-        QCOMPARE(refusal([&] { m_connection->writeBatch(refusedStatement); }), "near \",\": syntax error");
-        QCOMPARE(rowCount(other), 2);
-        QVERIFY_THROWS_EXCEPTION(std::runtime_error, m_connection->writeBatch([this] {
+        QCOMPARE(refusal([&] { m_connection->writeBatch(refusedStatement); }),
+                 nothingSaved + QString("near \",\": syntax error"));
+        Recordset buffered(*m_connection);
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, m_connection->writeBatch([&] {
             addRow(*m_connection, 3);
+            buffered.Open("Select * from Lines");
+            buffered.AddNew(); // never written: it must not come into the file later
             throw std::runtime_error("the screen");
         }));
-        QCOMPARE(rowCount(other), 3);
+        QVERIFY(!buffered.State());
+        m_connection->writeBatch([this] { addRow(*m_connection, 4); });
+        QCOMPARE(rowCount(other), 1);
     }
 
     void fullDisk()
@@ -193,17 +190,17 @@ private Q_SLOTS:
         addRow(*m_connection, 1);
         m_connection->Execute("PRAGMA max_page_count=20");
         const auto overfill = [this] { addRows(*m_connection, 100, QString(2000, u'x')); };
-        const QString lost = "lost: " + fault("database or disk is full");
-        QCOMPARE(refusal([&] { m_connection->writeBatch(overfill); }), lost);
+        const QString full = fault("database or disk is full");
+        QCOMPARE(refusal([&] { m_connection->writeBatch(overfill); }), nothingSaved + full);
         // The engine has taken all back: a write behind a swallowed refusal would stand alone.
         const auto goOn = [&] {
-            QCOMPARE(refusal(overfill), lost);
-            QCOMPARE(refusal([this] { addRow(*m_connection, 7); }), lost);
+            QCOMPARE(refusal(overfill), full);
+            QCOMPARE(refusal([this] { addRow(*m_connection, 7); }), full);
         };
-        QCOMPARE(refusal([&] { m_connection->writeBatch(goOn); }), lost);
+        QCOMPARE(refusal([&] { m_connection->writeBatch(goOn); }), nothingSaved + full);
         QCOMPARE(rowCount(*m_connection), 1);
         // Outside a batch each write stands for itself, and none stays open.
-        QCOMPARE(refusal(overfill), lost.mid(6));
+        QCOMPARE(refusal(overfill), full);
         QVERIFY(sqlite3_get_autocommit(m_connection->handle()));
         const int written = rowCount(*m_connection);
         m_connection->open(m_path, password);

@@ -24,6 +24,22 @@ QString textOfFirst(const QString& sql, const char* field)
     return firstRow(sql, [field](ado::Recordset& rows) { return rows[field].text(); });
 }
 
+/// Names go into these statements as they are. The engine refuses one with an apostrophe: what to do about it
+/// stands before its text.
+template <typename LookUp>
+auto byName(const QString& name, LookUp lookUp)
+{
+    try {
+        return lookUp();
+    } catch (OperatorError& error) {
+        if (name.contains(u'\''))
+            error.putBefore(
+                u"The apostrophe in the name \"%1\" is in the way. Please open it in Masters, type "
+                "the apostrophe anew, and save it."_s.arg(name));
+        throw;
+    }
+}
+
 qint32 integerOfFirst(const QString& sql, const char* field)
 {
     return firstRow(sql, [field](ado::Recordset& rows) { return rows[field].integer(); });
@@ -55,7 +71,9 @@ double sum(const QString& sql)
 
 qint32 GetAccountID(const QString& title)
 {
-    return integerOfFirst(u"Select * from Accounts where Title='"_s + title + u'\'', "ID");
+    return byName(title, [&title] {
+        return integerOfFirst(u"Select * from Accounts where Title='"_s + title + u'\'', "ID");
+    });
 }
 
 QString GetAccountTitle(qint32 id)
@@ -70,7 +88,9 @@ double GetItemFees(qint32 id)
 
 double GetItemWorkerFees(const QString& name)
 {
-    return numberOfFirst(u"Select * from Items where Name='"_s + name + u'\'', "WorkerFees");
+    return byName(name, [&name] {
+        return numberOfFirst(u"Select * from Items where Name='"_s + name + u'\'', "WorkerFees");
+    });
 }
 
 qint32 GetItemID(const QString& name)

@@ -7,7 +7,6 @@
 #include "platform/ado/RecordsetPrivate.h"
 
 #include <QFileInfo>
-#include <exception>
 #include <sqlcipher/sqlite3.h>
 
 using namespace Qt::StringLiterals;
@@ -71,13 +70,35 @@ void Connection::Private::fail(const QString& text)
         lostBy = text;
     if (!inBatch && open)
         sqlite3_exec(database, "ROLLBACK", nullptr, nullptr, nullptr);
-    throw DatabaseError(text, !lostBy.isEmpty());
+    throw DatabaseError(text);
+}
+
+/// A write behind a batch that the engine has taken back would stand alone.
+void Connection::Private::refuseIfLost() const
+{
+    if (!lostBy.isEmpty())
+        throw DatabaseError(lostBy);
+}
+
+/// Ends the batch with nothing of it in the file. Rows that recordsets still hold may be of the batch.
+void Connection::Private::rollBack()
+{
+    inBatch = false;
+    lostBy.clear();
+    closeRecordsets();
+    if (database && sqlite3_get_autocommit(database) == 0)
+        sqlite3_exec(database, "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+void Connection::Private::closeRecordsets()
+{
+    while (!recordsets.empty())
+        recordsets.back()->Close();
 }
 
 void Connection::Private::beforeWrite(const QString& table)
 {
-    if (!lostBy.isEmpty())
-        throw DatabaseError(lostBy, true);
+    refuseIfLost();
     for (Recordset* recordset : recordsets)
         recordset->d->takeInRest(table);
 }
@@ -162,8 +183,7 @@ void Connection::openFile(const QString& path, const QString& password, int flag
 
 void Connection::close()
 {
-    while (!d->recordsets.empty())
-        d->recordsets.back()->Close();
+    d->closeRecordsets();
     d->statements.clear();
     sqlite3_close(d->database);
     d->database = nullptr;
@@ -187,32 +207,28 @@ int Connection::Execute(const QString& sql)
     return writes ? sqlite3_total_changes(d->database) - before : 0;
 }
 
-void Connection::writeBatch(const std::function<void()>& work)
+void Connection::writeBatch(const std::function<void()>& work, const QString& refused)
 {
     if (d->inBatch) {
         work();
         return;
     }
-    d->run(u"BEGIN IMMEDIATE"_s);
-    d->inBatch = true;
-    d->lostBy.clear();
-    std::exception_ptr failure;
     try {
+        d->run(u"BEGIN IMMEDIATE"_s);
+        d->inBatch = true;
         work();
-    } catch (...) {
-        failure = std::current_exception();
-    }
-    d->inBatch = false;
-    const QString lostBy = std::exchange(d->lostBy, {});
-    if (!lostBy.isEmpty())
-        throw DatabaseError(lostBy, true);
-    try {
+        d->refuseIfLost();
         d->run(u"COMMIT"_s);
-    } catch (const DatabaseError& error) {
-        throw DatabaseError(error.text(), true);
+        d->inBatch = false;
+    } catch (OperatorError& error) {
+        d->rollBack();
+        if (!refused.isEmpty())
+            error.putBefore(refused);
+        throw;
+    } catch (...) {
+        d->rollBack();
+        throw;
     }
-    if (failure)
-        std::rethrow_exception(failure);
 }
 
 } // namespace ado

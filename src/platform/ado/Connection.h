@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ado/DatabaseError.h"
+#include "platform/values/Literals.h"
 
 #include <QString>
 #include <QStringList>
@@ -42,12 +43,11 @@ public:
     /// DatabaseError.
     int Execute(const QString& sql);
 
-    /// Makes the writes of one operation one commit. What was written is committed when `work` ends, also
-    /// when it ends by an exception, which then goes on to the caller: nothing is taken back, but a power cut
-    /// leaves all or nothing. If the commit itself fails (a full disk), everything of the batch is rolled
-    /// back and DatabaseError is thrown, with `lostWrites()` true. A batch inside a batch is part of the
-    /// outer one. No event loop may run inside.
-    void writeBatch(const std::function<void()>& work);
+    /// Makes the writes of one operation one commit, whole or not at all. When `work` ends by an exception,
+    /// or the commit is refused, everything is rolled back, all recordsets are closed, and the exception goes
+    /// on to the caller; before the text of an OperatorError then stands `refused`, unless that is empty. A
+    /// batch inside a batch is part of the outer one. No event loop may run inside.
+    void writeBatch(const std::function<void()>& work, const QString& refused = u"Nothing has been saved."_s);
 
     /// The engine's handle, for code that knows what it does (backup, benches, tests). Null when not open.
     sqlite3* handle() const;

@@ -29,6 +29,9 @@ struct Connection::Private
     /// and lets the recordsets that are being read from the table (all, for an empty name) take in the rows
     /// still to come.
     void beforeWrite(const QString& table);
+    void refuseIfLost() const;
+    void rollBack();
+    void closeRecordsets();
     /// Runs a statement that yields no rows.
     void run(const QString& sql);
     /// The first value of the first row; nothing where there is no row.

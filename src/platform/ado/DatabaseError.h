@@ -9,17 +9,7 @@ namespace ado {
 class DatabaseError : public OperatorError
 {
 public:
-    explicit DatabaseError(const QString& text, bool lostWrites = false)
-        : OperatorError(text)
-        , m_lostWrites(lostWrites)
-    {
-    }
-
-    /// True when writes of the surrounding batch that had already succeeded are gone from the file.
-    bool lostWrites() const { return m_lostWrites; }
-
-private:
-    bool m_lostWrites;
+    using OperatorError::OperatorError;
 };
 
 /// A field was asked for, or a row was to be written, where no row stands.

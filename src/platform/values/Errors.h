@@ -16,6 +16,8 @@ public:
     }
 
     const QString& text() const { return m_text; }
+    /// Puts what the operator must know first before the text, on a line of its own.
+    void putBefore(const QString& sentence) { m_text = sentence + u"\r\n"_s + m_text; }
 
 private:
     QString m_text;
