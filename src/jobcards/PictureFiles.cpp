@@ -1,6 +1,7 @@
 #include "jobcards/PictureFiles.h"
 
 #include "core/store/Session.h"
+#include "core/store/ShopPictures.h"
 #include "core/store/Startup.h"
 #include "platform/forms/Pictures.h"
 #include "platform/values/Dates.h"
@@ -69,11 +70,12 @@ void copy(const QString& source, const QString& target)
     throw OperatorError(u"The picture cannot be copied to %1: %2"_s.arg(target, file.errorString()));
 }
 
-void remove(const QString& path)
+void remove(const QString& link)
 {
-    QFile file(path);
-    if (file.exists() && !file.remove())
-        throw OperatorError(u"The picture %1 cannot be deleted: %2"_s.arg(path, file.errorString()));
+    QFile file(shopPicture(link));
+    if (!file.fileName().isEmpty() && !file.remove())
+        throw OperatorError(
+            u"The picture %1 cannot be deleted: %2"_s.arg(file.fileName(), file.errorString()));
 }
 
 } // namespace picturefiles

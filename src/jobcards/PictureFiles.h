@@ -15,7 +15,8 @@ QString newPath(const QString& client, const QDateTime& now, int picture);
 /// OperatorError, with nothing left behind, when it is no picture or cannot be copied.
 void copy(const QString& source, const QString& target);
 
-/// Deletes a file; one that is gone already is no fault. Throws OperatorError.
-void remove(const QString& path);
+/// Deletes the picture of a link from the folder of pictures; one that is not there is no fault. Throws
+/// OperatorError.
+void remove(const QString& link);
 
 } // namespace picturefiles

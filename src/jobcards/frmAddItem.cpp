@@ -2,6 +2,7 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/ShopPictures.h"
 #include "jobcards/PictureFiles.h"
 #include "jobcards/clsJobCardData.h"
 #include "media/frmPreview.h"
@@ -13,7 +14,6 @@
 #include "ui_frmAddItem.h"
 
 #include <QColorDialog>
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -269,15 +269,25 @@ void frmAddItem::clearPicture(PictureBox& pic, QLabel& picPath)
     picturefiles::remove(picPath.text());
     pic.clear();
     picPath.clear();
+    m_lostLinks.remove(&picPath);
 }
 
-/// A file that is not there leaves the place as it is.
-void frmAddItem::showPicture(PictureBox& pic, QLabel& picPath, const QString& path)
+/// A picture that is not there leaves the place as it is; its link stays with the line, as the file may come
+/// back.
+void frmAddItem::showPicture(PictureBox& pic, QLabel& picPath, const QString& link)
 {
-    if (!QFileInfo(path).isFile())
+    const QString file = shownPicture(link);
+    if (file.isEmpty()) {
+        m_lostLinks.insert(&picPath, link);
         return;
-    pic.load(path);
-    picPath.setText(path);
+    }
+    pic.load(file);
+    picPath.setText(file);
+}
+
+QString frmAddItem::linkOf(const QLabel& picPath) const
+{
+    return picPath.text().isEmpty() ? m_lostLinks.value(&picPath) : picPath.text();
 }
 
 void frmAddItem::preview(const QLabel& picPath)
@@ -331,8 +341,8 @@ void frmAddItem::writeRow()
     const QString details = grid.names.join(LineBreak);
     const QString detailsValue = grid.values.join(LineBreak);
     const QString remarks = ui->txtRemark->text();
-    const QString img1 = ui->picPath1->text();
-    const QString img2 = ui->picPath2->text();
+    const QString img1 = linkOf(*ui->picPath1);
+    const QString img2 = linkOf(*ui->picPath2);
     const QString color = QString::number(ui->picColor->number());
     const QString note = ui->txtClientRemark->Text();
 

@@ -3,6 +3,7 @@
 #include "core/store/Codes.h"
 #include "platform/forms/Screen.h"
 
+#include <QHash>
 #include <memory>
 
 class PictureBox;
@@ -53,8 +54,9 @@ private:
     void typeClientRemark(int& key);
     void chooseColor();
     void selectSecondPicture();
-    static void clearPicture(PictureBox& pic, QLabel& picPath);
-    static void showPicture(PictureBox& pic, QLabel& picPath, const QString& path);
+    void clearPicture(PictureBox& pic, QLabel& picPath);
+    void showPicture(PictureBox& pic, QLabel& picPath, const QString& link);
+    QString linkOf(const QLabel& picPath) const;
     static void preview(const QLabel& picPath);
     void clear();
 
@@ -69,5 +71,6 @@ private:
     clsJobCardData* JobRows = nullptr;
     qint32 ClientID = 0;
     qint32 RowIndex = 0;
-    int LastKey = 0; ///< in the client's note
+    int LastKey = 0;                           ///< in the client's note
+    QHash<const QLabel*, QString> m_lostLinks; ///< of pictures that the shop does not have
 };

@@ -4,6 +4,7 @@
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "core/store/ShopPictures.h"
 #include "core/store/Texts.h"
 #include "jobcards/ItemColor.h"
 #include "jobcards/JobProgress.h"
@@ -21,7 +22,6 @@
 #include "ui/modLang.h"
 #include "ui_frmEditWorkerAssign.h"
 
-#include <QFileInfo>
 #include <QScopeGuard>
 #include <QScrollBar>
 
@@ -173,9 +173,10 @@ void frmEditWorkerAssign::showWagesPaid(Currency wage, qint32 payrollID)
 }
 
 void frmEditWorkerAssign::showPicture(PictureBox& pic, QPushButton& print, QString& imgPath,
-                                      const QString& file)
+                                      const QString& link)
 {
-    if (!QFileInfo(file).isFile())
+    const QString file = shownPicture(link);
+    if (file.isEmpty())
         return;
     pic.load(file);
     imgPath = file;

@@ -51,7 +51,7 @@ private:
 
     void showLine();
     void showWagesPaid(Currency wage, qint32 payrollID);
-    static void showPicture(PictureBox& pic, QPushButton& print, QString& imgPath, const QString& file);
+    static void showPicture(PictureBox& pic, QPushButton& print, QString& imgPath, const QString& link);
     void showLastJob();
     void showWages(bool shown);
     QString chosenWorker() const;

@@ -1,5 +1,6 @@
 #include "core/store/DE.h"
 #include "core/store/Session.h"
+#include "core/store/Startup.h"
 #include "jobcards/ColorBox.h"
 #include "jobcards/ItemDetails.h"
 #include "jobcards/PictureBox.h"
@@ -290,6 +291,29 @@ private Q_SLOTS:
         QVERIFY(editLine(clear));
         QVERIFY2(imageFiles().isEmpty(), "a cancelled editor does not bring a picture back");
         QCOMPARE(rows.img2(1), stored);
+
+        // The shop has moved: of a link only the name counts, and no file of another folder is touched. What
+        // is missing keeps its link until it is cleared.
+        const QString elsewhere = paint(shop->folder() + "/a.bmp");
+        MakeImagesFolder();
+        for (const char* link : {"C:\\old shop\\images\\a.bmp", "/old/images/a.bmp", ""}) {
+            const QString moved = *link ? QString(link) : elsewhere;
+            rows.SetImg1(1, "/old/images/gone.bmp");
+            rows.SetImg2(1, moved);
+            paint(images + "/a.bmp");
+            QVERIFY(!editLine([](frmAddItem& line) {
+                QVERIFY(hasPicture(line));
+                click(line, "Command1");
+            }));
+            QCOMPARE(rows.img1(1) + ' ' + rows.img2(1), "/old/images/gone.bmp " + images + "/a.bmp");
+            rows.SetImg2(1, moved);
+            QVERIFY(!editLine([](frmAddItem& line) {
+                click(line, "Command2");
+                click(line, "Command1");
+            }));
+            QVERIFY(imageFiles().isEmpty() && QFile::exists(elsewhere));
+            QCOMPARE(rows.img1(1) + rows.img2(1), QString());
+        }
 
         // A client's name never leads out of the folder, and no picture takes the place of another.
         const QDateTime sunday(QDate(2024, 2, 11), QTime(14, 37, 5));
