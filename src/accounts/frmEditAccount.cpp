@@ -5,7 +5,9 @@
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "platform/values/Numbers.h"
+#include "platform/values/Titles.h"
 #include "ui/ModOtherFUN.h"
+#include "ui/boxes.h"
 #include "ui/modLang.h"
 #include "ui_frmEditAccount.h"
 
@@ -15,6 +17,7 @@ frmEditAccount::frmEditAccount()
     : ui(std::make_unique<Ui::frmEditAccount>())
 {
     ui->setupUi(this);
+    boxes::writeTitles(*ui->txtName);
     on(ui->Command1, &QPushButton::clicked, &frmEditAccount::save);
     on(ui->Command2, &QPushButton::clicked, &frmEditAccount::remove);
 }
@@ -56,6 +59,7 @@ void frmEditAccount::Form_KeyPress(int& key)
 
 void frmEditAccount::save()
 {
+    ui->txtName->setText(values::title(ui->txtName->Text()));
     if (ui->txtName->Text().isEmpty()) {
         ShowMsg(u"Please enter account title!"_s);
         ui->txtName->setFocus();
@@ -98,7 +102,7 @@ void frmEditAccount::saveEdit()
         ShowMsg(u"Cant't Rename!"_s);
         return;
     }
-    if (AccountTitle.toUpper() != ui->txtName->Text().toUpper() && isDuplicate())
+    if (values::foldedTitle(AccountTitle) != values::foldedTitle(ui->txtName->Text()) && isDuplicate())
         return;
     DE.connection().writeBatch([&] {
         DE.rsaccounts.Open(u"Select * from accounts where id=%1"_s.arg(AccountID));

@@ -3,7 +3,9 @@
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
+#include "platform/values/Titles.h"
 #include "ui/ModOtherFUN.h"
+#include "ui/boxes.h"
 #include "ui/modLang.h"
 #include "ui/swTextBox.h"
 
@@ -21,6 +23,7 @@ EditMaster::EditMaster(Kind kind, ado::Recordset& recordset)
 void EditMaster::setControls(const Controls& controls)
 {
     m_controls = controls;
+    boxes::writeTitles(*controls.txtName);
     on(controls.save, &QPushButton::clicked, &EditMaster::save);
     on(controls.remove, &QPushButton::clicked, &EditMaster::remove);
 }
@@ -59,13 +62,13 @@ void EditMaster::Form_Load() { SetFormLanguage(*this); }
 void EditMaster::save()
 {
     const bool isNew = m_mode == RecordMode::New;
-    const QString name = m_controls.txtName->Text();
+    const QString name = values::title(m_controls.txtName->Text());
     if (name.isEmpty()) {
         ShowMsg(m_kind.nameMissing);
         m_controls.txtName->setFocus();
         return;
     }
-    if ((isNew || name.toUpper() != m_keptName.toUpper()) && isTaken(name)) {
+    if ((isNew || values::foldedTitle(name) != values::foldedTitle(m_keptName)) && isTaken(name)) {
         ShowMsg(u"Duplicate!"_s);
         m_controls.txtName->setFocus();
         return;
@@ -91,6 +94,7 @@ void EditMaster::save()
         unload();
     } else {
         m_keptName = name;
+        m_controls.txtName->setText(name);
         ShowMsg(m_kind.edited);
     }
 }

@@ -3,6 +3,7 @@
 #include "core/store/DE.h"
 #include "core/store/Settings.h"
 #include "core/store/Texts.h"
+#include "platform/values/Titles.h"
 #include "ui/modLang.h"
 #include "ui_frmSearchClient.h"
 
@@ -73,10 +74,11 @@ void frmSearchClient::SearchText(const QString& text, const QString& field)
 
 void frmSearchClient::FindListItem(const QString& text)
 {
-    const QString wanted = text.trimmed().toUpper();
+    const QString wanted = values::foldedTitle(text.trimmed());
     forms::ListView& list = *ui->lvResults;
     int row = 0;
-    while (row < list.rowCount() && list.cell(row, 0).left(text.size()).trimmed().toUpper() != wanted)
+    while (row < list.rowCount() &&
+           values::foldedTitle(list.cell(row, 0).left(text.size()).trimmed()) != wanted)
         ++row;
     list.selectRow(row);
 }

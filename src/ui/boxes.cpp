@@ -2,12 +2,25 @@
 
 #include "platform/forms/Keys.h"
 #include "platform/values/Numbers.h"
+#include "platform/values/Titles.h"
 
 namespace boxes {
 
 QString shown(const QString& text, int boxType)
 {
     return boxType == Money && !text.isEmpty() ? values::formatMoneyText(text) : text;
+}
+
+void writeTitles(QLineEdit& box)
+{
+    QObject::connect(&box, &QLineEdit::textEdited, &box, [&box](const QString& typed) {
+        const QString title = values::title(typed);
+        if (title == typed)
+            return;
+        const int cursor = box.cursorPosition();
+        box.setText(title);
+        box.setCursorPosition(cursor);
+    });
 }
 
 QString unselectedText(const QLineEdit& box)

@@ -14,6 +14,9 @@ inline constexpr int Money = 1;
 /// The text as a box of that type shows it.
 QString shown(const QString& text, int boxType);
 
+/// Each apostrophe that is typed or pasted into the box becomes the one that titles are written with.
+void writeTitles(QLineEdit& box);
+
 /// What stays of a box's text when a key replaces its selection.
 QString unselectedText(const QLineEdit& box);
 

@@ -101,6 +101,7 @@ private Q_SLOTS:
         Shop shop;
         const qint32 client = shop.addClient("asha Rao");
         const qint32 souza = shop.addClient("D'Souza");
+        const qint32 emile = shop.addClient(QString("\u00c9mile d\u2019Arc"));
         shop.addWorker("Mohan");
         const qint32 shirt = shop.addItem("Men's Shirt", 450.5, 120);
         QCOMPARE(GetAccountID("Asha rao"), client);
@@ -113,14 +114,15 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(ado::NoCurrentRecordError, GetAccountID("Nobody"));
         QVERIFY_THROWS_EXCEPTION(ado::NoCurrentRecordError, GetItemName(999));
         for (const auto& [title, field, value] :
-             {std::tuple("d'souza", "ID", souza), std::tuple("D'Souza", "DOB", -1),
+             {std::tuple("d'souza", "ID", souza), std::tuple("D\u2019SOUZA", "ID", souza),
+              std::tuple("\u00e9MILE D'ARC", "ID", emile), std::tuple("D'Souza", "DOB", -1),
               std::tuple("D_Souza", "ID", -1)})
             QCOMPARE(FieldValueExists(title, "Title", field, "Accounts", DE.rsaccounts).toInt(), value);
         QVERIFY(!DE.rsaccounts.State());
 
         Texts list;
         FillList("Title", "Accounts", " where Type=0", list, DE.rsaccounts);
-        QCOMPARE(list.all, QStringList({"asha Rao", "D'Souza"}));
+        QCOMPARE(list.all, QStringList({"asha Rao", "D'Souza", QString("\u00c9mile d\u2019Arc")}));
         Shop::run("Delete from Items");
         FillCombo("Name", "Items", list, DE.rsITEMS);
         QVERIFY(list.all.isEmpty());

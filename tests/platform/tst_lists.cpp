@@ -57,14 +57,15 @@ private Q_SLOTS:
     void listsFindAndSelect()
     {
         ListBox list;
-        list.AddItems({"Ajay", "anil", "Binod"});
+        list.AddItems({"Ajay", "anil", "Binod", "D\u2019Silva", "D'Souza"});
         list.show();
         list.setFocus();
         QVERIFY(QTest::qWaitForWindowActive(&list));
         QCOMPARE(list.ListIndex(), -1); // focus alone selects no entry
         for (const auto& [prefix, behind, found] :
              {std::tuple("a", 0, 1), std::tuple("A", 1, 0), std::tuple("bin", 2, 2), std::tuple("a", 99, 0),
-              std::tuple("jay", -1, -1), std::tuple("", -1, -1)}) // wraps round
+              std::tuple("d's", -1, 3), std::tuple("D\u2019so", -1, 4), std::tuple("jay", -1, -1),
+              std::tuple("", -1, -1)}) // wraps round
             QCOMPARE(list.findString(prefix, behind), found);
     }
 

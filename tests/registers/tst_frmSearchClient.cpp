@@ -35,6 +35,7 @@ private Q_SLOTS:
         QTest::newRow("no worker; the first name that begins so")
             << name << u"roy"_s << QStringList{u"Ravi Roy"_s, u"Roy Das"_s} << 1;
         QTest::newRow("apostrophe") << name << u"'"_s << QStringList{u"D'Souza"_s} << -1;
+        QTest::newRow("the other apostrophe") << name << u"d\u2019s"_s << QStringList{u"D'Souza"_s} << 0;
         QTest::newRow("wildcards") << name << u"1_0%c"_s << QStringList{u"100% Cotton"_s} << -1;
         QTest::newRow("Hindi") << name << u"मीरा"_s << QStringList{u"मीरा देवी"_s} << 0;
         QTest::newRow("another field")

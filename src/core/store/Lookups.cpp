@@ -106,8 +106,11 @@ QString GetItemName(qint32 id)
 QVariant FieldValueExists(const QString& value, const QString& keyField, const QString& resultField,
                           const QString& table, ado::Recordset& recordset)
 {
-    recordset.Open(u"Select "_s + resultField + u" from "_s + table + u" where "_s + keyField + u"='"_s +
-                   sqlText(value) + u'\'');
+    const QString select = u"Select "_s + resultField + u" from "_s + table + u" where "_s;
+    const QString text = u'\'' + sqlText(value) + u'\'';
+    recordset.Open(select + keyField + u'=' + text);
+    if (recordset.AtEOF())
+        recordset.Open(select + u"titlekey("_s + keyField + u")=titlekey("_s + text + u')');
     if (recordset.AtEOF()) {
         recordset.Close();
         return -1;

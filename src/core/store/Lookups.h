@@ -20,9 +20,9 @@ double GetItemWorkerFees(const QString& name);
 qint32 GetItemID(const QString& name);
 QString GetItemName(qint32 id);
 
-/// The value of `resultField` in the first row of `table` whose `keyField` is `value`, without regard to
-/// case; -1 where there is no such row or the field is null. "Found" is a result above 0. After a hit the
-/// recordset stays open.
+/// The value of `resultField` in the first row of `table` whose `keyField` is `value`, else of the
+/// first where it is another spelling of it (case in any script, either apostrophe); -1 where there is no
+/// such row or the field is null. "Found" is a result above 0. After a hit the recordset stays open.
 QVariant FieldValueExists(const QString& value, const QString& keyField, const QString& resultField,
                           const QString& table, ado::Recordset& recordset);
 

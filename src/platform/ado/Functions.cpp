@@ -1,5 +1,7 @@
 #include "platform/ado/Functions.h"
 
+#include "platform/values/Titles.h"
+
 #include <QString>
 #include <QVarLengthArray>
 #include <algorithm>
@@ -113,7 +115,7 @@ bool matches(QStringView pattern, QStringView text)
 QString foldedText(sqlite3_value* value)
 {
     const auto* text = static_cast<const char16_t*>(sqlite3_value_text16(value));
-    return QString::fromUtf16(text, sqlite3_value_bytes16(value) / 2).toCaseFolded();
+    return values::foldedTitle(QString::fromUtf16(text, sqlite3_value_bytes16(value) / 2));
 }
 
 /// The pattern of a call; one that stays the same over the rows of a statement is folded once.
@@ -158,6 +160,17 @@ void like(sqlite3_context* context, int, sqlite3_value** arguments)
     sqlite3_result_int(context, matches(pattern, foldedInto(ownText, arguments[1])) ? 1 : 0);
 }
 
+/// titlekey(text): equal for all spellings of a title.
+void titleKey(sqlite3_context* context, int, sqlite3_value** arguments)
+{
+    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL) {
+        sqlite3_result_null(context);
+        return;
+    }
+    const QByteArray key = foldedText(arguments[0]).toUtf8();
+    sqlite3_result_text(context, key.constData(), static_cast<int>(key.size()), SQLITE_TRANSIENT);
+}
+
 using Scalar = void (*)(sqlite3_context*, int, sqlite3_value**);
 
 void add(sqlite3* database, const char* name, int arguments, Scalar scalar, Scalar step = nullptr,
@@ -176,6 +189,7 @@ void registerFunctions(sqlite3* database)
     add(database, "month", 1, datePart<5, 2>);
     add(database, "day", 1, datePart<8, 2>);
     add(database, "like", 2, like);
+    add(database, "titlekey", 1, titleKey);
     add(database, "sum", 1, nullptr, sumStep, sumFinal);
 }
 

@@ -1,5 +1,7 @@
 #include "platform/forms/ListBox.h"
 
+#include "platform/values/Titles.h"
+
 #include <QKeyEvent>
 #include <QStringListModel>
 
@@ -9,11 +11,12 @@ int findPrefix(const QStringList& texts, const QString& prefix, int startAfter)
 {
     if (prefix.isEmpty()) // begins every entry, and means none
         return -1;
+    const QString wanted = values::plainApostrophes(prefix);
     const int count = int(texts.size());
     const int start = startAfter >= 0 && startAfter < count ? startAfter : -1;
     for (int step = 1; step <= count; ++step) {
         const int index = (start + step) % count;
-        if (texts.at(index).startsWith(prefix, Qt::CaseInsensitive))
+        if (values::plainApostrophes(texts.at(index)).startsWith(wanted, Qt::CaseInsensitive))
             return index;
     }
     return -1;
