@@ -38,13 +38,7 @@ qint32 mainAccountID(const QString& title)
 }
 
 /// Takes the first entry of the list that begins with the combo's text; false when there is none.
-bool takeEntry(forms::ComboBox& combo)
-{
-    if (ComboFindIndex(combo) < 0)
-        return false;
-    ComboSyncIndex(combo);
-    return true;
-}
+bool takeEntry(forms::ComboBox& combo) { return ComboFindIndex(combo) >= 0; }
 
 } // namespace
 

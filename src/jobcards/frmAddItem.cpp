@@ -134,8 +134,7 @@ void frmAddItem::showRow()
 /// catalogue.
 void frmAddItem::openItems()
 {
-    const int entry = ComboFindIndex(*ui->cmbItems);
-    if (ui->cmbItems->List(entry).compare(ui->cmbItems->text(), Qt::CaseInsensitive) == 0)
+    if (ui->cmbItems->findText(ui->cmbItems->text(), Qt::MatchFixedString) >= 0)
         ComboSyncIndex(*ui->cmbItems);
     ComboDropDown(*ui->cmbItems);
 }

@@ -23,7 +23,7 @@ namespace {
 
 constexpr int AmountColumn = 4;
 
-bool matchesEntry(const forms::ComboBox& combo) { return ComboFindIndex(combo) >= 0; }
+bool matchesEntry(forms::ComboBox& combo) { return ComboFindIndex(combo) >= 0; }
 
 } // namespace
 
@@ -49,6 +49,7 @@ frmEditJOB::frmEditJOB(QWidget* parent)
     }
     onKeyPress(ui->cmbClient, [this](int& key) { typeClient(key); });
     onLostFocus(ui->cmbClient, [this] { greetClient(); });
+    onLostFocus(ui->cmbAccount, [this] { ComboFindIndex(*ui->cmbAccount); });
     onKeyPress(ui->cmbAccount, [this](int& key) { key = AutoSearchCombo(*ui->cmbAccount, key); });
     on(ui->txtAmountPaid, &QLineEdit::textEdited, &frmEditJOB::limitPaid);
     on(ui->txtAmountPaid, &swTextBox::Change, &frmEditJOB::showBalance);

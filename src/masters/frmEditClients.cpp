@@ -23,6 +23,7 @@ frmEditClients::frmEditClients()
 {
     ui->setupUi(this);
     setControls({ui->lblTitle, ui->txtName, ui->Command1, ui->Command2});
+    ui->dateDob->setLatest(session.WorkingDate);
     onKeyPress(ui->dateDob, [](int& key) { key = EnterAsTab(key); });
     on(ui->dateDob, &forms::DatePicker::changed, [this] { setDobKnown(true); });
 }
@@ -50,10 +51,9 @@ void frmEditClients::setDobKnown(bool known)
 {
     m_dobKnown = known;
     ui->lblDobHint->setVisible(!known);
-    auto* shown = ui->dateDob->findChild<QLineEdit*>();
-    shown->setProperty("unset", !known);
-    shown->style()->unpolish(shown);
-    shown->style()->polish(shown);
+    ui->dateDob->setProperty("unset", !known);
+    ui->dateDob->style()->unpolish(ui->dateDob);
+    ui->dateDob->style()->polish(ui->dateDob);
 }
 
 void frmEditClients::read(ado::Recordset& row)

@@ -60,13 +60,20 @@ int AutoSearchCombo(ComboBox& combo, int key)
 
 void ComboDropDown(ComboBox& combo) { combo.dropDown(); }
 
-int ComboFindIndex(const ComboBox& combo) { return combo.findString(combo.text()); }
+int ComboFindIndex(ComboBox& combo)
+{
+    if (combo.ListIndex() >= 0)
+        return combo.ListIndex();
+    const int whole = combo.findText(combo.text(), Qt::MatchFixedString);
+    const int found = whole >= 0 ? whole : combo.findString(combo.text());
+    if (found >= 0)
+        combo.setListIndex(found);
+    return found;
+}
 
 void ComboSyncIndex(ComboBox& combo)
 {
-    const int found = ComboFindIndex(combo);
-    if (found >= 0)
-        combo.setListIndex(found);
+    ComboFindIndex(combo);
     combo.select(0, int(combo.text().size()));
 }
 

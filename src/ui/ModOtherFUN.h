@@ -13,10 +13,10 @@ class ListBox;
 /// on: 13 for Enter, else 0.
 int AutoSearchCombo(forms::ComboBox& combo, int key);
 void ComboDropDown(forms::ComboBox& combo);
-/// The first entry that begins with the combo's text, -1 for none.
-int ComboFindIndex(const forms::ComboBox& combo);
-/// Takes the entry that ComboFindIndex finds, and selects the whole text, so that typing replaces it. A text
-/// that no entry begins with stays.
+/// Takes the entry whose name stands in the combo, or else the first that begins with what is typed, and
+/// gives its index; -1 for none, and the text stays.
+int ComboFindIndex(forms::ComboBox& combo);
+/// The same, and selects the whole text, so that typing replaces it.
 void ComboSyncIndex(forms::ComboBox& combo);
 
 /// The key filter for a number in a plain box: gives the key, or 0 for one that has no place in it.

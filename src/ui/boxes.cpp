@@ -29,17 +29,6 @@ QString unselectedText(const QLineEdit& box)
     return box.hasSelectedText() ? rest.remove(box.selectionStart(), box.selectionLength()) : rest;
 }
 
-bool isRealFocus(const QFocusEvent& event)
-{
-    switch (event.reason()) {
-    case Qt::PopupFocusReason:
-    case Qt::MenuBarFocusReason:
-        return false;
-    default:
-        return true;
-    }
-}
-
 bool keyDownSwallowed(const QKeyEvent& event, const std::function<void(int& key, int shift)>& raise)
 {
     int key = forms::keyNumber(event);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <functional>
@@ -19,9 +18,6 @@ void writeTitles(QLineEdit& box);
 
 /// What stays of a box's text when a key replaces its selection.
 QString unselectedText(const QLineEdit& box);
-
-/// Focus that comes from, or goes to, another control or window: not an open list or a menu.
-bool isRealFocus(const QFocusEvent& event);
 
 /// Offers a key-down by number and shift state; true when it was set to 0.
 bool keyDownSwallowed(const QKeyEvent& event, const std::function<void(int& key, int shift)>& raise);

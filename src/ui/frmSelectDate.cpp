@@ -12,7 +12,6 @@ frmSelectDate::frmSelectDate(QWidget* parent)
     ui->setupUi(this);
     on(ui->DateFrom, &forms::DatePicker::changed, &frmSelectDate::followDateFrom);
     on(ui->DateFrom, &forms::DatePicker::calendarClosed, &frmSelectDate::followDateFrom);
-    onKeyPress(ui->DateFrom, [this](int&) { followDateFrom(); });
     on(ui->cmdOk, &QPushButton::clicked, &frmSelectDate::select);
 }
 

@@ -21,7 +21,7 @@ void swComboBox::setBoxType(int boxType)
 void swComboBox::focusInEvent(QFocusEvent* event)
 {
     forms::ComboBox::focusInEvent(event);
-    if (!boxes::isRealFocus(*event))
+    if (!m_focus.comes(*event))
         return;
     select(0, int(text().size()));
     Q_EMIT GotFocus();
@@ -30,7 +30,7 @@ void swComboBox::focusInEvent(QFocusEvent* event)
 void swComboBox::focusOutEvent(QFocusEvent* event)
 {
     forms::ComboBox::focusOutEvent(event);
-    if (!boxes::isRealFocus(*event))
+    if (!m_focus.leaves(*event))
         return;
     if (m_boxType == boxes::Money)
         forms::ComboBox::setText(values::formatMoneyText(text()));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/ComboBox.h"
+#include "platform/forms/FocusWatch.h"
 
 /// The combo of the shop's screens; with BoxType 1 its box takes money only.
 class swComboBox : public forms::ComboBox
@@ -31,5 +32,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    forms::FocusWatch m_focus;
     int m_boxType = 0;
 };

@@ -24,7 +24,7 @@ void swTextBox::setBoxType(int boxType)
 void swTextBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
-    if (!boxes::isRealFocus(*event))
+    if (!m_focus.comes(*event))
         return;
     selectAll();
     m_selectOnRelease = event->reason() == Qt::MouseFocusReason;
@@ -34,7 +34,7 @@ void swTextBox::focusInEvent(QFocusEvent* event)
 void swTextBox::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
-    if (!boxes::isRealFocus(*event))
+    if (!m_focus.leaves(*event))
         return;
     m_lastKey = 0;
     if (m_boxType == boxes::Money)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/forms/FocusWatch.h"
+
 #include <QLineEdit>
 
 /// The one-line field of the shop's screens. A plain field (BoxType 0) begins each word with a capital as it
@@ -43,6 +45,7 @@ protected:
 private:
     int filterKey(int key);
 
+    forms::FocusWatch m_focus;
     int m_boxType = 0;
     bool m_autoTab = true;
     int m_lastKey = 0;

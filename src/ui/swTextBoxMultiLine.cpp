@@ -27,7 +27,7 @@ void swTextBoxMultiLine::setBoxType(int boxType)
 void swTextBoxMultiLine::focusInEvent(QFocusEvent* event)
 {
     QPlainTextEdit::focusInEvent(event);
-    if (!boxes::isRealFocus(*event))
+    if (!m_focus.comes(*event))
         return;
     Q_EMIT GotFocus();
     moveCursor(QTextCursor::End);
@@ -36,7 +36,7 @@ void swTextBoxMultiLine::focusInEvent(QFocusEvent* event)
 void swTextBoxMultiLine::focusOutEvent(QFocusEvent* event)
 {
     QPlainTextEdit::focusOutEvent(event);
-    if (!boxes::isRealFocus(*event))
+    if (!m_focus.leaves(*event))
         return;
     if (m_boxType == boxes::Money)
         setPlainText(values::formatMoneyText(toPlainText()));

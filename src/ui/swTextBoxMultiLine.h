@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/forms/FocusWatch.h"
+
 #include <QPlainTextEdit>
 
 /// The field for notes of several lines. Enter is a line break, the Tab key leaves the field. Its text has a
@@ -34,5 +36,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    forms::FocusWatch m_focus;
     int m_boxType = 0;
 };

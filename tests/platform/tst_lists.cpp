@@ -3,6 +3,7 @@
 #include "platform/forms/ListBox.h"
 #include "platform/forms/ListView.h"
 #include "platform/forms/Screen.h"
+#include "platform/values/Dates.h"
 #include "support/KeysTo.h"
 #include "support/Modal.h"
 
@@ -12,6 +13,7 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTableView>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -210,23 +212,97 @@ private Q_SLOTS:
         inModal<OrderScreen>([](OrderScreen& screen) {
             DatePicker& picker = screen.date;
             QSignalSpy closed(&picker, &DatePicker::calendarClosed);
-            picker.setValue({2024, 9, 30});
-            QCOMPARE(picker.text(), "30-Sep-2024");
+            QSignalSpy changed(&picker, &DatePicker::changed);
+            const QDate stood(2024, 9, 30);
+            const int middle = picker.height() / 2;
+            const auto clickPart = [&](int part) { // of 30-Sep-2024
+                const int x = picker.fontMetrics().horizontalAdvance(picker.text().left(part)) + 12;
+                QTest::mouseClick(&picker, Qt::LeftButton, {}, {x, middle});
+            };
+            const std::tuple<int, const char*, QDate> entries[] = {
+                {-1, "31032024", {2024, 3, 31}}, {0, "31032024", {2024, 3, 31}},
+                {3, "31032024", {2024, 3, 31}},  {7, "31032024", {2024, 3, 31}},
+                {0, "10-3-2025", {2025, 3, 10}}, {3, "10-3-2025", {2025, 3, 10}},
+                {0, "30092025", {2025, 9, 30}},  {3, "2", stood},
+                {3, "mar", {2024, 3, 30}},       {7, "25", {2025, 9, 30}},
+                {-1, "31-02-2024", stood},       {-1, "", stood},
+            };
+            for (const auto& [part, typed, date] : entries) {
+                screen.remark.setFocus();
+                picker.setValue(stood);
+                QCOMPARE(picker.text(), "30-Sep-2024");
+                picker.setFocus();
+                if (part >= 0)
+                    clickPart(part);
+                changed.clear();
+                press(Qt::Key_Delete);
+                typeText(typed);
+                QCOMPARE(changed.count(), 0); // nothing changes half-way
+                press(Qt::Key_Tab);
+                QVERIFY(!picker.hasFocus());
+                QCOMPARE(picker.value(), date);
+                QCOMPARE(picker.text(), values::Format(date, "dd-MMM-yyyy"));
+                QCOMPARE(changed.count(), date == stood ? 0 : 1);
+            }
+
             picker.setFocus();
-            picker.setSelectedSection(QDateTimeEdit::MonthSection);
-            press(Qt::Key_2); // February: the day goes back to its last
-            QCOMPARE(picker.value(), QDate(2024, 2, 29));
-            picker.setSelectedSection(QDateTimeEdit::MonthSection);
-            typeText("11");
-            QCOMPARE(picker.value(), QDate(2024, 11, 29));
+            clickPart(3);
+            press(Qt::Key_Down);
+            press(Qt::Key_Right);
+            press(Qt::Key_Up);
+            QCOMPARE(picker.value(), QDate(2025, 8, 30));
+            picker.selectAll();
+            typeText("1.9");
+            QCOMPARE(picker.text(), "1.9");
+            QCOMPARE(picker.value(), QDate(2025, 9, 1)); // for a screen that asks half-way
+            for (const Qt::FocusReason reason : {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason}) {
+                for (const QEvent::Type type :
+                     {QEvent::FocusOut, QEvent::FocusIn}) { // another window for a while
+                    QFocusEvent focus(type, reason);
+                    QCoreApplication::sendEvent(&picker, &focus);
+                }
+            }
+            typeText(".25");
+            QCOMPARE(picker.text(), "1.9.25");
             press(Qt::Key_Return);
             QCOMPARE(screen.keys.last(), 13);
-            QTest::mouseClick(&picker, Qt::LeftButton, {}, {picker.width() - 8, picker.height() / 2});
-            QVERIFY(picker.calendarWidget()->isVisible());
+            QCOMPARE(picker.text(), "01-Sep-2025");
+            typeText("5"); // behind the date
             press(Qt::Key_Escape);
-            QVERIFY(!picker.calendarWidget()->isVisible());
-            QCOMPARE(closed.count(), 1);
-            QVERIFY(screen.focusWidget() == &picker);
+            QCOMPARE(picker.value(), QDate(2025, 9, 1));
+        });
+    }
+
+    void calendar()
+    {
+        inModal<OrderScreen>([](OrderScreen& screen) {
+            DatePicker& picker = screen.date;
+            QSignalSpy closed(&picker, &DatePicker::calendarClosed);
+            picker.setValue({2025, 9, 1});
+            picker.setFocus();
+            const std::tuple<Qt::Key, Qt::KeyboardModifiers, Qt::Key, QDate> ways[] = {
+                {Qt::Key_F4, {}, Qt::Key_Escape, {2025, 9, 1}},
+                {Qt::Key_Down, Qt::AltModifier, Qt::Key_Return, {2025, 9, 8}},
+                {Qt::Key_Space, {}, Qt::Key_Return, {2025, 9, 15}}, // stands for the mouse
+            };
+            for (const auto& [key, held, end, date] : ways) {
+                if (key == Qt::Key_Space)
+                    QTest::mouseClick(&picker, Qt::LeftButton, {}, {picker.width() - 8, picker.height() / 2});
+                else
+                    press(key, held);
+                auto* month = picker.findChild<QCalendarWidget*>();
+                QVERIFY(month && month->isVisible());
+                auto* days = month->findChild<QTableView*>();
+                for (int row = 0; row < days->model()->rowCount(); ++row)
+                    QVERIFY(
+                        days->viewport()->rect().contains(days->visualRect(days->model()->index(row, 6))));
+                press(Qt::Key_Down);
+                press(end);
+                QVERIFY(!month->isVisible() && screen.isVisible());
+                QCOMPARE(picker.value(), date);
+                QVERIFY(screen.focusWidget() == &picker);
+            }
+            QCOMPARE(closed.count(), 3);
         });
     }
 };

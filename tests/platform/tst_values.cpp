@@ -63,6 +63,18 @@ const Reading days[] = {{"2024-2-9", "2024-02-09"},
 const char* const noDays[] = {"29-Feb-2023", "31-31-2020",  "2024-13-01", "10-Foo-2024",
                               "10-Feb-24",   "2024-02-10x", "",           "12"};
 
+/// Typed where 28-Dec-2024 stands.
+const Reading typedDays[] = {
+    {"31032024", "2024-03-31"},      {"20250310", "2025-03-10"},   {"310324", "2024-03-31"},
+    {"3103", "2024-03-31"},          {"1501", "2025-01-15"},       {"7", "2024-12-07"},
+    {"10-3-2025", "2025-03-10"},     {"01/01/2025", "2025-01-01"}, {"1.2.25", "2025-02-01"},
+    {"5 6 1999", "1999-06-05"},      {"2025-03-10", "2025-03-10"}, {"10 MARCH", "2024-03-10"},
+    {"march 10, 25", "2025-03-10"},  {"10mar2025", "2025-03-10"},  {"3-Sept-24", "2024-09-03"},
+    {" 29-feb-2024 ", "2024-02-29"}, {"12-11-2024", "2024-11-12"}, {"31-12-", "2024-12-31"}};
+const char* const noTypedDays[] = {"31-02",  "29022023", "12-13-2024", "103",        "10325",   "1032025",
+                                   "10-Foo", "10-ma-24", "10-03-024",  "10-03-3202", "1-2-3-4", "10:3:25",
+                                   "0",      "",         "-",          "March 2025", "१०-३-२५"};
+
 } // namespace
 
 class tst_values : public QObject
@@ -86,6 +98,20 @@ private Q_SLOTS:
             QVERIFY2(!readDate(QString(text)).isValid(), text);
             QVERIFY_THROWS_EXCEPTION(TypeMismatchError, CDate(text));
         }
+    }
+
+    void typedDates()
+    {
+        const QDate stood(2024, 12, 28);
+        for (const auto& [text, date] : typedDays)
+            QCOMPARE(CStr(readTypedDate(text, stood)), date);
+        for (const char* text : noTypedDays)
+            QVERIFY2(!readTypedDate(QString::fromUtf8(text), stood).isValid(), text);
+        QCOMPARE(readTypedDate("30-12", QDate(2025, 1, 2)), QDate(2024, 12, 30));
+        const QDate today(2024, 2, 10); // births
+        for (const auto& [text, date] : {std::pair("170585", "1985-05-17"), std::pair("1-2-24", "2024-02-01"),
+                                         std::pair("11-2-24", "1924-02-11"), std::pair("11-2", "2023-02-11")})
+            QCOMPARE(CStr(readTypedDate(text, today, today)), date);
     }
 
     void narrowing()

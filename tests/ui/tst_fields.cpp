@@ -126,10 +126,47 @@ private Q_SLOTS:
             for (const auto& [text, taken, index] :
                  {std::tuple("ANIL V", "anil Verma", 2), std::tuple("Zoya", "Zoya", -1)}) {
                 client.setText(text);
+                QCOMPARE(ComboFindIndex(client), index);
+                QCOMPARE(client.text(), taken);
+                client.setText(text);
                 ComboSyncIndex(client);
                 QCOMPARE(client.text(), taken);
                 QCOMPARE(client.ListIndex(), index);
             }
+        });
+    }
+
+    /// Another window in front for a while is no new focus.
+    void focusThatComesBack()
+    {
+        inModal<EntryScreen>([](EntryScreen& screen) {
+            const auto awayAndBack = [](QWidget& field) {
+                for (const QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
+                    QFocusEvent focus(type, Qt::ActiveWindowFocusReason);
+                    QCoreApplication::sendEvent(&field, &focus);
+                }
+            };
+            screen.name.setFocus();
+            typeText("moh");
+            awayAndBack(screen.name);
+            typeText("an");
+            QCOMPARE(screen.name.Text(), "Mohan");
+            screen.note.setText("two words");
+            screen.note.setFocus();
+            press(Qt::Key_Home);
+            awayAndBack(screen.note);
+            typeText("a");
+            QCOMPARE(screen.note.Text(), "atwo words");
+            screen.client.setFocus();
+            typeText("ani");
+            awayAndBack(screen.client);
+            typeText("l");
+            QCOMPARE(screen.client.selStart(), 4);
+            screen.fee.setFocus();
+            typeText("12");
+            awayAndBack(screen.fee);
+            typeText("5");
+            QCOMPARE(screen.fee.Text(), "125");
         });
     }
 

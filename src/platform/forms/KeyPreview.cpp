@@ -1,6 +1,7 @@
 #include "platform/forms/KeyPreview.h"
 
 #include "platform/forms/ComboBox.h"
+#include "platform/forms/DatePicker.h"
 #include "platform/forms/Screen.h"
 
 #include <QAbstractButton>
@@ -41,6 +42,20 @@ void closeListForMnemonic(QWidget* target, const QKeyEvent& event)
     const bool letter = event.key() >= Qt::Key_0 && event.key() <= Qt::Key_Z;
     if (combo && letter && event.modifiers() == Qt::AltModifier)
         combo->closeUp();
+}
+
+/// What a half-typed date is before the screen acts on a key: taken by Enter and the function keys, given up
+/// by Esc.
+void settleDate(QWidget* target, const QKeyEvent& event)
+{
+    auto* picker = qobject_cast<DatePicker*>(target);
+    if (!picker)
+        return;
+    const int number = keyNumber(event);
+    if (number == key::Escape)
+        picker->revert();
+    else if (number == key::Enter || number >= key::F1)
+        picker->settle();
 }
 
 /// Alt with a letter that is no mnemonic of the screen; a field would take the letter for typed.
@@ -107,6 +122,7 @@ void KeyPreview::preview(Screen& screen, QWidget* target, const QKeyEvent& event
         if (number == key::Escape)
             return;
     }
+    settleDate(target, event);
     auto* button = qobject_cast<QPushButton*>(target);
     if (button && charCode(event) == key::Enter) {
         if (!event.isAutoRepeat()) // a key held down must not save twice
