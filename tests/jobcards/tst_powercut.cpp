@@ -1,4 +1,6 @@
+#include "accounts/Payroll.h"
 #include "core/store/DE.h"
+#include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "jobcards/JobCard.h"
 #include "support/Shop.h"
@@ -27,13 +29,29 @@ QByteArray integrity()
     return report;
 }
 
-/// The other life of this program: saves cards on the shop of `folder` without end, editing each once, and
-/// tells the number of each card that it was told is saved.
+void tell(const char* what, int number)
+{
+    std::printf("%s %d\n", what, number);
+    std::fflush(stdout);
+}
+
+/// The last number that a life has told of.
+int lastTold(const QByteArray& output, const QByteArray& what)
+{
+    const qsizetype end = output.lastIndexOf('\n');
+    const qsizetype place = output.left(end).lastIndexOf(what);
+    return place < 0 ? 0 : output.mid(place + what.size(), end).split('\n').first().toInt();
+}
+
+/// The other life of this program: saves cards on the shop of `folder` without end, each on a day of its own,
+/// edits each once and pays the worker of its lines. It tells the number of each card that it was told is
+/// saved, and of each card that is paid.
 [[noreturn]] void saveCardsUntilKilled(const QString& folder)
 {
     session.appFolder = folder;
     session.WorkingDate = QDate(2024, 2, 10);
     DE.open(session.databasePath());
+    const qint32 ravi = GetAccountID("Ravi");
     for (;;) {
         JobCard card;
         for (int i = 0; i < lines; ++i)
@@ -41,16 +59,21 @@ QByteArray integrity()
                                    {}, {}, {}, 0, 0, 0, {}, {}, {}, {}, 0, {}, {});
         JobCardHead head;
         head.Number = JobCard::GetNewNum();
-        head.Date = head.DeliveryDate = head.TrialDate = session.WorkingDate;
+        head.Date = head.DeliveryDate = head.TrialDate = session.WorkingDate.addDays(head.Number);
         head.Client = "Asha";
         head.Total = Currency::fromDouble(500);
         head.Paid = Currency::fromDouble(200);
         head.ReceiptAccount = "Cash";
         card.SaveNew(head);
-        std::printf("%d\n", head.Number);
-        std::fflush(stdout);
+        tell("card", head.Number);
         head.Paid = Currency::fromDouble(500);
         card.SaveEdit(head);
+        Shop::run(QString("Update Jobs_Detail set DoneByWorker=1, WorkerID=%1 where JobID=%2")
+                      .arg(ravi)
+                      .arg(head.Number));
+        const wages::Period day{ravi, head.Date, head.Date};
+        payroll::Create(day, wages::read(wages::linesOf(day, wages::Which::Unpaid)), head.Date);
+        tell("paid", head.Number);
     }
 }
 
@@ -61,13 +84,22 @@ class tst_powercut : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void cardsAreWholeOrNotThere()
+    void cardsAndPayrollsAreWholeOrNotThere_data()
+    {
+        QTest::addColumn<int>("lives");
+        for (const char* shop : {"one shop", "another", "a third"})
+            QTest::newRow(shop) << 4;
+    }
+    void cardsAndPayrollsAreWholeOrNotThere()
     {
         Shop shop;
         shop.addClient("Asha");
+        shop.addWorker("Ravi");
         shop.addItem("Shirt");
         int acknowledged = 0;
-        for (int round = 0; round < 12; ++round) {
+        int paidCards = 0;
+        QFETCH(int, lives);
+        for (int life = 0; life < lives; ++life) {
             DE.close();
             QProcess saver;
             saver.start(QCoreApplication::applicationFilePath(), {"--save-in", shop.folder()});
@@ -77,8 +109,9 @@ private Q_SLOTS:
                 saver.waitForReadyRead(1);
             saver.kill();
             saver.waitForFinished();
-            const QList<QByteArray> told = saver.readAllStandardOutput().split('\n');
-            acknowledged = qMax(acknowledged, told.value(told.size() - 2).toInt());
+            const QByteArray told = saver.readAllStandardOutput();
+            acknowledged = qMax(acknowledged, lastTold(told, "card "));
+            paidCards = qMax(paidCards, lastTold(told, "paid "));
 
             shop.reopen();
             QCOMPARE(integrity(), QByteArray("ok"));
@@ -86,10 +119,23 @@ private Q_SLOTS:
             const QStringList paid = Shop::rows("Select AmountPaid from Jobs order by id");
             QVERIFY2(paid.size() >= acknowledged, qPrintable(QString("of %1 cards").arg(acknowledged)));
             QCOMPARE(Shop::rows("Select Amount from Postings where vtype=1 and sr=4 order by vid"), paid);
-            QCOMPARE(Shop::count("Select * from Postings"), 4 * paid.size());
+            QCOMPARE(Shop::count("Select * from Postings where vtype=1"), 4 * paid.size());
             QCOMPARE(Shop::count("Select * from Jobs_Detail"), lines * paid.size());
             const QStringList whole(paid.size(), QString::number(lines));
             QCOMPARE(Shop::rows("Select count(*) from Jobs_Detail group by JobID"), whole);
+
+            // Each payroll has its two postings and all lines of its card; no other line is marked.
+            const QStringList payrolls = Shop::rows("Select VID, Amount from Postings where isPayroll=1 and "
+                                                    "sr=1 order by vid");
+            QCOMPARE(Shop::count("Select * from Postings where vtype=2"), 2 * payrolls.size());
+            QCOMPARE(Shop::rows("Select PayrollID, sum(WorkerWagesDue) from Jobs_Detail where MarkAsPaid=1 "
+                                "group by PayrollID having count(*)=5 order by PayrollID"),
+                     payrolls);
+            QCOMPARE(Shop::count("Select * from Jobs_Detail where MarkAsPaid<>0 or PayrollID<>0"),
+                     lines * payrolls.size());
+            QVERIFY(paidCards == 0 ||
+                    Shop::count(QString("Select * from Jobs_Detail where MarkAsPaid=1 and JobID=%1")
+                                    .arg(paidCards)) == lines);
         }
     }
 };

@@ -78,6 +78,8 @@ qint32 Voucher::NextEntryNumber()
 
 qint16 Voucher::NextPayrollNumber()
 {
-    return values::toInt16(qint64(lastOf(u"Select * from Postings where vtype=2 order by vID"_s, "ID")) + 1,
-                           u"Next payroll number"_s);
+    qint64 number = qint64(lastOf(u"Select * from Postings where vtype=2 order by vID"_s, "ID")) + 1;
+    while (lastOf(u"Select * from Postings where vtype=2 and vid=%1"_s.arg(number), "ID") > 0)
+        ++number;
+    return values::toInt16(number, u"Next payroll number"_s);
 }

@@ -45,8 +45,8 @@ public:
 
     /// One above the highest number of the entries: the number of a deleted last one is used again.
     static qint32 NextEntryNumber();
-    /// A payroll takes the counter of the last entry's own row, plus 1: a series apart. Throws OverflowError
-    /// above 32767.
+    /// A payroll takes the counter of the last entry's own row, plus 1: a series apart; where an entry has
+    /// been typed in under that number, the next that is free. Throws OverflowError above 32767.
     static qint16 NextPayrollNumber();
 
 private:
