@@ -37,9 +37,6 @@ qint32 mainAccountID(const QString& title)
     return id.toLongLong() > 0 ? GetAccountID(title) : 0;
 }
 
-/// Takes the first entry of the list that begins with the combo's text; false when there is none.
-bool takeEntry(forms::ComboBox& combo) { return ComboFindIndex(combo) >= 0; }
-
 } // namespace
 
 frmTransiction::frmTransiction()
@@ -52,7 +49,7 @@ frmTransiction::frmTransiction()
     onKeyPress(ui->VcDate, [](int& key) { key = EnterAsTab(key); });
     for (forms::ComboBox* combo : {ui->cmbParticulars, ui->cmbRefAcc}) {
         onGotFocus(combo, [combo] {
-            takeEntry(*combo);
+            ComboTakeEntry(*combo);
             ComboDropDown(*combo);
         });
         onKeyPress(combo, [combo](int& key) { key = EnterAsTab(AutoSearchCombo(*combo, key)); });
@@ -151,12 +148,12 @@ void frmTransiction::applyLabels()
 
 void frmTransiction::save()
 {
-    if (!takeEntry(*ui->cmbParticulars)) {
+    if (!ComboTakeEntry(*ui->cmbParticulars)) {
         ShowMsg(u"Please select voucher!"_s);
         ui->cmbParticulars->setFocus();
         return;
     }
-    if (!takeEntry(*ui->cmbRefAcc)) {
+    if (!ComboTakeEntry(*ui->cmbRefAcc)) {
         ShowMsg(u"Please Select Account!"_s);
         ui->cmbRefAcc->setFocus();
         return;

@@ -70,13 +70,10 @@ void LineNames::readAll(const QString& query)
         }
         accounts.Close();
     }
-    ado::Recordset& balances = DE.rspostings;
-    for (balances.Open(u"Select accID, sum(Amount) from Postings where status=0 and date between "
-                       "#17-11-1985# and #%1# and accID in (Select ClintID from (%2)) group by accID"_s.arg(
-                           values::CStr(m_balancesUpTo), lines));
-         !balances.AtEOF(); balances.MoveNext())
-        m_balances.insert(balances[0].integer(), balanceText(balances[1].number()));
-    balances.Close();
+    const QHash<qint32, double> balances =
+        GetBalances(u"Select ClintID from (%1)"_s.arg(lines), m_balancesUpTo);
+    for (auto balance = balances.cbegin(); balance != balances.cend(); ++balance)
+        m_balances.insert(balance.key(), balanceText(balance.value()));
 }
 
 const QString& LineNames::account(qint32 id) { return knownOr(m_accounts, id, GetAccountTitle); }

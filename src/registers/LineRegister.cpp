@@ -4,8 +4,6 @@
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "platform/forms/ComboBox.h"
-#include "platform/forms/DatePicker.h"
-#include "platform/forms/MessageBox.h"
 #include "platform/forms/Palette.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
@@ -60,8 +58,7 @@ QPixmap statusDot(qint32 state)
 
 void LineRegister::resetCriteria()
 {
-    m_criteria.from->setValue(session.WorkingDate);
-    m_criteria.to->setValue(session.WorkingDate);
+    m_criteria.period.set(session.WorkingDate, session.WorkingDate);
     FillList(u"Title"_s, u"Accounts"_s, u" where type=%1"_s.arg(1), *m_criteria.worker, DE.rsaccounts);
     m_criteria.worker->insertItem(0, allWorkers);
     m_criteria.worker->setText(allWorkers);
@@ -79,12 +76,6 @@ void LineRegister::Form_Activate()
 }
 
 // Filling
-
-void LineRegister::orderDates()
-{
-    if (m_criteria.from->value() > m_criteria.to->value())
-        m_criteria.to->setValue(m_criteria.from->value());
-}
 
 void LineRegister::showLines(const std::function<void(std::vector<forms::ListView::Row>&)>& read)
 {
@@ -128,10 +119,8 @@ void LineRegister::conditionStep()
 
 void LineRegister::view()
 {
-    if (m_criteria.from->value() > m_criteria.to->value()) {
-        forms::criticalMessage(this, u"Invalid date selection!"_s);
+    if (!m_criteria.period.accepted(this))
         return;
-    }
     if (ComboFindIndex(*m_criteria.worker) < 0) {
         ShowMsg(u"Please Select Worker Name!"_s);
         return;

@@ -3,10 +3,10 @@
 #include "platform/forms/ListView.h"
 #include "platform/forms/Screen.h"
 #include "platform/values/Literals.h"
+#include "ui/Period.h"
 
 namespace forms {
 class ComboBox;
-class DatePicker;
 } // namespace forms
 
 /// The number that a row of a register keeps in its tag; 0 for a total row, and for a row that isn't there.
@@ -25,8 +25,7 @@ protected:
     struct Criteria
     {
         forms::ListView* list;
-        forms::DatePicker* from;
-        forms::DatePicker* to;
+        Period period;
         forms::ComboBox* worker;
         forms::ComboBox* condition; ///< its first entry is no condition
     };
@@ -43,8 +42,6 @@ protected:
     /// Takes the lines off the list that the condition does not want.
     virtual void applyCondition(const QString& condition) = 0;
 
-    /// The common beginning of ExecuteSQL: the dates are never the wrong way round.
-    void orderDates();
     /// Puts the lines on the list, and the total row below them. `read` appends them; what it had appended
     /// when it fails is shown without a total.
     void showLines(const std::function<void(std::vector<forms::ListView::Row>& rows)>& read);

@@ -29,7 +29,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
     : ui(std::make_unique<Ui::frmWorkerJobRegister>())
 {
     ui->setupUi(this);
-    setCriteria({ui->lvSummary, ui->DateFrom, ui->DateTo, ui->cmbClient, ui->cmbCondition});
+    setCriteria({ui->lvSummary, period(), ui->cmbClient, ui->cmbCondition});
     // What the shares leave is the balance's. A column never gets too narrow for what it mostly holds.
     ui->lvSummary->setColumns({{u"Date"_s, 10, Qt::AlignLeft, 110},
                                {u"JOB ID"_s, 5, Qt::AlignLeft, 76},
@@ -113,17 +113,13 @@ bool frmWorkerJobRegister::eventFilter(QObject* watched, QEvent* event)
 
 QString frmWorkerJobRegister::order() const { return u" order by JobID,id,"_s + DateField; }
 
-/// The dates of the range, as a statement ends with them.
-QString frmWorkerJobRegister::between() const
-{
-    return dateText(ui->DateFrom->value()) + u"# and #"_s + dateText(ui->DateTo->value()) + u'#';
-}
+Period frmWorkerJobRegister::period() const { return {ui->DateFrom, ui->DateTo}; }
 
 /// The lines of one worker.
 QString frmWorkerJobRegister::workerSearch(const QString& workerId) const
 {
-    return allLines + u"WorkerID="_s + workerId + u" and "_s + DateField + u"  between #"_s + between() +
-           order();
+    return allLines + u"WorkerID="_s + workerId + u" and "_s + DateField + u"  between "_s +
+           period().between() + order();
 }
 
 QString frmWorkerJobRegister::searchText() const
@@ -133,8 +129,8 @@ QString frmWorkerJobRegister::searchText() const
     if (SearchMode == u"SID")
         return allLines + u"JOBid="_s + values::CStr(values::Val(ui->txtSearchID->text()));
     if (SearchMode == u"CUST")
-        return allLines + u"ClintID=%1 and "_s.arg(GetAccountID(SearchClient)) + DateField + u" between #"_s +
-               between() + order();
+        return allLines + u"ClintID=%1 and "_s.arg(GetAccountID(SearchClient)) + DateField + u" between "_s +
+               period().between() + order();
     if (SearchMode == u"CUSTUNDEL")
         return allLines + u"ClintID=%1  order by "_s.arg(GetAccountID(SearchClient)) + DateField + u" desc"_s;
     return allLines + DateField + u" between #"_s + values::CStr(ui->DateFrom->value()) + u"# and #"_s +
@@ -143,7 +139,7 @@ QString frmWorkerJobRegister::searchText() const
 
 void frmWorkerJobRegister::ExecuteSQL()
 {
-    orderDates();
+    period().order();
     DateField = ui->opDt1->isChecked() ? u"Date"_s : u"JobDelDate"_s;
     showLines([this](std::vector<forms::ListView::Row>& rows) {
         SearchSql = searchText();
@@ -201,19 +197,19 @@ void frmWorkerJobRegister::fillDetails()
 
 void frmWorkerJobRegister::GetItemWiseDetails(qint32 itemId, qint32& count)
 {
-    countLines(u"%1and WorkerID=%2and date between #"_s.arg(itemId).arg(GetAccountID(ui->cmbClient->Text())),
+    countLines(u"%1and WorkerID=%2and date between "_s.arg(itemId).arg(GetAccountID(ui->cmbClient->Text())),
                count);
 }
 
 void frmWorkerJobRegister::GetItemWiseDetails2(qint32 itemId, qint32& count)
 {
-    countLines(u"%1and date between #"_s.arg(itemId), count);
+    countLines(u"%1and date between "_s.arg(itemId), count);
 }
 
 void frmWorkerJobRegister::countLines(const QString& condition, qint32& count)
 {
     ado::Recordset& counting = DE.rsJOBS_DETAIL2;
-    counting.Open(u"Select count(QNT) from JOBS_Detail where ItemID="_s + condition + between());
+    counting.Open(u"Select count(QNT) from JOBS_Detail where ItemID="_s + condition + period().between());
     count = counting[0].integer();
     counting.Close();
 }

@@ -48,7 +48,7 @@ private:
     static forms::ListView::Row rowOf(ado::Recordset& line, LineNames& names);
     QString searchText() const;
     QString workerSearch(const QString& workerId) const;
-    QString between() const;
+    Period period() const;
     QString order() const;
     void fillDetails();
     void countLines(const QString& condition, qint32& count);

@@ -77,7 +77,13 @@ void ComboSyncIndex(ComboBox& combo)
     combo.select(0, int(combo.text().size()));
 }
 
-int NumbersOnly(const QString& text, int key) { return NumKey(text, key); }
+bool ComboTakeEntry(ComboBox& combo)
+{
+    if (ComboFindIndex(combo) < 0)
+        return false;
+    ComboSyncIndex(combo);
+    return true;
+}
 
 int NumbersOnly(const QLineEdit& box, int key) { return NumKey(boxes::unselectedText(box), key); }
 

@@ -103,6 +103,17 @@ QString GetItemName(qint32 id)
     return textOfFirst(u"Select * from Items where ID="_s + QString::number(id), "Name");
 }
 
+QHash<qint32, QString> GetAccountTitles(const QString& accounts)
+{
+    QHash<qint32, QString> titles;
+    ado::Recordset& rows = DE.rsaccounts;
+    for (rows.Open(u"Select ID, Title from Accounts where ID in ("_s + accounts + u')'); !rows.AtEOF();
+         rows.MoveNext())
+        titles.insert(rows[0].integer(), rows[1].text());
+    rows.Close();
+    return titles;
+}
+
 QVariant FieldValueExists(const QString& value, const QString& keyField, const QString& resultField,
                           const QString& table, ado::Recordset& recordset)
 {
@@ -137,6 +148,19 @@ double GetBalance(qint16 account, const QDate& date)
 {
     return sum(u"Select sum(Amount) from Postings where status=0 and  AccID="_s + QString::number(account) +
                u" and date between #17-11-1985# and #"_s + values::CStr(date) + u'#');
+}
+
+QHash<qint32, double> GetBalances(const QString& accounts, const QDate& date)
+{
+    QHash<qint32, double> balances;
+    ado::Recordset& rows = DE.rspostings;
+    for (rows.Open(u"Select accID, sum(Amount) from Postings where status=0 and date between #17-11-1985# "
+                   "and #"_s +
+                   values::CStr(date) + u"# and accID in ("_s + accounts + u") group by accID"_s);
+         !rows.AtEOF(); rows.MoveNext())
+        balances.insert(rows[0].integer(), rows[1].number());
+    rows.Close();
+    return balances;
 }
 
 double GetPositiveTotal(qint16 account, const QDate& from, const QDate& to)

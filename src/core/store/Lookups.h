@@ -5,6 +5,7 @@
 #include "platform/values/ListTarget.h"
 
 #include <QDate>
+#include <QHash>
 #include <QString>
 #include <QVariant>
 
@@ -19,6 +20,9 @@ double GetItemFees(qint32 id);
 double GetItemWorkerFees(const QString& name);
 qint32 GetItemID(const QString& name);
 QString GetItemName(qint32 id);
+
+/// The titles of many accounts at once, those that a query names; one that is gone is left out.
+QHash<qint32, QString> GetAccountTitles(const QString& accounts);
 
 /// The value of `resultField` in the first row of `table` whose `keyField` is `value`, else of the
 /// first where it is another spelling of it (case in any script, either apostrophe); -1 where there is no
@@ -38,6 +42,8 @@ void FillList(const QString& field, const QString& table, const QString& conditi
 /// The sum of an account's valid postings up to `date`; 0 without postings. Negative: the account owes.
 /// Postings before 17 November 1985 count for nothing.
 double GetBalance(qint16 account, const QDate& date);
+/// The same of many accounts at once, those that a query names; an account without postings is left out.
+QHash<qint32, double> GetBalances(const QString& accounts, const QDate& date);
 /// The sum of the credits (amounts above 0) and of the debits (below 0) of a span of days, both ends
 /// included.
 double GetPositiveTotal(qint16 account, const QDate& from, const QDate& to);

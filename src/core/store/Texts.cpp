@@ -9,6 +9,8 @@ QString dateText(const QDate& date) { return values::Format(date, u"dd-MMM-yyyy"
 
 QString sqlDate(const QDate& date) { return u'#' + dateText(date) + u'#'; }
 
+QString sqlDates(const QDate& from, const QDate& to) { return sqlDate(from) + u" and "_s + sqlDate(to); }
+
 QString moneyText(double amount) { return values::Format(amount, u"0.00"_s); }
 
 QString balanceText(double balance)

@@ -11,6 +11,8 @@
 QString dateText(const QDate& date);
 /// The same day between the marks of a date in a statement: "#25-Dec-2024#".
 QString sqlDate(const QDate& date);
+/// Two days as "between" takes them: "#01-Dec-2024# and #25-Dec-2024#".
+QString sqlDates(const QDate& from, const QDate& to);
 
 /// "12.50", "-3.00".
 QString moneyText(double amount);

@@ -1,0 +1,88 @@
+#include "accounts/Book.h"
+
+#include "accounts/VoucherTag.h"
+#include "accounts/frmTransiction.h"
+#include "core/store/Session.h"
+#include "jobcards/frmEditJOB.h"
+#include "platform/forms/MessageBox.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double heightOfScreen = 0.97;
+
+} // namespace
+
+bool openVoucher(QWidget* screen, const QString& tag)
+{
+    const VoucherTag voucher = VoucherTag::of(tag);
+    if (voucher.type != VoucherType::Job && voucher.type != VoucherType::Entry)
+        return false;
+    const bool isCard = voucher.type == VoucherType::Job;
+    if (!voucher.exists()) {
+        forms::plainMessage(
+            screen, (isCard ? u"Job card # %1 is no longer there."_s : u"Voucher # %1 is no longer there."_s)
+                        .arg(voucher.number));
+        return true;
+    }
+    if (isCard)
+        return frmEditJOB().ShowEdit(voucher.number);
+    qint16 saved = 0;
+    frmTransiction().ShowEdit(voucher.number, saved);
+    return saved != 0;
+}
+
+void Book::setBook(forms::ListView* list, const Period& days)
+{
+    m_list = list;
+    period = days;
+    on(list, &forms::ListView::dblClicked, &Book::openSelected);
+    onKeyDown(list, [this](int& key) {
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        openSelected();
+    });
+}
+
+void Book::Form_Load()
+{
+    useScreenHeight(heightOfScreen);
+    period.set(session.WorkingDate, session.WorkingDate);
+}
+
+void Book::show(const std::vector<BookLine>& lines)
+{
+    const int position = m_list->selectedRow();
+    const QString selected = m_list->tag(position);
+    std::vector<forms::ListView::Row> rows;
+    rows.reserve(lines.size());
+    int found = -1;
+    for (const BookLine& line : lines) {
+        forms::ListView::Row row{line.cells, line.tag};
+        if (!line.isPosting()) {
+            for (int column = 0; column < int(line.cells.size()) - 1; ++column)
+                row.looks[column].bold = true;
+        } else if (found < 0 && line.tag == selected) {
+            found = int(rows.size());
+        }
+        rows.push_back(std::move(row));
+    }
+    const int last = int(rows.size()) - 1;
+    m_list->setRows(std::move(rows));
+    if (position >= 0)
+        m_list->selectRow(found >= 0 ? found : std::min(position, last));
+}
+
+void Book::openSelected()
+{
+    if (openVoucher(this, m_list->tag(m_list->selectedRow())))
+        refresh();
+}
+
+void Book::refresh()
+{
+    period.order();
+    ExecuteSQL();
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "accounts/BookLines.h"
+#include "platform/forms/ListView.h"
+#include "platform/forms/Screen.h"
+#include "ui/Period.h"
+
+/// Opens what stands behind a row of a book: the job card, or the entry screen of a voucher. True when it
+/// came back saved, and also when the ledger no longer has it, which the operator is told: either way the
+/// book is to be made anew. A row of a total opens nothing.
+bool openVoucher(QWidget* screen, const QString& tag);
+
+/// Base of the books: a list of vouchers over some days, each of which opens on Enter.
+class Book : public forms::Screen
+{
+    Q_OBJECT
+public:
+    /// Builds the list anew from what is chosen. Throws ado::DatabaseError.
+    virtual void ExecuteSQL() = 0;
+
+protected:
+    /// For the constructor.
+    void setBook(forms::ListView* list, const Period& period);
+    /// Takes 97% of the display's height; both days are the working date.
+    void Form_Load() override;
+
+    /// Puts the lines on the list, the rows of totals apart from the others. The voucher that was selected
+    /// stays so; when it has gone, the row in its place.
+    void show(const std::vector<BookLine>& lines);
+    /// Opens what stands behind the selected row.
+    virtual void openSelected();
+    /// Builds the list anew after a change, from days in order.
+    void refresh();
+
+    Period period;
+
+private:
+    forms::ListView* m_list = nullptr;
+};

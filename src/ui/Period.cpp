@@ -1,0 +1,33 @@
+#include "ui/Period.h"
+
+#include "core/store/Texts.h"
+#include "platform/forms/DatePicker.h"
+#include "platform/forms/MessageBox.h"
+
+using namespace Qt::StringLiterals;
+
+QDate Period::from() const { return m_from->value(); }
+
+QDate Period::to() const { return m_to->value(); }
+
+void Period::set(const QDate& from, const QDate& to)
+{
+    m_from->setValue(from);
+    m_to->setValue(to);
+}
+
+bool Period::accepted(QWidget* screen) const
+{
+    if (from() <= to())
+        return true;
+    forms::criticalMessage(screen, u"Invalid date selection!"_s);
+    return false;
+}
+
+void Period::order()
+{
+    if (from() > to())
+        m_to->setValue(from());
+}
+
+QString Period::between() const { return sqlDates(from(), to()); }

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+class QWidget;
+namespace forms {
+class DatePicker;
+}
+
+/// The days that a list is about, both ends included: two pickers on its screen.
+class Period
+{
+public:
+    Period() = default; ///< of no pickers yet
+    Period(forms::DatePicker* from, forms::DatePicker* to)
+        : m_from(from)
+        , m_to(to)
+    {
+    }
+
+    QDate from() const;
+    QDate to() const;
+    void set(const QDate& from, const QDate& to);
+
+    /// Refuses days the wrong way round in a box over `screen`; true for days that can be shown.
+    bool accepted(QWidget* screen) const;
+    /// Moves an end that lies before the beginning up to it.
+    void order();
+
+    /// The days between the marks of a statement: "#01-Feb-2024# and #10-Feb-2024#".
+    QString between() const;
+
+private:
+    forms::DatePicker* m_from = nullptr;
+    forms::DatePicker* m_to = nullptr;
+};
