@@ -32,7 +32,7 @@ void markPaid(const wages::Period& period, const std::vector<wages::Line>& lines
     for (const wages::Line& line : lines)
         if (listed.contains(line.id))
             throw OperatorError(u"Job %1 has been paid, changed or deleted since these lines were listed.\n"
-                                "No payroll has been made and nothing has been saved: view the lines again, "
+                                "No payroll has been made: view the lines again, "
                                 "then make the payroll."_s.arg(line.job));
     owed.UpdateBatch();
 }

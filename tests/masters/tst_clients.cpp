@@ -192,8 +192,9 @@ private Q_SLOTS:
             shop->reopen();
             inModal<frmWorkers>([&](frmWorkers& list) {
                 box(list, "txtSearch").setText(name);
-                onNextModal<frmEditWorker>(
-                    [&](frmEditWorker& form) { QCOMPARE(box(form, "txtName").Text(), name); });
+                onNextModal<frmEditWorker>([&](frmEditWorker& form) {
+                    QCOMPARE(box(form, "txtName").Text(), QString(name).replace('\'', u'’'));
+                });
                 press(Qt::Key_Return);
             });
         }

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Names of clients, workers, accounts and items: how they are written, and when two of them are the same.
+/// Names that people give: how they are written, and when two of them are the same.
 namespace values {
 
 /// A title as it is stored: each straight apostrophe, which ends a text in a statement, is the typographic
