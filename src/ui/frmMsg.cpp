@@ -134,6 +134,18 @@ void frmMsg::layOut()
     ui->cmdYes->move(last - button.width() - twips(50), top);
 }
 
+/// Y and N answer a question.
+void frmMsg::Form_KeyPress(int& key)
+{
+    const char32_t letter = QChar::toLower(char32_t(key));
+    if (ui->cmdYes->isVisible() && (letter == U'y' || letter == U'n')) {
+        key = 0;
+        answer(letter == U'y' ? 1 : 0);
+    } else {
+        Screen::Form_KeyPress(key);
+    }
+}
+
 void frmMsg::answer(qint16 result)
 {
     MsgResult = result;

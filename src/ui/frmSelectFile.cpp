@@ -48,10 +48,16 @@ frmSelectFile::frmSelectFile(QWidget* parent)
     on(ui->cmbFIletype, &forms::ComboBox::clicked, &frmSelectFile::applyPattern);
     onLostFocus(ui->cmbFIletype, [this] { applyPattern(); });
     on(ui->files, &forms::ListBox::indexChanged, &frmSelectFile::chooseFile);
-    on(ui->cmdOK, &QPushButton::clicked, [this] {
-        m_answer = ui->txtfilename->text();
-        unload();
+    on(ui->files, &forms::ListBox::dblClicked, &frmSelectFile::select);
+    onKeyPress(ui->files, [this](int& key) {
+        if (key == forms::key::Enter && ui->files->ListIndex() >= 0)
+            select();
     });
+    onKeyPress(ui->txtfilename, [this](int& key) {
+        if (key == forms::key::Enter && !ui->txtfilename->text().isEmpty())
+            select();
+    });
+    on(ui->cmdOK, &QPushButton::clicked, &frmSelectFile::select);
     on(ui->Command1, &QPushButton::clicked, [this] {
         m_answer = cancelled;
         unload();
@@ -59,6 +65,12 @@ frmSelectFile::frmSelectFile(QWidget* parent)
 }
 
 frmSelectFile::~frmSelectFile() = default;
+
+void frmSelectFile::select()
+{
+    m_answer = ui->txtfilename->text();
+    unload();
+}
 
 QString frmSelectFile::SelFile()
 {
@@ -98,6 +110,7 @@ void frmSelectFile::openFolder(const QString& path)
     if (!folder.isRoot())
         ui->Dir->AddItem(upwards);
     ui->Dir->AddItems(folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase));
+    ui->files->Clear();
     applyPattern();
 }
 
@@ -107,6 +120,7 @@ void frmSelectFile::enterFolder()
         openFolder(QDir::cleanPath(m_folder + u'/' + ui->Dir->Text()));
 }
 
+/// Lists the files again when they are others; the chosen one stays chosen.
 void frmSelectFile::applyPattern()
 {
     // "*.*" means all files, those without a point in their name too.
@@ -115,8 +129,15 @@ void frmSelectFile::applyPattern()
         pattern = u"*"_s;
     const QStringList names = QDir(m_folder).entryList(pattern.split(u';', Qt::SkipEmptyParts), QDir::Files,
                                                        QDir::Name | QDir::IgnoreCase);
+    QStringList listed;
+    for (int i = 0; i < ui->files->ListCount(); ++i)
+        listed += ui->files->List(i);
+    if (names == listed)
+        return;
+    const QString chosen = ui->files->Text();
     ui->files->Clear();
     ui->files->AddItems(names);
+    ui->files->setListIndex(chosen.isEmpty() ? -1 : int(names.indexOf(chosen)));
 }
 
 void frmSelectFile::chooseFile()

@@ -29,6 +29,7 @@ private:
     void enterFolder();
     void applyPattern();
     void chooseFile();
+    void select();
     void preview(const QString& path);
 
     std::unique_ptr<Ui::frmSelectFile> ui;

@@ -204,6 +204,13 @@ private Q_SLOTS:
             QTest::mouseClick(screen.client.lineEdit(), Qt::LeftButton);
             QTRY_VERIFY(screen.client.isDroppedDown());
             QCOMPARE(screen.client.selLength(), 6);
+            // The click that closes it reaches what it hits.
+            QWidget* popup = list->window();
+            popup->move(popup->x(), popup->y() + 300); // off the field
+            QTest::mouseClick(popup, Qt::LeftButton, {},
+                              popup->mapFromGlobal(screen.remark.mapToGlobal(QPoint(9, 9))));
+            QTRY_VERIFY(screen.remark.hasFocus());
+            QVERIFY(!screen.client.isDroppedDown());
         });
     }
 

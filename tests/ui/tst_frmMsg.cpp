@@ -41,7 +41,9 @@ private Q_SLOTS:
               std::tuple(story, 2, Qt::Key_Return, Qt::NoModifier, 1),
               std::tuple(story, 2, Qt::Key_Escape, Qt::NoModifier, 0),
               std::tuple(QString("Sure?"), 2, Qt::Key_Y, Qt::AltModifier, 1),
-              std::tuple(QString("Sure?"), 2, Qt::Key_N, Qt::AltModifier, 0)}) {
+              std::tuple(QString("Sure?"), 2, Qt::Key_N, Qt::AltModifier, 0),
+              std::tuple(QString("Sure?"), 2, Qt::Key_Y, Qt::NoModifier, 1),
+              std::tuple(QString("Sure?"), 2, Qt::Key_N, Qt::ShiftModifier, 0)}) {
             const auto act = [&, kind = kind, key = key, held = held](frmMsg& dialog) {
                 const auto& label = control<QLabel>(dialog, "lblMsg");
                 const auto& ok = control<QPushButton>(dialog, "cmdOK");

@@ -82,7 +82,13 @@ private Q_SLOTS:
             }
             fillIn(dialog, "cmbFIletype", "*.jpg");
             files.setListIndex(0);
-            click(dialog, "cmdOK");
+            files.setFocus();
+            for (int i = 0; i < 3; ++i) // through the file type
+                press(Qt::Key_Tab);
+            QCOMPARE(files.ListIndex(), 0);
+            files.setFocus();
+            press(Qt::Key_Return);
+            QVERIFY(!dialog.isVisible());
         });
         QCOMPARE(chosen, QDir::toNativeSeparators(pictures + "/wall.jpg"));
         QCOMPARE(select([](frmSelectFile&) { press(Qt::Key_Escape); }), "Cancel");

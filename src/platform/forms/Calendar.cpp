@@ -1,6 +1,7 @@
 #include "platform/forms/Calendar.h"
 
 #include "platform/forms/Palette.h"
+#include "platform/forms/PopupPress.h"
 
 #include <QCalendarWidget>
 #include <QKeyEvent>
@@ -75,14 +76,11 @@ void Calendar::hideEvent(QHideEvent* event)
     Q_EMIT closed();
 }
 
-/// A click beside the calendar closes it and reaches what it hits, but for the field's own arrow, which would
-/// open it again.
 void Calendar::mousePressEvent(QMouseEvent* event)
 {
-    const QWidget* field = parentWidget();
-    setAttribute(Qt::WA_NoMouseReplay,
-                 field->rect().contains(field->mapFromGlobal(event->globalPosition().toPoint())));
-    QFrame::mousePressEvent(event);
+    if (geometry().contains(event->globalPosition().toPoint()))
+        return QFrame::mousePressEvent(event);
+    passOnPress(*this, *event);
 }
 
 void Calendar::take(const QDate& date)

@@ -1,6 +1,7 @@
 #include "platform/forms/ComboBox.h"
 
 #include "platform/forms/ListBox.h"
+#include "platform/forms/PopupPress.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -31,6 +32,7 @@ ComboBox::ComboBox(QWidget* parent)
     // A typed text that happens to be an entry is no choice of that entry.
     disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
     lineEdit()->installEventFilter(this);
+    view()->window()->installEventFilter(this); // the list's own window
     connect(this, &QComboBox::activated, this, [this] {
         select(0, int(text().size())); // typing replaces the choice
         Q_EMIT clicked();
@@ -135,6 +137,13 @@ void ComboBox::showPopup()
 
 bool ComboBox::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == view()->window() && event->type() == QEvent::MouseButtonPress) {
+        const auto& press = static_cast<QMouseEvent&>(*event);
+        if (!view()->window()->geometry().contains(press.globalPosition().toPoint())) {
+            passOnPress(*view()->window(), press);
+            return true;
+        }
+    }
     const bool released = watched == lineEdit() && event->type() == QEvent::MouseButtonRelease;
     const bool handled = QComboBox::eventFilter(watched, event);
     if (released && std::exchange(m_selectOnRelease, false) && !lineEdit()->hasSelectedText())
