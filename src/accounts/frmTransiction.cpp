@@ -3,6 +3,7 @@
 #include "accounts/Payroll.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/SerialNumber.h"
 #include "core/store/Session.h"
 #include "core/store/Voucher.h"
 #include "platform/values/Numbers.h"
@@ -193,8 +194,13 @@ PostingPair frmTransiction::pair() const
 
 void frmTransiction::SaveNew()
 {
-    EntryID = values::CLng(values::Val(ui->txtVID->Text()), u"Voucher number"_s);
+    const auto number = readSerialNumber(ui->txtVID->Text());
+    if (!number) {
+        ui->txtVID->setFocus();
+        throw serialNumberRefused(u"Voucher #"_s);
+    }
     const PostingPair entry = pair();
+    EntryID = *number;
     DE.connection().writeBatch([&] { Voucher(VoucherType::Entry, EntryID).AddPair(entry); });
     EntryMode = RecordMode::Stored;
     setWindowTitle(u"Edit Entry"_s);

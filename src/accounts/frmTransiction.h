@@ -29,8 +29,8 @@ public:
     void ShowEdit(qint32 vid, qint16& saved);
     /// The number that follows the highest entry voucher.
     void GetNewNum(qint32& n);
-    /// Write the voucher on the screen. Throw OverflowError when the number or the amount is too large, and
-    /// ado::DatabaseError; nothing is written then.
+    /// Write the voucher on the screen. Throw OperatorError for a number or an amount that no voucher can
+    /// have, and ado::DatabaseError; nothing is written then.
     void SaveNew();
     void SaveEdit();
 

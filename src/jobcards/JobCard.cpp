@@ -2,26 +2,14 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/SerialNumber.h"
 #include "core/store/Settings.h"
 #include "core/store/Voucher.h"
 #include "platform/values/Errors.h"
 
-#include <algorithm>
-#include <limits>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The last number that leaves a next one.
-constexpr qint32 HighestNumber = std::numeric_limits<qint32>::max() - 1;
-
-void requireCardNumber(qint32 number)
-{
-    if (number < 1 || number > HighestNumber)
-        throw OperatorError(u"The JOB ID must be a number from 1 to %1, in digits alone. "
-                            "Nothing has been saved."_s.arg(HighestNumber));
-}
 
 void refuseTakenNumber(qint32 number)
 {
@@ -46,16 +34,6 @@ qint32 JobCard::GetNewNum()
     }
     jobs.Close();
     return values::toInt32(qint64(last) + 1, u"Next JOB ID"_s);
-}
-
-qint32 JobCard::readNumber(const QString& text)
-{
-    const QString digits = text.trimmed();
-    const bool isNumber =
-        std::all_of(digits.begin(), digits.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-    const qint32 number = isNumber ? digits.toInt() : 0; // too many digits are 0, too
-    requireCardNumber(number);
-    return number;
 }
 
 void JobCard::LoadLines()
@@ -90,7 +68,8 @@ void JobCard::Clear()
 void JobCard::SaveNew(const JobCardHead& head)
 {
     write([&] {
-        requireCardNumber(head.Number);
+        if (!isSerialNumber(head.Number))
+            throw serialNumberRefused(u"JOB ID"_s);
         refuseTakenNumber(head.Number);
         const qint32 clientID = GetAccountID(head.Client);
         auto& jobs = DE.rsJOBS;

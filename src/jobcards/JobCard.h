@@ -42,9 +42,6 @@ public:
     /// The number for the next card: one above the highest, or the shop's first number (setting 23) on the
     /// first card.
     static qint32 GetNewNum();
-    /// Reads the number of a new card. Throws OperatorError for what can't be one: it takes digits alone,
-    /// from 1 to 2147483646, so that another can follow.
-    static qint32 readNumber(const QString& text);
 
     /// Reads the lines of the stored card `CurrentJobID` into JobRows, under the names that the catalogue has
     /// now. Throws OverflowError for a line whose number is above 32767.

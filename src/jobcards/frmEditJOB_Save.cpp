@@ -1,4 +1,5 @@
 // Save, Print and Delete of the job card.
+#include "core/store/SerialNumber.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
 #include "jobcards/MODPrintJOBCARD.h"
@@ -65,12 +66,12 @@ JobCardHead frmEditJOB::head() const
 {
     JobCardHead head = typedHead();
     if (isNew()) {
-        try {
-            head.Number = JobCard::readNumber(ui->txtJOBID->text());
-        } catch (const OperatorError&) {
+        const auto number = readSerialNumber(ui->txtJOBID->text());
+        if (!number) {
             ui->txtJOBID->setFocus();
-            throw;
+            throw serialNumberRefused(u"JOB ID"_s);
         }
+        head.Number = *number;
     }
     head.Total = Currency::fromDouble(values::Val(ui->txtAmountDue->text()), u"Total Amount"_s);
     head.Paid = Currency::fromDouble(values::Val(ui->txtAmountPaid->text()), u"Amount Received"_s);

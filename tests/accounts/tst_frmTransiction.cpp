@@ -114,6 +114,16 @@ private Q_SLOTS:
                 save();
                 QCOMPARE(focused(form), focus);
             }
+            for (const char* number : {"", "2147483647"}) { // the next could not follow
+                box(form, "txtVID").setText(number);
+                prompts->expect(
+                    "The Voucher # must be a number from 1 to 2147483646, in digits alone. Nothing "
+                    "has been saved.");
+                fill(form, "Sales", "Cash", "9");
+                save();
+                QCOMPARE(focused(form), "txtVID");
+            }
+            box(form, "txtVID").setText("1");
             prompts->expect(ado::NoCurrentRecordError().text()); // of an account that was deleted meanwhile
             fill(form, "Sales", "Cash", "9");
             Shop::run("Delete from Accounts where Title='Cash'");
