@@ -73,6 +73,7 @@ void frmEditClients::write(ado::Recordset& row)
     row["City"] = ui->txtCity->Text();
     row["State"] = ui->txtState->Text();
     row["Mobile"] = ui->txtMobile->Text();
+    ui->dateDob->settle(); // a date that is still being typed is chosen, too
     if (m_dobKnown)
         row["dob"] = ui->dateDob->value();
 }
