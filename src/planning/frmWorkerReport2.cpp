@@ -42,7 +42,7 @@ void frmWorkerReport2::fill()
 {
     ado::Recordset& workers = DE.rsaccounts;
     std::vector<forms::ListView::Row> rows;
-    workers.Open(u"Select * from Accounts where type=%1 order by Title"_s.arg(1));
+    workers.Open(u"Select * from Accounts where type=%1 order by titlekey(Title)"_s.arg(1));
     for (; !workers.AtEOF(); workers.MoveNext()) {
         qint16 count = 0;
         JobCount(values::toInt16(workers["ID"].integer(), u"Worker number"_s), count);

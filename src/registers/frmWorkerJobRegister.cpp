@@ -183,7 +183,7 @@ void frmWorkerJobRegister::fillDetails()
 {
     ui->lvDetails->Clear();
     ado::Recordset& items = DE.rsITEMS;
-    for (items.Open(u"Select * from Items order by Name"_s); !items.AtEOF(); items.MoveNext()) {
+    for (items.Open(u"Select * from Items order by titlekey(Name)"_s); !items.AtEOF(); items.MoveNext()) {
         qint32 count = 0;
         if (SearchMode == u"S")
             GetItemWiseDetails(items["ID"].integer(), count);

@@ -120,9 +120,12 @@ private Q_SLOTS:
             QCOMPARE(FieldValueExists(title, "Title", field, "Accounts", DE.rsaccounts).toInt(), value);
         QVERIFY(!DE.rsaccounts.State());
 
+        for (const char* title : {"\u00e9a", "D\u2019Arcy"})
+            shop.addClient(title);
         Texts list;
         FillList("Title", "Accounts", " where Type=0", list, DE.rsaccounts);
-        QCOMPARE(list.all, QStringList({"asha Rao", "D'Souza", QString("\u00c9mile d\u2019Arc")}));
+        QCOMPARE(list.all,
+                 QStringList({"asha Rao", "D\u2019Arcy", "D'Souza", "\u00e9a", "\u00c9mile d\u2019Arc"}));
         Shop::run("Delete from Items");
         FillCombo("Name", "Items", list, DE.rsITEMS);
         QVERIFY(list.all.isEmpty());

@@ -61,6 +61,9 @@ void fill(const QString& sql, ListTarget& control, ado::Recordset& recordset)
     recordset.Close();
 }
 
+/// The order of titles: without regard to case in every script, so that "éva" stands beside "Éva".
+QString byTitle(const QString& field) { return u" order by titlekey("_s + field + u')'; }
+
 /// A null sum, that of no rows, reads as 0.
 double sum(const QString& sql)
 {
@@ -134,14 +137,13 @@ QString whereType(AccountType type) { return u" where Type=%1"_s.arg(qint32(type
 
 void FillCombo(const QString& field, const QString& table, ListTarget& control, ado::Recordset& recordset)
 {
-    fill(u"Select "_s + field + u" from "_s + table + u" order by "_s + field, control, recordset);
+    fill(u"Select "_s + field + u" from "_s + table + byTitle(field), control, recordset);
 }
 
 void FillList(const QString& field, const QString& table, const QString& condition, ListTarget& control,
               ado::Recordset& recordset)
 {
-    fill(u"Select "_s + field + u" from "_s + table + condition + u" order by "_s + field, control,
-         recordset);
+    fill(u"Select "_s + field + u" from "_s + table + condition + byTitle(field), control, recordset);
 }
 
 double GetBalance(qint16 account, const QDate& date)

@@ -167,7 +167,8 @@ void titleKey(sqlite3_context* context, int, sqlite3_value** arguments)
         sqlite3_result_null(context);
         return;
     }
-    const QByteArray key = foldedText(arguments[0]).toUtf8();
+    QVarLengthArray<char16_t, 256> own;
+    const QByteArray key = foldedInto(own, arguments[0]).toUtf8();
     sqlite3_result_text(context, key.constData(), static_cast<int>(key.size()), SQLITE_TRANSIENT);
 }
 
