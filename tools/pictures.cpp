@@ -1,7 +1,10 @@
 // Renders every screen, filled with believable data, to PNG: `pictures <folder> [font folder]`.
+#include "accounts/frmAccountBook.h"
 #include "accounts/frmAccountsList.h"
+#include "accounts/frmDayBook.h"
 #include "accounts/frmEditAccount.h"
 #include "accounts/frmTransiction.h"
+#include "accounts/rptAccountsBooks.h"
 #include "core/shell/frmAbout.h"
 #include "core/shell/frmLogin.h"
 #include "core/shell/frmMain.h"
@@ -13,6 +16,7 @@
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "core/store/Texts.h"
 #include "jobcards/JobCard.h"
 #include "jobcards/MODPrintJOBCARD.h"
 #include "jobcards/frmAddItem.h"
@@ -32,6 +36,8 @@
 #include "platform/forms/ListBox.h"
 #include "platform/forms/ListView.h"
 #include "platform/forms/Theme.h"
+#include "platform/report/Preview.h"
+#include "registers/frmDueRegister.h"
 #include "registers/frmSearchClient.h"
 #include "registers/frmWorkerJobRegister.h"
 #include "sample/SampleShop.h"
@@ -86,6 +92,30 @@ void showDueLines(forms::Screen& screen)
     screen.findChild<forms::DatePicker*>(u"DateFrom"_s)->setValue(session.WorkingDate.addDays(-2));
     screen.findChild<QPushButton*>(u"Command4"_s)->click();
     screen.findChild<forms::ListView*>(u"lvSummary"_s)->selectRow(2);
+}
+
+/// The account that shows best over the last half year: with most vouchers of the books.
+QString busyAccount(AccountType type)
+{
+    return value(u"Select Title from Accounts, Postings where accID=Accounts.ID and Type=%1 and vType=2 and "
+                 "Date>'2023-08-10' group by Title order by count(*) desc"_s.arg(int(type)))
+        .toString();
+}
+
+/// The last half year of an account's book, or the last days of the day book.
+void showDays(forms::Screen& screen, int days)
+{
+    screen.findChild<forms::DatePicker*>(u"DateFrom"_s)->setValue(session.WorkingDate.addDays(-days));
+    screen.findChild<QPushButton*>(u"Command4"_s)->click();
+    screen.findChild<forms::ListView*>(u"lvSummary"_s)->selectRow(2);
+}
+
+std::unique_ptr<report::Report> statement(bool withRemark)
+{
+    const QDate from = session.WorkingDate.addDays(-180);
+    const QString account = busyAccount(AccountType::Client);
+    return StatementPaper(AccountBook(GetAccountID(account), from, session.WorkingDate), account,
+                          dateText(from) + u" To "_s + dateText(session.WorkingDate), withRemark);
 }
 
 /// Calls `open`, which shows a screen modally; takes the picture of the screen in front, and closes it.
@@ -176,6 +206,16 @@ void takeAll()
     picture("job-card", [] { frmEditJOB().ShowEdit(showpiece()); });
     picture(
         "job-register", [] { frmWorkerJobRegister().showModal(); }, showDueLines);
+    picture(
+        "dues", [] { frmDueRegister().showModal(); },
+        [](forms::Screen& screen) { screen.findChild<forms::ListView*>(u"lvSummary"_s)->selectRow(2); });
+    picture(
+        "account-book", [] { frmAccountBook().ShowAccount(busyAccount(AccountType::Client)); },
+        [](forms::Screen& screen) { showDays(screen, 180); });
+    picture(
+        "day-book", [] { frmDayBook().showModal(); }, [](forms::Screen& screen) { showDays(screen, 3); });
+    picture("paper-statement", [] { report::Preview(*statement(false)).showModal(); });
+    picture("paper-statement-remark", [] { report::Preview(*statement(true)).showModal(); });
     picture("assign-job", [] { frmEditWorkerAssign().ShowEdit(shownLine()); });
     picture("paper-job-card", [] { PrintJobCard(showpiece()); });
     picture("paper-slip", [] { PrintWorkerSlip(shownLine()); });

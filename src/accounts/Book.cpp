@@ -61,7 +61,8 @@ void Book::show(const std::vector<BookLine>& lines)
     int found = -1;
     for (const BookLine& line : lines) {
         forms::ListView::Row row{line.cells, line.tag};
-        if (!line.isPosting()) {
+        row.apart = !line.isPosting();
+        if (row.apart) {
             for (int column = 0; column < int(line.cells.size()) - 1; ++column)
                 row.looks[column].bold = true;
         } else if (found < 0 && line.tag == selected) {
@@ -73,6 +74,14 @@ void Book::show(const std::vector<BookLine>& lines)
     m_list->setRows(std::move(rows));
     if (position >= 0)
         m_list->selectRow(found >= 0 ? found : std::min(position, last));
+}
+
+void Book::select(const QString& tag)
+{
+    for (int row = 0; row < m_list->rowCount(); ++row) {
+        if (m_list->tag(row) == tag)
+            m_list->selectRow(row);
+    }
 }
 
 void Book::openSelected()

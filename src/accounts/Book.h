@@ -27,6 +27,8 @@ protected:
     /// Puts the lines on the list, the rows of totals apart from the others. The voucher that was selected
     /// stays so; when it has gone, the row in its place.
     void show(const std::vector<BookLine>& lines);
+    /// Selects the row of a voucher, if the list has it.
+    void select(const QString& tag);
     /// Opens what stands behind the selected row.
     virtual void openSelected();
     /// Builds the list anew after a change, from days in order.

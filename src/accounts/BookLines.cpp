@@ -99,3 +99,26 @@ std::vector<BookLine> daybook::read(const QDate& from, const QDate& to)
     lines.push_back({{blank, blank, blank, u"Total Vouchers : %1"_s.arg(lines.size()), blank, blank}});
     return lines;
 }
+
+void stageStatement(const AccountBook& book)
+{
+    DE.connection().writeBatch([&book] {
+        DE.connection().Execute(u"Delete * from Accountbook"_s);
+        ado::Recordset& staged = DE.rsaccountbooks;
+        staged.Open(u"Select * from Accountbook"_s);
+        for (const BookLine& line : book.lines) {
+            if (!line.isPosting())
+                continue;
+            staged.AddNew();
+            staged["Date"] = line.cells[AccountBook::Date];
+            staged["VID"] = line.cells[AccountBook::Number];
+            staged["vaucher"] = line.cells[AccountBook::Voucher];
+            staged["particulars"] = line.cells[AccountBook::Particulars];
+            staged["debit"] = values::Val(line.cells[AccountBook::Debit]);
+            staged["credit"] = values::Val(line.cells[AccountBook::Credit]);
+            staged["Remark"] = line.cells[AccountBook::Remark];
+            staged.Update();
+        }
+        staged.Close();
+    });
+}

@@ -38,6 +38,10 @@ private:
     void addPostings(qint32 account, const QDate& from, const QDate& to);
 };
 
+/// Puts the postings of a book, as its lines tell them, in place of what is staged for the statement. One
+/// write batch. Throws ado::DatabaseError.
+void stageStatement(const AccountBook& book);
+
 /// The vouchers of some days, each once, by the account from which it was entered, and their number below
 /// them.
 namespace daybook {

@@ -3,7 +3,7 @@
 #include "platform/forms/Palette.h"
 #include "platform/report/Report.h"
 
-/// The hand in which all papers of a job are set. Lengths are twips.
+/// The hand in which all papers of the shop are set. Lengths are twips.
 namespace paper {
 
 /// A caption in the smaller, quieter type.

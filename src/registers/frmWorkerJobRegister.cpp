@@ -85,6 +85,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
     on(ui->mnuDel, &QAction::triggered, &frmWorkerJobRegister::markDelivered);
     on(ui->mnuJobFulPay, &QAction::triggered, &frmWorkerJobRegister::deliverWholeCard);
     on(ui->mnuOpenJobCard, &QAction::triggered, &frmWorkerJobRegister::openJobCard);
+    on(ui->openAcc, &QAction::triggered, &frmWorkerJobRegister::openClientAccount);
 }
 
 frmWorkerJobRegister::~frmWorkerJobRegister() = default;

@@ -69,6 +69,7 @@ private:
     void markDelivered();
     void deliverWholeCard();
     void openJobCard();
+    void openClientAccount();
     qint32 selectedLine() const;
     qint32 selectedJob() const;
     QString askLocation();

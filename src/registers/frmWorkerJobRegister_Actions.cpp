@@ -1,3 +1,4 @@
+#include "accounts/frmAccountBook.h"
 #include "core/store/DE.h"
 #include "core/store/Session.h"
 #include "jobcards/JobProgress.h"
@@ -34,6 +35,9 @@ void frmWorkerJobRegister::Form_KeyDown(int& key, Qt::KeyboardModifiers)
     switch (key) {
     case forms::key::F1:
         openJobCard();
+        break;
+    case forms::key::F2:
+        openClientAccount();
         break;
     case forms::key::F6:
         markCuttingDone();
@@ -177,4 +181,12 @@ void frmWorkerJobRegister::openJobCard()
 {
     if (const qint32 job = selectedJob(); job != 0)
         frmEditJOB().ShowEdit(job);
+}
+
+void frmWorkerJobRegister::openClientAccount()
+{
+    if (selectedLine() == 0)
+        return;
+    const QString client = ui->lvSummary->cell(ui->lvSummary->selectedRow(), ClientColumn);
+    openOnRow([&client] { frmAccountBook().ShowAccount(client); });
 }

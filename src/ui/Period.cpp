@@ -30,4 +30,6 @@ void Period::order()
         m_to->setValue(from());
 }
 
+QString Period::text() const { return dateText(from()) + u" To "_s + dateText(to()); }
+
 QString Period::between() const { return sqlDates(from(), to()); }

@@ -28,6 +28,8 @@ public:
     /// Moves an end that lies before the beginning up to it.
     void order();
 
+    /// "01-Feb-2024 To 10-Feb-2024".
+    QString text() const;
     /// The days between the marks of a statement: "#01-Feb-2024# and #10-Feb-2024#".
     QString between() const;
 

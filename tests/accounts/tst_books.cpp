@@ -1,10 +1,26 @@
 #include "accounts/BookLines.h"
-#include "accounts/VoucherTag.h"
+#include "accounts/frmAccountBook.h"
+#include "accounts/frmDayBook.h"
+#include "accounts/frmTransiction.h"
+#include "accounts/rptAccountsBooks.h"
+#include "core/shell/frmMenu.h"
+#include "core/store/Lookups.h"
 #include "core/store/Session.h"
+#include "core/store/Settings.h"
+#include "jobcards/frmEditJOB.h"
+#include "messaging/swSMS.h"
+#include "platform/report/Pages.h"
+#include "platform/report/Preview.h"
 #include "platform/values/Errors.h"
+#include "platform/values/Numbers.h"
+#include "registers/frmDueRegister.h"
+#include "support/Modem.h"
 #include "support/ShopTest.h"
 
+#include <QRandomGenerator>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -14,6 +30,27 @@ QString texts(const std::vector<BookLine>& lines)
     for (const BookLine& line : lines)
         rows << line.cells.join(u'|') + (line.isPosting() ? u" = " + line.tag : QString());
     return rows.join(u'\n');
+}
+
+forms::ListView& rows(QWidget& screen) { return listView(screen, "lvSummary"); }
+
+/// The column of a list, from top to bottom.
+QString column(QWidget& screen, int number)
+{
+    QStringList cells;
+    for (int row = 0; row < rows(screen).rowCount(); ++row)
+        cells << rows(screen).cell(row, number).trimmed();
+    return cells.join(u'|');
+}
+
+/// All the text of a paper, page by page.
+QStringList pagesOf(const report::Report& paper)
+{
+    const report::Pages pages(paper);
+    QStringList texts;
+    for (int page = 0; page < pages.count(); ++page)
+        texts << pages.texts(page).join(u'|');
+    return texts;
 }
 
 /// What both ends and the totals say.
@@ -72,6 +109,234 @@ private Q_SLOTS:
                                                              "10-Feb-2024|3|Receipt|Asha|200.00| = 3|2\n"
                                                              " | | |Total Vouchers : 2| | ");
         QCOMPARE(texts(daybook::read(day.addDays(1), day.addDays(2))), " | | |Total Vouchers : 0| | ");
+    }
+
+    /// From who owes, over the client's book, to the money, the paper and the message, without the mouse.
+    void theRestOfABillIsTaken()
+    {
+        QTemporaryDir devices;
+        Modem modem(devices.filePath("ttyUSB0"));
+        SetSetting(settings::ModemPort, "1");
+        SetSetting(settings::SmsTitle, "Needle & Co");
+        session.ShopName = "Needle & Co";
+        inModal<frmMenu>([&](frmMenu&) {
+            onNextModal<frmDueRegister>([&](frmDueRegister& dues) {
+                QCOMPARE(column(dues, 0) + column(dues, 1), "Asha300.50");
+                onNextModal<frmAccountBook>([&](frmAccountBook& book) {
+                    QCOMPARE(combo(book, "cmbType").text() + combo(book, "cmbAccount").text(), "ClientsAsha");
+                    QCOMPARE(focused(book), "lvSummary");
+                    prompts->expect("New Entry saved.");
+                    onNextModal<frmTransiction>([](frmTransiction& entry) {
+                        combo(entry, "cmbParticulars").setFocus();
+                        typeFields({"rec", "300.5", "cash"});
+                        save();
+                    });
+                    press(Qt::Key_A, Qt::AltModifier);
+                    QCOMPARE(column(book, 3) + column(book, 5),
+                             "Balance B/F|Cash|Cash|Current Total|200.00|300.50|500.50");
+                    QCOMPARE(focused(book), "lvSummary");
+                    QCOMPARE(rows(book).selectedRow(), 2); // what was entered
+
+                    onNextModal<frmTransiction>([&](frmTransiction& entry) {
+                        QCOMPARE(box(entry, "txtAmount").Text(), "300.50");
+                        prompts->expectAll({"Entry Updated."});
+                        fillIn(entry, "txtAmount", "300.25");
+                        save();
+                    });
+                    press(Qt::Key_Return);
+                    QCOMPARE(rows(book).selectedRow(), 2);
+                    press(Qt::Key_Down); // a total is nothing to open
+                    press(Qt::Key_Return);
+
+                    prompts->expect("Print Account Statement with Remark?", Answer::No);
+                    onNextModal<report::Preview>([](report::Preview&) {});
+                    combo(book, "cmbAccount").setText("ash"); // chosen since, and not viewed
+                    press(Qt::Key_P, Qt::AltModifier);
+                    QCOMPARE(Shop::rows("Select vid, vaucher, particulars, debit, credit from accountbook"),
+                             (QStringList{"3 Receipt Cash 0 200", "4 Receipt Cash 0 300.25"}));
+
+                    book.findChild<swSMS*>()->setDeviceFolder(devices.path());
+                    click(book, "Command2");
+                    QTRY_COMPARE(modem.heard(),
+                                 "AT+CMGF=1\rAT+CMGS=\"9812345678\"\rDear Customer\r Your Due Balance is : "
+                                 "Rs. -0.25\r\r\r (10-Feb-2024)\r\rNeedle & Co\x1a");
+                });
+                rows(dues).selectRow(0);
+                press(Qt::Key_Return);
+                QCOMPARE(column(dues, 1), "0.25"); // made anew on the way back
+                QCOMPARE(rows(dues).selectedRow(), 0);
+            });
+            press(Qt::Key_U, Qt::AltModifier);
+        });
+    }
+
+    /// As one look-up each says, to the last digit.
+    void theDuesAreTheBalances()
+    {
+        QRandomGenerator random(7);
+        for (int i = 0; i < 30; ++i) {
+            const qint32 client = shop->addClient(QString("Client %1").arg(i, 2, 10, QChar(u'0')));
+            for (int vid = 0; vid < i % 4; ++vid)
+                shop->addVoucher(100 * i + vid, client, cash, random.bounded(-20000, 20000) / 10000.0);
+        }
+        shop->addVoucher(1, shop->addClient("Almost"), cash, -0.004);
+        Shop::run("Update Postings set Date='1985-11-16' where VID=502");
+        Shop::run("Update Postings set Date='2024-02-11' where VID=602");
+        Shop::run("Update Postings set Status=1 where VID=702");
+        QStringList owed;
+        for (const QString& client : Shop::rows("Select ID from Accounts where Type=0 order by Title")) {
+            const Currency balance = Currency::fromDouble(GetBalance(client.toShort(), session.WorkingDate));
+            if (balance < Currency())
+                owed << client + values::Format((-balance).toDouble(), "0.00");
+        }
+        inModal<frmDueRegister>([&](frmDueRegister& dues) {
+            QStringList shown;
+            for (int row = 0; row < rows(dues).rowCount(); ++row)
+                shown << rows(dues).tag(row) + rows(dues).cell(row, 1);
+            QVERIFY(shown.size() > 5 && shown.first().endsWith("0.00"));
+            QCOMPARE(shown, owed);
+        });
+    }
+
+    void aBookIsChosenByKeys()
+    {
+        shop->addWorker("Ravi");
+        onNextModal<frmDayBook>([](frmDayBook&) {});
+        inModal<frmAccountBook>([&](frmAccountBook& book) {
+            QCOMPARE(focused(book), "cmbType");
+            press(Qt::Key_End);
+            QCOMPARE(combo(book, "cmbType").text(), "Accounts");
+            press(Qt::Key_Home);
+            press(Qt::Key_Down);
+            press(Qt::Key_Return);
+            typeText("ra");
+            QCOMPARE(combo(book, "cmbAccount").text(), "Ravi");
+            combo(book, "cmbType").setFocus();
+            press(Qt::Key_Down);
+            typeFields({{}, "ca", {}, {}});
+            QCOMPARE(focused(book), "Command4");
+            press(Qt::Key_Return);
+            QCOMPARE(column(book, 4), "|200.00|200.00|");
+            QCOMPARE(label(book, "lblShown"), "Cash  ·  10-Feb-2024 To 10-Feb-2024");
+            date(book, "DateFrom").setValue(day.addDays(-1));
+            press(Qt::Key_V, Qt::AltModifier);
+            QCOMPARE(column(book, 1), "2|3||");
+            Shop::run("Delete from Postings where VID=2");
+            press(Qt::Key_D, Qt::AltModifier);
+            QCOMPARE(column(book, 1), "3||"); // as the day book may have left it
+        });
+    }
+
+    void whatCannotBeShownIsRefused()
+    {
+        inModal<frmAccountBook>([&](frmAccountBook& book) {
+            click(book, "Command2"); // nobody to write to
+            for (const char* button : {"Command3", "Command4"}) {
+                prompts->expect("Please select Account!");
+                combo(book, "cmbAccount").setText("Nobody");
+                click(book, button);
+                QCOMPARE(focused(book), "cmbAccount");
+            }
+            prompts->expect("Please select Account!");
+            click(book, "Command2");
+            combo(book, "cmbAccount").setText("as");
+            date(book, "DateFrom").setValue(day.addDays(1));
+            prompts->expect("Invalid date selection!");
+            press(Qt::Key_V, Qt::AltModifier);
+            QCOMPARE(rows(book).rowCount(), 0);
+            date(book, "DateFrom").setValue(day);
+            press(Qt::Key_V, Qt::AltModifier);
+            QCOMPARE(combo(book, "cmbAccount").text(), "Asha");
+            prompts->expect("Modem Com Port Error!\r\nSMS Sending has been Failed.");
+            click(book, "Command2");
+
+            // What stood behind a row, then the account itself, is gone meanwhile.
+            prompts->expect("Voucher # 3 is no longer there.");
+            Shop::run("Delete from Postings where VID=3");
+            rows(book).selectRow(1);
+            press(Qt::Key_Return);
+            QCOMPARE(column(book, 4), "500.50|0.00|500.50");
+            prompts->expect("The account \"Asha\" is no longer there.");
+            Shop::run("Update Accounts set Title='Usha' where Title='Asha'");
+            press(Qt::Key_V, Qt::AltModifier);
+            QCOMPARE(rows(book).rowCount(), 0);
+            press(Qt::Key_Tab);
+            combo(book, "cmbAccount").setText("ush");
+            press(Qt::Key_V, Qt::AltModifier);
+            QCOMPARE(rows(book).rowCount(), 3);
+        });
+    }
+
+    void theDayBookOpensCardsAndVouchers()
+    {
+        Shop::run("Update Postings set vType=1 where VID=2");
+        inModal<frmDayBook>([&](frmDayBook& book) {
+            QCOMPARE(column(book, 3), "Asha|Total Vouchers : 1");
+            QVERIFY(rows(book).look(1, 3).bold && !rows(book).look(0, 3).bold);
+            date(book, "DateTo").setValue(day.addDays(-1));
+            prompts->expect("Invalid date selection!");
+            press(Qt::Key_V, Qt::AltModifier);
+            date(book, "DateFrom").setValue(day.addDays(-1));
+            press(Qt::Key_V, Qt::AltModifier);
+            QCOMPARE(column(book, 3), "Cash|Total Vouchers : 1");
+            rows(book).selectRow(1);
+            press(Qt::Key_Return); // the total is nothing to open
+            prompts->expect("Job card # 2 is no longer there.");
+            rows(book).selectRow(0);
+            press(Qt::Key_Return);
+            Shop::run(u"Insert into Jobs select 2, '2024-02-01', %1, 'Asha', '2024-02-20', null, "
+                      "'2024-02-15', 0, null, 0, 0, 0, '', 0, 0, ''"_s.arg(asha));
+            onNextModal<frmEditJOB>([](frmEditJOB&) {});
+            press(Qt::Key_Return);
+
+            date(book, "DateTo").setValue(day);
+            press(Qt::Key_V, Qt::AltModifier);
+            prompts->expect("Are you sure to delete entry?", Answer::Yes);
+            onNextModal<frmTransiction>([](frmTransiction&) { remove(); });
+            rows(book).selectRow(1);
+            press(Qt::Key_Return);
+            QCOMPARE(column(book, 3), "Cash|Total Vouchers : 1");
+        });
+    }
+
+    void theStatementOnPaper()
+    {
+        session.ShopName = "Needle & Co";
+        session.ShopAddress1 = "12 Cloth Lane";
+        session.ShopContacts = "0981";
+        AccountBook book(asha, day, day);
+        const QString remark = QString("remarkable ").repeated(900).trimmed();
+        const BookLine posting = book.lines[1];
+        book.lines.clear();
+        for (int vid = 1; vid <= 45; ++vid) {
+            book.lines.push_back(posting);
+            book.lines.back().cells[AccountBook::Number] = QString::number(vid);
+            if (vid < 30)
+                continue;
+            // Heads and number on each page, the totals with a row above them, every posting once.
+            const QStringList pages = pagesOf(*StatementPaper(book, "Asha", "A To B", vid % 2));
+            for (int page = 0; page < pages.size(); ++page) {
+                QVERIFY(pages[page].contains("Debit|Credit"));
+                QVERIFY(pages[page].endsWith(QString("Page %1 of %2").arg(page + 1).arg(pages.size())));
+            }
+            QCOMPARE(pages.join(u' ').count("|10-Feb-24|"), vid);
+            QVERIFY(pages.last().contains("10-Feb-24|"));
+            QVERIFY(pages.last().contains("Current Total|0.00|200.00"));
+        }
+        for (int row : {3, 44})
+            book.lines[row].cells[AccountBook::Remark] = remark;
+        const auto paper = StatementPaper(book, "Asha", "A To B", true);
+        QCOMPARE(pagesOf(*paper).first().section(u'|', 0, 3),
+                 "Needle & Co|12 Cloth Lane|0981|Account Statement");
+        QVERIFY(pagesOf(*paper).first().contains("500.5 Dr.") &&
+                pagesOf(*paper).first().contains("300.5 Dr."));
+        QCOMPARE(pagesOf(*paper).join(u' ').count("remarkable"), 1800);
+        QVERIFY(!pagesOf(*StatementPaper(book, "Asha", "A To B", false)).join(u' ').contains("remark"));
+        // Of a book that was never opened.
+        const QStringList none = pagesOf(*StatementPaper({}, {}, "A To B", true));
+        QCOMPARE(none.size(), 1);
+        QCOMPARE(none.first().count("None"), 2);
+        QCOMPARE(Shop::count("Select * from accountbook"), 0);
     }
 };
 

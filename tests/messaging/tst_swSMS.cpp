@@ -2,47 +2,13 @@
 #include "messaging/modSMS.h"
 #include "messaging/swSMS.h"
 #include "support/Files.h"
+#include "support/Modem.h"
 #include "support/ShopTest.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-
-#include <fcntl.h>
-#include <stdlib.h>
-#include <unistd.h>
-
-namespace {
-
-/// The modem's end of a pseudo-terminal that stands as a port in a folder of devices.
-class Modem
-{
-public:
-    explicit Modem(const QString& device)
-        : m_end(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
-    {
-        if (m_end < 0 || grantpt(m_end) != 0 || unlockpt(m_end) != 0 ||
-            !QFile::link(QFile::decodeName(ptsname(m_end)), device))
-            qFatal("no pseudo-terminal");
-    }
-    ~Modem() { ::close(m_end); } // hangs up
-
-    /// All that has arrived so far.
-    QByteArray heard()
-    {
-        char buffer[4096];
-        for (ssize_t got; (got = ::read(m_end, buffer, sizeof buffer)) > 0;)
-            m_heard.append(buffer, got);
-        return m_heard;
-    }
-
-private:
-    int m_end;
-    QByteArray m_heard;
-};
-
-} // namespace
 
 /// The wording of messages, what they look up, and their way through a real line to a modem that only
 /// listens.

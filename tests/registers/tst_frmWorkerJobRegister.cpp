@@ -1,3 +1,4 @@
+#include "accounts/frmAccountBook.h"
 #include "core/store/Session.h"
 #include "jobcards/frmEditJOB.h"
 #include "jobcards/frmEditWorkerAssign.h"
@@ -199,11 +200,15 @@ private Q_SLOTS:
             choose(screen, u"*All"_s);
 
             lines(screen).setFocus();
-            lines(screen).selectRow(1);
+            onNextModal<frmAccountBook>([](frmAccountBook& book) {
+                QCOMPARE(label(book, "lblShown"), u"Asha  ·  10-Feb-2024 To 10-Feb-2024"_s);
+            });
+            act(1, Qt::Key_F2);
+            QCOMPARE(lines(screen).selectedRow(), 1);
             auto& menu = control<QMenu>(screen, "mnuFile");
             press(Qt::Key_Menu);
             QTRY_VERIFY(menu.isVisible());
-            QVERIFY(!menu.actions().last()->isEnabled());
+            QVERIFY(menu.actions().last()->isEnabled());
             prompts->expect(u"Mark Item as Alteration?"_s, Answer::Yes);
             prompts->expectInput(u"Please specify location!"_s, u"B2"_s);
             for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})

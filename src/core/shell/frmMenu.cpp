@@ -1,7 +1,10 @@
 #include "core/shell/frmMenu.h"
 
+#include "accounts/frmAccountBook.h"
+#include "accounts/frmDayBook.h"
 #include "planning/frmRatings.h"
 #include "platform/forms/Icons.h"
+#include "registers/frmDueRegister.h"
 #include "ui_frmMenu.h"
 
 frmMenu::frmMenu()
@@ -9,7 +12,10 @@ frmMenu::frmMenu()
 {
     ui->setupUi(this);
     forms::applyIcons(*this, forms::iconInk);
+    opens<frmDueRegister>(ui->Command2);
+    opens<frmAccountBook>(ui->Command3);
     opens<frmRatings>(ui->Command5);
+    opens<frmDayBook>(ui->Command6);
     on(ui->Command8, &QPushButton::clicked, &frmMenu::unload);
 }
 

@@ -1,5 +1,7 @@
 #include "platform/forms/ListView.h"
 
+#include "platform/forms/Palette.h"
+
 #include <QAbstractTableModel>
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -33,6 +35,7 @@ public:
         QStyleOptionViewItem cell = option;
         initStyleOption(&cell, index);
         const QString text = std::exchange(cell.text, {}).left(longestShown);
+        painter->fillRect(cell.rect, cell.backgroundBrush);
         cell.state &= ~QStyle::State_HasFocus; // its frame would tint the row, which is marked as it is
         cell.features &= ~(QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration);
         cell.widget->style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
@@ -81,6 +84,8 @@ public:
             return alignment(index.column());
         if (role == Qt::SizeHintRole)
             return QSize(0, heightOfRow);
+        if (role == Qt::BackgroundRole && m_rows[size_t(index.row())].apart)
+            return QBrush(QColor(palette::shade));
         const QMap<int, Look>& looks = m_rows[size_t(index.row())].looks;
         const auto look = looks.constFind(index.column());
         return look == looks.cend() ? QVariant() : data(*look, role);

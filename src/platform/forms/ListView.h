@@ -38,6 +38,7 @@ public:
         QStringList cells; ///< those left out are empty
         QString tag = {};
         QMap<int, Look> looks = {}; ///< by column
+        bool apart = false;         ///< stands on a shade, as a total does
     };
 
     explicit ListView(QWidget* parent = nullptr);

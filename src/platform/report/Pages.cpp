@@ -34,6 +34,7 @@ private:
     PlacedBand compose(Band kind, const Row& row, Part part = Part::Whole) const;
     void emitSections(Band kind, const Row& row);
     void emitGroup(const Row& row);
+    void emitLastRow(const Row& row);
     void emitBand(PlacedBand band);
     void emitInParts(PlacedBand band);
     void startPage();
@@ -45,7 +46,7 @@ private:
     const Report& m_report;
     const Row m_first;
     const PlacedBand m_foot;
-    const double m_bottom;
+    double m_bottom;
     PlacedBand m_repeated; ///< what the group that is being printed repeats on each page
     double m_y = 0;
     double m_freshTop = 0; ///< where a page without a band of its own ends
@@ -82,10 +83,12 @@ std::vector<std::vector<Piece>> PageFiller::fill()
     startPage();
     emitSections(Band::ReportHead, m_first);
     for (const Row& row : m_report.rows()) {
-        if (isFlat())
-            emitSections(Band::Detail, row);
-        else
+        if (!isFlat())
             emitGroup(row);
+        else if (&row == &m_report.rows().back())
+            emitLastRow(row);
+        else
+            emitSections(Band::Detail, row);
     }
     emitSections(Band::ReportFoot, m_first);
     finish();
@@ -100,6 +103,19 @@ void PageFiller::emitGroup(const Row& row)
         emitSections(Band::Detail, detail);
     m_repeated = {};
     emitSections(Band::Foot, row);
+}
+
+/// Leaves room for the foot that is to stand below it.
+void PageFiller::emitLastRow(const Row& row)
+{
+    double kept = 0;
+    for (const auto& section : m_report.sections()) {
+        if (section->Kind == Band::ReportFoot && section->KeepsRow)
+            kept += layOut(*section, m_first, m_report).height;
+    }
+    m_bottom -= kept;
+    emitSections(Band::Detail, row);
+    m_bottom += kept;
 }
 
 void PageFiller::emitSections(Band kind, const Row& row)

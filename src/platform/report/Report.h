@@ -130,6 +130,8 @@ public:
     const Band Kind;
     int Height; ///< grows with its contents as the report is printed
     bool NewPageBefore = false;
+    /// Of a report foot behind a flat source: it never begins a page without the last row, or the end of it.
+    bool KeepsRow = false;
 
 private:
     template <typename Kind>

@@ -1,0 +1,178 @@
+#include "accounts/frmAccountBook.h"
+
+#include "accounts/VoucherTag.h"
+#include "accounts/frmDayBook.h"
+#include "accounts/frmTransiction.h"
+#include "accounts/rptAccountsBooks.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Settings.h"
+#include "core/store/Texts.h"
+#include "core/store/Voucher.h"
+#include "messaging/modSMS.h"
+#include "messaging/swSMS.h"
+#include "platform/forms/MessageBox.h"
+#include "platform/report/Preview.h"
+#include "platform/values/Numbers.h"
+#include "ui/ModOtherFUN.h"
+#include "ui/modLang.h"
+#include "ui_frmAccountBook.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// 0 for an account that is gone.
+qint32 idOf(const QString& title)
+{
+    const QVariant id = FieldValueExists(title, u"Title"_s, u"ID"_s, u"Accounts"_s, DE.rsaccounts);
+    DE.rsaccounts.Close();
+    return qMax(0, id.toInt());
+}
+
+} // namespace
+
+frmAccountBook::frmAccountBook()
+    : ui(std::make_unique<Ui::frmAccountBook>())
+    , swSMS1(new swSMS(this))
+{
+    ui->setupUi(this);
+    setBook(ui->lvSummary, {ui->DateFrom, ui->DateTo});
+    ui->lvSummary->setColumns({{u"Date"_s, 10, Qt::AlignLeft, 106},
+                               {u"VC #"_s, 8, Qt::AlignRight, 66},
+                               {u"Voucher"_s, 12, Qt::AlignLeft, 92},
+                               {u"Particulars"_s, 15, Qt::AlignLeft, 150},
+                               {u"Debit"_s, 15, Qt::AlignRight, 110},
+                               {u"Credit"_s, 15, Qt::AlignRight, 110},
+                               {u"Remark"_s, 24, Qt::AlignLeft, 120}});
+    ui->cmbType->AddItems({u"Clients"_s, u"Workers"_s, u"Accounts"_s}); // by AccountType
+
+    on(ui->cmbType, &forms::ComboBox::clicked, &frmAccountBook::loadList);
+    onKeyPress(ui->cmbType, [](int& key) { key = EnterAsTab(key); });
+    onKeyPress(ui->cmbAccount, [this](int& key) { key = EnterAsTab(AutoSearchCombo(*ui->cmbAccount, key)); });
+    for (forms::DatePicker* day : {ui->DateFrom, ui->DateTo})
+        onKeyPress(day, [](int& key) { key = EnterAsTab(key); });
+    on(ui->Command4, &QPushButton::clicked, &frmAccountBook::view);
+    on(ui->Command3, &QPushButton::clicked, &frmAccountBook::addEntry);
+    on(ui->Command5, &QPushButton::clicked, &frmAccountBook::printStatement);
+    on(ui->Command2, &QPushButton::clicked, &frmAccountBook::sendBalance);
+    on(ui->Command6, &QPushButton::clicked, &frmAccountBook::openDayBook);
+}
+
+frmAccountBook::~frmAccountBook() = default;
+
+// Opening
+
+void frmAccountBook::Form_Load()
+{
+    SetFormLanguage(*this);
+    Book::Form_Load();
+    ui->cmbType->setListIndex(0);
+    loadList();
+    ui->cmbType->setFocus();
+}
+
+void frmAccountBook::ShowAccount(const QString& title)
+{
+    load();
+    ui->cmbAccount->setText(title);
+    ExecuteSQL();
+    ui->lvSummary->setFocus();
+    showModal();
+}
+
+// Filling
+
+void frmAccountBook::loadList()
+{
+    ui->cmbAccount->Clear();
+    if (const int kind = ui->cmbType->ListIndex(); kind >= 0)
+        FillList(u"Title"_s, u"Accounts"_s, whereType(AccountType(kind)), *ui->cmbAccount, DE.rsaccounts);
+}
+
+void frmAccountBook::ExecuteSQL()
+{
+    const QString title = ComboFindIndex(*ui->cmbAccount) < 0 ? QString() : ui->cmbAccount->Text();
+    const qint32 id = title.isEmpty() ? 0 : idOf(title);
+    m_book = id == 0 ? AccountBook() : AccountBook(id, period.from(), period.to());
+    m_account = id == 0 ? QString() : title;
+    m_period = period.text();
+    show(m_book.lines);
+    ui->lblShown->setText(id == 0 ? QString() : m_account + u"  ·  "_s + m_period);
+    if (id == 0 && !title.isEmpty()) {
+        loadList();
+        forms::plainMessage(this, u"The account \"%1\" is no longer there."_s.arg(title));
+    }
+}
+
+// Commands
+
+/// Takes the entry that the operator has begun to type; refuses a text that begins none.
+bool frmAccountBook::accountChosen()
+{
+    if (ComboTakeEntry(*ui->cmbAccount))
+        return true;
+    forms::plainMessage(this, u"Please select Account!"_s);
+    ui->cmbAccount->setFocus();
+    return false;
+}
+
+void frmAccountBook::view()
+{
+    if (!period.accepted(this) || !accountChosen())
+        return;
+    ExecuteSQL();
+    ui->lvSummary->setFocus();
+}
+
+void frmAccountBook::addEntry()
+{
+    if (!accountChosen())
+        return;
+    const qint32 number = Voucher::NextEntryNumber();
+    qint16 saved = 0;
+    frmTransiction().ShowAddNew(ui->cmbAccount->Text(), saved);
+    if (saved == 0)
+        return;
+    refresh();
+    select(VoucherTag{number, VoucherType::Entry}.text());
+    ui->lvSummary->setFocus();
+}
+
+void frmAccountBook::openSelected()
+{
+    const int row = ui->lvSummary->selectedRow();
+    if (!ui->lvSummary->tag(row).isEmpty() && accountChosen())
+        Book::openSelected();
+}
+
+/// What was changed in the day book must not stand unchanged here.
+void frmAccountBook::openDayBook()
+{
+    frmDayBook().showModal();
+    if (!m_account.isEmpty())
+        refresh();
+}
+
+/// Tells the client the balance at the end of the days, with its sign: what is owed is negative.
+void frmAccountBook::sendBalance()
+{
+    if (ui->cmbAccount->Text().isEmpty() || !accountChosen())
+        return;
+    const QString title = ui->cmbAccount->Text();
+    const QDate day = period.to();
+    const double balance = GetBalance(values::toInt16(GetAccountID(title)), day);
+    SendSmsToClient(*swSMS1, title, 0,
+                    MakeDueBalanceSms(values::CStr(balance)) + u" ("_s + dateText(day) + u")\r\r"_s +
+                        GetSetting(settings::SmsTitle));
+}
+
+/// The paper says what the list shows, whatever has been chosen since.
+void frmAccountBook::printStatement()
+{
+    const bool withRemark = ShowMsg(u"Print Account Statement with Remark?"_s, 2);
+    const bool shown = !m_account.isEmpty();
+    const auto paper = StatementPaper(m_book, shown ? m_account : ui->cmbAccount->Text(),
+                                      shown ? m_period : period.text(), withRemark);
+    report::Preview(*paper).showModal();
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "accounts/Book.h"
+#include "accounts/BookLines.h"
+
+#include <memory>
+
+class swSMS;
+namespace Ui {
+class frmAccountBook;
+}
+
+/// The ledger of one account over some days: where the shop looks up what a client owes, what a worker is
+/// owed, what went through a ledger account. From here vouchers are entered and opened, the statement is
+/// printed and the client told of the balance.
+class frmAccountBook : public Book
+{
+    Q_OBJECT
+public:
+    frmAccountBook();
+    ~frmAccountBook() override;
+
+    /// Opens the book of a client on the working date.
+    void ShowAccount(const QString& title);
+    /// Fills the accounts of the kind chosen.
+    void loadList();
+    void ExecuteSQL() override;
+
+protected:
+    void Form_Load() override;
+    void openSelected() override;
+
+private:
+    bool accountChosen();
+    void view();
+    void addEntry();
+    void openDayBook();
+    void sendBalance();
+    void printStatement();
+
+    const std::unique_ptr<Ui::frmAccountBook> ui;
+    swSMS* const swSMS1;
+    AccountBook m_book; ///< on the list, with its balances
+
+    // What the book on the list is of; empty before the first view.
+    QString m_account;
+    QString m_period;
+};

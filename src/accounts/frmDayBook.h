@@ -1,0 +1,28 @@
+#pragma once
+
+#include "accounts/Book.h"
+
+#include <memory>
+
+namespace Ui {
+class frmDayBook;
+}
+
+/// All vouchers of some days in order of date, one row each.
+class frmDayBook : public Book
+{
+    Q_OBJECT
+public:
+    frmDayBook();
+    ~frmDayBook() override;
+
+    void ExecuteSQL() override;
+
+protected:
+    void Form_Load() override;
+
+private:
+    void view();
+
+    const std::unique_ptr<Ui::frmDayBook> ui;
+};

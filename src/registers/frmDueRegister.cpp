@@ -1,0 +1,83 @@
+#include "registers/frmDueRegister.h"
+
+#include "accounts/frmAccountBook.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
+#include "core/store/Texts.h"
+#include "platform/forms/ListView.h"
+#include "platform/values/Currency.h"
+#include "ui/modLang.h"
+#include "ui_frmDueRegister.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double heightOfScreen = 0.97;
+
+} // namespace
+
+frmDueRegister::frmDueRegister()
+    : ui(std::make_unique<Ui::frmDueRegister>())
+{
+    ui->setupUi(this);
+    ui->lvSummary->setColumns({{u"Client"_s, 70}, {u"Due Amount"_s, 25, Qt::AlignRight, 120}});
+    on(ui->lvSummary, &forms::ListView::dblClicked, &frmDueRegister::openAccount);
+    onKeyDown(ui->lvSummary, [this](int& key) {
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        openAccount();
+    });
+}
+
+frmDueRegister::~frmDueRegister() = default;
+
+void frmDueRegister::Form_Load()
+{
+    SetFormLanguage(*this);
+    useScreenHeight(heightOfScreen);
+    ui->lvSummary->setFocus();
+}
+
+/// Whoever comes back from an account reads what is owed now, on the client that was opened.
+void frmDueRegister::Form_Activate()
+{
+    forms::ListView& list = *ui->lvSummary;
+    const int position = list.selectedRow();
+    const QString selected = list.tag(position);
+    ExcuteSQl();
+    if (position < 0)
+        return;
+    int row = 0;
+    while (row < list.rowCount() && list.tag(row) != selected)
+        ++row;
+    list.selectRow(row < list.rowCount() ? row : std::min(position, list.rowCount() - 1));
+}
+
+void frmDueRegister::ExcuteSQl()
+{
+    ui->lvSummary->Clear();
+    const QString clients = whereType(AccountType::Client);
+    const QHash<qint32, double> balances =
+        GetBalances(u"Select ID from Accounts"_s + clients, session.WorkingDate);
+    std::vector<forms::ListView::Row> rows;
+    ado::Recordset& accounts = DE.rsaccounts;
+    for (accounts.Open(u"Select * from Accounts"_s + clients + u" order by Title"_s); !accounts.AtEOF();
+         accounts.MoveNext()) {
+        const qint32 id = accounts["ID"].integer();
+        const Currency balance = Currency::fromDouble(balances.value(id));
+        if (balance < Currency())
+            rows.push_back(
+                {{accounts["Title"].text(), moneyText((-balance).toDouble())}, QString::number(id)});
+    }
+    accounts.Close();
+    ui->lvSummary->setRows(std::move(rows));
+}
+
+void frmDueRegister::openAccount()
+{
+    if (const int row = ui->lvSummary->selectedRow(); row >= 0)
+        frmAccountBook().ShowAccount(ui->lvSummary->cell(row, 0));
+}
