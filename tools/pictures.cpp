@@ -3,8 +3,11 @@
 #include "accounts/frmAccountsList.h"
 #include "accounts/frmDayBook.h"
 #include "accounts/frmEditAccount.h"
+#include "accounts/frmPayrollDetails.h"
 #include "accounts/frmTransiction.h"
+#include "accounts/frmWorkerWagesRegister.h"
 #include "accounts/rptAccountsBooks.h"
+#include "accounts/rptWagesRegister.h"
 #include "core/shell/frmAbout.h"
 #include "core/shell/frmLogin.h"
 #include "core/shell/frmMain.h"
@@ -32,6 +35,7 @@
 #include "planning/frmFeedBack.h"
 #include "planning/frmRatings.h"
 #include "planning/frmWorkerReport2.h"
+#include "platform/forms/ComboBox.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/ListBox.h"
 #include "platform/forms/ListView.h"
@@ -108,6 +112,25 @@ void showDays(forms::Screen& screen, int days)
     screen.findChild<forms::DatePicker*>(u"DateFrom"_s)->setValue(session.WorkingDate.addDays(-days));
     screen.findChild<QPushButton*>(u"Command4"_s)->click();
     screen.findChild<forms::ListView*>(u"lvSummary"_s)->selectRow(2);
+}
+
+/// The largest payroll, and whom it pays.
+qint32 payrollShown()
+{
+    return value(u"Select VID from Postings where isPayroll=1 and sr=1 order by Amount desc"_s).toInt();
+}
+QString payrollWorker()
+{
+    return value(u"Select Title from Accounts, Postings where Accounts.ID=accID and sr=1 and vType=2 and "
+                 "VID=%1"_s.arg(payrollShown()))
+        .toString();
+}
+
+/// A month of that worker, paid and unpaid.
+void showWages(forms::Screen& screen)
+{
+    screen.findChild<forms::ComboBox*>(u"cmbClient"_s)->setText(payrollWorker());
+    showDays(screen, 30);
 }
 
 std::unique_ptr<report::Report> statement(bool withRemark)
@@ -202,6 +225,17 @@ void takeAll()
     picture("voucher", [] {
         qint16 saved = 0;
         frmTransiction().ShowAddNew(client(), saved);
+    });
+    picture("payroll", [] {
+        qint16 saved = 0;
+        frmTransiction().ShowEdit(payrollShown(), saved);
+    });
+    picture("payroll-details", [] { frmPayrollDetails().ExecuteSQL(payrollWorker(), payrollShown()); });
+    picture(
+        "wages-register", [] { frmWorkerWagesRegister().showModal(); }, showWages);
+    picture("paper-wages", [] {
+        report::Preview(*wagesPaper(wages::read(wages::linesOfPayroll(payrollShown())), payrollWorker()))
+            .showModal();
     });
     picture("job-card", [] { frmEditJOB().ShowEdit(showpiece()); });
     picture(

@@ -14,14 +14,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Marks the lines as paid, if each of them is still owed as it was listed.
-void markPaid(const wages::Period& period, const std::vector<wages::Line>& lines, qint16 number)
+void markPaid(const wages::Scope& scope, const std::vector<wages::Line>& lines, qint16 number)
 {
     QHash<qint32, const wages::Line*> listed;
     for (const wages::Line& line : lines)
         listed.insert(line.id, &line);
     ado::Recordset& owed = DE.rsJOBS_DETAIL;
     const auto closed = qScopeGuard([&owed] { owed.Close(); });
-    for (owed.Open(wages::linesOf(period, wages::Which::Unpaid)); !owed.AtEOF(); owed.MoveNext()) {
+    for (owed.Open(wages::linesOf(scope, wages::Which::Unpaid)); !owed.AtEOF(); owed.MoveNext()) {
         const auto line = listed.constFind(owed["ID"].integer());
         if (line == listed.cend() || (*line)->wage != owed["WorkerWagesDue"].money())
             continue;
@@ -32,27 +32,26 @@ void markPaid(const wages::Period& period, const std::vector<wages::Line>& lines
     for (const wages::Line& line : lines)
         if (listed.contains(line.id))
             throw OperatorError(u"Job %1 has been paid, changed or deleted since these lines were listed.\n"
-                                "No payroll has been made: view the lines again, "
-                                "then make the payroll."_s.arg(line.job));
+                                "View the lines again, then make the payroll."_s.arg(line.job));
     owed.UpdateBatch();
 }
 
 } // namespace
 
-qint16 payroll::Create(const wages::Period& period, const std::vector<wages::Line>& lines, const QDate& date)
+qint16 payroll::Create(const wages::Scope& scope, const std::vector<wages::Line>& lines, const QDate& date)
 {
     const QString total = moneyText(lines.back().balance.toDouble());
     qint16 number = 0;
     DE.connection().writeBatch([&] {
         number = Voucher::NextPayrollNumber();
-        markPaid(period, lines, number);
+        markPaid(scope, lines, number);
         const PostingPair pair{
             .particulars = u"Wages"_s,
             .date = date,
-            .account = period.worker,
+            .account = scope.worker,
             .opposite = GetAccountID(u"Wages"_s),
             .amount = Currency::fromDouble(values::Val(total), u"Amount"_s),
-            .remark = u"Wages [ From :%1 To %2 ]"_s.arg(dateText(period.from), dateText(period.to))};
+            .remark = u"Wages [ From :%1 To %2 ]"_s.arg(dateText(scope.from), dateText(scope.to))};
         Voucher(VoucherType::Entry, number).AddPair(pair, {.payroll = true});
     });
     return number;

@@ -10,7 +10,7 @@ namespace payroll {
 /// commit. `lines` are the unpaid ones of the period as they were listed, one at least; `date` is the
 /// voucher's. Returns its number. Throws OperatorError, with nothing written, when one of the lines is no
 /// longer owed as it was listed, and OverflowError when there is no number left.
-qint16 Create(const wages::Period& period, const std::vector<wages::Line>& lines, const QDate& date);
+qint16 Create(const wages::Scope& scope, const std::vector<wages::Line>& lines, const QDate& date);
 
 /// The lines that the payroll covered are unpaid again. Write within a write batch. Throws
 /// ado::DatabaseError.

@@ -13,10 +13,10 @@ namespace wages {
 namespace {
 
 /// The condition on worker, days and state.
-QString within(const Period& period)
+QString within(const Scope& scope)
 {
     return u"WorkerID=%1 and date between %2 and %3 and  DoneByWorker>0 "_s.arg(
-        QString::number(period.worker), sqlDate(period.from), sqlDate(period.to));
+        QString::number(scope.worker), sqlDate(scope.from), sqlDate(scope.to));
 }
 
 QString markedAs(Which which)
@@ -45,9 +45,9 @@ QStringList Line::cells() const
             paid ? u"Paid"_s : u"Unpaid"_s};
 }
 
-QString linesOf(const Period& period, Which which)
+QString linesOf(const Scope& scope, Which which)
 {
-    return u"Select * from JOBS_Detail where "_s + markedAs(which) + within(period) + u" order by date,id"_s;
+    return u"Select * from JOBS_Detail where "_s + markedAs(which) + within(scope) + u" order by date,id"_s;
 }
 
 QString linesOfPayroll(qint32 number)
@@ -80,11 +80,11 @@ std::vector<Line> read(const QString& statement)
     return lines;
 }
 
-QHash<qint32, qint32> itemCounts(const Period& period)
+QHash<qint32, qint32> itemCounts(const Scope& scope)
 {
     QHash<qint32, qint32> counts;
     ado::Recordset& counted = DE.rsJOBS_DETAIL2;
-    for (counted.Open(u"Select ItemID, count(QNT) from JOBS_Detail where "_s + within(period) +
+    for (counted.Open(u"Select ItemID, count(QNT) from JOBS_Detail where "_s + within(scope) +
                       u"group by ItemID"_s);
          !counted.AtEOF(); counted.MoveNext())
         counts.insert(counted[0].integer(), counted[1].integer());

@@ -16,13 +16,13 @@ namespace wages {
 enum class Which { All, Unpaid, Paid };
 
 /// One worker's work of some days, both ends included.
-struct Period
+struct Scope
 {
     qint32 worker = 0;
     QDate from;
     QDate to;
 
-    bool operator==(const Period&) const = default;
+    bool operator==(const Scope&) const = default;
 };
 
 struct Line
@@ -42,13 +42,13 @@ struct Line
 };
 
 /// The statements that find the lines of a period, by day, and those that a payroll has paid.
-QString linesOf(const Period& period, Which which);
+QString linesOf(const Scope& scope, Which which);
 QString linesOfPayroll(qint32 number);
 /// The lines that a statement finds. Throws ado::NoCurrentRecordError for a line whose item is gone.
 std::vector<Line> read(const QString& statement);
 
 /// How many lines of each item the worker made in the period, paid or not; by the item's id.
-QHash<qint32, qint32> itemCounts(const Period& period);
+QHash<qint32, qint32> itemCounts(const Scope& scope);
 
 /// Puts the lines into the table that their paper is printed from, in place of what lay there.
 void stage(const std::vector<Line>& lines);

@@ -3,6 +3,7 @@
 #include "accounts/VoucherTag.h"
 #include "accounts/frmDayBook.h"
 #include "accounts/frmTransiction.h"
+#include "accounts/frmWorkerWagesRegister.h"
 #include "accounts/rptAccountsBooks.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
@@ -56,6 +57,7 @@ frmAccountBook::frmAccountBook()
     on(ui->Command3, &QPushButton::clicked, &frmAccountBook::addEntry);
     on(ui->Command5, &QPushButton::clicked, &frmAccountBook::printStatement);
     on(ui->Command2, &QPushButton::clicked, &frmAccountBook::sendBalance);
+    on(ui->Command1, &QPushButton::clicked, &frmAccountBook::openWages);
     on(ui->Command6, &QPushButton::clicked, &frmAccountBook::openDayBook);
 }
 
@@ -150,6 +152,14 @@ void frmAccountBook::openSelected()
 void frmAccountBook::openDayBook()
 {
     frmDayBook().showModal();
+    if (!m_account.isEmpty())
+        refresh();
+}
+
+/// A payroll made there credits the worker whose book this may be.
+void frmAccountBook::openWages()
+{
+    frmWorkerWagesRegister().showModal();
     if (!m_account.isEmpty())
         refresh();
 }

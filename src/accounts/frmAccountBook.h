@@ -34,6 +34,7 @@ private:
     bool accountChosen();
     void view();
     void addEntry();
+    void openWages();
     void openDayBook();
     void sendBalance();
     void printStatement();

@@ -1,6 +1,7 @@
 #include "accounts/frmTransiction.h"
 
 #include "accounts/Payroll.h"
+#include "accounts/frmPayrollDetails.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/SerialNumber.h"
@@ -62,6 +63,8 @@ frmTransiction::frmTransiction()
     on(ui->Command1, &QPushButton::clicked, &frmTransiction::save);
     on(ui->Command2, &QPushButton::clicked, &frmTransiction::remove);
     on(ui->Command3, &QPushButton::clicked, [this] { unload(); });
+    on(ui->Command4, &QPushButton::clicked,
+       [this] { frmPayrollDetails().ExecuteSQL(ui->cmbAccount->text(), EntryID); });
 }
 
 frmTransiction::~frmTransiction() = default;

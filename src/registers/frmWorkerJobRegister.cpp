@@ -8,11 +8,11 @@
 #include "platform/values/Numbers.h"
 #include "registers/JobLines.h"
 #include "registers/frmSearchClient.h"
+#include "ui/DetailsPanel.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
 #include "ui_frmWorkerJobRegister.h"
 
-#include <QHeaderView>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -46,8 +46,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
     ui->cmbCondition->AddItems({u"*All"_s, u"Completed"_s, u"Uncompleted"_s, u"Delivered"_s, u"Alteration"_s,
                                 u"Canceled"_s, u"Assigned"_s, u"Not Assigned"_s, u"Cutting Done"_s,
                                 u"Cutting Not Done"_s});
-    ui->picDetails->hide();
-    ui->listArea->installEventFilter(this);
+    m_details = new DetailsPanel(ui->picDetails, ui->lvSummary, ui->Command1, ui->Image1);
 
     on(ui->txtSearchID, &QLineEdit::textChanged, [this](const QString& text) {
         if (text.isEmpty())
@@ -68,8 +67,6 @@ frmWorkerJobRegister::frmWorkerJobRegister()
     });
     on(ui->Command8, &QPushButton::clicked, &frmWorkerJobRegister::quickFind);
     on(ui->Command3, &QPushButton::clicked, &frmWorkerJobRegister::showOverview);
-    on(ui->Command1, &QPushButton::clicked, [this] { showDetails(true); });
-    on(ui->Image1, &QPushButton::clicked, [this] { showDetails(false); });
 
     on(ui->lvSummary, &forms::ListView::dblClicked, &frmWorkerJobRegister::openLine);
     onKeyDown(ui->lvSummary, [this](int& key) {
@@ -101,13 +98,6 @@ void frmWorkerJobRegister::Form_Load()
     ui->lvSummary->setFocus();
     // A line that cannot be shown must not keep the register shut.
     forms::guarded(this, [this] { ExecuteSQL(); });
-}
-
-bool frmWorkerJobRegister::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == ui->listArea && event->type() == QEvent::Resize)
-        placeDetails();
-    return LineRegister::eventFilter(watched, event);
 }
 
 // Filling
@@ -279,23 +269,4 @@ void frmWorkerJobRegister::showOverview()
         return;
     ui->cmbClient->setText(worker);
     view();
-}
-
-void frmWorkerJobRegister::showDetails(bool show)
-{
-    ui->picDetails->setVisible(show);
-    placeDetails();
-    (show ? static_cast<QWidget*>(ui->Image1) : ui->lvSummary)->setFocus();
-}
-
-/// The panel lies over the list, at its right edge, below the headings.
-void frmWorkerJobRegister::placeDetails()
-{
-    constexpr QSize largest(340, 420);
-    constexpr int margin = 16; // the list's scroll bar stays free
-    const QRect list = ui->lvSummary->geometry();
-    const int top = list.top() + ui->lvSummary->header()->height() + margin / 2;
-    const QSize size = largest.boundedTo(QSize(list.width() - 2 * margin, list.bottom() - margin - top));
-    ui->picDetails->setGeometry(QRect(QPoint(list.right() - margin - size.width(), top), size));
-    ui->picDetails->raise();
 }

@@ -11,6 +11,7 @@ class frmWorkerJobRegister;
 namespace ado {
 class Recordset;
 }
+class DetailsPanel;
 class LineNames;
 
 /// The job register, the shop's main work list: item lines of job cards by worker, dates, state, card or
@@ -38,7 +39,6 @@ protected:
     void Form_Load() override;
     void Form_KeyPress(int& key) override;
     void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void applyCondition(const QString& condition) override;
 
 private:
@@ -57,8 +57,6 @@ private:
     void typeJobId(int& key);
     void quickFind();
     void showOverview();
-    void showDetails(bool show);
-    void placeDetails();
 
     // Actions on the selected row
     void openLine();
@@ -78,6 +76,7 @@ private:
     void writeDelivered(qint32 job);
 
     const std::unique_ptr<Ui::frmWorkerJobRegister> ui;
+    DetailsPanel* m_details;
     QString DateField = u"Date"_s; ///< the column that the dates range over
     QString SearchClient;          ///< the client that Quick Find gave
 };

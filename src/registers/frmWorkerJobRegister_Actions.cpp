@@ -7,6 +7,7 @@
 #include "platform/forms/MessageBox.h"
 #include "platform/values/Numbers.h"
 #include "registers/frmWorkerJobRegister.h"
+#include "ui/DetailsPanel.h"
 #include "ui/ModOtherFUN.h"
 #include "ui_frmWorkerJobRegister.h"
 
@@ -19,7 +20,7 @@ void frmWorkerJobRegister::Form_KeyPress(int& key)
     LineRegister::Form_KeyPress(key);
     switch (key) {
     case forms::key::CtrlD:
-        showDetails(true);
+        m_details->setOpen(true);
         break;
     case forms::key::CtrlF:
         quickFind();

@@ -25,7 +25,7 @@ struct WorkShop : Shop
         run("Update Jobs_Detail set DoneByWorker=0 where ID=2");
         run("Update Jobs_Detail set Date='2024-02-09' where ID>2");
     }
-    wages::Period period(int days = 1) const
+    wages::Scope period(int days = 1) const
     {
         return {ravi, QDate(2024, 2, 10).addDays(1 - days), QDate(2024, 2, 10)};
     }
@@ -140,6 +140,22 @@ private Q_SLOTS:
             qPrintable(told));
         QCOMPARE(marks(), noMarks);
         QCOMPARE(Shop::count("Select * from Postings"), 2);
+    }
+
+    void aRefusedStatementLeavesNothing()
+    {
+        const WorkShop shop;
+        for (const char* refused :
+             {"BEFORE INSERT ON postings WHEN NEW.Sr=2", "BEFORE INSERT ON postings",
+              "BEFORE UPDATE ON JOBS_DETAIL WHEN NEW.Id=1", "BEFORE UPDATE ON JOBS_DETAIL WHEN NEW.Id=3"}) {
+            Shop::run(QString("CREATE TEMP TRIGGER no %1 BEGIN SELECT RAISE(FAIL, 'refused'); END")
+                          .arg(QLatin1String(refused)));
+            QVERIFY(refusal([&] { shop.pay(); }).endsWith("refused"));
+            Shop::run("DROP TRIGGER no");
+            QCOMPARE(marks(), noMarks);
+            QCOMPARE(Shop::count("Select * from Postings"), 0);
+        }
+        QCOMPARE(shop.pay(), qint16(1));
     }
 };
 

@@ -2,6 +2,7 @@
 
 #include "accounts/frmAccountBook.h"
 #include "accounts/frmDayBook.h"
+#include "accounts/frmWorkerWagesRegister.h"
 #include "planning/frmRatings.h"
 #include "platform/forms/Icons.h"
 #include "registers/frmDueRegister.h"
@@ -16,6 +17,7 @@ frmMenu::frmMenu()
     opens<frmAccountBook>(ui->Command3);
     opens<frmRatings>(ui->Command5);
     opens<frmDayBook>(ui->Command6);
+    opens<frmWorkerWagesRegister>(ui->Command7);
     on(ui->Command8, &QPushButton::clicked, &frmMenu::unload);
 }
 

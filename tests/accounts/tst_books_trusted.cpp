@@ -1,0 +1,295 @@
+#include "accounts/Payroll.h"
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
+#include "core/store/Voucher.h"
+#include "jobcards/JobCard.h"
+#include "jobcards/JobProgress.h"
+#include "support/Shop.h"
+
+#include <QDeadlineTimer>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <map>
+
+namespace {
+
+const QStringList kinds{"Payment", "Purchase", "Receipt", "Sales", "Wages"};
+
+/// A shop on random days, and beside it what its books must say, kept in the simplest way: the cards and
+/// entries that there are.
+class Days
+{
+public:
+    Days()
+    {
+        for (const char* title : {"Asha", "Bela", "Chand"})
+            clients << shop.addClient(title);
+        for (const char* title : {"Ravi", "Suresh"})
+            workers << shop.addWorker(title);
+        shop.addItem("Shirt", 300, 120.25);
+        shop.addItem("Suit", 2400, 0.1);
+        for (const char* title : {"Wages", "Sales", "Purchase", "Cash"})
+            accounts << GetAccountID(title);
+        accounts << clients << workers;
+    }
+
+    void pass()
+    {
+        day = day.addDays(1);
+        session.WorkingDate = day;
+        for (int what = 3 + random.bounded(4); what > 0; --what)
+            work();
+    }
+    void check();
+
+private:
+    struct Card
+    {
+        qint32 client;
+        Currency total;
+        Currency paid;
+        bool cancelled;
+    };
+    struct Entry
+    {
+        qint32 main;
+        qint32 ref;
+        Currency amount;
+        bool payroll;
+        Currency gone; ///< wages that it paid for lines which are no longer there
+    };
+
+    template <typename T>
+    T any(const QList<T>& of)
+    {
+        return of[random.bounded(int(of.size()))];
+    }
+    template <typename Map>
+    qint32 anyKey(const Map& map)
+    {
+        return std::next(map.begin(), random.bounded(int(map.size())))->first;
+    }
+    Currency money(int most) { return Currency::fromUnits(100 * (1 + random.bounded(most * 100))); }
+
+    void work()
+    {
+        switch (random.bounded(10)) {
+        case 0:
+        case 1:
+            return saveCard(JobCard());
+        case 2:
+            return changeCard();
+        case 3:
+            return makeGarments();
+        case 4:
+            return enter(Voucher::NextEntryNumber(), false);
+        case 5:
+            return changeEntry();
+        case 6:
+        case 7:
+            return makePayroll();
+        case 8:
+            return deleteEntry();
+        default:
+            return deleteCard();
+        }
+    }
+
+    // Cards
+    void addLine(JobCard& card)
+    {
+        const QString item = random.bounded(2) ? "Shirt" : "Suit";
+        card.JobRows.AddNewRow(0, item, GetItemID(item), 1, 1, 1, {}, "Length", "40", 0, {}, {}, {}, {}, {},
+                               0, 0, 0, {}, {}, {}, {}, 0, {}, {});
+    }
+    void saveCard(JobCard card)
+    {
+        const bool isNew = card.EditMode == RecordMode::New;
+        if (isNew || random.bounded(2))
+            addLine(card);
+        JobCardHead head;
+        head.Number = JobCard::GetNewNum();
+        head.Date = head.DeliveryDate = head.TrialDate = day.addDays(-random.bounded(5));
+        const qint32 client = any(clients);
+        head.Client = GetAccountTitle(client);
+        head.Total = money(3000);
+        head.Paid = random.bounded(3) ? money(1000) : Currency();
+        head.ReceiptAccount = "Cash";
+        head.Cancelled = random.bounded(8) == 0;
+        isNew ? card.SaveNew(head) : card.SaveEdit(head);
+        cards[card.CurrentJobID] = {client, head.Total, head.Paid, head.Cancelled};
+    }
+    void changeCard()
+    {
+        if (cards.empty())
+            return;
+        JobCard card;
+        card.EditMode = RecordMode::Stored;
+        card.CurrentJobID = anyKey(cards);
+        card.LoadLines();
+        if (card.JobRows.RowCount() > 1 && random.bounded(2)) {
+            forget(QString("id=%1").arg(card.JobRows.Sr(1)));
+            card.RemoveLine(1);
+        }
+        saveCard(std::move(card));
+    }
+    void deleteCard()
+    {
+        if (cards.size() < 4)
+            return;
+        JobCard card;
+        card.EditMode = RecordMode::Stored;
+        card.CurrentJobID = anyKey(cards);
+        forget(QString("JobID=%1").arg(card.CurrentJobID));
+        card.Delete();
+        cards.erase(card.CurrentJobID);
+    }
+    /// Lines go that a payroll may have paid: its money stays paid.
+    void forget(const QString& lines)
+    {
+        ado::Recordset line(DE.connection());
+        for (line.Open("Select * from Jobs_Detail where MarkAsPaid=1 and " + lines); !line.AtEOF();
+             line.MoveNext())
+            if (const auto entry = entries.find(line["PayrollID"].integer()); entry != entries.end())
+                entry->second.gone += line["WorkerWagesDue"].money();
+    }
+    void makeGarments()
+    {
+        if (cards.empty())
+            return;
+        const qint32 job = anyKey(cards);
+        ado::Recordset line(DE.connection());
+        for (line.Open(QString("Select * from Jobs_Detail where JobID=%1").arg(job)); !line.AtEOF();
+             line.MoveNext()) {
+            if (line["MarkAsPaid"].integer() == 0)
+                line["WorkerID"] = any(workers);
+            enterState(line, LineState(1 + random.bounded(3)), day);
+        }
+        line.UpdateBatch();
+        if (random.bounded(4) == 0)
+            deliverCard(job, day);
+    }
+
+    // Entries
+    void enter(qint32 number, bool stored)
+    {
+        Entry entry{any(accounts), any(accounts), money(5000), false, {}};
+        while (entry.ref == entry.main)
+            entry.ref = any(accounts);
+        if (random.bounded(2))
+            entry.amount = -entry.amount;
+        DE.connection().writeBatch([&] {
+            const PostingPair pair{
+                any(kinds), day.addDays(-random.bounded(9)), entry.main, entry.ref, entry.amount, "remark"};
+            Voucher voucher(VoucherType::Entry, number);
+            stored ? voucher.ChangePair(pair) : voucher.AddPair(pair);
+        });
+        entries[number] = entry;
+    }
+    void changeEntry()
+    {
+        if (const qint32 number = entries.empty() ? 0 : anyKey(entries);
+            number > 0 && !entries[number].payroll)
+            enter(number, true);
+    }
+    void deleteEntry()
+    {
+        if (entries.size() < 4)
+            return;
+        const qint32 number = anyKey(entries);
+        DE.connection().writeBatch([&] {
+            if (entries[number].payroll)
+                payroll::Release(number);
+            Voucher(VoucherType::Entry, number).Delete();
+        });
+        entries.erase(number);
+    }
+    void makePayroll()
+    {
+        const wages::Scope scope{any(workers), day.addDays(-random.bounded(15)), day};
+        const std::vector<wages::Line> lines = wages::read(wages::linesOf(scope, wages::Which::Unpaid));
+        if (lines.empty())
+            return;
+        const qint16 number = payroll::Create(scope, lines, day);
+        QVERIFY(!entries.contains(number));
+        entries[number] = {scope.worker, GetAccountID("Wages"), lines.back().balance, true, {}};
+    }
+
+    double owed(qint32 account) const
+    {
+        const qint32 sales = GetAccountID("Sales");
+        const qint32 cash = GetAccountID("Cash");
+        Currency sum;
+        const auto move = [&](qint32 credited, qint32 debited, Currency amount) {
+            if (account == credited)
+                sum += amount;
+            if (account == debited)
+                sum += -amount;
+        };
+        for (const auto& [number, card] : cards) {
+            if (card.cancelled)
+                continue;
+            move(sales, card.client, card.total);
+            move(card.client, cash, card.paid);
+        }
+        for (const auto& [number, entry] : entries)
+            move(entry.main, entry.ref, entry.amount);
+        return sum.toDouble();
+    }
+
+    Shop shop;
+    QRandomGenerator random{20240210};
+    QDate day{2024, 2, 10};
+    QList<qint32> clients, workers, accounts;
+    std::map<qint32, Card> cards;
+    std::map<qint32, Entry> entries; ///< by number
+};
+
+void Days::check()
+{
+    QCOMPARE(Shop::value("Select sum(Amount) from Postings").toDouble(), 0.0);
+    const QDate end = day.addDays(9);
+    const QDate from = day.addDays(-random.bounded(20));
+    for (const qint32 id : accounts) {
+        const auto account = qint16(id);
+        const double closing = GetBalance(account, end);
+        QCOMPARE(closing, owed(id));
+        QCOMPARE(Currency::fromDouble(GetBalance(account, from.addDays(-1)) +
+                                      GetPositiveTotal(account, from, end) +
+                                      GetNegativeTotal(account, from, end)),
+                 Currency::fromDouble(closing));
+    }
+    QStringList paid;
+    for (const auto& [number, entry] : entries)
+        if (const Currency marked = entry.amount - entry.gone; entry.payroll && marked != Currency())
+            paid << QString("%1 %2").arg(number).arg(marked.toString());
+    QCOMPARE(Shop::rows("Select PayrollID, sum(WorkerWagesDue) from Jobs_Detail where MarkAsPaid=1 group by "
+                        "PayrollID order by PayrollID"),
+             paid);
+    QCOMPARE(Shop::count("Select * from Jobs_Detail where (MarkAsPaid<>0) <> (PayrollID<>0)"), 0);
+}
+
+} // namespace
+
+/// Whatever the shop does, in whatever order: its books agree with each other and with what was done.
+class tst_books_trusted : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void randomDays()
+    {
+        Days days;
+        const QDeadlineTimer end(10'000);
+        for (int day = 0; day < 90 && !end.hasExpired(); ++day) {
+            days.pass();
+            days.check();
+            if (QTest::currentTestFailed())
+                return;
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_books_trusted)
+#include "tst_books_trusted.moc"
