@@ -2,6 +2,7 @@
 #include "core/store/Session.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/forms/Theme.h"
+#include "platform/report/Printing.h"
 #include "platform/values/Notice.h"
 
 #include <QApplication>
@@ -20,5 +21,7 @@ int main(int argc, char* argv[])
     session.appFolder = QCoreApplication::applicationDirPath();
     forms::applyTheme(application, session.appFolder + u"/fonts"_s);
     values::setCriticalNotice([](const QString& text) { forms::criticalMessage(nullptr, text); });
-    return Main() ? QApplication::exec() : 1;
+    const int result = Main() ? QApplication::exec() : 1;
+    report::finishPrinting();
+    return result;
 }

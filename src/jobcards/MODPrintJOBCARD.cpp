@@ -5,6 +5,7 @@
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
 #include "jobcards/JobCardStaging.h"
+#include "jobcards/PaperDesign.h"
 #include "jobcards/rptJOBCARD.h"
 #include "jobcards/rptLabel.h"
 #include "jobcards/rptWorkerJobCard.h"
@@ -54,6 +55,17 @@ report::Row readLine(qint32 LineID)
     return row;
 }
 
+/// A paper of one line: the name of its file, and on several pages the line at the foot of each.
+void nameLine(report::Report& paper, const QString& kind)
+{
+    const report::Row& line = paper.rows().front();
+    const QString job = line.value(u"JobID"_s).toString();
+    const QString item = line.value(u"ItemSr"_s).toString();
+    paper.Subject = u"%1 %2-%3 %4"_s.arg(kind, job, item, line.value(u"ClintName"_s).toString());
+    if (report::Pages(paper).count() > 1)
+        paper::numberPages(paper, u"Job # %1 / %2"_s.arg(job, item));
+}
+
 } // namespace
 
 std::unique_ptr<report::Report> JobCardPaper(qint32 JobID)
@@ -77,6 +89,7 @@ std::unique_ptr<report::Report> JobCardPaper(qint32 JobID)
     card->section(u"Section7"_s).label(u"lblForCompany"_s).Caption = u"For "_s + session.ShopName;
     card->section(u"Section3"_s).label(u"lblPage"_s).Caption = u"Job Card # %1 · Page %p of %P"_s.arg(JobID);
     card->closeUpHeading();
+    card->Subject = u"Job Card %1 %2"_s.arg(JobID).arg(card->rows().front().value(u"Name"_s).toString());
     return card;
 }
 
@@ -87,6 +100,7 @@ std::unique_ptr<report::Report> WorkerSlipPaper(qint32 LineID)
         slip->useHindiMeasurements();
     slip->setLine(readLine(LineID));
     slip->section(u"Section2"_s).label(u"lblCompany"_s).Caption = session.ShopName;
+    nameLine(*slip, u"Job Order"_s);
     return slip;
 }
 
@@ -95,8 +109,7 @@ std::unique_ptr<report::Report> LabelPaper(qint32 LineID)
     auto label = std::make_unique<rptLabel>();
     label->setDataSource({readLine(LineID)});
     label->section(u"Section1"_s).label(u"lblCompany"_s).Caption = session.ShopName;
-    if (report::Pages(*label).count() > 1)
-        label->numberLabels();
+    nameLine(*label, u"Label"_s);
     return label;
 }
 

@@ -65,4 +65,14 @@ report::Shape& bar(report::Section& section, const QString& name, int left, int 
     return shape;
 }
 
+void numberPages(report::Report& paper, const QString& what)
+{
+    constexpr int gap = 60;
+    report::Section& foot = paper.addSection(u"Section3"_s, report::Band::PageFoot, gap + 240);
+    report::Label& number = caption(foot, u"lblPage"_s, what + u" · %p of %P"_s, 0, gap, paper.width());
+    number.CountsPages = true;
+    number.FontSize = 8;
+    number.Alignment = Qt::AlignRight;
+}
+
 } // namespace paper

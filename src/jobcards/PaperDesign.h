@@ -19,5 +19,7 @@ report::Shape& rule(report::Section& section, const QString& name, int left, int
                     QRgb color = palette::hairline);
 /// A shaded bar behind titles.
 report::Shape& bar(report::Section& section, const QString& name, int left, int top, int width, int height);
+/// At the foot of each page: what the paper is about, the page's number and how many there are.
+void numberPages(report::Report& paper, const QString& what);
 
 } // namespace paper

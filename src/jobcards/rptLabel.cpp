@@ -60,17 +60,3 @@ rptLabel::rptLabel()
     row("Label9", "Remark:", "Text2", "Remarks", top, wide);
     line.Height = top + RowHeight;
 }
-
-void rptLabel::numberLabels()
-{
-    const Row& line = rows().front();
-    Section& foot = addSection(u"Section3"_s, Band::PageFoot, 240);
-    Label& number = paper::caption(
-        foot, u"lblPage"_s,
-        u"%1 / %2"_s.arg(line.value(u"JobID"_s).toString(), line.value(u"ItemSr"_s).toString()) +
-            u" · %p of %P"_s,
-        0, 0, Width);
-    number.CountsPages = true;
-    number.FontSize = 8;
-    number.Alignment = Qt::AlignRight;
-}

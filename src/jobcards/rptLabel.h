@@ -8,7 +8,4 @@ class rptLabel : public report::Report
 {
 public:
     rptLabel();
-
-    /// Names the job at the foot of each label and numbers them: for a line that takes more than one.
-    void numberLabels();
 };

@@ -64,6 +64,14 @@ QString MakeDueBalanceSms(const QString& amount)
     return GetSetting(settings::SmsDueBalance, DefaultDueBalanceDraft()).replace("%amount%"_L1, amount);
 }
 
+QString TextAsSent(const QString& text)
+{
+    QString sent;
+    for (const char32_t letter : text.toUcs4())
+        sent += letter < 256 ? QChar(char16_t(letter)) : u'?';
+    return sent;
+}
+
 QString GetClientMobile(const QString& title, qint16 id)
 {
     QString mobile;

@@ -20,6 +20,10 @@ QString MakeJobFinishedSms(qint32 jobId, double amount);
 /// The balance stands as given; the signature is the caller's to add.
 QString MakeDueBalanceSms(const QString& amount);
 
+/// The text that arrives: the modem carries the letters of Latin-1 alone, every other one (a rupee sign,
+/// Hindi) becomes "?".
+QString TextAsSent(const QString& text);
+
 /// The mobile number of a client, by title, or by id where one is given (above 0); empty when there is no
 /// such client. Workers and ledger accounts are never found.
 QString GetClientMobile(const QString& title, qint16 id);

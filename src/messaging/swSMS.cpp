@@ -36,7 +36,7 @@ void swSMS::SendSMS(qint16 port, const QString& number, const QString& message)
         m_port.open(devices::serialPortName(port, m_deviceFolder));
         m_port.write("AT+CMGF=1\r");
         m_port.write("AT+CMGS=\"" + dialled(number) + "\"\r");
-        m_port.write(message.toLatin1() + EndOfMessage);
+        m_port.write(TextAsSent(message).toLatin1() + EndOfMessage);
     } catch (const OperatorError& error) {
         forms::plainMessage(m_screen, error.text());
     }
@@ -54,6 +54,12 @@ bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString&
         ShowMsg(u"Modem Com Port Error!\r\nSMS Sending has been Failed."_s);
         return false;
     }
+    if (const QString sent = TextAsSent(text);
+        sent != text &&
+        !forms::askPlain(sms.screen(), u"The modem can't send all letters of this message. The "
+                                       "client would read:\n\n%1\n\nSend it all the same?"_s.arg(
+                                           QString(sent).replace(u'\r', u'\n'))))
+        return false;
     sms.SendSMS(values::CInt(values::Val(port), u"Com port"_s), mobile, text);
     return true;
 }

@@ -21,6 +21,7 @@ public:
     /// left open, is told in one plain box with the system's text; the caller cannot tell it from success.
     void SendSMS(qint16 port, const QString& number, const QString& message);
 
+    QWidget* screen() const { return m_screen; }
     bool isOpen() const { return m_port.isOpen(); }
 
     /// Where the ports' devices stand; "/dev" unless told.
@@ -34,5 +35,6 @@ private:
 
 /// The step by which every screen tells a client something: looks up the client's mobile number (by title or
 /// by id, as GetClientMobile) and the modem's port (setting 4), refuses with a message when one is missing,
-/// the number first, and sends. Returns whether it came to sending.
+/// the number first, shows a message that would arrive changed and asks whether to send it, and sends.
+/// Returns whether it came to sending.
 bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString& text);

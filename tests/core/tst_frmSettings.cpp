@@ -89,6 +89,31 @@ private Q_SLOTS:
         for (const auto& [number, value] : kept)
             QCOMPARE(stored(number), value);
     }
+
+    void refusesWhatWouldStopTheShop()
+    {
+        prompts->expect(
+            "\"Start Job Card number from\" must be from 1 to 2147483646.\n\nNothing has been saved.");
+        prompts->expect("\"Delivery Margin in Days\" must be from 0 to 36500.\n\nNothing has been saved.");
+        const QString asked("The modem can't send all letters of an SMS. Clients would read:\n\nPay ?5\n\n"
+                            "Save it all the same?");
+        prompts->expect(asked, Answer::No);
+        inModal<frmSettings>([](frmSettings& screen) {
+            typeFields({"2147483647"}); // over the selected "1"
+            save();
+            QCOMPARE(focused(screen), "txtStartNum");
+            field(screen, "txtStartNum").setText("2147483646");
+            field(screen, "txtDelMargin").setText("99999999999");
+            save();
+            field(screen, "txtDelMargin").setText("36500");
+            auto& due = control<swTextBoxMultiLine>(screen, "txtSMS3");
+            due.selectAll();
+            due.insertPlainText(QString::fromUtf8("Pay ₹5"));
+            save();
+            QCOMPARE(focused(screen), "txtSMS3");
+            QCOMPARE(stored(23), "none");
+        });
+    }
 };
 
 QTEST_MAIN(tst_frmSettings)

@@ -6,11 +6,14 @@
 #include "jobcards/frmEditJOB.h"
 #include "platform/ado/DatabaseError.h"
 #include "platform/report/Pages.h"
+#include "platform/report/Pdf.h"
 #include "platform/report/Preview.h"
 #include "platform/values/Errors.h"
 #include "support/Files.h"
+#include "support/Pdf.h"
 #include "support/ShopTest.h"
 
+#include <QFontDatabase>
 #include <QImage>
 #include <QScopeGuard>
 #include <QTest>
@@ -100,6 +103,32 @@ private Q_SLOTS:
         QCOMPARE(all.count("Seamwise - The Whole Shop at Hand"), 1);
     }
 
+    /// What the client reads in the file is what stands on the paper, and the sums are the card's.
+    void cardInTheFile()
+    {
+        for (const char* file : {"PaperSans-Regular.otf", "PaperSans-Bold.otf"})
+            QVERIFY(QFontDatabase::addApplicationFont(QStringLiteral(PROGRAM_FOLDER "/fonts/") + file) >= 0);
+        const QFontMetrics digits(QFont("Paper Sans", 10));
+        QCOMPARE(digits.horizontalAdvance("1111"), digits.horizontalAdvance("4808"));
+        storeCard();
+        Shop::run("Update Jobs set AmountPaid=300");
+        Shop::run("Update Jobs_Detail set Remarks='A-B (10:30) [x] @5' where QNT=1");
+        const auto sums = [] {
+            const auto paper = JobCardPaper(7);
+            const QString text =
+                readBack(report::pdf(report::Pages(*paper), paper->Title)).join(' ').simplified();
+            return text;
+        };
+        QString text = sums();
+        for (const char* printed : {"Total 1,301.50", "Amount Received 300.00", "Amount Due 1,001.50",
+                                    "10-Feb-2024", "Trial Date:", "A-B (10:30) [x] @5"})
+            QVERIFY2(text.contains(printed), qPrintable(printed + (" in " + text)));
+        Shop::run("Update Jobs set AmountPaid=1801");
+        text = sums();
+        QVERIFY2(text.contains("Amount Due (499.50)"), qPrintable(text));
+        QCOMPARE(JobCardPaper(7)->Subject, "Job Card 7 Asha Rao");
+    }
+
     void logoBesideTheHeading()
     {
         storeCard();
@@ -179,6 +208,9 @@ private Q_SLOTS:
         const QStringList names = paper->rows().front().value("ItemDetails").toString().split("\r\n");
         const QStringList values = paper->rows().front().value("ItemDetailsValue").toString().split("\r\n");
         QVERIFY(names.size() > 2);
+        Shop::run("Update Jobs_Detail set Remarks='" + QString("zip ").repeated(2000) + "'");
+        const report::Pages pages(*WorkerSlipPaper(line));
+        QVERIFY(pages.texts(1).contains(QString("Job # 7 / 1 · 2 of %1").arg(pages.count())));
         QCOMPARE(values.indexOf("42"), names.indexOf("Chest"));
 
         SetSetting(0, "Hindi");
@@ -203,7 +235,7 @@ private Q_SLOTS:
         const QString all = texts(*paper).join(' ');
         for (const QString& word : remark.split(' ', Qt::SkipEmptyParts))
             QVERIFY2(all.contains(word), qPrintable(word));
-        QVERIFY(texts(*paper).contains(QString("7 / 1 · 2 of %1").arg(report::Pages(*paper).count())));
+        QVERIFY(texts(*paper).contains(QString("Job # 7 / 1 · 2 of %1").arg(report::Pages(*paper).count())));
     }
 
     void whatIsGone()

@@ -107,6 +107,11 @@ private Q_SLOTS:
         Modem modem(device("ttyACM1"));
         QVERIFY(SendSmsToClient(*sms, "Asha", 0, "hello"));
         QTRY_COMPARE(modem.heard(), QByteArray("AT+CMGF=1\rAT+CMGS=\"981\"\rhello\x1a"));
+        prompts->expect(
+            "The modem can't send all letters of this message. The client would read:\n\n?5\n? Caf\u00e9\n\n"
+            "Send it all the same?",
+            Answer::No);
+        QVERIFY(!SendSmsToClient(*sms, "Asha", 0, QString::fromUtf8("₹5\r𝄞 Café")));
     }
 
     void draftsAreFilledIn()

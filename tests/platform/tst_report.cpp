@@ -7,6 +7,7 @@
 #include "support/Fields.h"
 #include "support/Files.h"
 #include "support/Modal.h"
+#include "support/Pdf.h"
 #include "support/Prompts.h"
 
 #include <QComboBox>
@@ -59,19 +60,6 @@ public:
     }
 };
 
-/// The text of a PDF file's pages, as another program reads it.
-QStringList readBack(const QByteArray& content)
-{
-    QProcess reader;
-    reader.start("pdftotext", {"-layout", "-", "-"});
-    reader.write(content);
-    reader.closeWriteChannel();
-    reader.waitForFinished();
-    QStringList pages = QString::fromUtf8(reader.readAllStandardOutput()).split(u'\f');
-    pages.removeLast();
-    return pages;
-}
-
 /// A print system of the test's own: programs in the path that do what a script says.
 class PrintSystem
 {
@@ -110,6 +98,7 @@ private Q_SLOTS:
     void tellsWhatThePrintSystemRefuses_data();
     void tellsWhatThePrintSystemRefuses();
     void printsPicturesAtTheirPlace();
+    void finishesPrintingAtTheEnd();
 };
 
 void tst_report::breaksManyLinesOverPages()
@@ -221,8 +210,16 @@ void tst_report::tellsWhatThePrintSystemRefuses_data()
 {
     QTest::addColumn<QByteArray>("script");
     QTest::addColumn<QString>("told");
-    QTest::newRow("no printer") << QByteArray("echo 'lp: Error - no default destination.' >&2; exit 1")
-                                << "\"Bill\" was not printed.\n\nlp: Error - no default destination.";
+    QTest::newRow("no printer")
+        << QByteArray("echo 'lp: Error - no default destination.' >&2; exit 1")
+        << "\"Bill\" was not printed: this computer has no printer, or none of its printers is "
+           "the default one.\n\nSet up a printer in the computer's settings and make it "
+           "the default one. In the preview, \"Print\" lets you choose among the "
+           "printers and \"Save as PDF\" keeps the paper as a file.";
+    QTest::newRow("refused") << QByteArray("echo 'lp: jammed' >&2; exit 1")
+                             << "\"Bill\" was not printed.\n\nlp: jammed";
+    QTest::newRow("writes without end")
+        << QByteArray("exec yes") << "\"Bill\" was not printed.\n\nThe print system gives no reason.";
     QTest::newRow("never answers") << QByteArray("exec sleep 30")
                                    << "The printer does not answer. \"Bill\" may not have been printed.";
     QTest::newRow("not installed") << QByteArray()
@@ -243,6 +240,30 @@ void tst_report::tellsWhatThePrintSystemRefuses()
     prompts->expect(told);
     printDirect(Bill({line("Shirt")}));
     QTRY_COMPARE(prompts->pending(), 0);
+}
+
+/// The end of the program: paper of any size arrives whole, a failure is told, and no program of the print
+/// system stays behind, also one that nobody waits for.
+void tst_report::finishesPrintingAtTheEnd()
+{
+    PrintSystem system;
+    const QByteArray out = system.path("out").toLocal8Bit();
+    system.program("lp", "sleep 0.3; cat > '" + out + "'\n");
+    setPrintPatience(10'000);
+    const QByteArray paper = QByteArray(1'000'000, 'x') + "%%EOF\n";
+    print({.pdf = paper, .title = "Bill"});
+    finishPrinting();
+    QCOMPARE(contents(system.path("out")), paper);
+    system.program("lp", "echo $$ > '" + out + "'; exec sleep 30\n");
+    setPrintPatience(300);
+    prompts->expect("The printer does not answer. \"Bill\" may not have been printed.");
+    print({.pdf = paper, .title = "Bill"});
+    finishPrinting();
+    QCOMPARE(prompts->pending(), 0);
+    QTRY_VERIFY(!QFile::exists(QString("/proc/" + contents(system.path("out")).trimmed())));
+    system.program("lpstat", "exec sleep 30\n");
+    setPrintPatience(10'000);
+    askPrinters(this, [](const QStringList&) {}); // runs on as the application ends
 }
 
 void tst_report::printsPicturesAtTheirPlace()

@@ -10,11 +10,16 @@
 #include "ui/modLang.h"
 #include "ui_frmSettings.h"
 
+#include <limits>
+#include <tuple>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int LongestSMSTitle = 10;
+constexpr double highestCardNumber = std::numeric_limits<qint32>::max() - 1; ///< leaves a next one
+constexpr double longestDelivery = 36'500;                                   ///< a hundred years of days
 
 QString checkedText(const QCheckBox& box) { return QString::number(int(box.isChecked())); }
 
@@ -30,9 +35,10 @@ frmSettings::frmSettings()
         combo->AddItems({u"Yes"_s, u"No"_s});
         onKeyPress(combo, [combo](int& key) { key = AutoSearchCombo(*combo, key); });
     }
-    for (QLineEdit* box : {ui->txtDelMargin, ui->txtStartNum})
+    for (QLineEdit* box : {ui->txtDelMargin, ui->txtStartNum}) {
         onKeyPress(box, [box](int& key) { key = NumbersOnly(*box, key); });
-    onGotFocus(ui->txtDelMargin, [this] { ui->txtDelMargin->selectAll(); });
+        onGotFocus(box, [box] { box->selectAll(); });
+    }
     onKeyPress(ui->txtSMSTitle, [this](int& key) { limitSmsTitle(key); });
 
     on(ui->Command3, &QPushButton::clicked, [this] { selectPicture(*ui->txtWall); });
@@ -133,8 +139,58 @@ void frmSettings::save()
     for (forms::ComboBox* combo : {ui->cmbSendAutoSMS, ui->cmbSMSJobID})
         if (combo->text().isEmpty())
             combo->setText(u"No"_s);
+    if (!numbersFit() || !draftsArrive())
+        return;
     DE.connection().writeBatch([this] { writeSettings(); });
     ShowMsg(u"Settings Updated."_s);
+}
+
+/// A number with which no card could be opened is refused before anything is written.
+bool frmSettings::numbersFit()
+{
+    const std::tuple<QLineEdit*, QString, double, double> fields[] = {
+        {ui->txtStartNum, ui->lblStartNum->text(), 1, highestCardNumber},
+        {ui->txtDelMargin, ui->lblDelMargin->text(), 0, longestDelivery}};
+    for (const auto& [box, name, lowest, highest] : fields) {
+        const double number = values::Val(box->text());
+        if (number >= lowest && number <= highest)
+            continue;
+        forms::plainMessage(this, u"\"%1\" must be from %2 to %3.\n\nNothing has been saved."_s.arg(
+                                      name, values::CStr(lowest), values::CStr(highest)));
+        goTo(*box);
+        return false;
+    }
+    return true;
+}
+
+/// Shows what would arrive of a draft with letters that the modem can't carry; the shop may keep it so.
+bool frmSettings::draftsArrive()
+{
+    const std::pair<QWidget*, QString> texts[] = {{ui->txtSMSTitle, ui->txtSMSTitle->text()},
+                                                  {ui->txtSMS1, draft(*ui->txtSMS1)},
+                                                  {ui->txtSMS2, draft(*ui->txtSMS2)},
+                                                  {ui->txtSMS3, draft(*ui->txtSMS3)}};
+    for (const auto& [box, text] : texts) {
+        const QString sent = TextAsSent(text);
+        if (sent == text)
+            continue;
+        if (!forms::askPlain(this,
+                             u"The modem can't send all letters of an SMS. Clients would read:\n\n%1\n\n"
+                             "Save it all the same?"_s.arg(QString(sent).replace(u'\r', u'\n')))) {
+            goTo(*box);
+            return false;
+        }
+    }
+    return true;
+}
+
+void frmSettings::goTo(QWidget& field)
+{
+    QWidget* page = &field;
+    while (page && ui->SSTab1->indexOf(page) < 0)
+        page = page->parentWidget();
+    ui->SSTab1->setCurrentWidget(page);
+    field.setFocus();
 }
 
 void frmSettings::writeSettings()

@@ -33,6 +33,9 @@ private:
     void selectPicture(QLineEdit& box);
     void loadDefaultDrafts();
     void save();
+    bool numbersFit();
+    bool draftsArrive();
+    void goTo(QWidget& field);
     void writeSettings();
 
     const std::unique_ptr<Ui::frmSettings> ui;

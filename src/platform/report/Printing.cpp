@@ -4,12 +4,13 @@
 #include "platform/forms/Screen.h"
 #include "platform/report/Pages.h"
 #include "platform/report/Pdf.h"
+#include "platform/report/Spooler.h"
 #include "platform/values/Errors.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QProcess>
-#include <QTimer>
+#include <QEventLoop>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -19,14 +20,13 @@ namespace {
 
 constexpr int twipsPerPixel = 15;
 constexpr QSize finestPicture{4096, 4096};
-constexpr int lastWait = 500; ///< for a program that has been told to stop
 
-int patience = 10'000;
+/// Failures to be told, the first of them now.
+QStringList waiting;
 
 /// Failures are told one after the other, each once, however many come meanwhile.
 void tellFailure(const QString& text)
 {
-    static QStringList waiting;
     if (waiting.contains(text))
         return;
     waiting << text;
@@ -41,67 +41,6 @@ void tellFailure(const QString& text)
     QMetaObject::invokeMethod(qApp, tell, Qt::QueuedConnection);
 }
 
-/// One run of a program of the print system, under a time limit. It deletes itself when the program has
-/// ended. A program that is being handed paper when the program closes is given the rest of its time.
-class SpoolerRun : public QObject
-{
-public:
-    enum class End { Done, Missing, Refused, Silent };
-    using Ended = std::function<void(End end, const QByteArray& output, const QString& complaint)>;
-
-    SpoolerRun(const QString& program, const QStringList& arguments, const QByteArray& input, Ended ended)
-        : QObject(qApp)
-        , m_takesPaper(!input.isEmpty())
-        , m_ended(std::move(ended))
-    {
-        connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-            if (error == QProcess::FailedToStart) {
-                tell(End::Missing);
-                deleteLater();
-            }
-        });
-        connect(&m_process, &QProcess::finished, this, [this](int code, QProcess::ExitStatus status) {
-            tell(status == QProcess::NormalExit && code == 0 ? End::Done : End::Refused);
-            deleteLater();
-        });
-        connect(&m_limit, &QTimer::timeout, this, [this] {
-            tell(End::Silent);
-            m_process.kill();
-        });
-        m_limit.setSingleShot(true);
-        m_limit.start(patience);
-        m_process.start(program, arguments);
-        m_process.write(input);
-        m_process.closeWriteChannel();
-    }
-    ~SpoolerRun() override
-    {
-        m_process.disconnect();
-        if (m_process.state() == QProcess::NotRunning)
-            return;
-        m_process.waitForFinished(m_takesPaper ? std::max(0, m_limit.remainingTime()) : 0);
-        m_process.kill();
-        m_process.waitForFinished(lastWait);
-    }
-
-private:
-    /// Once: what comes behind the time limit is the end of a program that was stopped.
-    void tell(End how)
-    {
-        if (!m_ended)
-            return;
-        m_limit.stop();
-        const QByteArray output = m_process.readAllStandardOutput();
-        const QString complaint = QString::fromLocal8Bit(m_process.readAllStandardError()).trimmed();
-        std::exchange(m_ended, nullptr)(how, output, complaint);
-    }
-
-    QProcess m_process;
-    QTimer m_limit;
-    const bool m_takesPaper;
-    Ended m_ended;
-};
-
 void tellEnd(SpoolerRun::End end, const QString& title, const QString& complaint)
 {
     switch (end) {
@@ -112,7 +51,16 @@ void tellEnd(SpoolerRun::End end, const QString& title, const QString& complaint
                     "\"lp\" is missing)."_s.arg(title));
         return;
     case SpoolerRun::End::Refused:
-        tellFailure(u"\"%1\" was not printed.\n\n%2"_s.arg(title, complaint));
+        if (complaint.contains("no default destination"_L1)) {
+            tellFailure(
+                u"\"%1\" was not printed: this computer has no printer, or none of its printers is the "
+                "default one.\n\nSet up a printer in the computer's settings and make it the default "
+                "one. In the preview, \"Print\" lets you choose among the printers and \"Save as PDF\" "
+                "keeps the paper as a file."_s.arg(title));
+            return;
+        }
+        tellFailure(u"\"%1\" was not printed.\n\n%2"_s.arg(
+            title, complaint.isEmpty() ? u"The print system gives no reason."_s : complaint));
         return;
     case SpoolerRun::End::Silent:
         tellFailure(u"The printer does not answer. \"%1\" may not have been printed."_s.arg(title));
@@ -123,6 +71,13 @@ void tellEnd(SpoolerRun::End end, const QString& title, const QString& complaint
 } // namespace
 
 void setPrintPatience(int milliseconds) { patience = milliseconds; }
+
+void finishPrinting()
+{
+    QEventLoop loop;
+    while (SpoolerRun::anyTakesPaper() || !waiting.isEmpty())
+        loop.processEvents(QEventLoop::WaitForMoreEvents);
+}
 
 void print(const PrintJob& job)
 {

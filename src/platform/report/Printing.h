@@ -34,6 +34,9 @@ void printPicture(const QString& path, int left, int top);
 /// not answer; it is never called once `context` has gone.
 void askPrinters(QObject* context, std::function<void(const QStringList& printers)> answer);
 
+/// Waits until all paper has been handed over, or its failure told. For the end of the program.
+void finishPrinting();
+
 /// How long the print system may take, in milliseconds. For tests.
 void setPrintPatience(int milliseconds);
 

@@ -163,12 +163,13 @@ public:
     const std::vector<Row>& rows() const { return m_rows; }
 
     QString Title;
+    QString Subject;              ///< what a file of it is about, for its name; empty: the title
     QSizeF PageSize = {210, 297}; ///< millimetres
     int LeftMargin = 720;
     int TopMargin = 720;
     int RightMargin = 720;
     int BottomMargin = 720;
-    QString FontFamily = u"Verdana"_s;
+    QString FontFamily = u"Paper Sans"_s;
 
     int pageWidth() const { return mm(PageSize.width()); }
     int pageHeight() const { return mm(PageSize.height()); }
