@@ -63,7 +63,7 @@ void LineRegister::resetCriteria()
     m_criteria.worker->insertItem(0, allWorkers);
     m_criteria.worker->setText(allWorkers);
     m_criteria.condition->setListIndex(0);
-    SearchMode = u"C"_s;
+    SearchMode = Search::AllWorkers;
     ReturnIndex = 0;
 }
 
@@ -112,9 +112,22 @@ void LineRegister::conditionStep()
     ExecuteSQL();
     if (const QString condition = m_criteria.condition->text(); condition != m_criteria.condition->List(0))
         applyCondition(condition);
-    // No line moves up into the place of the last one: the total row is no line to work on.
-    if (ReturnIndex >= 1 && tagOf(*m_criteria.list, ReturnIndex - 1) != 0)
-        m_criteria.list->selectRow(ReturnIndex - 1);
+    forms::ListView& list = *m_criteria.list;
+    list.setTopRow(std::exchange(m_topRow, -1));
+    if (ReturnIndex < 1 || ReturnIndex > list.rowCount())
+        return;
+    const int row = ReturnIndex - 1;
+    const int line = tagOf(list, row) != 0 ? row : row - 1;
+    if (tagOf(list, line) != 0)
+        list.selectRow(line);
+}
+
+void LineRegister::enterList()
+{
+    forms::ListView& list = *m_criteria.list;
+    list.setFocus();
+    if (list.selectedRow() < 0 && tagOf(list, 0) != 0)
+        list.selectRow(0);
 }
 
 void LineRegister::view()
@@ -125,10 +138,11 @@ void LineRegister::view()
         ShowMsg(u"Please Select Worker Name!"_s);
         return;
     }
-    const bool all = m_criteria.worker->text() == allWorkers;
-    SearchMode = all ? u"C"_s : u"S"_s;
+    ViewedWorker = m_criteria.worker->text();
+    SearchMode = ViewedWorker == allWorkers ? Search::AllWorkers : Search::Worker;
     session.RefreshLists = true;
     conditionStep();
+    enterList();
 }
 
 // Coming back to the row
@@ -137,6 +151,7 @@ void LineRegister::keepPosition()
 {
     if (const int row = m_criteria.list->selectedRow(); row >= 0)
         ReturnIndex = values::toInt16(row + 1, u"Row of the list"_s);
+    m_topRow = m_criteria.list->topRow();
 }
 
 void LineRegister::openOnRow(const std::function<void()>& open)

@@ -48,22 +48,31 @@ protected:
     /// Keeps the lines that `stays` wants, and counts them anew. The total row itself is asked too.
     void keepLines(const std::function<bool(const QStringList& cells)>& stays);
 
-    /// Rebuilds the list under its condition and comes back to the row kept in ReturnIndex.
+    /// Rebuilds the list under its condition and comes back to the row kept in ReturnIndex; behind the last
+    /// line, to that. The total row is no line to work on.
     void conditionStep();
-    /// Shows the lines of the worker chosen; refuses criteria that make no sense.
+    /// Shows the lines of the worker chosen, and puts the keys there; refuses criteria that make no sense.
     void view();
-    /// Keeps the selected row's position for the next refresh.
+    /// Puts the keys on the list, on its first line when none is selected.
+    void enterList();
+    /// Keeps where the selected row is, in the list and on the screen, for the next refresh.
     void keepPosition();
     /// Opens another screen that works on the selected row's line, and refreshes the list after it, once.
     void openOnRow(const std::function<void()>& open);
 
-    QString SearchMode = u"C"_s; ///< "C": all workers, "S": one; others are the register's own
-    QString SearchSql;           ///< what the list shows
-    qint16 ReturnIndex = 0;      ///< position to select after a refresh, from 1; 0: none
+    /// What the list is about: the lines of all workers or of one, of a card, or of a client in the period or
+    /// on all days.
+    enum class Search { AllWorkers, Worker, Card, Client, ClientOnAllDays };
+
+    Search SearchMode = Search::AllWorkers;
+    QString ViewedWorker;   ///< title; refreshes go by it, whatever the box shows meanwhile
+    QString SearchSql;      ///< what the list shows
+    qint16 ReturnIndex = 0; ///< position to select after a refresh, from 1; 0: none
 
 private:
     forms::ListView::Row totalRow(size_t lines) const;
 
     Criteria m_criteria{};
+    int m_topRow = -1;      ///< of the list as it stood on the screen; -1: from its beginning
     bool m_opening = false; ///< the refresh after a screen above is under way already
 };

@@ -50,7 +50,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
 
     on(ui->txtSearchID, &QLineEdit::textChanged, [this](const QString& text) {
         if (text.isEmpty())
-            SearchMode = u"C"_s;
+            SearchMode = Search::AllWorkers;
     });
     onKeyPress(ui->txtSearchID, [this](int& key) { typeJobId(key); });
     onKeyPress(ui->cmbClient, [this](int& key) {
@@ -61,10 +61,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
         view();
     });
     on(ui->cmbCondition, &forms::ComboBox::clicked, [this] { conditionStep(); });
-    on(ui->Command4, &QPushButton::clicked, [this] {
-        view();
-        ui->lvSummary->setFocus();
-    });
+    on(ui->Command4, &QPushButton::clicked, &frmWorkerJobRegister::view);
     on(ui->Command8, &QPushButton::clicked, &frmWorkerJobRegister::quickFind);
     on(ui->Command3, &QPushButton::clicked, &frmWorkerJobRegister::showOverview);
 
@@ -115,14 +112,14 @@ QString frmWorkerJobRegister::workerSearch(const QString& workerId) const
 
 QString frmWorkerJobRegister::searchText() const
 {
-    if (SearchMode == u"S")
-        return workerSearch(QString::number(GetAccountID(ui->cmbClient->Text())));
-    if (SearchMode == u"SID")
+    if (SearchMode == Search::Worker)
+        return workerSearch(QString::number(GetAccountID(ViewedWorker)));
+    if (SearchMode == Search::Card)
         return allLines + u"JOBid="_s + values::CStr(values::Val(ui->txtSearchID->text()));
-    if (SearchMode == u"CUST")
+    if (SearchMode == Search::Client)
         return allLines + u"ClintID=%1 and "_s.arg(GetAccountID(SearchClient)) + DateField + u" between "_s +
                period().between() + order();
-    if (SearchMode == u"CUSTUNDEL")
+    if (SearchMode == Search::ClientOnAllDays)
         return allLines + u"ClintID=%1  order by "_s.arg(GetAccountID(SearchClient)) + DateField + u" desc"_s;
     return allLines + DateField + u" between #"_s + values::CStr(ui->DateFrom->value()) + u"# and #"_s +
            values::CStr(ui->DateTo->value()) + u'#' + order();
@@ -176,9 +173,9 @@ void frmWorkerJobRegister::fillDetails()
     ado::Recordset& items = DE.rsITEMS;
     for (items.Open(u"Select * from Items order by titlekey(Name)"_s); !items.AtEOF(); items.MoveNext()) {
         qint32 count = 0;
-        if (SearchMode == u"S")
+        if (SearchMode == Search::Worker)
             GetItemWiseDetails(items["ID"].integer(), count);
-        else if (SearchMode == u"C")
+        else if (SearchMode == Search::AllWorkers)
             GetItemWiseDetails2(items["ID"].integer(), count);
         if (count > 0)
             ui->lvDetails->addRow({items["Name"].text(), QString::number(count)});
@@ -188,8 +185,7 @@ void frmWorkerJobRegister::fillDetails()
 
 void frmWorkerJobRegister::GetItemWiseDetails(qint32 itemId, qint32& count)
 {
-    countLines(u"%1and WorkerID=%2and date between "_s.arg(itemId).arg(GetAccountID(ui->cmbClient->Text())),
-               count);
+    countLines(u"%1and WorkerID=%2and date between "_s.arg(itemId).arg(GetAccountID(ViewedWorker)), count);
 }
 
 void frmWorkerJobRegister::GetItemWiseDetails2(qint32 itemId, qint32& count)
@@ -243,8 +239,9 @@ void frmWorkerJobRegister::typeJobId(int& key)
     if (key != forms::key::Enter)
         return;
     key = 0;
-    SearchMode = u"SID"_s;
+    SearchMode = Search::Card;
     ExecuteSQL();
+    enterList();
 }
 
 void frmWorkerJobRegister::quickFind()
@@ -254,10 +251,10 @@ void frmWorkerJobRegister::quickFind()
     SearchClient2(allJobs, SearchClient);
     if (SearchClient.isEmpty())
         return;
-    SearchMode = allJobs == 1 ? u"CUSTUNDEL"_s : u"CUST"_s;
+    SearchMode = allJobs == 1 ? Search::ClientOnAllDays : Search::Client;
     session.RefreshLists = true;
     ExecuteSQL();
-    ui->lvSummary->setFocus();
+    enterList();
 }
 
 /// The worker picked from the numbers of lines of all.

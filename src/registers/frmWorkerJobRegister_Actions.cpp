@@ -95,6 +95,7 @@ void frmWorkerJobRegister::writeLine(qint32 line, const std::function<void(ado::
     row.Close();
     keepPosition();
     conditionStep();
+    enterList();
 }
 
 void frmWorkerJobRegister::markCuttingDone()
@@ -152,6 +153,7 @@ void frmWorkerJobRegister::deliverWholeCard()
     writeDelivered(job);
     keepPosition();
     conditionStep();
+    enterList();
 }
 
 void frmWorkerJobRegister::DeliverJobCard()

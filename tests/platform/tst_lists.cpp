@@ -9,6 +9,7 @@
 
 #include <QAbstractItemView>
 #include <QCalendarWidget>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -113,12 +114,50 @@ private Q_SLOTS:
         QCOMPARE(asked[2][0], 298);
         QCOMPARE(view.selectedRow(), 298);
 
+        view.selectRow(-1);
+        press(Qt::Key_End);
+        QCOMPARE(view.selectedRow(), 300);
+        view.selectRow(298);
         view.removeRow(0);
         QCOMPARE(view.selectedRow(), 297);
         QSignalSpy moved(&view, &ListView::selectionMoved);
         view.Clear();
         QCOMPARE(view.selectedRow(), -1);
         QCOMPARE(moved.count(), 1);
+    }
+
+    void copiesTheChosenRowAndPaintsItsPicture()
+    {
+        ListView view;
+        view.setColumns({{"Client", 50}, {"City", 40}});
+        view.resize(400, 200);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowActive(&view));
+        QClipboard* clipboard = QGuiApplication::clipboard();
+        clipboard->setText("before");
+        for (const bool filled : {false, true}) {
+            if (filled)
+                view.addRow({"Asha", "Agra"});
+            press(Qt::Key_C, Qt::ControlModifier); // no row is selected
+            press(Qt::Key_Insert, Qt::ControlModifier);
+            QCOMPARE(clipboard->text(), "before");
+            for (int role = 0; role < Qt::UserRole; ++role) {
+                view.model()->data(QModelIndex(), role);
+                view.model()->headerData(7, Qt::Horizontal, role);
+            }
+        }
+        QPixmap dot(10, 10);
+        dot.fill(Qt::magenta);
+        view.setLook(0, 0, {{}, dot, false, {}});
+        view.selectRow(0);
+        press(Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(clipboard->text(), "Asha\tAgra");
+        const QImage shown = view.grab().toImage();
+        int dots = 0;
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x)
+                dots += shown.pixelColor(x, y) == QColor(Qt::magenta);
+        QCOMPARE(dots, 100);
     }
 
     void comboKeepsItsTextWhenFilled()

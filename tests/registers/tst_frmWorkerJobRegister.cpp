@@ -173,6 +173,46 @@ private Q_SLOTS:
         });
     }
 
+    /// A worker only chosen in the box changes nothing before the next View; the keys stay on the lines.
+    void keepsToWhatWasViewed()
+    {
+        for (int i = 0; i < 40; ++i)
+            Shop::run(
+                u"Insert into Jobs_Detail (DATE, JobID, ItemSr, ClintID, ClintName, ItemID, ItemName, QNT, "
+                u"FEES, "
+                "Amount, Remarks, ItemDetails, ItemDetailsValue, WorkerID, JobDelDate, CuttingDate, "
+                "CuttingStatus) "
+                "Select DATE, JobID, ItemSr, ClintID, ClintName, ItemID, ItemName, QNT, FEES, Amount, "
+                "Remarks, "
+                "ItemDetails, ItemDetailsValue, WorkerID, JobDelDate, CuttingDate, 0 from Jobs_Detail where ID=1"_s);
+        inModal<Register>([this](Register& screen) {
+            combo(screen, "cmbClient").setFocus();
+            combo(screen, "cmbClient").setText(u"Ravi"_s);
+            press(Qt::Key_Return);
+            QCOMPARE(focused(screen), u"lvSummary"_s);
+            QCOMPARE(lines(screen).selectedRow(), 0);
+            const QString ravis = shown(screen);
+            for (const QString& box : {u"Rav"_s, u"*All"_s, u"Nobody"_s}) {
+                combo(screen, "cmbClient").setText(box);
+                choose(screen, u"Completed"_s);
+                choose(screen, u"*All"_s);
+                QCOMPARE(shown(screen), ravis);
+            }
+            lines(screen).selectRow(38);
+            const int top = lines(screen).topRow();
+            QVERIFY(top > 0);
+            prompts->expect(u"Mark Item as Cutting Done?"_s, Answer::Yes);
+            press(Qt::Key_F6);
+            QCOMPARE(lines(screen).topRow(), top);
+            QCOMPARE(lines(screen).selectedRow(), 38);
+            QCOMPARE(focused(screen), u"lvSummary"_s);
+            fillIn(screen, "txtSearchID", u"2"_s);
+            press(Qt::Key_Return);
+            QCOMPARE(focused(screen), u"lvSummary"_s);
+            QCOMPARE(lines(screen).selectedRow(), 0);
+        });
+    }
+
     void linesAreMarkedByKeys()
     {
         inModal<Register>([this](Register& screen) {

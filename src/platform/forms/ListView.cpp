@@ -3,7 +3,9 @@
 #include "platform/forms/Palette.h"
 
 #include <QAbstractTableModel>
+#include <QClipboard>
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QPainter>
@@ -36,6 +38,7 @@ public:
         initStyleOption(&cell, index);
         const QString text = std::exchange(cell.text, {}).left(longestShown);
         painter->fillRect(cell.rect, cell.backgroundBrush);
+        cell.icon = {};                        // the style would tint it, and without room for it in vain
         cell.state &= ~QStyle::State_HasFocus; // its frame would tint the row, which is marked as it is
         cell.features &= ~(QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration);
         cell.widget->style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
@@ -78,6 +81,8 @@ public:
     }
     QVariant data(const QModelIndex& index, int role) const override
     {
+        if (!has(index.row()) || index.column() < 0 || index.column() >= columnCount())
+            return {};
         if (role == Qt::DisplayRole)
             return m_rows[size_t(index.row())].cells.value(index.column()).replace(u'\n', u' ');
         if (role == Qt::TextAlignmentRole)
@@ -92,6 +97,8 @@ public:
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
+        if (section < 0 || section >= columnCount())
+            return {};
         if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
             return m_columns[size_t(section)].title;
         if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole)
@@ -289,6 +296,14 @@ void ListView::selectRow(int row)
         selectionModel()->clear();
 }
 
+int ListView::topRow() const { return indexAt({0, 0}).row(); }
+
+void ListView::setTopRow(int row)
+{
+    if (m_rows->has(row))
+        scrollTo(m_rows->index(row, 0), PositionAtTop);
+}
+
 void ListView::contextMenuEvent(QContextMenuEvent* event)
 {
     if (event->reason() == QContextMenuEvent::Keyboard)
@@ -304,11 +319,22 @@ void ListView::keyPressEvent(QKeyEvent* event)
     static constexpr Qt::Key walking[] = {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp};
     if (menuKey)
         askMenuAtSelection();
+    else if (event->matches(QKeySequence::Copy))
+        copySelected();
+    else if (selectedRow() < 0 && event->key() == Qt::Key_End)
+        selectRow(rowCount() - 1);
     else if (selectedRow() < 0 &&
              std::find(std::begin(walking), std::end(walking), event->key()) != std::end(walking))
         selectRow(0);
     else
         QTreeView::keyPressEvent(event);
+}
+
+/// A spreadsheet takes the row in its columns.
+void ListView::copySelected() const
+{
+    if (const Row* row = m_rows->row(selectedRow()))
+        QGuiApplication::clipboard()->setText(row->cells.join(u'\t'));
 }
 
 /// Focus alone selects no row, and makes none look so.

@@ -69,6 +69,10 @@ public:
     int selectedRow() const;
     /// Selects a row and brings it into view; a row outside the list selects none.
     void selectRow(int row);
+    /// The uppermost row in view; -1: none.
+    int topRow() const;
+    /// Brings a row to the top, as far as the rows below it fill the view.
+    void setTopRow(int row);
 
 Q_SIGNALS:
     /// A row was double-clicked.
@@ -91,6 +95,7 @@ private:
     class Model;
     void anew(const std::function<void()>& change);
     void askMenuAtSelection();
+    void copySelected() const;
     QString tipFor(const QModelIndex& index) const;
     void layOutColumns();
 
