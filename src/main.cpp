@@ -1,5 +1,6 @@
 #include "core/shell/modMain.h"
 #include "core/store/Session.h"
+#include "platform/ado/Connection.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/forms/Theme.h"
 #include "platform/report/Printing.h"
@@ -20,6 +21,9 @@ int main(int argc, char* argv[])
 
     session.appFolder = QCoreApplication::applicationDirPath();
     forms::applyTheme(application, session.appFolder + u"/fonts"_s);
+    ado::setBusyNotice([](bool waiting) {
+        waiting ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
+    });
     values::setCriticalNotice([](const QString& text) { forms::criticalMessage(nullptr, text); });
     const int result = Main() ? QApplication::exec() : 1;
     report::finishPrinting();

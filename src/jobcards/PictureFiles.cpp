@@ -3,6 +3,7 @@
 #include "core/store/Session.h"
 #include "core/store/ShopPictures.h"
 #include "core/store/Startup.h"
+#include "platform/devices/Files.h"
 #include "platform/forms/Pictures.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Errors.h"
@@ -62,7 +63,9 @@ void copy(const QString& source, const QString& target)
     QFile file(source);
     const bool copied = file.copy(target);
     if (copied && QFileInfo(target).size() == file.size()) {
-        QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
+        files::keepPrivate(target);
+        files::sync(target);
+        files::sync(session.imagesFolder());
         return;
     }
     if (copied)

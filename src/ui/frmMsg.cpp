@@ -4,6 +4,7 @@
 #include "core/store/Settings.h"
 #include "core/store/Texts.h"
 #include "platform/ado/Recordset.h"
+#include "platform/forms/MessageBox.h"
 #include "platform/forms/Metrics.h"
 #include "ui_frmMsg.h"
 
@@ -86,23 +87,32 @@ void frmMsg::ShowMessage(const QString& text, qint32 kind, qint16& result)
     result = MsgResult;
 }
 
+/// A message without Hindi stands in English; so does each when the texts can't be read, which the operator
+/// reads once.
 void frmMsg::LoadHindiText(const QString& text, qint32)
 {
-    ado::Connection language;
-    language.open(session.languageDatabasePath(), {}, ado::Connection::Mode::ReadOnly);
-    ado::Recordset messages(language);
-    const QString quoted = sqlText(text);
-    messages.Open(u"Select * from messages where EngMessage='"_s + quoted + u'\'');
-    if (messages.AtEOF()) {
+    QString hindiText;
+    try {
+        ado::Connection language;
+        language.open(session.languageDatabasePath(), {}, ado::Connection::Mode::ReadOnly);
+        ado::Recordset messages(language);
+        messages.Open(u"Select * from messages where EngMessage='"_s + sqlText(text) + u'\'');
+        if (!messages.AtEOF())
+            hindiText = messages["HindiMessage"].text();
+    } catch (const OperatorError& error) {
+        static QString toldLast;
+        if (std::exchange(toldLast, session.languageDatabasePath()) != session.languageDatabasePath())
+            forms::criticalMessage(nullptr, error.text());
+    }
+    if (hindiText.isEmpty()) {
         SetEngFont(*ui->lblMsg, text);
         SetEngFont(*ui->cmdOK, u"Ok"_s);
     } else {
-        SetHindiFont(*ui->lblMsg, messages["HindiMessage"].text());
+        SetHindiFont(*ui->lblMsg, hindiText);
         SetHindiFont(*ui->cmdOK, u"Bhd gS"_s);
         SetHindiFont(*ui->cmdYes, u"gk"_s);
         SetHindiFont(*ui->cmdNo, u"ugh"_s);
     }
-    messages.Close();
 }
 
 void frmMsg::layOut()

@@ -4,9 +4,11 @@
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
 #include "core/store/Startup.h"
+#include "support/Refusal.h"
 #include "support/Shop.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QTest>
 
 namespace {
@@ -68,6 +70,28 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(path) && QDir().mkdir(path));
         QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, CreateDatabase());
         QCOMPARE(QDir(shop.folder()).entryList({"data.mdb.new*"}), QStringList());
+    }
+
+    void filesAreTheOwnersAlone()
+    {
+        const Shop shop;
+        const auto owners = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+        QCOMPARE(QFile::permissions(session.databasePath()), owners);
+        QCOMPARE(QFile::permissions(session.databasePath() + "-journal"), owners);
+        QCOMPARE(QFile::permissions(session.imagesFolder()), owners | QFile::ExeOwner | QFile::ExeUser);
+    }
+
+    void creationTakesNobodysPlace()
+    {
+        const Shop shop;
+        const QString path = session.databasePath();
+        SetSetting(200, "kept");
+        CreateDatabase(); // another first start was quicker
+        QCOMPARE(GetSetting(200, {}), "kept");
+        DE.close();
+        QVERIFY(QFile::remove(path) && QFile::link(shop.folder() + "/unplugged.mdb", path));
+        QVERIFY(refusal([] { CreateDatabase(); }).startsWith(path));
+        QVERIFY(QFileInfo(path).isSymLink());
     }
 
     void settingsAndSession()

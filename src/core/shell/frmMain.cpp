@@ -81,9 +81,14 @@ void frmMain::RefershINFO()
     ado::Recordset& shop = DE.rsSHOP;
     shop.Open(u"Select * from Shop"_s);
     if (shop.RecordCount() < 1) {
-        shop.AddNew();
-        shop["Name"] = u"KORVANE"_s;
-        shop.UpdateBatch();
+        DE.connection().writeBatch([&shop] {
+            shop.Open(u"Select * from Shop"_s); // another first start may have been quicker
+            if (shop.RecordCount() > 0)
+                return;
+            shop.AddNew();
+            shop["Name"] = u"KORVANE"_s;
+            shop.UpdateBatch();
+        });
         ui->lblShopName->setText(u"KORVANE"_s);
     } else {
         const auto copy = [&shop](const char* field, QString& line) {

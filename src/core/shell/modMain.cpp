@@ -5,6 +5,7 @@
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
 #include "core/store/Startup.h"
+#include "platform/devices/Files.h"
 #include "platform/forms/MessageBox.h"
 
 #include <QFileInfo>
@@ -19,6 +20,7 @@ bool openDatabase()
         CreateDatabase();
     MakeImagesFolder();
     DE.open(session.databasePath());
+    files::keepPrivate(session.databasePath()); // its journal takes after it
     if (!CheckDatabaseVersion()) {
         forms::plainMessage(nullptr, u"Invalid Database!\r\nSeamwise Can not Run with this Database!"_s);
         return false;

@@ -3,9 +3,11 @@
 #include "core/store/DE.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "platform/devices/Files.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +36,8 @@ constexpr const char* Double = "DOUBLE";
 constexpr const char* Date = "DATE";
 /// What the engine puts behind a file's name to call its journal.
 const QString journal = u"-journal"_s;
+
+constexpr int longestMaking = 20000; // milliseconds
 
 constexpr Column Id{"Id", Integer, Rule::Autonumber};
 
@@ -228,7 +232,13 @@ QString databasePassword() { return u"measuretwicecut"_s; }
 void CreateDatabase()
 {
     const QString path = session.databasePath();
-    if (QFileInfo::exists(path))
+    // Two first starts at once make one shop.
+    QLockFile making(path + u".making"_s);
+    if (!making.tryLock(longestMaking))
+        throw ado::DatabaseError(path + u": another program is making this file."_s);
+    if (QFileInfo(path).isFile())
+        return;
+    if (QFileInfo::exists(path) || QFileInfo(path).isSymLink())
         throw ado::DatabaseError(path + u": there is something else of this name."_s);
     // Built under another name: a power cut on the way leaves no half-made shop under the real one.
     const QString building = path + u".new"_s;
@@ -249,9 +259,10 @@ void CreateDatabase()
         DE.close();
         // The journal of a database that is gone would be played back into this one.
         QFile::rename(path + journal, path + u".lost"_s + journal);
-        QFile file(building);
-        if (!file.rename(path))
-            throw ado::DatabaseError(path + u": "_s + file.errorString());
+        files::keepPrivate(building);
+        if (!files::renameUnlessTaken(building, path))
+            throw ado::DatabaseError(path + u": the file cannot be given its name."_s);
+        files::sync(session.appFolder);
     } catch (...) {
         clearAway();
         throw;

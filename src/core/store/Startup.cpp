@@ -3,14 +3,22 @@
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "platform/devices/Files.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
-void MakeImagesFolder() { QDir().mkdir(session.imagesFolder()); }
+void MakeImagesFolder()
+{
+    if (QDir().mkdir(session.imagesFolder()))
+        files::sync(session.appFolder);
+    if (QFileInfo(session.imagesFolder()).isDir())
+        files::keepPrivate(session.imagesFolder());
+}
 
 bool CheckDatabaseVersion() { return values::Val(GetSetting(settings::DatabaseVersion)) == DatabaseVersion; }
 

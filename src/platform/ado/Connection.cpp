@@ -5,6 +5,7 @@
 #include "platform/ado/Dialect.h"
 #include "platform/ado/Functions.h"
 #include "platform/ado/RecordsetPrivate.h"
+#include "platform/devices/Files.h"
 
 #include <QFileInfo>
 #include <sqlcipher/sqlite3.h>
@@ -15,11 +16,34 @@ namespace ado {
 
 namespace {
 
-constexpr int busyTimeoutMs = 5000;
+constexpr int longestWait = 5000; // milliseconds
+constexpr int pause = 20;
+
+std::function<void(bool)> busyNotice;
 
 QString engineText(sqlite3* database) { return QString::fromUtf8(sqlite3_errmsg(database)); }
 
 } // namespace
+
+void setBusyNotice(std::function<void(bool waiting)> notice) { busyNotice = std::move(notice); }
+
+int Connection::Private::waitForLock(void* connection, int tries)
+{
+    auto& self = *static_cast<Private*>(connection);
+    if (tries * pause >= longestWait)
+        return 0;
+    if (!self.waiting && busyNotice)
+        busyNotice(true);
+    self.waiting = true;
+    sqlite3_sleep(pause);
+    return 1;
+}
+
+void Connection::Private::endWaiting()
+{
+    if (std::exchange(waiting, false) && busyNotice)
+        busyNotice(false);
+}
 
 sqlite3* Connection::Private::openHandle() const
 {
@@ -30,25 +54,31 @@ sqlite3* Connection::Private::openHandle() const
 
 std::unique_ptr<Prepared> Connection::Private::prepare(const QString& sql)
 {
-    return statements.take(openHandle(), sql);
+    try {
+        auto statement = statements.take(openHandle(), sql);
+        endWaiting();
+        return statement;
+    } catch (const DatabaseError& error) {
+        endWaiting();
+        throw DatabaseError(named(error.text(), sqlite3_errcode(database)));
+    }
 }
 
 bool Connection::Private::step(Prepared& statement)
 {
     const int code = sqlite3_step(statement.handle());
+    endWaiting();
     if (code == SQLITE_ROW)
         return true;
     if (code == SQLITE_DONE)
         return false;
-    const QString text = faultText(code);
+    const QString text = named(engineText(database), code);
     statement.reset();
     fail(text);
 }
 
-/// The engine's text; a fault of the file, not of the statement, names the file.
-QString Connection::Private::faultText(int code) const
+QString Connection::Private::named(const QString& text, int code) const
 {
-    const QString text = engineText(database);
     switch (code & 0xFF) {
     case SQLITE_BUSY:
     case SQLITE_READONLY:
@@ -57,6 +87,7 @@ QString Connection::Private::faultText(int code) const
     case SQLITE_FULL:
     case SQLITE_CANTOPEN:
     case SQLITE_NOTADB:
+    case SQLITE_NOMEM: // also said of a page that cannot be decrypted
         return path.isEmpty() ? text : path + u": "_s + text;
     default:
         return text;
@@ -80,6 +111,15 @@ void Connection::Private::refuseIfLost() const
         throw DatabaseError(lostBy);
 }
 
+/// The engine would go on writing into the file that it has open, or into the one that stands in its place.
+void Connection::Private::refuseIfReplaced() const
+{
+    if (!fileIdentity.isEmpty() && files::identity(path) != fileIdentity)
+        throw DatabaseError(path +
+                            u": this is no longer the file that was opened. Close the program, see that the "
+                            "right file is in its place, and start again."_s);
+}
+
 /// Ends the batch with nothing of it in the file. Rows that recordsets still hold may be of the batch.
 void Connection::Private::rollBack()
 {
@@ -99,6 +139,7 @@ void Connection::Private::closeRecordsets()
 void Connection::Private::beforeWrite(const QString& table)
 {
     refuseIfLost();
+    refuseIfReplaced();
     for (Recordset* recordset : recordsets)
         recordset->d->takeInRest(table);
 }
@@ -161,7 +202,7 @@ void Connection::openFile(const QString& path, const QString& password, int flag
     try {
         if (code != SQLITE_OK)
             throw DatabaseError(engineText(d->database));
-        sqlite3_busy_timeout(d->database, busyTimeoutMs);
+        sqlite3_busy_handler(d->database, &Private::waitForLock, d.get());
         if (!password.isEmpty()) {
             const QByteArray key = password.toUtf8();
             if (sqlite3_key(d->database, key.constData(), static_cast<int>(key.size())) != SQLITE_OK)
@@ -179,6 +220,7 @@ void Connection::openFile(const QString& path, const QString& password, int flag
         throw DatabaseError(path + u": "_s + error.text());
     }
     d->path = path;
+    d->fileIdentity = files::identity(path);
 }
 
 void Connection::close()
@@ -188,6 +230,7 @@ void Connection::close()
     sqlite3_close(d->database);
     d->database = nullptr;
     d->path.clear();
+    d->fileIdentity.clear();
 }
 
 bool Connection::isOpen() const { return d->database != nullptr; }
@@ -197,7 +240,8 @@ sqlite3* Connection::handle() const { return d->database; }
 int Connection::Execute(const QString& sql)
 {
     const dialect::Statement words = dialect::translate(sql);
-    Prepared statement(d->openHandle(), words.sql);
+    const std::unique_ptr<Prepared> compiled = d->prepare(words.sql);
+    Prepared& statement = *compiled;
     const bool writes = sqlite3_stmt_readonly(statement.handle()) == 0;
     if (writes)
         d->beforeWrite({});

@@ -17,6 +17,10 @@ namespace ado {
 
 class Recordset;
 
+/// Is called with true when a statement begins to wait for another program's lock, and with false when the
+/// wait is over; it lasts 5 seconds at most.
+void setBusyNotice(std::function<void(bool waiting)> notice);
+
 /// One handle on one database file. Not to be shared between threads.
 class Connection
 {

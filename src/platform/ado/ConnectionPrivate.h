@@ -12,6 +12,8 @@ struct Connection::Private
 {
     sqlite3* database = nullptr;
     QString path;
+    QByteArray fileIdentity;
+    bool waiting = false; // for another program's lock
     StatementCache statements;
     std::vector<Recordset*> recordsets; // those open
 
@@ -30,8 +32,11 @@ struct Connection::Private
     /// still to come.
     void beforeWrite(const QString& table);
     void refuseIfLost() const;
+    void refuseIfReplaced() const;
     void rollBack();
     void closeRecordsets();
+    /// Asked by the engine each time that another program's lock is in the way: 1 to try again.
+    static int waitForLock(void* connection, int tries);
     /// Runs a statement that yields no rows.
     void run(const QString& sql);
     /// The first value of the first row; nothing where there is no row.
@@ -41,7 +46,9 @@ struct Connection::Private
     void makeDurable();
 
 private:
-    QString faultText(int code) const;
+    /// The engine's text; a fault of the file, not of the statement, names the file.
+    QString named(const QString& text, int code) const;
+    void endWaiting();
     [[noreturn]] void fail(const QString& text);
 };
 
