@@ -26,10 +26,11 @@ protected:
     /// What tells one list from another.
     struct Kind
     {
-        QString name;     ///< the screen's name
-        QString title;    ///< heading and window title
-        QString table;    ///< where the records lie
-        QString keyField; ///< the field that the list shows
+        QString name;      ///< the screen's name
+        QString title;     ///< heading and window title
+        QString oneRecord; ///< as in "Ctrl+A adds a client"
+        QString table;     ///< where the records lie
+        QString keyField;  ///< the field that the list shows
         SearchFrom searchFrom = SearchFrom::SecondEntry;
     };
 

@@ -7,7 +7,8 @@
 using namespace Qt::StringLiterals;
 
 frmClients::frmClients()
-    : SummaryList({u"frmClients"_s, u"Clients"_s, u"Accounts"_s, u"Title"_s, SearchFrom::SecondEntry})
+    : SummaryList(
+          {u"frmClients"_s, u"Clients"_s, u"client"_s, u"Accounts"_s, u"Title"_s, SearchFrom::SecondEntry})
 {
 }
 

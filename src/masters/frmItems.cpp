@@ -7,7 +7,7 @@
 using namespace Qt::StringLiterals;
 
 frmItems::frmItems()
-    : SummaryList({u"frmItems"_s, u"Items"_s, u"Items"_s, u"Name"_s, SearchFrom::SecondEntry})
+    : SummaryList({u"frmItems"_s, u"Items"_s, u"item"_s, u"Items"_s, u"Name"_s, SearchFrom::SecondEntry})
 {
 }
 

@@ -7,7 +7,8 @@
 using namespace Qt::StringLiterals;
 
 frmWorkers::frmWorkers()
-    : SummaryList({u"frmWorkers"_s, u"Workers"_s, u"Accounts"_s, u"Title"_s, SearchFrom::SecondEntry})
+    : SummaryList(
+          {u"frmWorkers"_s, u"Workers"_s, u"worker"_s, u"Accounts"_s, u"Title"_s, SearchFrom::SecondEntry})
 {
 }
 

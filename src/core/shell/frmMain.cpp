@@ -106,6 +106,17 @@ void frmMain::RefershINFO()
     const QSignalBlocker quiet(ui->TodayDate);
     ui->TodayDate->setValue(session.WorkingDate);
     session.TodayDate = ui->TodayDate->value();
+    showWhetherToday();
+}
+
+/// Everything is stamped with the working date: one that is not today's is not to be overlooked.
+void frmMain::showWhetherToday()
+{
+    const bool today = session.WorkingDate == QDate::currentDate();
+    ui->lblToday->setText(today ? u"WORKING DATE"_s : u"WORKING DATE  ·  NOT TODAY"_s);
+    ui->lblToday->setProperty("notToday", !today);
+    ui->lblToday->style()->unpolish(ui->lblToday);
+    ui->lblToday->style()->polish(ui->lblToday);
 }
 
 void frmMain::Form_KeyPress(int& key)
@@ -132,6 +143,7 @@ void frmMain::changeWorkingDate()
     session.TodayDate = ui->TodayDate->value();
     session.WorkingDate = session.TodayDate;
     SetSetting(settings::WorkingDate, values::CStr(session.WorkingDate));
+    showWhetherToday();
 }
 
 void frmMain::Form_Unload() { QCoreApplication::quit(); }

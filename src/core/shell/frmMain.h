@@ -32,6 +32,7 @@ private:
     void SetWall();
     void RefershINFO();
     void changeWorkingDate();
+    void showWhetherToday();
 
     std::unique_ptr<Ui::frmMain> ui;
     Wallpaper* MyWall;

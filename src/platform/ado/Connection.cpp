@@ -90,8 +90,12 @@ QString Connection::Private::named(const QString& text, int code) const
     case SQLITE_NOMEM: // also said of a page that cannot be decrypted
         return path.isEmpty() ? text : path + u": "_s + text;
     default:
-        return text;
+        break;
     }
+    // So the engine calls a page that cannot be decrypted; its other errors of this kind have their own words.
+    if (!path.isEmpty() && text == QLatin1StringView(sqlite3_errstr(SQLITE_ERROR)))
+        return path + u": a part of the file is damaged ("_s + text + u')';
+    return text;
 }
 
 void Connection::Private::fail(const QString& text)
@@ -189,8 +193,8 @@ void Connection::open(const QString& path, const QString& password, Mode mode)
         throw DatabaseError(path + u": the file does not exist."_s);
     if (!file.isFile())
         throw DatabaseError(path + u": this is no file."_s);
-    // The engine would take an empty file for a new database.
-    if (file.size() == 0)
+    // The engine would take a file of one byte, too, for a new database.
+    if (file.size() <= 1)
         throw DatabaseError(path + u": the file is empty."_s);
     openFile(path, password, mode == Mode::ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
 }
@@ -262,6 +266,7 @@ void Connection::writeBatch(const std::function<void()>& work, const QString& re
         d->inBatch = true;
         work();
         d->refuseIfLost();
+        d->refuseIfReplaced();
         d->run(u"COMMIT"_s);
         d->inBatch = false;
     } catch (OperatorError& error) {

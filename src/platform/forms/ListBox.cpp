@@ -1,5 +1,6 @@
 #include "platform/forms/ListBox.h"
 
+#include "platform/forms/EmptyText.h"
 #include "platform/values/Titles.h"
 
 #include <QKeyEvent>
@@ -96,6 +97,12 @@ void ListBox::keyPressEvent(QKeyEvent* event)
         setListIndex(0);
     else
         QListView::keyPressEvent(event);
+}
+
+void ListBox::paintEvent(QPaintEvent* event)
+{
+    QListView::paintEvent(event);
+    paintEmptyText(*this);
 }
 
 void ListBox::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)

@@ -1,5 +1,6 @@
 #include "platform/forms/ListView.h"
 
+#include "platform/forms/EmptyText.h"
 #include "platform/forms/Palette.h"
 
 #include <QAbstractTableModel>
@@ -382,6 +383,12 @@ void ListView::resizeEvent(QResizeEvent* event)
 {
     QTreeView::resizeEvent(event);
     layOutColumns();
+}
+
+void ListView::paintEvent(QPaintEvent* event)
+{
+    QTreeView::paintEvent(event);
+    paintEmptyText(*this);
 }
 
 void ListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)

@@ -1,0 +1,20 @@
+#include "platform/forms/EmptyText.h"
+
+#include <QAbstractItemView>
+#include <QPainter>
+
+namespace forms {
+
+void paintEmptyText(const QAbstractItemView& list)
+{
+    constexpr int margin = 16;
+    if (list.model()->rowCount() > 0)
+        return;
+    QPainter painter(list.viewport());
+    painter.setFont(list.font());
+    painter.setPen(list.palette().color(QPalette::PlaceholderText));
+    painter.drawText(list.viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, list.property("emptyText").toString());
+}
+
+} // namespace forms
