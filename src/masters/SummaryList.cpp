@@ -20,7 +20,7 @@ SummaryList::SummaryList(const Kind& kind)
     ui->lblTitle->setText(kind.title);
     ui->lstSummary->setAccessibleName(kind.title);
     ui->lstSummary->setProperty("emptyText",
-                                u"Nothing here yet: Ctrl+A adds the first %1."_s.arg(kind.oneRecord));
+                                u"Nothing here yet: Ctrl+A adds the first %1"_s.arg(kind.oneRecord));
     ui->lblHelp->setText(u"Ctrl+A new %1  ·  Enter opens  ·  Esc close"_s.arg(kind.oneRecord));
 
     on(ui->txtSearch, &swTextBox::Change, [this] { search(ui->txtSearch->Text()); });

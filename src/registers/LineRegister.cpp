@@ -46,7 +46,7 @@ QPixmap statusDot(qint32 state)
     dot.fill(Qt::transparent);
     QPainter painter(&dot);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
+    painter.setPen(QPen(QColor(palette::white), 1)); // a ring, for a chosen row has a colour of its own
     painter.setBrush(QColor(stateColours[state]));
     painter.drawEllipse(QRectF(0.5, 0.5, size - 1, size - 1));
     painter.end();
