@@ -39,7 +39,7 @@ frmAccountBook::frmAccountBook()
 {
     ui->setupUi(this);
     setBook(ui->lvSummary, {ui->DateFrom, ui->DateTo});
-    ui->lvSummary->setColumns({{u"Date"_s, 10, Qt::AlignLeft, 106},
+    ui->lvSummary->setColumns({{u"Date"_s, 10, Qt::AlignLeft, 118},
                                {u"VC #"_s, 8, Qt::AlignRight, 66},
                                {u"Voucher"_s, 12, Qt::AlignLeft, 92},
                                {u"Particulars"_s, 15, Qt::AlignLeft, 150},

@@ -7,7 +7,8 @@
 using namespace Qt::StringLiterals;
 
 frmAccountsList::frmAccountsList()
-    : SummaryList({u"frmAccountsList"_s, u"Accounts"_s, u"account"_s, u"Accounts"_s, u"Title"_s, SearchFrom::FirstEntry})
+    : SummaryList({u"frmAccountsList"_s, u"Accounts"_s, u"account"_s, u"Accounts"_s, u"Title"_s,
+                   SearchFrom::FirstEntry})
 {
     setButtonCaptions(u"Add New"_s, u"Back"_s);
 }

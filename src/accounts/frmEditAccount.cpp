@@ -80,17 +80,17 @@ void frmEditAccount::saveNew()
 {
     if (isDuplicate())
         return;
-    qint32 id = 0;
+    qint16 id = 0;
     DE.connection().writeBatch([&] {
         ado::Recordset& accounts = DE.rsaccounts;
         accounts.Open(u"Select * from accounts order by id"_s);
         accounts.AddNew();
         writeFields();
-        id = accounts["ID"].integer();
+        id = values::toInt16(accounts["ID"].integer(), u"Account number"_s); // else the row goes again
         accounts.Close();
     });
     session.RefreshLists = true;
-    AccountID = values::toInt16(id, u"Account number"_s);
+    AccountID = id;
     AccountTitle = ui->txtName->Text();
     ShowMsg(u"New Account created."_s);
     AccountMode = RecordMode::Stored;

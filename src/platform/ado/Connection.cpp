@@ -92,7 +92,8 @@ QString Connection::Private::named(const QString& text, int code) const
     default:
         break;
     }
-    // So the engine calls a page that cannot be decrypted; its other errors of this kind have their own words.
+    // So the engine calls a page that cannot be decrypted; its other errors of this kind have their own
+    // words.
     if (!path.isEmpty() && text == QLatin1StringView(sqlite3_errstr(SQLITE_ERROR)))
         return path + u": a part of the file is damaged ("_s + text + u')';
     return text;
