@@ -100,7 +100,7 @@ void frmAccountBook::ExecuteSQL()
     m_account = id == 0 ? QString() : title;
     m_period = period.text();
     show(m_book.lines);
-    ui->lblShown->setText(id == 0 ? QString() : m_account + u"  ·  "_s + m_period);
+    ui->lblShown->setText(id == 0 ? QString() : m_account + u'\n' + m_period);
     if (id == 0 && !title.isEmpty()) {
         loadList();
         forms::plainMessage(this, u"The account \"%1\" is no longer there."_s.arg(title));
@@ -112,7 +112,7 @@ void frmAccountBook::ExecuteSQL()
 /// Takes the entry that the operator has begun to type; refuses a text that begins none.
 bool frmAccountBook::accountChosen()
 {
-    if (ComboTakeEntry(*ui->cmbAccount))
+    if (ComboFindIndex(*ui->cmbAccount) >= 0)
         return true;
     forms::plainMessage(this, u"Please select Account!"_s);
     ui->cmbAccount->setFocus();

@@ -51,7 +51,7 @@ frmTransiction::frmTransiction()
     onKeyPress(ui->VcDate, [](int& key) { key = EnterAsTab(key); });
     for (forms::ComboBox* combo : {ui->cmbParticulars, ui->cmbRefAcc}) {
         onGotFocus(combo, [combo] {
-            ComboTakeEntry(*combo);
+            ComboSyncIndex(*combo);
             ComboDropDown(*combo);
         });
         onKeyPress(combo, [combo](int& key) { key = EnterAsTab(AutoSearchCombo(*combo, key)); });
@@ -152,12 +152,12 @@ void frmTransiction::applyLabels()
 
 void frmTransiction::save()
 {
-    if (!ComboTakeEntry(*ui->cmbParticulars)) {
+    if (ComboFindIndex(*ui->cmbParticulars) < 0) {
         ShowMsg(u"Please select voucher!"_s);
         ui->cmbParticulars->setFocus();
         return;
     }
-    if (!ComboTakeEntry(*ui->cmbRefAcc)) {
+    if (ComboFindIndex(*ui->cmbRefAcc) < 0) {
         ShowMsg(u"Please Select Account!"_s);
         ui->cmbRefAcc->setFocus();
         return;

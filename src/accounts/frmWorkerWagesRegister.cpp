@@ -126,7 +126,7 @@ void frmWorkerWagesRegister::ExecuteSQL()
         showLines();
         return;
     }
-    ComboTakeEntry(*ui->cmbClient);
+    ComboSyncIndex(*ui->cmbClient);
     if (*scope != std::exchange(m_shown, *scope))
         ReturnIndex = 1;
     chooseStatement();

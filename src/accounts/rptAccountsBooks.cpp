@@ -193,6 +193,7 @@ std::unique_ptr<Report> StatementPaper(const AccountBook& book, const QString& a
     paper->setDataSource(readRows(staged));
     staged.Close();
 
+    paper->Subject = u"Account Statement %1 %2"_s.arg(account, period);
     Section& shop = paper->section(u"Section4"_s);
     shop.label(u"lblCompany"_s).Caption = session.ShopName;
     shop.label(u"lblAddress"_s).Caption = shopLines();

@@ -78,7 +78,7 @@ rptWagesRegister::rptWagesRegister()
         Field& field = paper::value(line, QLatin1String(column.field), QLatin1String(column.dataField),
                                     column.left, 50, column.width, column.format);
         field.FontSize = 9;
-        field.CanGrow = !isMoney;
+        field.CanGrow = true;
         if (isMoney)
             caption.Alignment = field.Alignment = Qt::AlignRight;
     }
@@ -100,6 +100,7 @@ std::unique_ptr<Report> wagesPaper(const std::vector<wages::Line>& lines, const 
     staged.Open(u"Select * from wagesregister"_s);
     paper->setDataSource(readRows(staged));
     staged.Close();
+    paper->Subject = u"Wages Register "_s + worker;
     Section& head = paper->section(u"Section2"_s);
     head.label(u"lblCompany"_s).Caption = session.ShopName;
     head.label(u"lblWorkerName"_s).Caption = worker;

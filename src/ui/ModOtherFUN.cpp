@@ -77,14 +77,6 @@ void ComboSyncIndex(ComboBox& combo)
     combo.select(0, int(combo.text().size()));
 }
 
-bool ComboTakeEntry(ComboBox& combo)
-{
-    if (ComboFindIndex(combo) < 0)
-        return false;
-    ComboSyncIndex(combo);
-    return true;
-}
-
 int NumbersOnly(const QLineEdit& box, int key) { return NumKey(boxes::unselectedText(box), key); }
 
 int EnterAsTab(int key)

@@ -18,8 +18,6 @@ void ComboDropDown(forms::ComboBox& combo);
 int ComboFindIndex(forms::ComboBox& combo);
 /// The same, and selects the whole text, so that typing replaces it.
 void ComboSyncIndex(forms::ComboBox& combo);
-/// The same, for a text that counts only as an entry of the list: false when no entry begins with it.
-bool ComboTakeEntry(forms::ComboBox& combo);
 
 /// The key filter for a number in a plain box: gives the key, or 0 for one that has no place in it.
 int NumbersOnly(const QString& text, int key);

@@ -158,7 +158,9 @@ private Q_SLOTS:
     {
         Counter screen;
         screen.second.setMinimumSize(screen.screen()->size());
+        screen.loading = [&screen] { screen.save.setFocus(); };
         onNextModal<Counter>([](Counter& shown) {
+            QVERIFY(shown.save.hasFocus());
             QVERIFY(shown.screen()->geometry().contains(shown.geometry()));
             for (QWidget* each : std::initializer_list<QWidget*>{&shown.save, &shown.first}) {
                 each->setFocus();

@@ -241,7 +241,7 @@ private Q_SLOTS:
 
             lines(screen).setFocus();
             onNextModal<frmAccountBook>([](frmAccountBook& book) {
-                QCOMPARE(label(book, "lblShown"), u"Asha  ·  10-Feb-2024 To 10-Feb-2024"_s);
+                QCOMPARE(label(book, "lblShown"), u"Asha\n10-Feb-2024 To 10-Feb-2024"_s);
             });
             act(1, Qt::Key_F2);
             QCOMPARE(lines(screen).selectedRow(), 1);

@@ -101,6 +101,7 @@ void frmMain::RefershINFO()
         copy("Address2", session.ShopAddress2);
         copy("Address3", session.ShopAddress3);
         ui->lblShopName->setText(session.ShopName);
+        ui->lblShopName->setToolTip(Qt::convertFromPlainText(session.ShopName)); // a long one is cut
     }
     shop.Close();
     const QSignalBlocker quiet(ui->TodayDate);

@@ -1,6 +1,7 @@
 #include "core/shell/frmSettings.h"
 
 #include "core/store/DE.h"
+#include "core/store/SerialNumber.h"
 #include "core/store/Settings.h"
 #include "messaging/modSMS.h"
 #include "platform/forms/MessageBox.h"
@@ -10,7 +11,6 @@
 #include "ui/modLang.h"
 #include "ui_frmSettings.h"
 
-#include <limits>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -18,8 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int LongestSMSTitle = 10;
-constexpr double highestCardNumber = std::numeric_limits<qint32>::max() - 1; ///< leaves a next one
-constexpr double longestDelivery = 36'500;                                   ///< a hundred years of days
+constexpr double longestDelivery = 36'500; ///< a hundred years of days
 
 QString checkedText(const QCheckBox& box) { return QString::number(int(box.isChecked())); }
 
@@ -149,7 +148,7 @@ void frmSettings::save()
 bool frmSettings::numbersFit()
 {
     const std::tuple<QLineEdit*, QString, double, double> fields[] = {
-        {ui->txtStartNum, ui->lblStartNum->text(), 1, highestCardNumber},
+        {ui->txtStartNum, ui->lblStartNum->text(), 1, HighestSerialNumber},
         {ui->txtDelMargin, ui->lblDelMargin->text(), 0, longestDelivery}};
     for (const auto& [box, name, lowest, highest] : fields) {
         const double number = values::Val(box->text());

@@ -368,21 +368,36 @@ bool ListView::viewportEvent(QEvent* event)
     return true;
 }
 
-/// The cell's own tool tip, else its text if that is cut off.
+/// The cell's text if that is cut off, and the cell's own tool tip.
 QString ListView::tipFor(const QModelIndex& index) const
 {
     const QString tip = look(index.row(), index.column()).toolTip;
-    if (!tip.isEmpty())
-        return tip;
     const QString text = cell(index.row(), index.column());
     const int room = visualRect(index).width() - paddingOfCell;
-    return fontMetrics().horizontalAdvance(text) > room ? text.left(longestTip) : QString();
+    if (fontMetrics().horizontalAdvance(text) <= room)
+        return tip;
+    return text.left(longestTip) + (tip.isEmpty() ? QString() : u'\n' + tip);
 }
 
 void ListView::resizeEvent(QResizeEvent* event)
 {
     QTreeView::resizeEvent(event);
     layOutColumns();
+}
+
+/// A row reaches to the edge of the view, also where its columns do not.
+void ListView::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    QTreeView::drawRow(painter, option, index);
+    QStyleOptionViewItem tail = option;
+    tail.rect.setLeft(header()->length() - header()->offset());
+    if (tail.rect.isEmpty())
+        return;
+    if (m_rows->row(index.row())->apart)
+        painter->fillRect(tail.rect, QColor(palette::shade));
+    tail.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(index));
+    tail.state.setFlag(QStyle::State_HasFocus, false);
+    style()->drawControl(QStyle::CE_ItemViewItem, &tail, painter, this);
 }
 
 void ListView::paintEvent(QPaintEvent* event)

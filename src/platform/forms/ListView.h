@@ -28,7 +28,7 @@ public:
     /// What a cell has beside its text.
     struct Look
     {
-        QString toolTip; ///< a cell without one tells its text when that is cut off
+        QString toolTip; ///< it stands below the cell's text when that is cut off
         QPixmap picture; ///< in front of the text
         bool bold = false;
         QColor colour; ///< of the text; an invalid one is the view's own
@@ -85,6 +85,8 @@ Q_SIGNALS:
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

@@ -165,6 +165,7 @@ void Screen::fitDisplay()
         m_scroller->setFrameShape(QFrame::NoFrame);
         m_scroller->setFocusPolicy(Qt::NoFocus);
         m_scroller->setWidgetResizable(true);
+        QWidget* focused = focusWidget(); // a control that moves loses the focus
         auto* content = new QWidget;
         m_scroller->setWidget(content);
         content->setLayout(layout()); // and the controls with it
@@ -174,6 +175,8 @@ void Screen::fitDisplay()
         column->setContentsMargins({});
         column->addWidget(m_scroller);
         column->activate(); // the content's least size is the screen's no longer
+        if (focused)
+            focused->setFocus();
     }
     resize(wanted);
 }
