@@ -1,8 +1,6 @@
 #include "support/Shop.h"
 
-#include "core/store/DE.h"
 #include "core/store/Schema.h"
-#include "core/store/Session.h"
 #include "core/store/Startup.h"
 
 #include <QFile>
@@ -72,24 +70,35 @@ qint32 Shop::addItem(const QString& name, double fees, double workerFees, const 
                {{"Name", name}, {"Fees", fees}, {"WorkerFees", workerFees}, {"ItemDetails", details}});
 }
 
-qint32 Shop::addJobLine(qint32 client, qint32 item, qint32 worker)
+qint32 Shop::addJobLine(qint32 client, qint32 item, qint32 worker, const QString& set)
 {
     const QDate day = session.WorkingDate;
-    return add("Jobs_Detail", {{"Date", day},
-                               {"JobDelDate", day},
-                               {"CuttingDate", day},
-                               {"JobID", 1},
-                               {"QNT", 1},
-                               {"FEES", 1},
-                               {"Amount", 1},
-                               {"ClintName", ""},
-                               {"ItemName", ""},
-                               {"Remarks", ""},
-                               {"ItemDetails", ""},
-                               {"ItemDetailsValue", ""},
-                               {"ClintID", client},
-                               {"ItemID", item},
-                               {"WorkerID", worker}});
+    const qint32 line = add("Jobs_Detail", {{"Date", day},
+                                            {"JobDelDate", day},
+                                            {"CuttingDate", day},
+                                            {"JobID", 1},
+                                            {"QNT", 1},
+                                            {"FEES", 1},
+                                            {"Amount", 1},
+                                            {"ClintName", ""},
+                                            {"ItemName", ""},
+                                            {"Remarks", ""},
+                                            {"ItemDetails", ""},
+                                            {"ItemDetailsValue", ""},
+                                            {"ClintID", client},
+                                            {"ItemID", item},
+                                            {"WorkerID", worker}});
+    if (!set.isEmpty())
+        run(u"Update Jobs_Detail set %1 where ID=%2"_s.arg(set).arg(line));
+    return line;
+}
+
+void Shop::addJob(qint32 number, qint32 client)
+{
+    run(u"Insert into Jobs select %1, '2024-02-01', %2, 'Asha', '2024-02-20', null, '2024-02-15', 0, null, "
+        u"0, "
+        "0, 0, '', 0, 0, ''"_s.arg(number)
+            .arg(client));
 }
 
 void Shop::addVoucher(qint32 vid, qint32 main, qint32 ref, double amount)
@@ -104,6 +113,26 @@ void Shop::addVoucher(qint32 vid, qint32 main, qint32 ref, double amount)
                          {"accID", line == 1 ? main : ref},
                          {"refID", line == 1 ? ref : main},
                          {"Amount", line == 1 ? amount : -amount}});
+}
+
+void Shop::order(clsJobCardData& lines, const QString& item, double amount, int quantity)
+{
+    lines.AddNewRow(0, item, GetItemID(item), quantity, amount / quantity, amount, "slim", "Length\r\nChest",
+                    "30\r\n40", 0, {}, {}, {}, {}, {}, 0, 0, 0, {}, {}, {}, "255", 0, {}, "note");
+}
+
+JobCardHead Shop::head(qint32 number, const QString& client, double total, double paid)
+{
+    JobCardHead head;
+    head.Number = number;
+    head.Date = session.WorkingDate;
+    head.DeliveryDate = head.Date.addDays(7);
+    head.TrialDate = head.Date.addDays(3);
+    head.Client = client;
+    head.Total = Currency::fromDouble(total);
+    head.Paid = Currency::fromDouble(paid);
+    head.ReceiptAccount = "Cash";
+    return head;
 }
 
 QVariant Shop::value(const QString& sql)

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "support/Fields.h"
+#include "support/Files.h"
 #include "support/Modal.h"
 #include "support/Prompts.h"
 #include "support/Shop.h"
 
-#include <QObject>
+#include <QTest>
 #include <memory>
 
 /// A test whose functions each begin in a fresh shop and must meet every prompt and screen that they expect.
