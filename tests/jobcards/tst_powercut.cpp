@@ -1,8 +1,4 @@
 #include "accounts/Payroll.h"
-#include "core/store/DE.h"
-#include "core/store/Lookups.h"
-#include "core/store/Session.h"
-#include "jobcards/JobCard.h"
 #include "support/Shop.h"
 
 #include <QDeadlineTimer>
@@ -11,15 +7,12 @@
 #include <QTest>
 
 #include <cstdio>
-#include <memory>
 #include <sqlcipher/sqlite3.h>
-
-namespace {
 
 constexpr int lines = 5;
 
 /// The engine's own word on the file: it reports damage in its rows.
-QByteArray integrity()
+static QByteArray integrity()
 {
     QByteArray report;
     const auto keep = [](void* kept, int, char** values, char**) {
@@ -30,14 +23,14 @@ QByteArray integrity()
     return report;
 }
 
-void tell(const char* what, int number)
+static void tell(const char* what, int number)
 {
     std::printf("%s %d\n", what, number);
     std::fflush(stdout);
 }
 
 /// The last number that a life has told of.
-int lastTold(const QByteArray& output, const QByteArray& what)
+static int lastTold(const QByteArray& output, const QByteArray& what)
 {
     const qsizetype end = output.lastIndexOf('\n');
     const qsizetype place = output.left(end).lastIndexOf(what);
@@ -47,7 +40,7 @@ int lastTold(const QByteArray& output, const QByteArray& what)
 /// The other life of this program: saves cards on the shop of `folder` without end, each on a day of its own,
 /// edits each once and pays the worker of its lines. It tells the number of each card that it was told is
 /// saved, and of each card that is paid.
-[[noreturn]] void saveCardsUntilKilled(const QString& folder)
+[[noreturn]] static void saveCardsUntilKilled(const QString& folder)
 {
     session.appFolder = folder;
     session.WorkingDate = QDate(2024, 2, 10);
@@ -55,16 +48,12 @@ int lastTold(const QByteArray& output, const QByteArray& what)
     const qint32 ravi = GetAccountID("Ravi");
     for (;;) {
         JobCard card;
-        for (int i = 0; i < lines; ++i)
-            card.JobRows.AddNewRow(0, "Shirt", 1, 1, 100, 100, {}, "Length", QString(2000, u'x'), 0, {}, {},
-                                   {}, {}, {}, 0, 0, 0, {}, {}, {}, {}, 0, {}, {});
-        JobCardHead head;
-        head.Number = JobCard::GetNewNum();
-        head.Date = head.DeliveryDate = head.TrialDate = session.WorkingDate.addDays(head.Number);
-        head.Client = "Asha";
-        head.Total = Currency::fromDouble(500);
-        head.Paid = Currency::fromDouble(200);
-        head.ReceiptAccount = "Cash";
+        for (int i = 1; i <= lines; ++i) {
+            Shop::order(card.JobRows, "Shirt", 100);
+            card.JobRows.SetRemarks(i, QString(2000, u'x'));
+        }
+        JobCardHead head = Shop::head(JobCard::GetNewNum(), "Asha", 500, 200);
+        head.Date = session.WorkingDate.addDays(head.Number);
         card.SaveNew(head);
         tell("card", head.Number);
         head.Paid = Currency::fromDouble(500);
@@ -78,23 +67,20 @@ int lastTold(const QByteArray& output, const QByteArray& what)
     }
 }
 
-} // namespace
-
 /// The program dies in the middle of its saves, again and again.
 class tst_powercut : public QObject
 {
     Q_OBJECT
-    std::unique_ptr<Shop> shop;
+    Shop shop;
     int acknowledged = 0;
     int paidCards = 0;
 
 private Q_SLOTS:
     void initTestCase()
     {
-        shop = std::make_unique<Shop>();
-        shop->addClient("Asha");
-        shop->addWorker("Ravi");
-        shop->addItem("Shirt");
+        shop.addClient("Asha");
+        shop.addWorker("Ravi");
+        shop.addItem("Shirt");
     }
     void cardsAndPayrollsAreWholeOrNotThere_data()
     {
@@ -106,7 +92,7 @@ private Q_SLOTS:
     {
         DE.close();
         QProcess saver;
-        saver.start(QCoreApplication::applicationFilePath(), {"--save-in", shop->folder()});
+        saver.start(QCoreApplication::applicationFilePath(), {"--save-in", shop.folder()});
         QVERIFY(saver.waitForReadyRead(15000)); // the first card of this life is saved
         const QDeadlineTimer end(QRandomGenerator::global()->bounded(1, 60));
         while (!end.hasExpired())
@@ -117,7 +103,7 @@ private Q_SLOTS:
         acknowledged = qMax(acknowledged, lastTold(told, "card "));
         paidCards = qMax(paidCards, lastTold(told, "paid "));
 
-        shop->reopen();
+        shop.reopen();
         QCOMPARE(integrity(), QByteArray("ok"));
         QCOMPARE(Shop::value("Select sum(Amount) from Postings").toDouble(), 0.0);
         const QStringList paid = Shop::rows("Select AmountPaid from Jobs order by id");
@@ -137,10 +123,8 @@ private Q_SLOTS:
                  payrolls);
         QCOMPARE(Shop::count("Select * from Jobs_Detail where MarkAsPaid<>0 or PayrollID<>0"),
                  lines * payrolls.size());
-        QVERIFY(paidCards == 0 ||
-                Shop::count(
-                    QString("Select * from Jobs_Detail where MarkAsPaid=1 and JobID=%1").arg(paidCards)) ==
-                    lines);
+        const auto marked = u"Select * from Jobs_Detail where MarkAsPaid=1 and JobID=%1"_s.arg(paidCards);
+        QCOMPARE(Shop::count(marked), paidCards == 0 ? 0 : lines);
     }
 };
 
