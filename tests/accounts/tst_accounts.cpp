@@ -1,20 +1,12 @@
 #include "accounts/frmAccountsList.h"
 #include "accounts/frmEditAccount.h"
-#include "core/store/Lookups.h"
-#include "core/store/Session.h"
 #include "support/ShopTest.h"
 
-#include <QTest>
-
-namespace {
-
-void edit(const QString& title, std::function<void(frmEditAccount&)> act)
+static void edit(const QString& title, std::function<void(frmEditAccount&)> act)
 {
     onNextModal<frmEditAccount>(std::move(act));
     frmEditAccount().ShowEdit(qint16(GetAccountID(title)));
 }
-
-} // namespace
 
 class tst_accounts : public ShopTest
 {
@@ -76,8 +68,7 @@ private Q_SLOTS:
         });
         QCOMPARE(Shop::value("Select nature from Accounts where Title='Wages'").toInt(), 1);
 
-        const qint32 main = shop->addClient("Main");
-        shop->addVoucher(1, main, shop->addClient("Opposite"), 10);
+        shop->addVoucher(1, shop->addClient("Main"), shop->addClient("Opposite"), 10);
         shop->addClient("Free");
         for (const char* title : {"Main", "Opposite"}) {
             prompts->expect("Are you sure?", Answer::Yes);

@@ -2,19 +2,11 @@
 #include "accounts/frmTransiction.h"
 #include "accounts/frmWorkerWagesRegister.h"
 #include "accounts/rptWagesRegister.h"
-#include "core/store/Session.h"
 #include "jobcards/frmEditWorkerAssign.h"
-#include "platform/report/Pages.h"
-#include "platform/report/Pdf.h"
-#include "platform/report/Preview.h"
+#include "support/Pdf.h"
 #include "support/ShopTest.h"
 
-#include <QProcess>
-#include <QTest>
-
-namespace {
-
-QString row(QWidget& screen, int number)
+static QString row(QWidget& screen, int number)
 {
     QStringList cells;
     for (int column = 0; column < 8; ++column)
@@ -23,7 +15,7 @@ QString row(QWidget& screen, int number)
 }
 
 /// The lines on the list, and the last balance.
-QString shown(QWidget& screen)
+static QString shown(QWidget& screen)
 {
     const forms::ListView& list = listView(screen, "lvSummary");
     QStringList tags;
@@ -31,8 +23,6 @@ QString shown(QWidget& screen)
         tags << list.tag(i);
     return tags.join(u' ') + ": " + list.cell(list.rowCount() - 1, 5);
 }
-
-} // namespace
 
 class tst_frmWorkerWagesRegister : public ShopTest
 {
@@ -47,14 +37,12 @@ class tst_frmWorkerWagesRegister : public ShopTest
         ravi = shop->addWorker("Ravi Das");
         shop->addWorker("Suresh");
         const qint32 shirt = shop->addItem("Shirt");
-        for (const char* wage : {"200", "100.5", "77", "0.25"})
-            Shop::run(QString("Update Jobs_Detail set WorkerWagesDue=%1, DoneByWorker=1, ItemSr=ID, "
-                              "ClintName='Asha', CompletedDate='2024-02-10' where ID=%2")
-                          .arg(wage)
-                          .arg(shop->addJobLine(asha, shirt, ravi)));
-        Shop::run("Update Jobs_Detail set DoneByWorker=0 where ID=3");
-        Shop::run("Update Jobs_Detail set MarkAsPaid=1 where ID=1");
-        Shop::run("Update Jobs_Detail set Date='2024-02-09', CompletedDate=null where ID=4");
+        for (const char* line : {"200, MarkAsPaid=1", "100.5", "77, DoneByWorker=0",
+                                 "0.25, Date='2024-02-09', CompletedDate=null"})
+            shop->addJobLine(asha, shirt, ravi,
+                             QString("DoneByWorker=1, ItemSr=ID, ClintName='Asha', "
+                                     "CompletedDate='2024-02-10', WorkerWagesDue=") +
+                                 line);
     }
     /// The unpaid lines of Ravi's two days.
     static void viewUnpaid(Register& screen)
@@ -146,15 +134,14 @@ private Q_SLOTS:
     void refusesInOrder()
     {
         inModal<Register>([this](Register& screen) {
-            const auto refuses = [&](const QString& text) {
+            const auto refuses = [&](const QString& text, const char* button = "Command3") {
                 prompts->expect(text);
-                click(screen, "Command3");
+                click(screen, button);
             };
             viewUnpaid(screen);
             click(screen, "op1");
             date(screen, "DateFrom").setValue(QDate(2024, 2, 11));
-            prompts->expect("Invalid date selection!"); // of the view
-            click(screen, "Command4");
+            refuses("Invalid date selection!", "Command4");
             refuses("Invalid date selection!"); // the list is still that of the unpaid lines
             date(screen, "DateFrom").setValue(QDate(2024, 2, 9));
             combo(screen, "cmbClient").setText("Nobody");
@@ -164,12 +151,6 @@ private Q_SLOTS:
                     "has been made: press View, look at the lines, then create it.");
             click(screen, "Command4");
             refuses("Select Unpaid jobs only!");
-            QCOMPARE(shown(screen), ": ");
-            click(screen, "op3");
-            click(screen, "Command4");
-            refuses("No job found to make payroll for this worker!");
-            combo(screen, "cmbClient").setText("Nobody");
-            click(screen, "Command4");
             QCOMPARE(shown(screen), ": ");
 
             Shop::run("Update Jobs_Detail set WorkerWagesDue=0.004 where ID=2");
@@ -185,8 +166,7 @@ private Q_SLOTS:
                     "View the lines again, then make the payroll.");
             QCOMPARE(Shop::count("Select * from Postings"), 0);
             Shop::run("Update Jobs_Detail set MarkAsPaid=0 where ID=2");
-            prompts->expect("Payroll Created.");
-            click(screen, "Command3");
+            refuses("Payroll Created.");
         });
         QCOMPARE(Shop::rows("Select Amount from Postings"), QStringList({"5", "-5"}));
     }
@@ -223,27 +203,16 @@ private Q_SLOTS:
             lines.back().balance = Currency::fromDouble(i * 1000.25);
         }
         wagesPaper({}, "Nobody");
-        const auto paper = wagesPaper(lines, "Ravi Das");
+        const QStringList pages = readBack(*wagesPaper(lines, "Ravi Das"));
         QCOMPARE(Shop::count("Select * from wagesregister"), 200);
-        QCOMPARE(Shop::rows("Select date, Jobid, client, item, wages, balance, completed, status from "
-                            "wagesregister where jobid='1 / 2'"),
-                 QStringList("2024-02-10 1 / 2 Asha Shirt 100.5 300.75 10-Feb-2024 Unpaid"));
-
-        const QString file = shop->folder() + "/wages.pdf";
-        report::saveFile(report::pdf(report::Pages(*paper), paper->Title), file);
-        QProcess reader; // -layout keeps the rows together
-        reader.start("pdftotext", {"-layout", file, "-"});
-        QVERIFY(reader.waitForFinished());
-        const QString text = QString::fromUtf8(reader.readAllStandardOutput());
-        const qsizetype pages = report::Pages(*paper).count();
-        QVERIFY(pages > 3);
-        const QString read = text.simplified(); // of two blanks, as in "Paid  Unpaid", one is left
-        for (const char* head : {"Rangoli Tailors", "Worker Name : Ravi Das", "Completed Date Paid Unpaid",
-                                 "Wages Register · Ravi Das"})
-            QVERIFY2(read.count(QString::fromUtf8(head)) == pages, head);
+        QVERIFY(pages.size() > 3);
+        const QString text = pages.join(u' ');
+        for (const QString& head : {u"Rangoli Tailors"_s, u"Worker Name : Ravi Das"_s,
+                                    u"Completed Date Paid Unpaid"_s, u"Wages Register · Ravi Das"_s})
+            QVERIFY2(text.count(head) == pages.size(), qPrintable(head));
         for (const wages::Line& line : lines) {
             const QString printed = line.cells().join(u' ').simplified();
-            QVERIFY2(read.contains(printed), qPrintable(printed));
+            QVERIFY2(text.contains(printed), qPrintable(printed));
         }
     }
 };
