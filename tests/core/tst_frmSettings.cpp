@@ -1,18 +1,12 @@
 #include "core/shell/frmSettings.h"
-#include "core/store/Settings.h"
 #include "messaging/modSMS.h"
 #include "support/ShopTest.h"
 #include "ui/frmSelectFile.h"
 #include "ui/swTextBoxMultiLine.h"
 
 #include <QTabWidget>
-#include <QTest>
 
-namespace {
-
-QString stored(qint32 setting) { return GetSetting(setting, "none"); }
-
-} // namespace
+static QString stored(qint32 setting) { return GetSetting(setting, "none"); }
 
 class tst_frmSettings : public ShopTest
 {

@@ -3,18 +3,14 @@
 #include "core/shell/frmMasters.h"
 #include "core/shell/frmShopINFO.h"
 #include "core/shell/modMain.h"
-#include "core/store/DE.h"
 #include "core/store/Schema.h"
-#include "core/store/Session.h"
-#include "core/store/Settings.h"
 #include "masters/frmClients.h"
-#include "support/Files.h"
 #include "support/ShopTest.h"
 
 #include <QDir>
 #include <QGroupBox>
 #include <QMessageBox>
-#include <QTest>
+#include <QProcess>
 
 /// The start of the program, its main screen and the screens that stand beside it.
 class tst_main : public ShopTest
@@ -123,6 +119,20 @@ private Q_SLOTS:
         });
     }
 
+    void twoFirstStartsAtOnceMakeOneShop()
+    {
+        DE.close();
+        QVERIFY(QFile::remove(session.databasePath()));
+        QProcess starts[2];
+        for (QProcess& program : starts)
+            program.start(QCoreApplication::applicationFilePath(), {"--start-in", shop->folder()});
+        for (QProcess& program : starts)
+            QVERIFY2(program.waitForFinished() && program.exitCode() == 0, program.readAllStandardError());
+        DE.open(session.databasePath());
+        QCOMPARE(Shop::rows("Select Name from Shop"), QStringList("KORVANE"));
+        QCOMPARE(Shop::count("Select * from Accounts"), 4);
+    }
+
     void wallpaper()
     {
         const QString path = writeFile(shop->folder() + "/wall.jpg", "no picture");
@@ -174,5 +184,17 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_main)
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == "--start-in") { // as the program itself, for one of two that start at once
+        session.appFolder = arguments.value(2);
+        const bool started = Main();
+        delete forms::Screen::front();
+        return started ? 0 : 1;
+    }
+    tst_main test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_main.moc"

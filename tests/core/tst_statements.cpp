@@ -1,6 +1,5 @@
 // The statements that the program sends, on the real tables: each shape must be taken as it stands and find
 // its rows.
-#include "core/store/DE.h"
 #include "support/Shop.h"
 
 #include <QTest>
@@ -104,32 +103,6 @@ private Q_SLOTS:
               "SHAPE {Select 1} APPEND ({Select 2} RELATE a b)", "SHAPE {Select 1} AS a COMPUTE b"})
             QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, print.Open(refused));
         QCOMPARE(DE.connection().Execute("Delete * from tmpHead"), 2);
-    }
-
-    /// Each column takes its values back as they were given.
-    void appendToEachTable()
-    {
-        const Shop shop;
-        const auto given = [](const ado::Recordset& rows, int column) {
-            const QString name = rows.FieldName(column).toLower();
-            const bool date = name.contains("date") || name == u"dob";
-            return date ? QVariant(QDate(2024, 3, 1).addDays(column)) : QVariant(column);
-        };
-        for (const char* table : {"SHOP", "ITEMS", "Accounts", "JOBS", "JOBS_DETAIL", "Settings", "tmpHead",
-                                  "tmpBody", "postings", "rank", "wagesregister", "accountbook"}) {
-            ado::Recordset rows(DE.connection(), table);
-            rows.Open();
-            rows.AddNew();
-            const int first = qstrcmp(table, "JOBS") == 0 ? 0 : 1; // behind the autonumber
-            for (int column = first; column < rows.FieldCount(); ++column)
-                rows[column] = given(rows, column);
-            rows.Update();
-            rows.Open();
-            rows.MoveLast();
-            for (int column = first; column < rows.FieldCount(); ++column)
-                QVERIFY2(rows[column].text() == given(rows, column).toString(),
-                         qPrintable(rows.FieldName(column)));
-        }
     }
 };
 
