@@ -10,10 +10,8 @@
 #include <QtTest>
 #include <numeric>
 
-namespace {
-
 /// The translators' file: the Hindi, in Unicode, of each English message.
-QMap<QString, QString> readMessages()
+static QMap<QString, QString> readMessages()
 {
     QMap<QString, QString> messages;
     QString english;
@@ -28,7 +26,7 @@ QMap<QString, QString> readMessages()
 }
 
 /// Black on white in the font that the dialog asks for, large enough for a reader of print.
-QImage rendered(const QString& encoded)
+static QImage rendered(const QString& encoded)
 {
     QFont font("Kruti Dev 010");
     font.setPixelSize(56);
@@ -43,7 +41,7 @@ QImage rendered(const QString& encoded)
 }
 
 /// What a reader of Hindi print makes of each picture.
-QStringList readAloud(const QList<QImage>& pages)
+static QStringList readAloud(const QList<QImage>& pages)
 {
     const QTemporaryDir folder;
     QByteArray paths;
@@ -66,14 +64,14 @@ QStringList readAloud(const QList<QImage>& pages)
 }
 
 /// The letters alone: a reader may take the full stop for a stroke, and blanks and line breaks differ.
-QString letters(QString text)
+static QString letters(QString text)
 {
     static const QRegularExpression rest("[\\s|।!?.,'‘’\\x{200c}\\x{200d}]");
     return text.remove(rest).normalized(QString::NormalizationForm_D);
 }
 
 /// 1 for equal texts, 0 for texts with nothing in common: by the number of characters to change.
-double similarity(const QString& a, const QString& b)
+static double similarity(const QString& a, const QString& b)
 {
     std::vector<qsizetype> row(static_cast<size_t>(b.size()) + 1);
     std::iota(row.begin(), row.end(), 0);
@@ -88,8 +86,6 @@ double similarity(const QString& a, const QString& b)
     }
     return 1.0 - double(row.back()) / double(std::max<qsizetype>({a.size(), b.size(), 1}));
 }
-
-} // namespace
 
 /// Whether an operator can read the Hindi of the message dialog: it is drawn and read back by a text reader.
 class TestLegible : public QObject

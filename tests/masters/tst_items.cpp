@@ -3,19 +3,16 @@
 #include "support/ShopTest.h"
 #include "ui/swTextBoxMultiLine.h"
 
-#include <QTest>
+static swTextBoxMultiLine& details(QWidget& form)
+{
+    return control<swTextBoxMultiLine>(form, "txtItemDetails");
+}
 
-namespace {
-
-swTextBoxMultiLine& details(QWidget& form) { return control<swTextBoxMultiLine>(form, "txtItemDetails"); }
-
-void edit(qint32 id, std::function<void(frmEditItem&)> act)
+static void edit(qint32 id, std::function<void(frmEditItem&)> act)
 {
     onNextModal<frmEditItem>(std::move(act));
     frmEditItem().Edit(qint16(id));
 }
-
-} // namespace
 
 class tst_items : public ShopTest
 {

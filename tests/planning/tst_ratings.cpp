@@ -1,4 +1,3 @@
-#include "core/store/Session.h"
 #include "planning/Ratings.h"
 #include "planning/Stars.h"
 #include "planning/frmFeedBack.h"
@@ -8,23 +7,15 @@
 #include "support/ShopTest.h"
 #include "ui/swTextBoxMultiLine.h"
 
-#include <QTest>
+static forms::ListView& summary(QWidget& screen) { return listView(screen, "lvSummary"); }
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-forms::ListView& summary(QWidget& screen) { return listView(screen, "lvSummary"); }
-
-QString rowText(QWidget& screen, int row)
+static QString rowText(QWidget& screen, int row)
 {
     QStringList cells;
     for (int column = 0; column < 4; ++column)
         cells << summary(screen).cell(row, column);
     return cells.join(u'|');
 }
-
-} // namespace
 
 /// Feedback on finished items, and what it makes of the workers.
 class tst_ratings : public ShopTest

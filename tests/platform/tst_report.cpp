@@ -18,9 +18,7 @@
 
 using namespace report;
 
-namespace {
-
-Row line(const QString& name, const QString& remark = {})
+static Row line(const QString& name, const QString& remark = {})
 {
     Row row;
     row.set("Name", name);
@@ -79,8 +77,6 @@ private:
     const QByteArray m_before = qgetenv("PATH");
 };
 
-} // namespace
-
 class tst_report : public QObject
 {
     Q_OBJECT
@@ -90,194 +86,148 @@ private Q_SLOTS:
     void init() { prompts = std::make_unique<Prompts>(); }
     void cleanup() { QVERIFY(prompts->allMet()); }
 
-    void breaksManyLinesOverPages();
-    void printsALongTextWhole();
-    void findsControlsByName();
-    void savesFilesWholeOrNotAtAll();
-    void turnsPagesAndPrintsAFew();
-    void tellsWhatThePrintSystemRefuses_data();
-    void tellsWhatThePrintSystemRefuses();
-    void printsPicturesAtTheirPlace();
-    void finishesPrintingAtTheEnd();
-};
-
-void tst_report::breaksManyLinesOverPages()
-{
-    std::vector<Row> lines;
-    for (int i = 1; i <= 80; ++i)
-        lines.push_back(line(QString("Shirt%1").arg(i), QString::fromUtf8("कुर्ता")));
-    const Bill bill(std::move(lines));
-    const Pages pages(bill);
-    const QStringList read = readBack(pdf(pages, bill.Title));
-    QCOMPARE(read.size(), pages.count());
-    QCOMPARE(pages.count(), 4);
-    for (int i = 0; i < read.size(); ++i) {
-        QVERIFY(read[i].contains("Particulars"));
-        QCOMPARE(read[i].contains("Rangoli"), i == 0);
-        QCOMPARE(read[i].contains("Total"), i == 3);
-        QVERIFY(read[i].contains(QString("%1/4").arg(i + 1)));
+    void breaksManyLinesOverPages()
+    {
+        std::vector<Row> lines;
+        for (int i = 1; i <= 80; ++i)
+            lines.push_back(line(QString("Shirt%1").arg(i), QString::fromUtf8("कुर्ता")));
+        const Bill bill(std::move(lines));
+        const Pages pages(bill);
+        const QStringList read = readBack(pdf(pages, bill.Title));
+        QCOMPARE(read.size(), pages.count());
+        QCOMPARE(pages.count(), 4);
+        for (int i = 0; i < read.size(); ++i) {
+            QVERIFY(read[i].contains("Particulars"));
+            QCOMPARE(read[i].contains("Rangoli"), i == 0);
+            QCOMPARE(read[i].contains("Total"), i == 3);
+            QVERIFY(read[i].contains(QString("%1/4").arg(i + 1)));
+        }
+        const QString all = read.join(' ');
+        for (int i = 1; i <= 80; ++i)
+            QCOMPARE(all.count(QRegularExpression(QString("Shirt%1\\b").arg(i))), 1);
+        QVERIFY(read[0].contains("1,234.50") && read[0].contains("10-Feb-24"));
     }
-    const QString all = read.join(' ');
-    for (int i = 1; i <= 80; ++i)
-        QCOMPARE(all.count(QRegularExpression(QString("Shirt%1\\b").arg(i))), 1);
-    QVERIFY(read[0].contains("1,234.50") && read[0].contains("10-Feb-24"));
-}
 
-void tst_report::printsALongTextWhole()
-{
-    QStringList words;
-    for (int i = 0; i < 4000; ++i)
-        words << QString("w%1").arg(i);
-    const Bill bill(
-        {line("First"), line("Long", words.join(' ')), line("Unbroken", QString(10'000, 'x')), line("Last")});
-    const Pages pages(bill);
-    QStringList printed;
-    qsizetype unbroken = 0;
-    for (int page = 0; page < pages.count(); ++page) {
-        for (const QString& text : pages.texts(page)) {
-            printed << text.split(' ');
-            unbroken += text.count('x');
+    void printsALongTextWhole()
+    {
+        QStringList words;
+        for (int i = 0; i < 4000; ++i)
+            words << QString("w%1").arg(i);
+        const Bill bill({line("First"), line("Long", words.join(' ')), line("Unbroken", QString(10'000, 'x')),
+                         line("Last")});
+        const Pages pages(bill);
+        QStringList printed;
+        qsizetype unbroken = 0;
+        for (int page = 0; page < pages.count(); ++page) {
+            for (const QString& text : pages.texts(page)) {
+                printed << text.split(' ');
+                unbroken += text.count('x');
+            }
+        }
+        QCOMPARE(QSet<QString>(printed.begin(), printed.end()).intersect({words.begin(), words.end()}).size(),
+                 words.size());
+        QCOMPARE(unbroken, 10'000);
+        QVERIFY(printed.indexOf("w3999") < printed.indexOf("Last"));
+        QVERIFY(pages.count() > 3 && pages.count() < 40);
+    }
+
+    void turnsPagesAndPrintsAFew()
+    {
+        PrintSystem system;
+        const QString printed = system.path("printed.pdf");
+        system.program("lpstat", "echo Counter\necho Office\n");
+        system.program("lp", "echo \"$@\" > '" + system.path("how").toLocal8Bit() + "'\ncat > '" +
+                                 printed.toLocal8Bit() + ".part'\nmv '" + printed.toLocal8Bit() + ".part' '" +
+                                 printed.toLocal8Bit() + "'\n");
+        const Bill bill(std::vector<Row>(80, line("Shirt")));
+        onNextModal<Preview>([&](Preview& preview) {
+            QCOMPARE(label(preview, "lblPage"), QString("Page 1 of 4"));
+            press(Qt::Key_PageUp);
+            press(Qt::Key_PageDown);
+            press(Qt::Key_PageDown);
+            QCOMPARE(label(preview, "lblPage"), QString("Page 3 of 4"));
+            press(Qt::Key_End);
+            press(Qt::Key_PageDown);
+            QCOMPARE(label(preview, "lblPage"), QString("Page 4 of 4"));
+            typeText("1+");
+            QCOMPARE(label(preview, "lblZoom"), QString("125 %"));
+            onNextModal<PrintDialog>([&](PrintDialog& dialog) {
+                auto& printers = control<QComboBox>(dialog, "cmbPrinter");
+                QTRY_COMPARE(printers.count(), 3);
+                printers.setCurrentIndex(2);
+                control<QSpinBox>(dialog, "txtCopies").setValue(2);
+                control<QSpinBox>(dialog, "txtFrom").setValue(3);
+                press(Qt::Key_Return);
+            });
+            press(Qt::Key_P, Qt::ControlModifier);
+        });
+        Preview(bill).showModal();
+        QTRY_VERIFY(QFile::exists(printed));
+        QCOMPARE(contents(system.path("how")).trimmed(), QByteArray("-t Bill -n 2 -d Office"));
+        QCOMPARE(readBack(contents(printed)).size(), 2);
+    }
+
+    void tellsWhatThePrintSystemRefuses()
+    {
+        setPrintPatience(500);
+        for (const auto& [script, told] :
+             {std::pair("echo 'lp: Error - no default destination.' >&2; exit 1",
+                        " was not printed: this computer has no printer, or none of its printers is the "
+                        "default one.\n\nSet up a printer in the computer's settings and make it the default "
+                        "one. In the preview, \"Print\" lets you choose among the printers and \"Save as "
+                        "PDF\" keeps the paper as a file."),
+              std::pair("echo 'lp: jammed' >&2; exit 1", " was not printed.\n\nlp: jammed"),
+              std::pair("exec yes", " was not printed.\n\nThe print system gives no reason."),
+              std::pair("", " was not printed: this computer has no print system (the program \"lp\" is "
+                            "missing).")}) {
+            PrintSystem system;
+            if (*script)
+                system.program("lp", script);
+            else
+                system.hideTheRest();
+            prompts->expect(QString("\"Bill\"") + told);
+            printDirect(Bill({line("Shirt")}));
+            QTRY_COMPARE(prompts->pending(), 0);
         }
     }
-    QCOMPARE(QSet<QString>(printed.begin(), printed.end()).intersect({words.begin(), words.end()}).size(),
-             words.size());
-    QCOMPARE(unbroken, 10'000);
-    QVERIFY(printed.indexOf("w3999") < printed.indexOf("Last"));
-    QVERIFY(pages.count() > 3 && pages.count() < 40);
-}
 
-void tst_report::findsControlsByName()
-{
-    Bill bill({});
-    bill.section("head").label("LBLCOMPANY").Caption = "100%pure";
-    QVERIFY(Pages(bill).texts(0).contains("100%pure"));
-    QVERIFY_THROWS_EXCEPTION(std::logic_error, bill.section("Head").field("lblCompany"));
-    QVERIFY_THROWS_EXCEPTION(std::logic_error, bill.section("Side"));
-    bill.setDataSource({line("Shirt")});
-    bill.section("Head").addField("txtLost", "Lost");
-    QVERIFY_THROWS_EXCEPTION(std::logic_error, Pages{bill});
-}
+    /// The end of the program: paper of any size arrives whole, a failure is told, and no program of the
+    /// print system stays behind, also one that nobody waits for.
+    void finishesPrintingAtTheEnd()
+    {
+        PrintSystem system;
+        const QByteArray out = system.path("out").toLocal8Bit();
+        system.program("lp", "sleep 0.3; cat > '" + out + "'\n");
+        setPrintPatience(10'000);
+        const QByteArray paper = QByteArray(1'000'000, 'x') + "%%EOF\n";
+        print({.pdf = paper, .title = "Bill"});
+        finishPrinting();
+        QCOMPARE(contents(system.path("out")), paper);
+        system.program("lp", "echo $$ > '" + out + "'; exec sleep 30\n");
+        setPrintPatience(300);
+        prompts->expect("The printer does not answer. \"Bill\" may not have been printed.");
+        print({.pdf = paper, .title = "Bill"});
+        finishPrinting();
+        QCOMPARE(prompts->pending(), 0);
+        QTRY_VERIFY(!QFile::exists(QString("/proc/" + contents(system.path("out")).trimmed())));
+        system.program("lpstat", "exec sleep 30\n");
+        setPrintPatience(10'000);
+        askPrinters(this, [](const QStringList&) {}); // runs on as the application ends
+    }
 
-void tst_report::savesFilesWholeOrNotAtAll()
-{
-    const QTemporaryDir folder;
-    saveFile("paper", folder.filePath("a.pdf"));
-    QCOMPARE(contents(folder.filePath("a.pdf")), QByteArray("paper"));
-    QVERIFY_THROWS_EXCEPTION(OperatorError, saveFile("paper", folder.filePath("none/a.pdf")));
-    QVERIFY_THROWS_EXCEPTION(OperatorError, saveFile("paper", folder.path()));
-}
-
-void tst_report::turnsPagesAndPrintsAFew()
-{
-    PrintSystem system;
-    const QString printed = system.path("printed.pdf");
-    system.program("lpstat", "echo Counter\necho Office\n");
-    system.program("lp", "echo \"$@\" > '" + system.path("how").toLocal8Bit() + "'\ncat > '" +
-                             printed.toLocal8Bit() + ".part'\nmv '" + printed.toLocal8Bit() + ".part' '" +
-                             printed.toLocal8Bit() + "'\n");
-    const Bill bill(std::vector<Row>(80, line("Shirt")));
-    onNextModal<Preview>([&](Preview& preview) {
-        QCOMPARE(label(preview, "lblPage"), QString("Page 1 of 4"));
-        press(Qt::Key_PageUp);
-        press(Qt::Key_PageDown);
-        press(Qt::Key_PageDown);
-        QCOMPARE(label(preview, "lblPage"), QString("Page 3 of 4"));
-        press(Qt::Key_End);
-        press(Qt::Key_PageDown);
-        QCOMPARE(label(preview, "lblPage"), QString("Page 4 of 4"));
-        QVERIFY(!control<QPushButton>(preview, "cmdNext").isEnabled());
-        typeText("1");
-        QCOMPARE(label(preview, "lblZoom"), QString("100 %"));
-        typeText("+");
-        QCOMPARE(label(preview, "lblZoom"), QString("125 %"));
-        onNextModal<PrintDialog>([&](PrintDialog& dialog) {
-            auto& printers = control<QComboBox>(dialog, "cmbPrinter");
-            QTRY_COMPARE(printers.count(), 3);
-            printers.setCurrentIndex(2);
-            control<QSpinBox>(dialog, "txtCopies").setValue(2);
-            control<QSpinBox>(dialog, "txtFrom").setValue(3);
-            press(Qt::Key_Return);
-        });
-        press(Qt::Key_P, Qt::ControlModifier);
-    });
-    Preview(bill).showModal();
-    QTRY_VERIFY(QFile::exists(printed));
-    QCOMPARE(contents(system.path("how")).trimmed(), QByteArray("-t Bill -n 2 -d Office"));
-    QCOMPARE(readBack(contents(printed)).size(), 2);
-}
-
-void tst_report::tellsWhatThePrintSystemRefuses_data()
-{
-    QTest::addColumn<QByteArray>("script");
-    QTest::addColumn<QString>("told");
-    QTest::newRow("no printer")
-        << QByteArray("echo 'lp: Error - no default destination.' >&2; exit 1")
-        << "\"Bill\" was not printed: this computer has no printer, or none of its printers is "
-           "the default one.\n\nSet up a printer in the computer's settings and make it "
-           "the default one. In the preview, \"Print\" lets you choose among the "
-           "printers and \"Save as PDF\" keeps the paper as a file.";
-    QTest::newRow("refused") << QByteArray("echo 'lp: jammed' >&2; exit 1")
-                             << "\"Bill\" was not printed.\n\nlp: jammed";
-    QTest::newRow("writes without end")
-        << QByteArray("exec yes") << "\"Bill\" was not printed.\n\nThe print system gives no reason.";
-    QTest::newRow("never answers") << QByteArray("exec sleep 30")
-                                   << "The printer does not answer. \"Bill\" may not have been printed.";
-    QTest::newRow("not installed") << QByteArray()
-                                   << "\"Bill\" was not printed: this computer has no print system (the "
-                                      "program \"lp\" is missing).";
-}
-
-void tst_report::tellsWhatThePrintSystemRefuses()
-{
-    QFETCH(QByteArray, script);
-    QFETCH(QString, told);
-    PrintSystem system;
-    if (script.isEmpty())
-        system.hideTheRest();
-    else
-        system.program("lp", script);
-    setPrintPatience(500);
-    prompts->expect(told);
-    printDirect(Bill({line("Shirt")}));
-    QTRY_COMPARE(prompts->pending(), 0);
-}
-
-/// The end of the program: paper of any size arrives whole, a failure is told, and no program of the print
-/// system stays behind, also one that nobody waits for.
-void tst_report::finishesPrintingAtTheEnd()
-{
-    PrintSystem system;
-    const QByteArray out = system.path("out").toLocal8Bit();
-    system.program("lp", "sleep 0.3; cat > '" + out + "'\n");
-    setPrintPatience(10'000);
-    const QByteArray paper = QByteArray(1'000'000, 'x') + "%%EOF\n";
-    print({.pdf = paper, .title = "Bill"});
-    finishPrinting();
-    QCOMPARE(contents(system.path("out")), paper);
-    system.program("lp", "echo $$ > '" + out + "'; exec sleep 30\n");
-    setPrintPatience(300);
-    prompts->expect("The printer does not answer. \"Bill\" may not have been printed.");
-    print({.pdf = paper, .title = "Bill"});
-    finishPrinting();
-    QCOMPARE(prompts->pending(), 0);
-    QTRY_VERIFY(!QFile::exists(QString("/proc/" + contents(system.path("out")).trimmed())));
-    system.program("lpstat", "exec sleep 30\n");
-    setPrintPatience(10'000);
-    askPrinters(this, [](const QStringList&) {}); // runs on as the application ends
-}
-
-void tst_report::printsPicturesAtTheirPlace()
-{
-    PrintSystem system;
-    system.program("lp", "cat > '" + system.path("out").toLocal8Bit() + "'\n");
-    QImage picture(40, 30, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    QVERIFY(picture.save(system.path("cloth.png")));
-    printPicture(system.path("cloth.png"), 100, 100);
-    QTRY_VERIFY(contents(system.path("out")).endsWith("%%EOF\n"));
-    QVERIFY_THROWS_EXCEPTION(OperatorError, printPicture(system.path("lp"), 100, 100));
-    QVERIFY_THROWS_EXCEPTION(OperatorError, printPicture(system.path(""), 100, 100));
-}
+    void printsPicturesAndSavesFilesWhole()
+    {
+        PrintSystem system;
+        system.program("lp", "cat > '" + system.path("out").toLocal8Bit() + "'\n");
+        QVERIFY(QImage(40, 30, QImage::Format_RGB32).save(system.path("cloth.png")));
+        printPicture(system.path("cloth.png"), 100, 100);
+        QTRY_VERIFY(contents(system.path("out")).endsWith("%%EOF\n"));
+        for (const char* unfit : {"lp", ""})
+            QVERIFY_THROWS_EXCEPTION(OperatorError, printPicture(system.path(unfit), 100, 100));
+        for (const char* unfit : {"none/a.pdf", ""})
+            QVERIFY_THROWS_EXCEPTION(OperatorError, saveFile("paper", system.path(unfit)));
+    }
+};
 
 QTEST_MAIN(tst_report)
 #include "tst_report.moc"

@@ -13,8 +13,6 @@
 
 using namespace forms;
 
-namespace {
-
 /// Two fields and two buttons; writes down what reaches it.
 class Counter : public Screen
 {
@@ -73,8 +71,6 @@ protected:
             unload();
     }
 };
-
-} // namespace
 
 class tst_screen : public QObject
 {

@@ -8,8 +8,6 @@
 
 using namespace values;
 
-namespace {
-
 struct Reading
 {
     const char* text;
@@ -74,8 +72,6 @@ const Reading typedDays[] = {
 const char* const noTypedDays[] = {"31-02",  "29022023", "12-13-2024", "103",        "10325",   "1032025",
                                    "10-Foo", "10-ma-24", "10-03-024",  "10-03-3202", "1-2-3-4", "10:3:25",
                                    "0",      "",         "-",          "March 2025", "१०-३-२५"};
-
-} // namespace
 
 class tst_values : public QObject
 {

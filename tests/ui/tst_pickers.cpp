@@ -1,10 +1,8 @@
-#include "support/Files.h"
 #include "support/ShopTest.h"
 #include "ui/frmSelectDate.h"
 #include "ui/frmSelectFile.h"
 
 #include <QDir>
-#include <QTest>
 
 class tst_pickers : public ShopTest
 {
