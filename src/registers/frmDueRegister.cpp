@@ -59,18 +59,17 @@ void frmDueRegister::Form_Activate()
 void frmDueRegister::ExcuteSQl()
 {
     ui->lvSummary->Clear();
-    const QString clients = whereType(AccountType::Client);
-    const QHash<qint32, double> balances =
-        GetBalances(u"Select ID from Accounts"_s + clients, session.WorkingDate);
     std::vector<forms::ListView::Row> rows;
     ado::Recordset& accounts = DE.rsaccounts;
-    for (accounts.Open(u"Select * from Accounts"_s + clients + u" order by Title"_s); !accounts.AtEOF();
-         accounts.MoveNext()) {
-        const qint32 id = accounts["ID"].integer();
-        const Currency balance = Currency::fromDouble(balances.value(id));
+    for (accounts.Open(u"Select Accounts.ID, Title, sum(Amount) as Balance from Accounts, Postings"_s +
+                       whereType(AccountType::Client) + u" and accID=Accounts.ID and "_s +
+                       countsUpTo(session.WorkingDate) +
+                       u" group by Accounts.ID having sum(Amount)<0 order by Title"_s);
+         !accounts.AtEOF(); accounts.MoveNext()) {
+        const Currency balance = Currency::fromDouble(accounts["Balance"].number());
         if (balance < Currency())
-            rows.push_back(
-                {{accounts["Title"].text(), moneyText((-balance).toDouble())}, QString::number(id)});
+            rows.push_back({{accounts["Title"].text(), moneyText((-balance).toDouble())},
+                            QString::number(accounts["ID"].integer())});
     }
     accounts.Close();
     ui->lvSummary->setRows(std::move(rows));

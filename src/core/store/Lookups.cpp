@@ -146,19 +146,23 @@ void FillList(const QString& field, const QString& table, const QString& conditi
     fill(u"Select "_s + field + u" from "_s + table + condition + byTitle(field), control, recordset);
 }
 
+QString countsUpTo(const QDate& date)
+{
+    return u"status=0 and date between #17-11-1985# and #"_s + values::CStr(date) + u'#';
+}
+
 double GetBalance(qint16 account, const QDate& date)
 {
-    return sum(u"Select sum(Amount) from Postings where status=0 and  AccID="_s + QString::number(account) +
-               u" and date between #17-11-1985# and #"_s + values::CStr(date) + u'#');
+    return sum(u"Select sum(Amount) from Postings where AccID="_s + QString::number(account) + u" and "_s +
+               countsUpTo(date));
 }
 
 QHash<qint32, double> GetBalances(const QString& accounts, const QDate& date)
 {
     QHash<qint32, double> balances;
     ado::Recordset& rows = DE.rspostings;
-    for (rows.Open(u"Select accID, sum(Amount) from Postings where status=0 and date between #17-11-1985# "
-                   "and #"_s +
-                   values::CStr(date) + u"# and accID in ("_s + accounts + u") group by accID"_s);
+    for (rows.Open(u"Select accID, sum(Amount) from Postings where accID in (%1) and %2 group by accID"_s.arg(
+             accounts, countsUpTo(date)));
          !rows.AtEOF(); rows.MoveNext())
         balances.insert(rows[0].integer(), rows[1].number());
     rows.Close();

@@ -39,8 +39,9 @@ void FillCombo(const QString& field, const QString& table, ListTarget& control, 
 void FillList(const QString& field, const QString& table, const QString& condition, ListTarget& control,
               ado::Recordset& recordset);
 
+/// The condition that a posting counts in a balance of `date`: valid, and not before 17 November 1985.
+QString countsUpTo(const QDate& date);
 /// The sum of an account's valid postings up to `date`; 0 without postings. Negative: the account owes.
-/// Postings before 17 November 1985 count for nothing.
 double GetBalance(qint16 account, const QDate& date);
 /// The same of many accounts at once, those that a query names; an account without postings is left out.
 QHash<qint32, double> GetBalances(const QString& accounts, const QDate& date);
