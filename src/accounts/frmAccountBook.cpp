@@ -154,6 +154,7 @@ void frmAccountBook::openDayBook()
     frmDayBook().showModal();
     if (!m_account.isEmpty())
         refresh();
+    ui->lvSummary->setFocus();
 }
 
 /// A payroll made there credits the worker whose book this may be.
@@ -162,6 +163,7 @@ void frmAccountBook::openWages()
     frmWorkerWagesRegister().showModal();
     if (!m_account.isEmpty())
         refresh();
+    ui->lvSummary->setFocus();
 }
 
 /// Tells the client the balance at the end of the days, with its sign: what is owed is negative.
@@ -175,6 +177,7 @@ void frmAccountBook::sendBalance()
     SendSmsToClient(*swSMS1, title, 0,
                     MakeDueBalanceSms(values::CStr(balance)) + u" ("_s + dateText(day) + u")\r\r"_s +
                         GetSetting(settings::SmsTitle));
+    ui->lvSummary->setFocus();
 }
 
 /// The paper says what the list shows, whatever has been chosen since.
@@ -185,4 +188,5 @@ void frmAccountBook::printStatement()
     const auto paper = StatementPaper(m_book, shown ? m_account : ui->cmbAccount->Text(),
                                       shown ? m_period : period.text(), withRemark);
     report::Preview(*paper).showModal();
+    ui->lvSummary->setFocus();
 }

@@ -397,6 +397,9 @@ void ListView::drawRow(QPainter* painter, const QStyleOptionViewItem& option, co
         painter->fillRect(tail.rect, QColor(palette::shade));
     tail.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(index));
     tail.state.setFlag(QStyle::State_HasFocus, false);
+    const QPoint pointer = viewport()->mapFromGlobal(QCursor::pos());
+    tail.state.setFlag(QStyle::State_MouseOver,
+                       viewport()->underMouse() && indexAt(pointer).row() == index.row());
     style()->drawControl(QStyle::CE_ItemViewItem, &tail, painter, this);
 }
 
