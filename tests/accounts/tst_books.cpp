@@ -32,12 +32,6 @@ static QString column(QWidget& screen, int number)
     return cells.join(u'|');
 }
 
-/// What both ends and the totals say.
-static QList<double> figures(const AccountBook& book)
-{
-    return {book.OpeningBalance, book.PeriodNegative, book.PeriodPositive, book.ClosingBalance};
-}
-
 /// The books of the ledger, on screen and on paper.
 class tst_books : public ShopTest
 {
@@ -63,12 +57,11 @@ private Q_SLOTS:
                                                            " | ||Balance C/F |300.50| | ");
         // The first day counts in the days, not in what was brought forward; within a day by number.
         Shop::run("Update Postings set Date='2024-02-09'");
-        const AccountBook both(cash, day.addDays(-1), day);
-        QCOMPARE(texts(both.lines), "09-Feb-2024|2|Receipt|Asha| |500.50| = 2|2\n"
-                                    "09-Feb-2024|3|Receipt|Asha|200.00| | = 3|2\n"
-                                    " | | |Current Total |200.00|500.50| \n"
-                                    " | ||Balance C/F | |300.50| ");
-        QCOMPARE(figures(both), (QList<double>{0, -200, 500.5, 300.5}));
+        QCOMPARE(texts(AccountBook(cash, day.addDays(-1), day).lines),
+                 "09-Feb-2024|2|Receipt|Asha| |500.50| = 2|2\n"
+                 "09-Feb-2024|3|Receipt|Asha|200.00| | = 3|2\n"
+                 " | | |Current Total |200.00|500.50| \n"
+                 " | ||Balance C/F | |300.50| ");
         // A cancelled voucher counts nowhere, an account that is gone has no title, a settled one no balance.
         Shop::run("Update Postings set Status=1 where VID=3");
         Shop::run("Delete from Accounts where Title='Asha'");

@@ -56,43 +56,34 @@ class tst_printing : public ShopTest
     qint32 line = 0;
 
 private Q_SLOTS:
+    /// As its file is read: heads on each page, every line once, the sums of the card.
     void cardOnPaper()
-    {
-        storeCard(200);
-        SetSetting(6, "Since 1974");
-        JobCardPaper(7);
-        const auto paper = JobCardPaper(7); // staged anew
-        QCOMPARE(Shop::rows("Select Date, JobID, Name, DelDate, TrialDate, AmountDue, AmountPaid, Amount "
-                            "from tmpHead"),
-                 QStringList("2024-02-10 7 Asha Rao 2024-02-17 2024-02-13 1301.5 0 1301.5"));
-        QCOMPARE(Shop::count("Select * from tmpBody"), 200);
-        const report::Pages pages(*paper);
-        QVERIFY(pages.count() > 4);
-        for (int page = 0; page < pages.count() - 1; ++page)
-            QVERIFY(pages.texts(page).contains("Particulars"));
-        QVERIFY(hasAll(pages.texts(0), {"Rangoli Tailors", "Jaipur", "Since 1974", "10-Feb-2024",
-                                        "17-Feb-2024", "13-Feb-2024", "Asha Rao", "7"}));
-        const QStringList all = texts(*paper);
-        for (int i = 1; i <= 200; ++i)
-            QCOMPARE(all.count(QString("remark %1").arg(i)), 1);
-        QVERIFY(hasAll(all, {"150.50", "301.00", "For Rangoli Tailors"}));
-    }
-
-    /// What the client reads in the file is what stands on the paper, and the sums are the card's.
-    void cardInTheFile()
     {
         for (const char* file : {"PaperSans-Regular.otf", "PaperSans-Bold.otf"})
             QVERIFY(QFontDatabase::addApplicationFont(QStringLiteral(PROGRAM_FOLDER "/fonts/") + file) >= 0);
-        storeCard();
+        storeCard(200);
+        SetSetting(6, "Since 1974");
         Shop::run("Update Jobs_Detail set Remarks='A-B (10:30) [x] @5' where QNT=1");
+        JobCardPaper(7);
+        const QStringList pages = readBack(*JobCardPaper(7)); // staged anew
+        QCOMPARE(Shop::count("Select * from tmpHead") + Shop::count("Select * from tmpBody"), 201);
+        QVERIFY(pages.size() > 4);
+        for (int page = 0; page < pages.size() - 1; ++page)
+            QVERIFY(pages[page].contains("Particulars"));
+        for (const char* head : {"Rangoli Tailors", "Jaipur", "Since 1974", "10-Feb-2024", "17-Feb-2024",
+                                 "Trial Date: 13-Feb-2024", "Asha Rao", "A-B (10:30) [x] @5 150.50 150.50"})
+            QVERIFY2(pages[0].contains(head), qPrintable(head + (" in " + pages[0])));
+        const QString all = pages.join(u' ');
+        for (int i = 2; i <= 200; ++i)
+            QCOMPARE(all.count(QString("remark %1 ").arg(i)), 1);
         for (const auto& [paid, sums] :
-             {std::pair("300", QStringList{"Total 1,301.50", "Amount Received 300.00", "Amount Due 1,001.50",
-                                           "10-Feb-2024", "Trial Date:", "A-B (10:30) [x] @5"}),
+             {std::pair("300",
+                        QStringList{"Total 1,301.50", "Amount Received 300.00", "Amount Due 1,001.50"}),
               std::pair("1801", QStringList{"Amount Due (499.50)"})}) {
             Shop::run(QString("Update Jobs set AmountPaid=") + paid);
-            const QString text = readBack(*JobCardPaper(7)).join(u' ');
-            for (const QString& printed : sums)
-                QVERIFY2(text.contains(printed), qPrintable(printed + " in " + text));
+            const QString foot = readBack(*JobCardPaper(7)).join(u' ');
+            for (const QString& sum : sums)
+                QVERIFY2(foot.contains(sum), qPrintable(sum + " in " + foot));
         }
     }
 
@@ -186,13 +177,9 @@ private Q_SLOTS:
         const QStringList one = texts(*LabelPaper(line));
         QVERIFY(hasAll(one, {"Rangoli Tailors", "10-Feb-24", "7", "1", "Asha Rao", "remark 1"}));
         QVERIFY(one.filter(" of ").isEmpty());
-        QString remark;
-        for (int i = 0; remark.size() < 10000; ++i)
-            remark += QString("w%1 ").arg(i);
-        Shop::run("Update Jobs_Detail set Remarks='" + remark + "'");
+        Shop::run("Update Jobs_Detail set Remarks='" + QString("zip ").repeated(2000) + "'");
         const QStringList all = texts(*LabelPaper(line));
-        for (const QString& word : remark.split(' ', Qt::SkipEmptyParts))
-            QVERIFY2(all.join(' ').contains(word), qPrintable(word));
+        QCOMPARE(all.join(u' ').count("zip"), 2000);
         QVERIFY(!all.filter("Job # 7 / 1 · 2 of ").isEmpty());
     }
 };

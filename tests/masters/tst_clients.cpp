@@ -99,17 +99,12 @@ private Q_SLOTS:
         inModal<frmWorkers>([](frmWorkers& list) {
             typeText("ra");
             QCOMPARE(entries(list).Text(), "Ram Lal"); // Raj, the first entry, comes last
-            typeText("J");
-            QCOMPARE(entries(list).Text(), "Raj");
-            typeText("x");
-            QCOMPARE(entries(list).ListIndex(), -1);
-            for (const auto& [key, entry] : {std::pair(Qt::Key_Up, -1), std::pair(Qt::Key_Down, 0),
-                                             std::pair(Qt::Key_End, 2), std::pair(Qt::Key_Down, 2)}) {
-                press(key);
+            typeText("Jx");
+            for (const int entry : {-1, 0, 1, 2, 2}) { // Down stops at the last
                 QCOMPARE(entries(list).ListIndex(), entry);
+                press(Qt::Key_Down);
             }
             QCOMPARE(focused(list), "txtSearch");
-
             onNextModal<frmEditWorker>([](frmEditWorker& form) {
                 save();
                 typeFields({"yusuf", "a", "b", "c", "9"});
@@ -119,7 +114,6 @@ private Q_SLOTS:
             });
             press(Qt::Key_A, Qt::AltModifier);
             onNextModal<frmEditWorker>([](frmEditWorker& form) {
-                QCOMPARE(box(form, "txtCity").Text(), "B");
                 box(form, "txtMobile").setText("77");
                 save();
             });
@@ -127,9 +121,9 @@ private Q_SLOTS:
             press(Qt::Key_End);
             press(Qt::Key_Return);
         });
-        QCOMPARE(Shop::count(
-                     "Select * from Accounts where Type=1 and Title='Yusuf' and Mobile='77' and dob is null"),
-                 1);
+        QCOMPARE(
+            Shop::rows("Select City, Mobile from Accounts where Type=1 and Title='Yusuf' and dob is null"),
+            QStringList("B 77"));
     }
 
     void deletesOnlyWhatNothingRefersTo()
@@ -168,10 +162,9 @@ private Q_SLOTS:
 
     void takesAnyName()
     {
-        shop->addWorker("Aa");
         const qint32 worker = shop->addWorker("Bb");
-        for (const QString& name : {QString("D'Souza '' ' 100% [a_b] #1# `x` \"y\" ; --"),
-                                    QString("🧵 राम"), QString(10000, 'x')}) {
+        for (const QString& name :
+             {u"D'Souza '' ' 100% [a_b] #1# `x` \"y\" ; -- 🧵 राम"_s, QString(10000, 'x')}) {
             prompts->expect("Worker Information Updated.");
             edit<frmEditWorker>(worker, [&](frmEditWorker& form) {
                 box(form, "txtName").setText(name);

@@ -27,44 +27,36 @@ class tst_ratings : public ShopTest
     {
         const qint32 worker = shop->addWorker(name);
         for (const int score : scores)
-            Shop::run(u"Update Jobs_Detail set Score=%1 where ID=%2"_s.arg(score).arg(
-                shop->addJobLine(1, 1, worker)));
+            shop->addJobLine(1, 1, worker, u"Score=%1"_s.arg(score));
         return worker;
     }
 
 private Q_SLOTS:
-    void ratesByTheAverageOfAllLines_data()
-    {
-        QTest::addColumn<QList<int>>("scores");
-        QTest::addColumn<int>("rating");
-        QTest::newRow("no lines") << QList<int>() << 0;
-        QTest::newRow("an average of 1 is none") << QList{1, 1, 1} << 0;
-        QTest::newRow("just above 1") << QList{2, 1, 1} << 1;
-        QTest::newRow("half to even, down") << QList{5, 0} << 2;
-        QTest::newRow("half to even, up") << QList{5, 2} << 4;
-        QTest::newRow("lines without a score count") << QList{5, 5, 0, 0, 0, 0} << 2;
-        QTest::newRow("beyond the stars") << QList{7, 7} << 7;
-    }
     void ratesByTheAverageOfAllLines()
     {
-        QFETCH(QList<int>, scores);
-        const qint32 worker = addWorker(u"Yusuf"_s, scores);
-        QTEST(int(GetWorkerRating(worker)), "rating");
-        QCOMPARE(int(GetWorkerScore(worker)), std::accumulate(scores.begin(), scores.end(), 0));
-        const qint32 other = addWorker(u"Other"_s, {32767, 1});
+        for (const auto& [scores, rating] : {std::pair(QList<int>(), 0),   // no lines
+                                             std::pair(QList{1, 1, 1}, 0), // an average of 1 is none
+                                             std::pair(QList{2, 1, 1}, 1), // just above
+                                             std::pair(QList{5, 0}, 2),    // half to even; no score counts
+                                             std::pair(QList{5, 2}, 4), std::pair(QList{7, 7}, 7)}) {
+            const qint32 worker = addWorker("Yusuf", scores);
+            QCOMPARE(int(GetWorkerRating(worker)), rating);
+            QCOMPARE(int(GetWorkerScore(worker)), std::accumulate(scores.begin(), scores.end(), 0));
+        }
+        const qint32 other = addWorker("Other", {32767, 1});
         QVERIFY_THROWS_EXCEPTION(OverflowError, GetWorkerScore(other));
     }
 
     void ranksByTheSumOfScores()
     {
         inModal<frmRatings>([](frmRatings& screen) { QCOMPARE(summary(screen).rowCount(), 0); });
-        addWorker(u"Many"_s, {1, 1, 1, 1, 1, 1, 1, 2});
-        addWorker(u"Few"_s, {5});
-        addWorker(u"Tied"_s, {3, 2});
-        addWorker(u"Odd"_s, {6});
+        addWorker("Many", {1, 1, 1, 1, 1, 1, 1, 2});
+        addWorker("Few", {5});
+        addWorker("Tied", {3, 2});
+        addWorker("Odd", {6});
         for (int opening = 0; opening < 2; ++opening) {
             inModal<frmRatings>([](frmRatings& screen) {
-                const QStringList expected{u"1|1|Many|9"_s, u"2|2|Odd|6"_s, u"3|3|Few|5"_s, u"4|4|Tied|5"_s};
+                const QStringList expected{"1|1|Many|9", "2|2|Odd|6", "3|3|Few|5", "4|4|Tied|5"};
                 const QList<int> rating{1, -1, 5, 2};
                 for (int row = 0; row < 4; ++row) {
                     QCOMPARE(rowText(screen, row), expected[row]);
@@ -74,14 +66,14 @@ private Q_SLOTS:
                 press(Qt::Key_Escape);
                 QVERIFY(!screen.isVisible());
             });
-            QCOMPARE(Shop::count(u"Select * from Rank"_s), 4);
+            QCOMPARE(Shop::count("Select * from Rank"), 4);
         }
     }
 
     void keepsTheClientsFeedback()
     {
         const qint32 line = shop->addJobLine(1, 1);
-        const QString kept = u"Select Score, ClientFeedBack from Jobs_Detail"_s;
+        const QString kept = "Select Score, ClientFeedBack from Jobs_Detail";
         QVariant result;
         session.RefreshLists = false;
         onNextModal<frmFeedBack>([&](frmFeedBack& screen) {
@@ -94,29 +86,29 @@ private Q_SLOTS:
                 press(Qt::Key_Down);
             QVERIFY(shows(4));
             press(Qt::Key_Return);
-            QCOMPARE(focused(screen), u"txtFeedback"_s);
-            typeText(u"Fits well"_s);
-            prompts->expect(u"Feedback saved!"_s);
+            QCOMPARE(focused(screen), "txtFeedback");
+            typeText("Fits well");
+            prompts->expect("Feedback saved!");
             save();
             QVERIFY(screen.isVisible());
-            QCOMPARE(Shop::rows(kept), QStringList{u"4 Fits well"_s});
+            QCOMPARE(Shop::rows(kept), QStringList{"4 Fits well"});
             QVERIFY(session.RefreshLists);
-            score.setText(u"70000"_s);
-            prompts->expect(u"Overflow: Score 70000 is too large. The highest possible is 32767."_s);
+            score.setText("70000");
+            prompts->expect("Overflow: Score 70000 is too large. The highest possible is 32767.");
             save();
-            score.setText(u"7 of 5"_s);
+            score.setText("7 of 5");
             QVERIFY(shows(4));
-            prompts->expect(u"Feedback saved!"_s);
+            prompts->expect("Feedback saved!");
             save();
-            QCOMPARE(Shop::rows(kept), QStringList{u"7 Fits well"_s});
+            QCOMPARE(Shop::rows(kept), QStringList{"7 Fits well"});
             press(Qt::Key_Escape);
         });
         GiveFeedback(line, 0, result);
         QCOMPARE(result.toInt(), 7);
 
         onNextModal<frmFeedBack>([](frmFeedBack& screen) {
-            QCOMPARE(combo(screen, "cmbScore").text(), u"7"_s);
-            QCOMPARE(control<swTextBoxMultiLine>(screen, "txtFeedback").Text(), u"Fits well"_s);
+            QCOMPARE(combo(screen, "cmbScore").text(), "7");
+            QCOMPARE(control<swTextBoxMultiLine>(screen, "txtFeedback").Text(), "Fits well");
             QVERIFY(!control<QWidget>(screen, "Command1").isEnabled());
         });
         GiveFeedback(line, 1, result);
@@ -124,23 +116,23 @@ private Q_SLOTS:
 
     void overviewCountsLinesAndGivesTheWorkerPicked()
     {
-        const QString sql = u"Select * from JOBS_Detail where WorkerID=%id and Score<>-%id order by JobID"_s;
-        addWorker(u"Yusuf"_s, QList<int>(20));
-        addWorker(u"Mohan"_s, {});
+        const QString sql = "Select * from JOBS_Detail where WorkerID=%id and Score<>-%id order by JobID";
+        addWorker("Yusuf", QList<int>(20));
+        addWorker("Mohan", {});
         QString worker;
         onNextModal<frmWorkerReport2>([](frmWorkerReport2& screen) {
-            QCOMPARE(rowText(screen, 0), u"1|Mohan|0|"_s);
-            QCOMPARE(rowText(screen, 1), u"2|Yusuf|20|"_s);
+            QCOMPARE(rowText(screen, 0), "1|Mohan|0|");
+            QCOMPARE(rowText(screen, 1), "2|Yusuf|20|");
             press(Qt::Key_Escape);
         });
         ShowWorkerOverView(sql, worker);
-        QCOMPARE(worker, u"-1000"_s);
+        QCOMPARE(worker, "-1000");
         onNextModal<frmWorkerReport2>([](frmWorkerReport2&) {
             press(Qt::Key_Down);
             press(Qt::Key_Return);
         });
         ShowWorkerOverView(sql, worker);
-        QCOMPARE(worker, u"Yusuf"_s);
+        QCOMPARE(worker, "Yusuf");
     }
 };
 

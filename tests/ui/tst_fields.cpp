@@ -173,20 +173,17 @@ private Q_SLOTS:
                 QVERIFY_THROWS_EXCEPTION(cSendKeys::Error, cSendKeys().SendKeys(unreadable));
                 QCOMPARE(screen.name.text(), QString()); // nothing is typed of a text that cannot be read
             }
-            cSendKeys keys;
             screen.search.setFocus();
-            keys.SendKeys("ab C{x 3}{+}{}}{~}");
-            QCOMPARE(screen.search.text(), "ab Cxxx+}~");
-            keys.SendKeys("{bs 2}{home}{Delete}{END}+(dE)f+g");
+            cSendKeys().SendKeys("ab C{x 3}{+}{}}{~}{bs 2}{home}{Delete}{END}+(dE)f+g");
             QCOMPARE(screen.search.text(), "b Cxxx+DEfG");
             screen.keys.clear();
-            keys.SendKeys("^(a{F16})%{f2}~");
+            cSendKeys().SendKeys("^(a{F16})%{f2}~");
             QCOMPARE(screen.keys, (QList<QPair<int, Qt::KeyboardModifiers>>{{'A', Qt::ControlModifier},
                                                                             {127, Qt::ControlModifier},
                                                                             {113, Qt::AltModifier},
                                                                             {13, Qt::NoModifier}}));
-            keys.SendKeys("+{tab 2}");
-            keys.SendKeys("later", false);
+            cSendKeys().SendKeys("+{tab 2}");
+            cSendKeys().SendKeys("later", false);
             QCOMPARE(screen.note.Text(), QString());
             QTRY_COMPARE(screen.note.Text(), "later");
         });

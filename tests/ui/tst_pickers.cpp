@@ -30,7 +30,6 @@ private Q_SLOTS:
         select(frmSelectDate::Range, [&](frmSelectDate& dialog) {
             date(dialog, "DateTo").setValue(monday.addDays(9));
             press(Qt::Key_Escape);
-            QVERIFY(!dialog.isVisible());
         });
         QCOMPARE(to, monday);
         select(frmSelectDate::SingleDate, [](frmSelectDate& dialog) {
@@ -81,20 +80,11 @@ private Q_SLOTS:
             fillIn(dialog, "cmbFIletype", "*.jpg");
             files.setListIndex(0);
             files.setFocus();
-            for (int i = 0; i < 3; ++i) // through the file type
-                press(Qt::Key_Tab);
-            QCOMPARE(files.ListIndex(), 0);
-            files.setFocus();
             press(Qt::Key_Return);
             QVERIFY(!dialog.isVisible());
         });
         QCOMPARE(chosen, QDir::toNativeSeparators(pictures + "/wall.jpg"));
         QCOMPARE(select([](frmSelectFile&) { press(Qt::Key_Escape); }), "Cancel");
-        const QString typed = select([](frmSelectFile& dialog) {
-            fillIn(dialog, "txtfilename", "any text");
-            click(dialog, "cmdOK");
-        });
-        QCOMPARE(typed, "any text");
     }
 };
 
