@@ -217,18 +217,17 @@ private Q_SLOTS:
         Shop::run("Update Postings set vType=1 where VID=2");
         inModal<frmDayBook>([&](frmDayBook& book) {
             QCOMPARE(column(book, 3), "Asha|Total Vouchers : 1");
-            QVERIFY(rows(book).look(1, 3).bold && !rows(book).look(0, 3).bold);
             date(book, "DateTo").setValue(day.addDays(-1));
             prompts->expect("Invalid date selection!");
             press(Qt::Key_V, Qt::AltModifier);
             date(book, "DateFrom").setValue(day.addDays(-1));
             press(Qt::Key_V, Qt::AltModifier);
             QCOMPARE(column(book, 3), "Cash|Total Vouchers : 1");
-            rows(book).selectRow(1);
-            press(Qt::Key_Return); // the total is nothing to open
             prompts->expect("Job card # 2 is no longer there.");
-            rows(book).selectRow(0);
-            press(Qt::Key_Return);
+            for (const int row : {1, 0}) { // the total is nothing to open
+                rows(book).selectRow(row);
+                press(Qt::Key_Return);
+            }
             shop->addJob(2, asha);
             onNextModal<frmEditJOB>([](frmEditJOB&) {});
             press(Qt::Key_Return);

@@ -84,12 +84,13 @@ private Q_SLOTS:
                             "Save it all the same?");
         prompts->expect(asked, Answer::No);
         inModal<frmSettings>([](frmSettings& screen) {
-            typeFields({"2147483647"}); // over the selected "1"
-            save();
-            QCOMPARE(focused(screen), "txtStartNum");
-            field(screen, "txtStartNum").setText("2147483646");
-            field(screen, "txtDelMargin").setText("99999999999");
-            save();
+            for (const auto& [box, text] :
+                 {std::pair("txtStartNum", "2147483647"), std::pair("txtDelMargin", "99999999999")}) {
+                field(screen, "txtStartNum").setText("2147483646");
+                field(screen, box).setText(text);
+                save();
+                QCOMPARE(focused(screen), box);
+            }
             field(screen, "txtDelMargin").setText("36500");
             auto& due = control<swTextBoxMultiLine>(screen, "txtSMS3");
             due.selectAll();

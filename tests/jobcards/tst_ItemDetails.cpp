@@ -34,8 +34,7 @@ struct Screen : forms::Screen
     QScrollBar& bar() { return control<QScrollBar>(*this, "VScroll1"); }
     void turnWheel(int notches)
     {
-        QWheelEvent event(QPointF(5, 5), mapToGlobal(QPointF(5, 5)), {}, {0, notches * 120}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QWheelEvent event({5, 5}, mapToGlobal(QPointF(5, 5)), {}, {0, notches * 120}, {}, {}, {}, false);
         QApplication::sendEvent(&control<QWidget>(*this, "Picture2"), &event);
     }
     void fill(int rows)
@@ -77,7 +76,7 @@ private Q_SLOTS:
     void enterWalksTheRowsAndLeaves()
     {
         Screen screen;
-        for (const int rows : {4, 3, 0}) {
+        for (const int rows : {3, 0}) {
             screen.grid.ClearList();
             screen.fill(rows);
             screen.before.setFocus();

@@ -180,8 +180,7 @@ private Q_SLOTS:
     {
         onStoredCard([&](frmEditJOB& job) {
             const auto typed = [&](const char* name, const char* keys) { // "<" Backspace, ">" Delete
-                field(job, name).setFocus(Qt::TabFocusReason);
-                field(job, name).selectAll();
+                fillIn(job, name, {});
                 for (const QChar key : QString(keys))
                     key == u'<'   ? press(Qt::Key_Backspace)
                     : key == u'>' ? press(Qt::Key_Delete)

@@ -35,7 +35,6 @@ private Q_SLOTS:
                 for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Up, Qt::Key_Return})
                     press(key);
                 typeFields({"Length", "Chest=40"});
-                QCOMPARE(focused(form), "txtItemDetails");
                 press(Qt::Key_Return); // a second Enter in a row ends the template
                 QCOMPARE(focused(form), "txtFees");
                 typeFields({"450.5", "120", "8", "two"});

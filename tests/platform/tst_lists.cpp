@@ -274,13 +274,8 @@ private Q_SLOTS:
             typeText("1.9");
             QCOMPARE(picker.text(), "1.9");
             QCOMPARE(picker.value(), QDate(2025, 9, 1)); // for a screen that asks half-way
-            for (const Qt::FocusReason reason : {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason}) {
-                for (const QEvent::Type type :
-                     {QEvent::FocusOut, QEvent::FocusIn}) { // another window for a while
-                    QFocusEvent focus(type, reason);
-                    QCoreApplication::sendEvent(&picker, &focus);
-                }
-            }
+            for (const Qt::FocusReason reason : {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason})
+                awayAndBack(picker, reason);
             typeText(".25");
             QCOMPARE(picker.text(), "1.9.25");
             press(Qt::Key_Return);

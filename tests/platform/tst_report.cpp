@@ -106,29 +106,6 @@ private Q_SLOTS:
         QVERIFY(read[0].contains("1,234.50") && read[0].contains("10-Feb-24"));
     }
 
-    void printsALongTextWhole()
-    {
-        QStringList words;
-        for (int i = 0; i < 4000; ++i)
-            words << QString("w%1").arg(i);
-        const Bill bill({line("First"), line("Long", words.join(' ')), line("Unbroken", QString(10'000, 'x')),
-                         line("Last")});
-        const Pages pages(bill);
-        QStringList printed;
-        qsizetype unbroken = 0;
-        for (int page = 0; page < pages.count(); ++page) {
-            for (const QString& text : pages.texts(page)) {
-                printed << text.split(' ');
-                unbroken += text.count('x');
-            }
-        }
-        QCOMPARE(QSet<QString>(printed.begin(), printed.end()).intersect({words.begin(), words.end()}).size(),
-                 words.size());
-        QCOMPARE(unbroken, 10'000);
-        QVERIFY(printed.indexOf("w3999") < printed.indexOf("Last"));
-        QVERIFY(pages.count() > 3 && pages.count() < 40);
-    }
-
     void turnsPagesAndPrintsAFew()
     {
         PrintSystem system;

@@ -39,3 +39,11 @@ void typeText(const QString& text)
                             character.isUpper() ? Qt::ShiftModifier : Qt::NoModifier);
     }
 }
+
+void awayAndBack(QWidget& field, Qt::FocusReason reason)
+{
+    for (const QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
+        QFocusEvent focus(type, reason);
+        QCoreApplication::sendEvent(&field, &focus);
+    }
+}

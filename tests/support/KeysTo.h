@@ -9,6 +9,9 @@ void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 /// Types the characters of a text one by one.
 void typeText(const QString& text);
 
+/// Another window in front for a while, and back.
+void awayAndBack(QWidget& field, Qt::FocusReason reason = Qt::ActiveWindowFocusReason);
+
 /// The control of that name; its absence, or another class, ends the program.
 template <class T>
 T& control(QWidget& screen, const char* name)

@@ -69,19 +69,6 @@ bool Prompts::allMet()
     return met;
 }
 
-void Prompts::look()
-{
-    QWidget* front = QApplication::activeModalWidget();
-    if (!front || !front->isVisible())
-        return;
-    if (auto* dialog = qobject_cast<frmMsg*>(front))
-        answer(*dialog);
-    else if (auto* box = qobject_cast<QMessageBox*>(front))
-        answer(*box);
-    else if (auto* input = qobject_cast<QInputDialog*>(front))
-        answer(*input);
-}
-
 Prompts::Expected Prompts::answerTo(const QString& text)
 {
     if (m_expected.empty()) {
@@ -95,25 +82,23 @@ Prompts::Expected Prompts::answerTo(const QString& text)
     return next;
 }
 
-void Prompts::answer(frmMsg& dialog)
+void Prompts::look()
 {
-    const Answer given = answerTo(dialog.findChild<QLabel*>(u"lblMsg"_s)->text()).answer;
-    const QString name = given == Answer::Ok ? u"cmdOK"_s : given == Answer::Yes ? u"cmdYes"_s : u"cmdNo"_s;
-    press(dialog, dialog.findChild<QPushButton*>(name), given);
-}
-
-void Prompts::answer(QMessageBox& box)
-{
-    const Answer given = answerTo(box.text()).answer;
-    const QMessageBox::StandardButton button = given == Answer::Ok    ? QMessageBox::Ok
-                                               : given == Answer::Yes ? QMessageBox::Yes
-                                                                      : QMessageBox::No;
-    press(box, box.button(button), given);
-}
-
-void Prompts::answer(QInputDialog& box)
-{
-    const Expected given = answerTo(box.labelText());
-    QTest::keyClicks(box.findChild<QLineEdit*>(), given.typed);
-    QTest::keyClick(&box, given.answer == Answer::Ok ? Qt::Key_Return : Qt::Key_Escape);
+    static const QString names[] = {u"cmdOK"_s, u"cmdYes"_s, u"cmdNo"_s, {}};
+    static constexpr QMessageBox::StandardButton buttons[] = {QMessageBox::Ok, QMessageBox::Yes,
+                                                              QMessageBox::No, QMessageBox::NoButton};
+    QWidget* front = QApplication::activeModalWidget();
+    if (!front || !front->isVisible())
+        return;
+    if (auto* dialog = qobject_cast<frmMsg*>(front)) {
+        const Answer given = answerTo(dialog->findChild<QLabel*>(u"lblMsg"_s)->text()).answer;
+        press(*dialog, dialog->findChild<QPushButton*>(names[int(given)]), given);
+    } else if (auto* box = qobject_cast<QMessageBox*>(front)) {
+        const Answer given = answerTo(box->text()).answer;
+        press(*box, box->button(buttons[int(given)]), given);
+    } else if (auto* input = qobject_cast<QInputDialog*>(front)) {
+        const Expected given = answerTo(input->labelText());
+        QTest::keyClicks(input->findChild<QLineEdit*>(), given.typed);
+        QTest::keyClick(input, given.answer == Answer::Ok ? Qt::Key_Return : Qt::Key_Escape);
+    }
 }

@@ -4,10 +4,6 @@
 #include <QTimer>
 #include <deque>
 
-class frmMsg;
-class QInputDialog;
-class QMessageBox;
-
 enum class Answer { Ok, Yes, No, Esc };
 
 /// Answers the prompts of the program under test: the message dialog, plain message and input boxes, in the
@@ -41,9 +37,6 @@ private:
 
     void look();
     Expected answerTo(const QString& text);
-    void answer(frmMsg& dialog);
-    void answer(QMessageBox& box);
-    void answer(QInputDialog& box);
 
     std::deque<Expected> m_expected;
     QTimer m_timer;

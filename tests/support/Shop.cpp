@@ -72,22 +72,15 @@ qint32 Shop::addItem(const QString& name, double fees, double workerFees, const 
 
 qint32 Shop::addJobLine(qint32 client, qint32 item, qint32 worker, const QString& set)
 {
-    const QDate day = session.WorkingDate;
-    const qint32 line = add("Jobs_Detail", {{"Date", day},
-                                            {"JobDelDate", day},
-                                            {"CuttingDate", day},
-                                            {"JobID", 1},
-                                            {"QNT", 1},
-                                            {"FEES", 1},
-                                            {"Amount", 1},
-                                            {"ClintName", ""},
-                                            {"ItemName", ""},
-                                            {"Remarks", ""},
-                                            {"ItemDetails", ""},
-                                            {"ItemDetailsValue", ""},
-                                            {"ClintID", client},
-                                            {"ItemID", item},
-                                            {"WorkerID", worker}});
+    run(u"Insert into Jobs_Detail (Date, JobDelDate, CuttingDate, JobID, QNT, FEES, Amount, ClintName, "
+        u"ItemName, "
+        "Remarks, ItemDetails, ItemDetailsValue, ClintID, ItemID, WorkerID) values ('%1', '%1', '%1', 1, 1, "
+        "1, 1, "
+        "'', '', '', '', '', %2, %3, %4)"_s.arg(session.WorkingDate.toString(Qt::ISODate))
+            .arg(client)
+            .arg(item)
+            .arg(worker));
+    const qint32 line = value("Select max(ID) from Jobs_Detail").toInt();
     if (!set.isEmpty())
         run(u"Update Jobs_Detail set %1 where ID=%2"_s.arg(set).arg(line));
     return line;

@@ -136,12 +136,6 @@ private Q_SLOTS:
     void focusThatComesBack()
     {
         inModal<EntryScreen>([](EntryScreen& screen) {
-            const auto awayAndBack = [](QWidget& field) {
-                for (const QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
-                    QFocusEvent focus(type, Qt::ActiveWindowFocusReason);
-                    QCoreApplication::sendEvent(&field, &focus);
-                }
-            };
             screen.name.setFocus();
             typeText("moh");
             awayAndBack(screen.name);
