@@ -8,7 +8,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
-#include <numeric>
+#include <algorithm>
 
 /// The translators' file: the Hindi, in Unicode, of each English message.
 static QMap<QString, QString> readMessages()
@@ -70,21 +70,14 @@ static QString letters(QString text)
     return text.remove(rest).normalized(QString::NormalizationForm_D);
 }
 
-/// 1 for equal texts, 0 for texts with nothing in common: by the number of characters to change.
+/// The share of letters that two texts have in common: 1 when all are.
 static double similarity(const QString& a, const QString& b)
 {
-    std::vector<qsizetype> row(static_cast<size_t>(b.size()) + 1);
-    std::iota(row.begin(), row.end(), 0);
-    for (qsizetype i = 0; i < a.size(); ++i) {
-        qsizetype diagonal = std::exchange(row[0], i + 1);
-        for (qsizetype j = 0; j < b.size(); ++j) {
-            const auto at = static_cast<size_t>(j);
-            const qsizetype changed = diagonal + (a[i] == b[j] ? 0 : 1);
-            diagonal = row[at + 1];
-            row[at + 1] = std::min({changed, row[at] + 1, row[at + 1] + 1});
-        }
-    }
-    return 1.0 - double(row.back()) / double(std::max<qsizetype>({a.size(), b.size(), 1}));
+    QHash<QChar, int> left;
+    for (const QChar letter : a)
+        ++left[letter];
+    const auto common = std::count_if(b.begin(), b.end(), [&](QChar letter) { return left[letter]-- > 0; });
+    return double(common) / double(std::max<qsizetype>({a.size(), b.size(), 1}));
 }
 
 /// Whether an operator can read the Hindi of the message dialog: it is drawn and read back by a text reader.

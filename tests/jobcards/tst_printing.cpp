@@ -71,7 +71,8 @@ private Q_SLOTS:
         for (int page = 0; page < pages.size() - 1; ++page)
             QVERIFY(pages[page].contains("Particulars"));
         for (const char* head : {"Rangoli Tailors", "Jaipur", "Since 1974", "10-Feb-2024", "17-Feb-2024",
-                                 "Trial Date: 13-Feb-2024", "Asha Rao", "A-B (10:30) [x] @5 150.50 150.50"})
+                                 "Trial Date: 13-Feb-2024", "Asha Rao", "A-B (10:30) [x] @5 150.50 150.50",
+                                 "remark 2 150.50 301.00"})
             QVERIFY2(pages[0].contains(head), qPrintable(head + (" in " + pages[0])));
         const QString all = pages.join(u' ');
         for (int i = 2; i <= 200; ++i)

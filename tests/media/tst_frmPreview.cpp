@@ -1,5 +1,5 @@
 #include "media/frmPreview.h"
-#include "support/KeysTo.h"
+#include "support/Fields.h"
 #include "support/Modal.h"
 
 #include <QLabel>

@@ -4,7 +4,7 @@
 #include "platform/forms/ListView.h"
 #include "platform/forms/Screen.h"
 #include "platform/values/Dates.h"
-#include "support/KeysTo.h"
+#include "support/Fields.h"
 #include "support/Modal.h"
 
 #include <QAbstractItemView>

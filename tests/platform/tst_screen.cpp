@@ -1,7 +1,7 @@
 #include "platform/forms/MessageBox.h"
 #include "platform/forms/Screen.h"
 #include "platform/values/Errors.h"
-#include "support/KeysTo.h"
+#include "support/Fields.h"
 #include "support/Modal.h"
 #include "support/Prompts.h"
 

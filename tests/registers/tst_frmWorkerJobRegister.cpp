@@ -11,22 +11,13 @@
 
 static forms::ListView& lines(QWidget& screen) { return listView(screen, "lvSummary"); }
 
-static QString row(QWidget& screen, int number)
-{
-    QStringList cells;
-    for (int column = 0; column < 11; ++column)
-        cells << lines(screen).cell(number, column);
-    return cells.join(u'|');
-}
-
 /// The lines on the list, and what the total row counts.
 static QString shown(QWidget& screen)
 {
-    QStringList tags;
-    const int last = lines(screen).rowCount() - 1;
-    for (int i = 0; i < last; ++i)
-        tags << lines(screen).tag(i);
-    return tags.join(u' ') + u" of"_s + lines(screen).cell(last, 2).section(u':', 1);
+    QStringList lines = tags(screen);
+    lines.removeLast();
+    return lines.join(u' ') + " of" +
+           listView(screen, "lvSummary").cell(int(lines.size()), 2).section(u':', 1);
 }
 
 class tst_frmWorkerJobRegister : public ShopTest
@@ -71,10 +62,10 @@ private Q_SLOTS:
     void opensOnTheWorkingDate()
     {
         inModal<Register>([](Register& screen) {
-            QCOMPARE(row(screen, 0),
+            QCOMPARE(rowText(screen, 0),
                      u"10-Feb-2024|1/1|Asha|Shirt|Loose|07-Feb-2024 (-3 D)|Ravi|Done|Completed| "
                      "|12.50 Dr"_s);
-            QCOMPARE(row(screen, 1),
+            QCOMPARE(rowText(screen, 1),
                      "10-Feb-2024|1/2|Asha|Shirt||10-Feb-2024 (0 D)|NA|Not Done|Uncompleted|A1|12.50 Dr");
             QVERIFY(lines(screen).look(0, 2).toolTip.startsWith(u"0981"));
             QCOMPARE(lines(screen).look(0, 6).toolTip, "No Information Found");
@@ -280,7 +271,7 @@ private Q_SLOTS:
         Shop::run("Update Jobs_Detail set WorkerID=999 where ID=3");
         prompts->expect(noRow);
         inModal<Register>([&](Register& screen) {
-            QVERIFY(row(screen, 0).endsWith(u"|Ravi| |12.50 Dr||"));
+            QVERIFY(rowText(screen, 0).endsWith(u"|Ravi| |12.50 Dr||"));
             QCOMPARE(lines(screen).rowCount(), 2); // those before the line at fault
             Shop::run("Update Jobs_Detail set WorkerID=0 where ID=3");
             click(screen, "Command4");

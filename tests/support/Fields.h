@@ -4,12 +4,29 @@
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/ListBox.h"
 #include "platform/forms/ListView.h"
-#include "support/KeysTo.h"
 #include "ui/swTextBox.h"
 
 #include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
+
+/// Types a key as the operator does: it goes to the window with the focus, mnemonics and open lists included.
+void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+/// Types the characters of a text one by one.
+void typeText(const QString& text);
+
+/// Another window in front for a while, and back.
+void awayAndBack(QWidget& field, Qt::FocusReason reason = Qt::ActiveWindowFocusReason);
+
+/// The control of that name; its absence, or another class, ends the program.
+template <class T>
+T& control(QWidget& screen, const char* name)
+{
+    T* found = screen.findChild<T*>(QString::fromLatin1(name));
+    if (!found)
+        qFatal("No control %s", name);
+    return *found;
+}
 
 // The controls of a screen by their names, in the operator's terms.
 
@@ -48,3 +65,6 @@ QString focused(const QWidget& screen);
 /// Press "&Save" and "&Delete".
 void save();
 void remove();
+/// A row of a list of the screen, its cells with "|" between them; the tags of all its rows.
+QString rowText(QWidget& screen, int row, const char* list = "lvSummary");
+QStringList tags(QWidget& screen, const char* list = "lvSummary");

@@ -2,6 +2,7 @@
 
 #include "core/store/Schema.h"
 #include "core/store/Startup.h"
+#include "core/store/Voucher.h"
 
 #include <QFile>
 
@@ -96,16 +97,10 @@ void Shop::addJob(qint32 number, qint32 client)
 
 void Shop::addVoucher(qint32 vid, qint32 main, qint32 ref, double amount)
 {
-    for (const int line : {1, 2})
-        add("Postings", {{"VID", vid},
-                         {"vType", 2},
-                         {"Sr", line},
-                         {"Date", session.WorkingDate},
-                         {"particulars", "Receipt"},
-                         {"Remark", ""},
-                         {"accID", line == 1 ? main : ref},
-                         {"refID", line == 1 ? ref : main},
-                         {"Amount", line == 1 ? amount : -amount}});
+    DE.connection().writeBatch([&] {
+        Voucher(VoucherType::Entry, vid)
+            .AddPair({"Receipt", session.WorkingDate, main, ref, Currency::fromDouble(amount), {}});
+    });
 }
 
 void Shop::order(clsJobCardData& lines, const QString& item, double amount, int quantity)

@@ -21,6 +21,17 @@ protected:
     virtual void lay() {}
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init()
+    {
+        shop = std::make_unique<Shop>();
+        prompts = std::make_unique<Prompts>();
+        lay();
+    }
+    void cleanup()
+    {
+        const bool met = prompts->allMet();
+        prompts.reset();
+        shop.reset();
+        QVERIFY(met);
+    }
 };
