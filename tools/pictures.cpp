@@ -31,6 +31,7 @@
 #include "masters/frmEditWorker.h"
 #include "masters/frmItems.h"
 #include "masters/frmWorkers.h"
+#include "media/frmHandNote.h"
 #include "media/frmPreview.h"
 #include "planning/frmFeedBack.h"
 #include "planning/frmRatings.h"
@@ -256,6 +257,10 @@ void takeAll()
     picture("paper-label", [] { PrintLabel(shownLine()); });
     picture("garment-picture", [] {
         frmPreview().ShowImage(value(u"Select Img2 from Jobs_Detail where Img2<>''"_s).toString());
+    });
+    picture("hand-note", [] {
+        bool cancelled = true;
+        frmHandNote().TakeSnap(value(u"Select Img2 from Jobs_Detail where Img2<>''"_s).toString(), cancelled);
     });
     picture("new-job-card", [] { frmEditJOB().ShowAddNew(); });
     picture("item-line", editLine);

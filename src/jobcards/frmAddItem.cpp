@@ -3,8 +3,10 @@
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/ShopPictures.h"
+#include "core/store/Startup.h"
 #include "jobcards/PictureFiles.h"
 #include "jobcards/clsJobCardData.h"
+#include "media/frmHandNote.h"
 #include "media/frmPreview.h"
 #include "platform/values/Currency.h"
 #include "platform/values/Dates.h"
@@ -64,6 +66,7 @@ frmAddItem::frmAddItem()
     onGotFocus(ui->txtClientRemark, [this] { LastKey = 0; });
     onKeyPress(ui->txtClientRemark, [this](int& key) { typeClientRemark(key); });
     on(ui->picColor, &ColorBox::clicked, &frmAddItem::chooseColor);
+    on(ui->Command7, &QPushButton::clicked, &frmAddItem::drawNote);
     on(ui->Command8, &QPushButton::clicked, &frmAddItem::selectSecondPicture);
     on(ui->Command6, &QPushButton::clicked, [this] { clearPicture(*ui->pic1, *ui->picPath1); });
     on(ui->Command5, &QPushButton::clicked, [this] { clearPicture(*ui->pic2, *ui->picPath2); });
@@ -251,6 +254,23 @@ void frmAddItem::chooseColor()
         ui->picColor->setNumber(itemcolor::toNumber(chosen));
 }
 
+/// A picture that is there already is drawn on.
+void frmAddItem::drawNote()
+{
+    const QString target = ui->picPath1->text().isEmpty() ? newPicture(1) : ui->picPath1->text();
+    bool cancelled = true;
+    frmHandNote().TakeSnap(target, cancelled);
+    if (!cancelled)
+        showPicture(*ui->pic1, *ui->picPath1, target);
+}
+
+/// A name for a picture that is to be made.
+QString frmAddItem::newPicture(int number) const
+{
+    MakeImagesFolder();
+    return picturefiles::newPath(ui->lblClint->text(), QDateTime::currentDateTime(), number);
+}
+
 /// The picture goes to the second place; its file is named as the first's are.
 void frmAddItem::selectSecondPicture()
 {
@@ -258,7 +278,7 @@ void frmAddItem::selectSecondPicture()
     const QString source = picker.SelFile();
     if (source.isEmpty() || source == "Cancel"_L1)
         return;
-    const QString target = picturefiles::newPath(ui->lblClint->text(), QDateTime::currentDateTime(), 1);
+    const QString target = newPicture(1);
     picturefiles::copy(source, target);
     showPicture(*ui->pic2, *ui->picPath2, target);
 }

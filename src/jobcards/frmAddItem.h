@@ -53,6 +53,8 @@ private:
 
     void typeClientRemark(int& key);
     void chooseColor();
+    void drawNote();
+    QString newPicture(int number) const;
     void selectSecondPicture();
     void clearPicture(PictureBox& pic, QLabel& picPath);
     void showPicture(PictureBox& pic, QLabel& picPath, const QString& link);

@@ -4,6 +4,7 @@
 #include "jobcards/PictureBox.h"
 #include "jobcards/PictureFiles.h"
 #include "jobcards/frmAddItem.h"
+#include "media/frmHandNote.h"
 #include "platform/values/Errors.h"
 #include "support/ShopTest.h"
 #include "ui/frmSelectFile.h"
@@ -39,6 +40,14 @@ static void insertPicture(frmAddItem& line, const QString& file)
         click(picker, "cmdOK");
     });
     click(line, "Command8");
+}
+
+/// Leaves the pad by OK, or by Esc.
+static void drawNote(frmAddItem& line, Qt::Key leave)
+{
+    onNextModal<frmHandNote>(
+        [leave](frmHandNote&) { press(leave, leave == Qt::Key_O ? Qt::AltModifier : Qt::NoModifier); });
+    click(line, "Command7");
 }
 
 static QStringList imageFiles() { return QDir(session.imagesFolder()).entryList(QDir::Files); }
@@ -238,8 +247,15 @@ private Q_SLOTS:
                 insertPicture(line, refused);
             QVERIFY(imageFiles().isEmpty());
             insertPicture(line, source);
+            drawNote(line, Qt::Key_Escape);
+            QVERIFY(label(line, "picPath1").isEmpty());
+            for (int time = 0; time < 2; ++time) { // the second note is drawn on the first
+                drawNote(line, Qt::Key_O);
+                QCOMPARE(imageFiles().size(), 2);
+            }
             click(line, "Command1");
         });
+        QVERIFY(contents(rows.img1(1)).startsWith("BM"));
         const QString stored = rows.img2(1);
         static const QRegularExpression name("/Asha_\\d\\d_\\d\\d_\\d{4}_[1-7]_\\d_\\d\\d_1\\.bmp$");
         QVERIFY2(stored.startsWith(images) && name.match(stored).hasMatch(), qPrintable(stored));
