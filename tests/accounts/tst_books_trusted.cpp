@@ -35,7 +35,29 @@ public:
         for (int what = 3 + random.bounded(4); what > 0; --what)
             work();
     }
-    void check();
+    void check()
+    {
+        QCOMPARE(Shop::value("Select sum(Amount) from Postings").toDouble(), 0.0);
+        const QDate end = day.addDays(9);
+        const QDate from = day.addDays(-random.bounded(20));
+        const QHash<qint32, double> balances = GetBalances("Select ID from Accounts", end);
+        for (const qint32 id : accounts) {
+            const AccountBook book(id, from, end);
+            QCOMPARE(book.ClosingBalance, owed(id));
+            QCOMPARE(balances.value(id), owed(id)); // as the clients' dues read it
+            QCOMPARE(Currency::fromDouble(book.OpeningBalance + book.PeriodPositive + book.PeriodNegative),
+                     Currency::fromDouble(book.ClosingBalance));
+        }
+        QStringList paid;
+        for (const auto& [number, entry] : entries)
+            if (const Currency marked = entry.move.amount - entry.gone; entry.payroll && marked != Currency())
+                paid << QString("%1 %2").arg(number).arg(marked.toString());
+        QCOMPARE(
+            Shop::rows("Select PayrollID, sum(WorkerWagesDue) from Jobs_Detail where MarkAsPaid=1 group by "
+                       "PayrollID order by PayrollID"),
+            paid);
+        QCOMPARE(Shop::count("Select * from Jobs_Detail where (MarkAsPaid<>0) <> (PayrollID<>0)"), 0);
+    }
 
 private:
     struct Move
@@ -220,29 +242,6 @@ private:
     std::map<qint32, std::vector<Move>> cards;
     std::map<qint32, Entry> entries; ///< by number
 };
-
-void Days::check()
-{
-    QCOMPARE(Shop::value("Select sum(Amount) from Postings").toDouble(), 0.0);
-    const QDate end = day.addDays(9);
-    const QDate from = day.addDays(-random.bounded(20));
-    const QHash<qint32, double> balances = GetBalances("Select ID from Accounts", end);
-    for (const qint32 id : accounts) {
-        const AccountBook book(id, from, end);
-        QCOMPARE(book.ClosingBalance, owed(id));
-        QCOMPARE(balances.value(id), owed(id)); // as the clients' dues read it
-        QCOMPARE(Currency::fromDouble(book.OpeningBalance + book.PeriodPositive + book.PeriodNegative),
-                 Currency::fromDouble(book.ClosingBalance));
-    }
-    QStringList paid;
-    for (const auto& [number, entry] : entries)
-        if (const Currency marked = entry.move.amount - entry.gone; entry.payroll && marked != Currency())
-            paid << QString("%1 %2").arg(number).arg(marked.toString());
-    QCOMPARE(Shop::rows("Select PayrollID, sum(WorkerWagesDue) from Jobs_Detail where MarkAsPaid=1 group by "
-                        "PayrollID order by PayrollID"),
-             paid);
-    QCOMPARE(Shop::count("Select * from Jobs_Detail where (MarkAsPaid<>0) <> (PayrollID<>0)"), 0);
-}
 
 /// Whatever the shop does, in whatever order: its books agree with each other and with what was done.
 class tst_books_trusted : public QObject

@@ -109,10 +109,8 @@ private Q_SLOTS:
         shop.addWorker("Mohan");
         const qint32 shirt = shop.addItem("Men's Shirt", 450.5, 120);
         QCOMPARE(GetAccountID("Asha rao"), client);
-        QCOMPARE(GetAccountTitle(client), "asha Rao");
         QCOMPARE(GetItemID("Men's Shirt"), shirt);
         QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, GetAccountID("D'Souza"));
-        QVERIFY_THROWS_EXCEPTION(ado::NoCurrentRecordError, GetAccountID("Nobody"));
         QVERIFY_THROWS_EXCEPTION(ado::NoCurrentRecordError, GetItemName(999));
         for (const auto& [title, field, value] :
              {std::tuple("d'souza", "ID", souza), std::tuple("D\u2019SOUZA", "ID", souza),

@@ -143,16 +143,14 @@ private Q_SLOTS:
             prompts->expect("Send SMS Now?", Answer::Esc);
             save();
             QVERIFY2(screen.isVisible(), "Esc leaves the question, not the screen");
-            const auto send = [&](const QString& outcome) {
+            for (const auto& [port, outcome] :
+                 {std::pair("70000", "Overflow: Com port 70000 is too large. The highest possible is 32767."),
+                  std::pair("usb", "No such file or directory")}) { // port 0
+                SetSetting(4, port);
                 prompts->expect("Send SMS Now?", Answer::Yes);
                 prompts->expect(outcome);
                 click(screen, "Command4");
-            };
-            send("Modem Com Port Error!\r\nSMS Sending has been Failed.");
-            SetSetting(4, "70000");
-            send("Overflow: Com port 70000 is too large. The highest possible is 32767.");
-            SetSetting(4, "usb"); // port 0
-            send("No such file or directory");
+            }
         });
         QCOMPARE(stored("DoneByWorker"), "1");
     }

@@ -161,22 +161,21 @@ private Q_SLOTS:
     void takesAnyName()
     {
         const qint32 worker = shop->addWorker("Bb");
-        for (const QString& name :
-             {u"D'Souza '' ' 100% [a_b] #1# `x` \"y\" ; -- 🧵 राम"_s, QString(10000, 'x')}) {
-            prompts->expect("Worker Information Updated.");
-            edit<frmEditWorker>(worker, [&](frmEditWorker& form) {
-                box(form, "txtName").setText(name);
-                save();
+        const QString name =
+            "D'Souza '' ' 100% [a_b] #1# `x` \"y\" ; -- 🧵 राम" + QString(10000, 'x');
+        prompts->expect("Worker Information Updated.");
+        edit<frmEditWorker>(worker, [&](frmEditWorker& form) {
+            box(form, "txtName").setText(name);
+            save();
+        });
+        shop->reopen();
+        inModal<frmWorkers>([&](frmWorkers& list) {
+            box(list, "txtSearch").setText(name);
+            onNextModal<frmEditWorker>([&](frmEditWorker& form) {
+                QCOMPARE(box(form, "txtName").Text(), QString(name).replace('\'', u'’'));
             });
-            shop->reopen();
-            inModal<frmWorkers>([&](frmWorkers& list) {
-                box(list, "txtSearch").setText(name);
-                onNextModal<frmEditWorker>([&](frmEditWorker& form) {
-                    QCOMPARE(box(form, "txtName").Text(), QString(name).replace('\'', u'’'));
-                });
-                press(Qt::Key_Return);
-            });
-        }
+            press(Qt::Key_Return);
+        });
         Shop::run("Insert into Accounts (Id, Title, Type) values (32768, 'Far', 0)"); // past 16 bits
         prompts->expect("Overflow: Number of the record 32768 is too large. The highest possible is 32767.");
         inModal<frmClients>([](frmClients& list) {

@@ -102,20 +102,16 @@ private Q_SLOTS:
         const QString sql = "Select * from JOBS_Detail where WorkerID=%id and Score<>-%id order by JobID";
         addWorker("Yusuf", QList<int>(20));
         addWorker("Mohan", {});
-        QString worker;
-        onNextModal<frmWorkerReport2>([](frmWorkerReport2& screen) {
-            QCOMPARE(rowText(screen, 0), "1|Mohan|0");
-            QCOMPARE(rowText(screen, 1), "2|Yusuf|20");
-            press(Qt::Key_Escape);
-        });
-        ShowWorkerOverView(sql, worker);
-        QCOMPARE(worker, "-1000");
-        onNextModal<frmWorkerReport2>([](frmWorkerReport2&) {
-            press(Qt::Key_Down);
-            press(Qt::Key_Return);
-        });
-        ShowWorkerOverView(sql, worker);
-        QCOMPARE(worker, "Yusuf");
+        for (const bool picked : {false, true}) {
+            QString worker;
+            onNextModal<frmWorkerReport2>([picked](frmWorkerReport2& screen) {
+                QCOMPARE(rowText(screen, 0) + rowText(screen, 1), "1|Mohan|02|Yusuf|20");
+                press(Qt::Key_Down);
+                press(picked ? Qt::Key_Return : Qt::Key_Escape);
+            });
+            ShowWorkerOverView(sql, worker);
+            QCOMPARE(worker, picked ? "Yusuf" : "-1000");
+        }
     }
 };
 

@@ -276,13 +276,6 @@ private Q_SLOTS:
             Shop::run("Update Jobs_Detail set WorkerID=0 where ID=3");
             click(screen, "Command4");
             QCOMPARE(shown(screen), "1 2 3 of 3");
-            Shop::run("Delete from Jobs_Detail where ID=2");
-            lines(screen).selectRow(1);
-            prompts->expect("Mark Item as Delivered to Client?", Answer::Yes);
-            prompts->expect(noRow);
-            press(Qt::Key_F8);
-            click(screen, "Command4");
-            QCOMPARE(shown(screen), "1 3 of 2");
         });
     }
 };
