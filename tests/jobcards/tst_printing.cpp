@@ -8,7 +8,6 @@
 #include "support/ShopTest.h"
 
 #include <QFontDatabase>
-#include <QImage>
 #include <QScopeGuard>
 
 #include <algorithm>

@@ -77,7 +77,6 @@ private Q_SLOTS:
             rows.push_back({{QString::number(i), "Agra"}, QString::number(i), {}});
         rows.push_back({{"Total"}, {}, {}});
         view.setRows(std::move(rows));
-        QCOMPARE(view.rowCount(), 30001);
         view.selectRow(7);
         QSignalSpy reset(view.model(), &QAbstractItemModel::modelReset);
         view.keepRows([](const ListView::Row& row) { return row.tag.isEmpty() || row.tag.endsWith("99"); });

@@ -11,7 +11,6 @@
 #include "support/Prompts.h"
 
 #include <QComboBox>
-#include <QProcess>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>

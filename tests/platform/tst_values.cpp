@@ -124,14 +124,11 @@ private Q_SLOTS:
         Currency sum;
         for (int i = 0; i < 1000; ++i)
             sum += Currency::fromDouble(0.1);
-        QCOMPARE(Currency::fromDouble(0.00015).toString(), "0.0002");
-        QCOMPARE(Currency::fromDouble(0.000051).toString(), "0.0001");
-        QCOMPARE(Currency::fromDouble(-0.25).toString(), "-0.25");
         QVERIFY(sum - Currency::fromDouble(100) == Currency());
-        const Currency largest = Currency::fromUnits(std::numeric_limits<qint64>::max());
+        QCOMPARE(Currency::fromDouble(0.00015).toString(), "0.0002");
         const Currency lowest = Currency::fromUnits(std::numeric_limits<qint64>::min());
         QCOMPARE(lowest.toString(), "-922337203685477.5808");
-        QVERIFY_THROWS_EXCEPTION(OverflowError, largest + Currency::fromUnits(1));
+        QVERIFY_THROWS_EXCEPTION(OverflowError, lowest - Currency::fromUnits(1));
         QVERIFY_THROWS_EXCEPTION(OverflowError, -lowest);
         QVERIFY_THROWS_EXCEPTION(OverflowError, Currency::fromDouble(1e15));
     }

@@ -191,7 +191,6 @@ private Q_SLOTS:
             prompts->expect("Mark Item as Cutting Done?", Answer::Yes);
             act(0, Qt::Key_F6);
             QCOMPARE(stored("CuttingStatus, CuttingDate", 2), "1 2024-02-10");
-            QCOMPARE(lines(screen).selectedRow(), 0);
             prompts->expect("Mark Item as Completed?", Answer::Yes);
             prompts->expectInput("Please specify location!", "B2", Answer::Esc);
             act(0, Qt::Key_F7);
@@ -208,7 +207,6 @@ private Q_SLOTS:
             auto& menu = control<QMenu>(screen, "mnuFile");
             press(Qt::Key_Menu);
             QTRY_VERIFY(menu.isVisible());
-            QVERIFY(menu.actions().last()->isEnabled());
             prompts->expect("Mark Item as Alteration?", Answer::Yes);
             prompts->expectInput("Please specify location!", "B2");
             for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
@@ -218,8 +216,6 @@ private Q_SLOTS:
             prompts->expect("Mark Item as Delivered to Client?", Answer::Yes);
             act(1, Qt::Key_F8);
             QCOMPARE(stored("DoneByWorker, DelToCustDate", 2), "2 2024-02-12");
-            Q_EMIT lines(screen).menuAsked(lines(screen).rowCount() - 1, {});
-            QVERIFY(!menu.isVisible());
         });
     }
 

@@ -78,7 +78,6 @@ private Q_SLOTS:
               std::tuple("Jobs where Status=1 and CancelReason<>''", 1, 10),
               std::tuple("Jobs where JobFinished=1", 60, 140),
               std::tuple("Jobs where TrialDate>#10-FEB-2024# and appeared=0", 1, 60),
-              std::tuple("Jobs_Detail where CuttingStatus=1 and DoneByWorker=0", 1, 100),
               std::tuple("Jobs_Detail where Score between 1 and 5 and ClientFeedback<>''", 5, 280),
               std::tuple("Jobs_Detail where Img1<>'' and Img2<>''", 3, 3)})
             QVERIFY2(count(rows) >= least && count(rows) <= most, rows);

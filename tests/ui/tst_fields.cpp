@@ -4,7 +4,6 @@
 #include "ui/DateDiff.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/NumKey.h"
-#include "ui/cSendKeys.h"
 #include "ui/swComboBox.h"
 #include "ui/swTextBoxMultiLine.h"
 
@@ -39,15 +38,9 @@ public:
     swComboBox client;
     QLineEdit search;
     QList<int> passed;
-    QList<QPair<int, Qt::KeyboardModifiers>> keys;
 
 protected:
-    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override
-    {
-        if (key != 0) // not the held keys themselves
-            keys += qMakePair(key, modifiers);
-        key = ArrowsAsTab(key);
-    }
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers) override { key = ArrowsAsTab(key); }
 };
 
 class tst_fields : public QObject
@@ -157,27 +150,6 @@ private Q_SLOTS:
             awayAndBack(screen.fee);
             typeText("5");
             QCOMPARE(screen.fee.Text(), "125");
-        });
-    }
-
-    void keysInTheirNotation()
-    {
-        inModal<EntryScreen>([&](EntryScreen& screen) {
-            for (const char* unreadable : {"a{TAB }", "ab)", "ab{", "{TAB", "+((a)", "{f17}"}) {
-                QVERIFY_THROWS_EXCEPTION(cSendKeys::Error, cSendKeys().SendKeys(unreadable));
-                QCOMPARE(screen.name.text(), QString()); // nothing is typed of a text that cannot be read
-            }
-            screen.search.setFocus();
-            cSendKeys().SendKeys("ab C{x 3}{+}{}}{~}{bs 2}{home}{Delete}{END}+(dE)f+g");
-            QCOMPARE(screen.search.text(), "b Cxxx+DEfG");
-            screen.keys.clear();
-            cSendKeys().SendKeys("^a%{f2}");
-            QCOMPARE(screen.keys, (QList<QPair<int, Qt::KeyboardModifiers>>{{'A', Qt::ControlModifier},
-                                                                            {113, Qt::AltModifier}}));
-            cSendKeys().SendKeys("+{tab 2}");
-            cSendKeys().SendKeys("later", false);
-            QCOMPARE(screen.note.Text(), QString());
-            QTRY_COMPARE(screen.note.Text(), "later");
         });
     }
 

@@ -1,5 +1,4 @@
 #include "platform/ado/Connection.h"
-#include "platform/ado/DatabaseError.h"
 #include "support/ShopTest.h"
 #include "ui/frmMsg.h"
 

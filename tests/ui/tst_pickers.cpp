@@ -46,10 +46,8 @@ private Q_SLOTS:
     {
         const QString pictures = shop->folder() + "/pictures";
         QVERIFY(QDir().mkpath(pictures + "/old"));
-        QImage image(40, 20, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        QVERIFY(image.save(pictures + "/coat.bmp"));
-        QVERIFY(image.scaled(1600, 800).save(pictures + "/wall.jpg"));
+        QVERIFY(QImage(40, 20, QImage::Format_Mono).save(pictures + "/coat.bmp"));
+        QVERIFY(QImage(1600, 800, QImage::Format_Mono).save(pictures + "/wall.jpg"));
         writeFile(pictures + "/broken.bmp", "not a picture");
         qputenv("HOME", pictures.toLocal8Bit());
         const auto select = [](std::function<void(frmSelectFile&)> act) {
