@@ -112,11 +112,11 @@ private Q_SLOTS:
         });
     }
 
-    void twoFirstStartsAtOnceMakeOneShop()
+    void firstStartsAtOnceMakeOneShop()
     {
         DE.close();
         QVERIFY(QFile::remove(session.databasePath()));
-        QProcess starts[2];
+        QProcess starts[4];
         for (QProcess& program : starts)
             program.start(QCoreApplication::applicationFilePath(), {"--start-in", shop->folder()});
         for (QProcess& program : starts)
@@ -176,7 +176,7 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == "--start-in") { // as the program itself, for one of two that start at once
+    if (arguments.value(1) == "--start-in") { // as the program itself, for one of those that start at once
         session.appFolder = arguments.value(2);
         const bool started = Main();
         delete forms::Screen::front();

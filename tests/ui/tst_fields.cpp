@@ -21,7 +21,7 @@ public:
         for (QWidget* each : std::initializer_list<QWidget*>{&name, &fee, &note, &client, &search})
             column->addWidget(each);
         fee.setBoxType(1);
-        client.AddItems({"Ajay", "Anil Kumar", "anil Verma", "Bela"});
+        client.AddItems({"Ajay", "Anil Kumar", "anil Verma", "Bela Devi", "Bela"});
         on(&name, &swTextBox::KeyPress, [](int& key) {
             if (key == '*')
                 key = 0;
@@ -112,8 +112,9 @@ private Q_SLOTS:
             press(Qt::Key_Tab); // no character, so it isn't swallowed
             QVERIFY(screen.search.hasFocus());
 
-            for (const auto& [text, taken, index] :
-                 {std::tuple("ANIL V", "anil Verma", 2), std::tuple("Zoya", "Zoya", -1)}) {
+            for (const auto& [text, taken, index] : {std::tuple("ANIL V", "anil Verma", 2),
+                                                     std::tuple("bela", "Bela", 4), // the whole name first
+                                                     std::tuple("Zoya", "Zoya", -1)}) {
                 client.setText(text);
                 QCOMPARE(ComboFindIndex(client), index);
                 QCOMPARE(client.text(), taken);
