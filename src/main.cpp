@@ -1,6 +1,7 @@
 #include "core/shell/modMain.h"
 #include "core/store/Session.h"
 #include "platform/ado/Connection.h"
+#include "platform/devices/TestCameras.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/forms/Theme.h"
 #include "platform/report/Printing.h"
@@ -25,7 +26,14 @@ int main(int argc, char* argv[])
         waiting ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
     });
     values::setCriticalNotice([](const QString& text) { forms::criticalMessage(nullptr, text); });
+    if (qEnvironmentVariableIsSet("SEAMWISE_TEST_CAMERA"))
+        devices::setCameras(std::make_unique<devices::TestCameras>(std::vector<devices::TestCamera>{
+            {.name = u"Test pattern"_s},
+            {.name = u"Slow camera"_s, .timeToOpen = 4000},
+            {.name = u"Loose cable"_s, .picturesLeft = 60},
+            {.name = u"Taken camera"_s, .fault = u"In use elsewhere"_s}}));
     const int result = Main() ? QApplication::exec() : 1;
     report::finishPrinting();
+    devices::setCameras({});
     return result;
 }

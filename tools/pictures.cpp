@@ -31,11 +31,13 @@
 #include "masters/frmEditWorker.h"
 #include "masters/frmItems.h"
 #include "masters/frmWorkers.h"
+#include "media/frmCam.h"
 #include "media/frmHandNote.h"
 #include "media/frmPreview.h"
 #include "planning/frmFeedBack.h"
 #include "planning/frmRatings.h"
 #include "planning/frmWorkerReport2.h"
+#include "platform/devices/TestCameras.h"
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/ListBox.h"
@@ -257,6 +259,12 @@ void takeAll()
     picture("paper-label", [] { PrintLabel(shownLine()); });
     picture("garment-picture", [] {
         frmPreview().ShowImage(value(u"Select Img2 from Jobs_Detail where Img2<>''"_s).toString());
+    });
+    picture("web-cam", [] {
+        devices::setCameras(std::make_unique<devices::TestCameras>(
+            std::vector<devices::TestCamera>{{.name = u"Test pattern"_s}}));
+        bool cancelled = true;
+        frmCam().TakeSnap(QDir::tempPath() + u"/never-taken.bmp"_s, cancelled);
     });
     picture("hand-note", [] {
         bool cancelled = true;

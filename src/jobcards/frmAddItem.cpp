@@ -6,6 +6,7 @@
 #include "core/store/Startup.h"
 #include "jobcards/PictureFiles.h"
 #include "jobcards/clsJobCardData.h"
+#include "media/frmCam.h"
 #include "media/frmHandNote.h"
 #include "media/frmPreview.h"
 #include "platform/values/Currency.h"
@@ -16,6 +17,7 @@
 #include "ui_frmAddItem.h"
 
 #include <QColorDialog>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -66,6 +68,8 @@ frmAddItem::frmAddItem()
     onGotFocus(ui->txtClientRemark, [this] { LastKey = 0; });
     onKeyPress(ui->txtClientRemark, [this](int& key) { typeClientRemark(key); });
     on(ui->picColor, &ColorBox::clicked, &frmAddItem::chooseColor);
+    on(ui->Command3, &QPushButton::clicked, [this] { takePicture(*ui->pic1, *ui->picPath1, 1); });
+    on(ui->Command4, &QPushButton::clicked, [this] { takePicture(*ui->pic2, *ui->picPath2, 2); });
     on(ui->Command7, &QPushButton::clicked, &frmAddItem::drawNote);
     on(ui->Command8, &QPushButton::clicked, &frmAddItem::selectSecondPicture);
     on(ui->Command6, &QPushButton::clicked, [this] { clearPicture(*ui->pic1, *ui->picPath1); });
@@ -252,6 +256,16 @@ void frmAddItem::chooseColor()
     activateWindow();
     if (chosen.isValid() && itemcolor::toNumber(chosen) >= 1)
         ui->picColor->setNumber(itemcolor::toNumber(chosen));
+}
+
+/// A camera that gave nothing leaves the place as it is.
+void frmAddItem::takePicture(PictureBox& pic, QLabel& picPath, int number)
+{
+    const QString target = newPicture(number);
+    bool cancelled = true;
+    frmCam().TakeSnap(target, cancelled);
+    if (!cancelled && QFileInfo::exists(target))
+        showPicture(pic, picPath, target);
 }
 
 /// A picture that is there already is drawn on.

@@ -53,6 +53,7 @@ private:
 
     void typeClientRemark(int& key);
     void chooseColor();
+    void takePicture(PictureBox& pic, QLabel& picPath, int number);
     void drawNote();
     QString newPicture(int number) const;
     void selectSecondPicture();
