@@ -4,6 +4,7 @@
 #include "platform/devices/TestCameras.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/forms/Theme.h"
+#include "platform/report/ListKeys.h"
 #include "platform/report/Printing.h"
 #include "platform/values/Notice.h"
 
@@ -26,6 +27,7 @@ int main(int argc, char* argv[])
         waiting ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
     });
     values::setCriticalNotice([](const QString& text) { forms::criticalMessage(nullptr, text); });
+    report::ListKeys::install();
     if (qEnvironmentVariableIsSet("SEAMWISE_TEST_CAMERA"))
         devices::setCameras(std::make_unique<devices::TestCameras>(std::vector<devices::TestCamera>{
             {.name = u"Test pattern"_s},

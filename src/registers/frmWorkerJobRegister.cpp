@@ -4,6 +4,7 @@
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "planning/frmWorkerReport2.h"
+#include "platform/report/ListKeys.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
 #include "registers/JobLines.h"
@@ -72,6 +73,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
         key = 0;
         openLine();
     });
+    report::ListKeys::addTo(*ui->mnuFile, *ui->lvSummary);
     on(ui->lvSummary, &forms::ListView::menuAsked, &frmWorkerJobRegister::askMenu);
     on(ui->mnuUn, &QAction::triggered, &frmWorkerJobRegister::markCuttingDone);
     on(ui->mnuCom, &QAction::triggered, &frmWorkerJobRegister::markCompleted);

@@ -1,20 +1,27 @@
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/ListBox.h"
+#include "platform/forms/ListSheet.h"
 #include "platform/forms/ListView.h"
 #include "platform/forms/Screen.h"
+#include "platform/report/ListKeys.h"
+#include "platform/report/ListPaper.h"
 #include "platform/values/Dates.h"
 #include "support/Fields.h"
 #include "support/Modal.h"
+#include "support/Pdf.h"
+#include "support/Prompts.h"
 
 #include <QAbstractItemView>
 #include <QCalendarWidget>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -114,27 +121,67 @@ private Q_SLOTS:
         QCOMPARE(moved.count(), 1);
     }
 
-    void copiesTheChosenRow()
+    void listsLeaveTheProgram()
     {
-        ListView view;
-        view.setColumns({{"Client", 50}, {"City", 40}});
-        view.resize(400, 200);
-        view.show();
-        QVERIFY(QTest::qWaitForWindowActive(&view));
+        report::ListKeys::install();
+        Screen screen;
+        screen.setWindowTitle("Dues");
+        auto* column = new QVBoxLayout(&screen);
+        auto* city = new QLineEdit("Agra");
+        auto* view = new ListView;
+        column->addWidget(city);
+        column->addWidget(view);
+        view->setColumns({{"Client", 50}, {"Due", 20, Qt::AlignRight}, {"Since", 30}});
         QClipboard* clipboard = QGuiApplication::clipboard();
-        clipboard->setText("before");
-        for (const bool filled : {false, true}) {
-            if (filled)
-                view.addRow({"Asha", "Agra"});
-            press(Qt::Key_C, Qt::ControlModifier); // no row is selected
+        onNextModal<Screen>([&](Screen&) {
+            view->setFocus();
+            clipboard->setText("before");
+            press(Qt::Key_C, Qt::ControlModifier); // no row is there
             press(Qt::Key_Insert, Qt::ControlModifier);
             QCOMPARE(clipboard->text(), "before");
             for (int role = 0; role < Qt::UserRole; ++role)
-                view.model()->data(QModelIndex(), role);
-        }
-        view.selectRow(0);
-        press(Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(clipboard->text(), "Asha\tAgra");
+                view->model()->data(QModelIndex(), role);
+            view->addRow({"Asha \"A\", Agra", "-12.50", "09-Feb-2024"});
+            view->addRow({"=1+1", "आशा"});
+            view->addRow({{"Total", "1.00"}, {}, {{0, {{}, {}, true, {}}}}});
+            press(Qt::Key_C, Qt::ControlModifier);
+            QCOMPARE(clipboard->text(), QString("Client\tDue\tSince\nAsha \"A\", Agra\t-12.50\t09-Feb-2024\n"
+                                                "'=1+1\tआशा\t\nTotal\t1.00\t"));
+            view->selectRow(2);
+            press(Qt::Key_C, Qt::ControlModifier);
+            QCOMPARE(clipboard->text(), "Total\t1.00\t");
+
+            const ListSheet sheet = sheetOf(*view);
+            QCOMPARE(sheet.criteria, QStringList("Agra"));
+            QCOMPARE(QString::fromUtf8(commaSeparated(sheet)),
+                     QString("\uFEFFClient,Due,Since\r\n\"Asha \"\"A\"\", Agra\",-12.50,2024-02-09\r\n"
+                             "'=1+1,आशा,\r\nTotal,1.00,\r\n"));
+            for (int row = 0; row < 60; ++row)
+                view->addRow({"Ravi", "5.00"});
+            const QStringList pages = readBack(*report::listPaper(sheetOf(*view)));
+            QCOMPARE(pages.size(), 2);
+            QVERIFY(pages[0].startsWith("Dues Agra Client Due Since Asha \"A\", Agra -12.50 09-Feb-2024"));
+            QVERIFY(pages[1].startsWith("Dues Agra Client Due Since Ravi") && pages[1].endsWith("2 of 2"));
+
+            const QTemporaryDir folder;
+            Prompts prompts;
+            for (const char* path : {"/list.csv", "/none/list.csv"}) {
+                const QString file = folder.path() + path;
+                const bool works = QFileInfo(QFileInfo(file).path()).isDir();
+                prompts.expect(QString(works ? "The list was saved for a spreadsheet:\n\n%1"
+                                             : "%1\n\nNo such file or directory")
+                                   .arg(file));
+                onNextModal<QFileDialog>([&file](QFileDialog& dialog) {
+                    control<QLineEdit>(dialog, "fileNameEdit").setText(file);
+                    QMetaObject::invokeMethod(&dialog, "accept");
+                });
+                city->setFocus(); // wherever the focus is
+                press(Qt::Key_F12);
+                QCOMPARE(QFileInfo::exists(file), works);
+            }
+            QVERIFY(prompts.allMet());
+        });
+        screen.showModal();
     }
 
     void comboKeepsItsTextWhenFilled()

@@ -4,7 +4,6 @@
 #include "platform/forms/Palette.h"
 
 #include <QAbstractTableModel>
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -320,8 +319,6 @@ void ListView::keyPressEvent(QKeyEvent* event)
     static constexpr Qt::Key walking[] = {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp};
     if (menuKey)
         askMenuAtSelection();
-    else if (event->matches(QKeySequence::Copy))
-        copySelected();
     else if (selectedRow() < 0 && event->key() == Qt::Key_End)
         selectRow(rowCount() - 1);
     else if (selectedRow() < 0 &&
@@ -329,13 +326,6 @@ void ListView::keyPressEvent(QKeyEvent* event)
         selectRow(0);
     else
         QTreeView::keyPressEvent(event);
-}
-
-/// A spreadsheet takes the row in its columns.
-void ListView::copySelected() const
-{
-    if (const Row* row = m_rows->row(selectedRow()))
-        QGuiApplication::clipboard()->setText(row->cells.join(u'\t'));
 }
 
 /// Focus alone selects no row, and makes none look so.

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QMap>
+#include <QMetaMethod>
 #include <QPixmap>
 #include <QTreeView>
 #include <functional>
@@ -73,6 +74,8 @@ public:
     int topRow() const;
     /// Brings a row to the top, as far as the rows below it fill the view.
     void setTopRow(int row);
+    /// Whether somebody answers when a menu is asked for.
+    bool hasMenu() const { return isSignalConnected(QMetaMethod::fromSignal(&ListView::menuAsked)); }
 
 Q_SIGNALS:
     /// A row was double-clicked.
@@ -98,7 +101,6 @@ private:
     class Model;
     void anew(const std::function<void()>& change);
     void askMenuAtSelection();
-    void copySelected() const;
     QString tipFor(const QModelIndex& index) const;
     void layOutColumns();
 

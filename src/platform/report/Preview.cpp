@@ -5,14 +5,12 @@
 #include "platform/report/PageView.h"
 #include "platform/report/Pdf.h"
 #include "platform/report/PrintDialog.h"
+#include "platform/report/SaveDialog.h"
 
 #include <QBoxLayout>
 #include <QDir>
-#include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
-#include <QRegularExpression>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -24,15 +22,6 @@ constexpr double shareOfScreen = 0.97;
 constexpr double zoomStep = 1.25;
 constexpr int iconButtonWidth = 38;
 constexpr int labelGap = 14;
-constexpr int longestFileName = 60;
-
-/// Without the letters that a file's name can't have on every system.
-QString fileName(const Report& report)
-{
-    static const QRegularExpression unfit(u"[\\\\/:*?\"<>|\\x00-\\x1F]"_s);
-    QString name = report.Subject.isEmpty() ? report.Title : report.Subject;
-    return name.replace(unfit, u"-"_s).simplified().left(longestFileName);
-}
 
 QString pageText(int page, int count) { return u"Page %1 of %2"_s.arg(page).arg(count); }
 
@@ -181,16 +170,11 @@ void Preview::print() { PrintDialog(m_report.Title, m_pages, this).showModal(); 
 
 void Preview::saveAsPdf()
 {
-    QFileDialog dialog(this, u"Save as PDF"_s, {}, u"PDF files (*.pdf)"_s);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setDefaultSuffix(u"pdf"_s);
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    dialog.setDirectory(QDir(documents).exists() ? documents : QDir::homePath());
-    dialog.selectFile(fileName(m_report) + u".pdf"_s);
-    if (dialog.exec() != QDialog::Accepted)
+    const QString path =
+        askSavePath(this, u"Save as PDF"_s, m_report.Subject.isEmpty() ? m_report.Title : m_report.Subject,
+                    u"pdf"_s, u"PDF files (*.pdf)"_s);
+    if (path.isEmpty())
         return;
-    const QString path = dialog.selectedFiles().constFirst();
     saveFile(pdf(m_pages, m_report.Title), path);
     forms::plainMessage(this, u"The paper was saved as a PDF file:\n\n"_s + QDir::toNativeSeparators(path));
 }

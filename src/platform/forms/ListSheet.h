@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+class QAbstractItemView;
+class QByteArray;
+
+namespace forms {
+
+/// What a list shows, as it leaves the program: for the clipboard, a file of comma-separated values, paper.
+struct ListSheet
+{
+    struct Column
+    {
+        QString title; ///< empty in a list without titles
+        bool isRight = false;
+    };
+    struct Row
+    {
+        QStringList cells;
+        bool isBold = false; ///< a total
+    };
+
+    QString title;        ///< of the screen
+    QStringList criteria; ///< what the screen's fields say of the list, each with its caption
+    std::vector<Column> columns;
+    std::vector<Row> rows;
+
+    QStringList titles() const; ///< empty where the list has none
+};
+
+/// The list of a screen, all of its rows.
+ListSheet sheetOf(const QAbstractItemView& list);
+
+/// Rows as a spreadsheet takes them from the clipboard, a tab between two cells.
+QString tabbed(const ListSheet& sheet);
+/// A file that a spreadsheet opens and computes with: UTF-8 with its mark, dates as 2024-02-10, and no cell
+/// that would be taken for a formula.
+QByteArray commaSeparated(const ListSheet& sheet);
+
+} // namespace forms
