@@ -4,6 +4,9 @@
 #include "ui/frmSelectFile.h"
 #include "ui/swTextBoxMultiLine.h"
 
+#include <QDir>
+#include <QFileDialog>
+
 static QString stored(qint32 setting) { return GetSetting(setting, "none"); }
 
 class tst_frmSettings : public ShopTest
@@ -99,6 +102,35 @@ private Q_SLOTS:
             QCOMPARE(focused(screen), "txtSMS3");
             QCOMPARE(stored(23), "none");
         });
+    }
+
+    void backsUpAndRestores()
+    {
+        const QString folder = shop->folder() + "/stick";
+        QDir().mkdir(folder);
+        inModal<frmSettings>([&](frmSettings& screen) {
+            for (const char* command : {"Command7", "Command4", "Command5"}) {
+                prompts->expect("Please select backup file path!");
+                click(screen, command);
+            }
+            onNextModal<QFileDialog>([&folder](QFileDialog& dialog) {
+                control<QLineEdit>(dialog, "fileNameEdit").setText(folder);
+                QMetaObject::invokeMethod(&dialog, "accept");
+            });
+            click(screen, "Command6");
+            QCOMPARE(stored(19), folder);
+            prompts->expect("No backup file found!");
+            click(screen, "Command5");
+            QCOMPARE(label(screen, "lblLastBackup"), "No backup yet");
+            prompts->expect("Database Backup Created.");
+            click(screen, "Command4");
+            QCOMPARE(label(screen, "lblLastBackup"), "Last backup: today");
+        });
+        shop->addClient("Asha");
+        prompts->expect("Database restored.\r\nPlease restart application.");
+        inModal<frmSettings>([](frmSettings& screen) { click(screen, "Command5"); });
+        shop->reopen();
+        QCOMPARE(Shop::count("Select * from Accounts where Title='Asha'"), 0);
     }
 };
 

@@ -7,6 +7,7 @@
 #include "core/shell/frmMenu.h"
 #include "core/shell/frmSettings.h"
 #include "core/shell/frmShopINFO.h"
+#include "core/store/Backup.h"
 #include "core/store/DE.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
@@ -49,6 +50,7 @@ frmMain::frmMain()
     on(ui->Command5, &QPushButton::clicked, [] { frmShopINFO().showModal(); });
     on(ui->Command7, &QPushButton::clicked, [] { frmSettings().showModal(); });
     on(ui->Command4, &QPushButton::clicked, [] { frmAbout().showModal(); });
+    on(ui->cmdLastBackup, &QPushButton::clicked, [] { frmSettings().ShowBackup(); });
     on(ui->TodayDate, &forms::DatePicker::changed, &frmMain::changeWorkingDate);
     on(ui->TodayDate, &forms::DatePicker::calendarClosed, &frmMain::changeWorkingDate);
 }
@@ -66,6 +68,7 @@ void frmMain::Form_Activate()
 {
     RefershINFO();
     session.Language = GetSetting(settings::Language);
+    showLastBackup();
 }
 
 /// Called only at load: a wallpaper changed meanwhile shows at the next start.
@@ -118,6 +121,13 @@ void frmMain::showWhetherToday()
     ui->lblToday->setProperty("notToday", !today);
     ui->lblToday->style()->unpolish(ui->lblToday);
     ui->lblToday->style()->polish(ui->lblToday);
+}
+
+/// The whole line is the way to the backup, by Alt+B too.
+void frmMain::showLastBackup()
+{
+    const QDate last = values::readDate(GetSetting(settings::LastBackup));
+    ui->cmdLastBackup->setText(lastBackupText(last, QDate::currentDate()).replace(u"backup"_s, u"&backup"_s));
 }
 
 void frmMain::Form_KeyPress(int& key)

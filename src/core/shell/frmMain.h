@@ -33,6 +33,7 @@ private:
     void RefershINFO();
     void changeWorkingDate();
     void showWhetherToday();
+    void showLastBackup();
 
     std::unique_ptr<Ui::frmMain> ui;
     Wallpaper* MyWall;

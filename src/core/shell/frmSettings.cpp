@@ -44,6 +44,10 @@ frmSettings::frmSettings()
     on(ui->Command2, &QPushButton::clicked, [this] { selectPicture(*ui->txtLogo); });
     on(ui->Command8, &QPushButton::clicked, &frmSettings::loadDefaultDrafts);
     on(ui->Command1, &QPushButton::clicked, &frmSettings::save);
+    on(ui->Command6, &QPushButton::clicked, &frmSettings::selectBackupFolder);
+    on(ui->Command7, &QPushButton::clicked, &frmSettings::openBackupFolder);
+    on(ui->Command4, &QPushButton::clicked, &frmSettings::backUp);
+    on(ui->Command5, &QPushButton::clicked, &frmSettings::restore);
 }
 
 frmSettings::~frmSettings() = default;
@@ -70,6 +74,14 @@ void frmSettings::Form_Load()
     showDraft(*ui->txtSMS1, GetSetting(settings::SmsJobRegistered, DefaultJobRegisteredDraft()));
     showDraft(*ui->txtSMS2, GetSetting(settings::SmsJobFinished, DefaultJobFinishedDraft()));
     showDraft(*ui->txtSMS3, GetSetting(settings::SmsDueBalance, DefaultDueBalanceDraft()));
+    showLastBackup();
+}
+
+void frmSettings::ShowBackup()
+{
+    load();
+    goTo(ui->txtBackuppath->text().isEmpty() ? *ui->Command6 : *ui->Command4);
+    showModal();
 }
 
 void frmSettings::showDraft(swTextBoxMultiLine& box, const QString& text)

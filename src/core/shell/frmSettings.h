@@ -21,6 +21,9 @@ public:
     frmSettings();
     ~frmSettings() override;
 
+    /// Opens the screen on the page of the backup.
+    void ShowBackup();
+
 protected:
     void Form_Load() override;
     void Form_KeyPress(int& key) override;
@@ -35,6 +38,12 @@ private:
     void save();
     bool numbersFit();
     bool draftsArrive();
+    void selectBackupFolder();
+    void openBackupFolder();
+    QString chosenBackupFolder();
+    void backUp();
+    void restore();
+    void showLastBackup();
     void goTo(QWidget& field);
     void writeSettings();
 

@@ -229,6 +229,14 @@ void addBuiltInAccounts()
 
 QString databasePassword() { return u"measuretwicecut"_s; }
 
+QStringList tableNames()
+{
+    QStringList names;
+    for (const Table& table : tables())
+        names << QString::fromLatin1(table.name);
+    return names;
+}
+
 void CreateDatabase()
 {
     const QString path = session.databasePath();

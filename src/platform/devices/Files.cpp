@@ -1,7 +1,11 @@
 #include "platform/devices/Files.h"
 
+#include "platform/values/Errors.h"
+
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <filesystem>
 
 #ifdef Q_OS_UNIX
 #include <cerrno>
@@ -10,7 +14,65 @@
 #include <unistd.h>
 #endif
 
+using namespace Qt::StringLiterals;
+
 namespace files {
+
+namespace {
+
+[[noreturn]] void refuse(const QString& path, const QString& reason)
+{
+    throw OperatorError(path + u": "_s + reason);
+}
+
+/// Brings a file and its place in the folder to the disk.
+void settle(const QString& path)
+{
+    if (!sync(path))
+        refuse(path, u"the disk does not take the file."_s);
+}
+
+} // namespace
+
+void replace(const QString& path, const QString& with)
+{
+    settle(with);
+    std::error_code error;
+    std::filesystem::rename(with.toStdU16String(), path.toStdU16String(), error);
+    if (error)
+        refuse(path, QString::fromStdString(error.message()));
+    sync(QFileInfo(path).path());
+}
+
+void createPrivate(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::NewOnly))
+        refuse(path, file.errorString());
+    keepPrivate(path);
+}
+
+void copyWhole(const QString& from, const QString& to)
+{
+    const QString unfinished = QFileInfo(to).path() + u'/' + unfinishedCopy;
+    QFile::remove(unfinished);
+    QFile source(from);
+    try {
+        if (!source.copy(unfinished))
+            refuse(to, source.errorString());
+        keepPrivate(unfinished);
+        QFile copy(unfinished);
+        if (copy.size() != source.size() || !copy.open(QIODevice::ReadWrite))
+            refuse(to, copy.errorString());
+        // A file system that keeps no times has that of the copy, which is later and does as well.
+        copy.setFileTime(QFileInfo(from).lastModified(), QFileDevice::FileModificationTime);
+        copy.close();
+        replace(to, unfinished);
+    } catch (...) {
+        QFile::remove(unfinished);
+        throw;
+    }
+}
 
 void keepPrivate(const QString& path)
 {
@@ -41,6 +103,14 @@ bool renameUnlessTaken(const QString& from, const QString& to)
     return noLinksHere && !QFileInfo(to).isSymLink() && QFile::rename(from, to);
 }
 
+bool addName(const QString& path, const QString& name)
+{
+    if (::link(QFile::encodeName(path).constData(), QFile::encodeName(name).constData()) == 0)
+        return true;
+    const bool noLinksHere = errno == EPERM || errno == EOPNOTSUPP;
+    return noLinksHere && QFile::copy(path, name) && sync(name);
+}
+
 QByteArray identity(const QString& path)
 {
     struct stat about = {};
@@ -54,6 +124,8 @@ QByteArray identity(const QString& path)
 bool sync(const QString&) { return true; }
 
 bool renameUnlessTaken(const QString& from, const QString& to) { return QFile::rename(from, to); }
+
+bool addName(const QString& path, const QString& name) { return QFile::copy(path, name); }
 
 QByteArray identity(const QString& path) { return QFileInfo(path).canonicalFilePath().toUtf8(); }
 

@@ -15,6 +15,23 @@ bool sync(const QString& path);
 /// included. False then, and on any other refusal.
 bool renameUnlessTaken(const QString& from, const QString& to);
 
+/// Gives a file a second name in its folder, or where the file system knows none, makes a copy of that name;
+/// unless something has it already. False then, and on any other refusal.
+bool addName(const QString& path, const QString& name);
+
+/// Puts a file in the place of another of the same folder, or in a free one: whoever looks meets the one or
+/// the other, also after a power cut. Throws OperatorError with the system's reason.
+void replace(const QString& path, const QString& with);
+
+/// Makes an empty file for the owner alone. Throws OperatorError with the system's reason.
+void createPrivate(const QString& path);
+
+/// The name of a copy that is not finished.
+inline constexpr QLatin1StringView unfinishedCopy(".unfinished-copy");
+/// Copies a file so that under its new name it is whole or not there, and of the same time. A file of that
+/// name is replaced. Throws OperatorError with the system's reason.
+void copyWhole(const QString& from, const QString& to);
+
 /// Tells the file that the name stands for now from any other; empty when there is none.
 QByteArray identity(const QString& path);
 

@@ -1,0 +1,124 @@
+#include "core/shell/frmSettings.h"
+
+#include "core/store/Backup.h"
+#include "core/store/Settings.h"
+#include "platform/forms/Aside.h"
+#include "platform/forms/MessageBox.h"
+#include "platform/values/Dates.h"
+#include "ui_frmSettings.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Work whose failure does not take back what has been done before it: its text, for after that.
+template <typename Work>
+QString shortfall(Work work)
+{
+    try {
+        work();
+    } catch (const OperatorError& error) {
+        return error.text();
+    }
+    return {};
+}
+
+} // namespace
+
+/// The folder is written down at once.
+void frmSettings::selectBackupFolder()
+{
+    QFileDialog dialog(this, u"Select a Folder"_s, ui->txtBackuppath->text());
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString folder = QDir::toNativeSeparators(dialog.selectedFiles().value(0));
+    ui->txtBackuppath->setText(folder);
+    SetSetting(settings::BackupFolder, folder);
+}
+
+void frmSettings::openBackupFolder()
+{
+    const QString folder = chosenBackupFolder();
+    if (folder.isEmpty())
+        return;
+    if (!QFileInfo(folder).isDir())
+        throw OperatorError(
+            u"There is no folder %1. If it is on a stick or another disk, is that in?"_s.arg(folder));
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(folder)))
+        throw OperatorError(u"This computer has no program that shows the folder %1."_s.arg(folder));
+}
+
+/// The folder; empty, and said so, when none has been chosen.
+QString frmSettings::chosenBackupFolder()
+{
+    const QString folder = ui->txtBackuppath->text();
+    if (folder.isEmpty())
+        forms::criticalMessage(this, u"Please select backup file path!"_s);
+    return folder;
+}
+
+void frmSettings::backUp()
+{
+    const QString folder = chosenBackupFolder();
+    if (folder.isEmpty())
+        return;
+    if (archive::gzip().isEmpty()) {
+        forms::criticalMessage(this, u"gZip is missing! can't create backup. Please reinstall Seamwise to "
+                                     "fix this problem."_s);
+        return;
+    }
+    QString pictures;
+    {
+        Backup backup(folder);
+        forms::runAside(this, u"Backup Database"_s, [&](const Watch& watch) {
+            backup.run(watch);
+            pictures = shortfall([&] { backup.copyPictures(watch); });
+        });
+    }
+    SetSetting(settings::LastBackup, values::CStr(QDate::currentDate()));
+    showLastBackup();
+    forms::plainMessage(this, u"Database Backup Created."_s);
+    if (!pictures.isEmpty())
+        forms::criticalMessage(this, pictures);
+}
+
+/// The program ends with the shop's file exchanged: no screen may look into the one that it had open.
+void frmSettings::restore()
+{
+    const QString folder = chosenBackupFolder();
+    if (folder.isEmpty())
+        return;
+    const QString archive = archive::find(folder);
+    if (archive.isEmpty()) {
+        forms::criticalMessage(this, u"No backup file found!"_s);
+        return;
+    }
+    QString pictures;
+    {
+        Restore restore(archive);
+        forms::runAside(this, u"Restore Database"_s, [&](const Watch& watch) {
+            restore.unpack(watch);
+            pictures = shortfall([&] { restore.copyPictures(watch); });
+        });
+        restore.takePlace({});
+    }
+    if (!pictures.isEmpty())
+        forms::criticalMessage(this, pictures);
+    forms::plainMessage(this, u"Database restored.\r\nPlease restart application."_s);
+    setNotice(true);
+    QCoreApplication::exit();
+}
+
+void frmSettings::showLastBackup()
+{
+    ui->lblLastBackup->setText(
+        lastBackupText(values::readDate(GetSetting(settings::LastBackup)), QDate::currentDate()));
+}
