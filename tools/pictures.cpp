@@ -44,8 +44,11 @@
 #include "platform/forms/ListView.h"
 #include "platform/forms/Theme.h"
 #include "platform/report/Preview.h"
+#include "registers/frmBirthDayRimenders.h"
+#include "registers/frmDeliveryRegister.h"
 #include "registers/frmDueRegister.h"
 #include "registers/frmSearchClient.h"
+#include "registers/frmTrailDate.h"
 #include "registers/frmWorkerJobRegister.h"
 #include "sample/SampleShop.h"
 #include "ui/ModOtherFUN.h"
@@ -243,6 +246,11 @@ void takeAll()
     picture("job-card", [] { frmEditJOB().ShowEdit(showpiece()); });
     picture(
         "job-register", [] { frmWorkerJobRegister().showModal(); }, showDueLines);
+    picture(
+        "delivery-register", [] { frmDeliveryRegister().showModal(); },
+        [](forms::Screen& screen) { showDays(screen, 2); });
+    picture("trials", [] { frmTrailDate().showModal(); });
+    picture("birthdays", [] { frmBirthDayRimenders().showModal(); });
     picture(
         "dues", [] { frmDueRegister().showModal(); },
         [](forms::Screen& screen) { screen.findChild<forms::ListView*>(u"lvSummary"_s)->selectRow(2); });

@@ -54,26 +54,18 @@ void Book::Form_Load()
 
 void Book::show(const std::vector<BookLine>& lines)
 {
-    const int position = m_list->selectedRow();
-    const QString selected = m_list->tag(position);
     std::vector<forms::ListView::Row> rows;
     rows.reserve(lines.size());
-    int found = -1;
     for (const BookLine& line : lines) {
         forms::ListView::Row row{line.cells, line.tag};
         row.apart = !line.isPosting();
         if (row.apart) {
             for (int column = 0; column < int(line.cells.size()) - 1; ++column)
                 row.looks[column].bold = true;
-        } else if (found < 0 && line.tag == selected) {
-            found = int(rows.size());
         }
         rows.push_back(std::move(row));
     }
-    const int last = int(rows.size()) - 1;
-    m_list->setRows(std::move(rows));
-    if (position >= 0)
-        m_list->selectRow(found >= 0 ? found : std::min(position, last));
+    m_list->refreshRows(std::move(rows));
 }
 
 void Book::select(const QString& tag)

@@ -42,11 +42,10 @@ void swSMS::SendSMS(qint16 port, const QString& number, const QString& message)
     }
 }
 
-bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString& text)
+bool SendSmsToNumber(swSMS& sms, const QString& number, const QString& text)
 {
-    const QString mobile = GetClientMobile(title, id);
     const QString port = GetSetting(settings::ModemPort);
-    if (mobile.isEmpty()) {
+    if (number.isEmpty()) {
         ShowMsg(u"Mobile Number Not Found!\r\nSMS Sending has been Failed."_s);
         return false;
     }
@@ -58,8 +57,13 @@ bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString&
         sent != text &&
         !forms::askPlain(sms.screen(), u"The modem can't send all letters of this message. The "
                                        "client would read:\n\n%1\n\nSend it all the same?"_s.arg(
-                                           QString(sent).replace(u'\r', u'\n'))))
+                                           QString(sent).replace("\r\n"_L1, "\r"_L1).replace(u'\r', u'\n'))))
         return false;
-    sms.SendSMS(values::CInt(values::Val(port), u"Com port"_s), mobile, text);
+    sms.SendSMS(values::CInt(values::Val(port), u"Com port"_s), number, text);
     return true;
+}
+
+bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString& text)
+{
+    return SendSmsToNumber(sms, GetClientMobile(title, id), text);
 }

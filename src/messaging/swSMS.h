@@ -33,8 +33,9 @@ private:
     QString m_deviceFolder = u"/dev"_s;
 };
 
-/// The step by which every screen tells a client something: looks up the client's mobile number (by title or
-/// by id, as GetClientMobile) and the modem's port (setting 4), refuses with a message when one is missing,
-/// the number first, shows a message that would arrive changed and asks whether to send it, and sends.
-/// Returns whether it came to sending.
+/// The step by which every screen tells a client something: refuses with a message when the number or the
+/// modem's port (setting 4) is missing, the number first; shows a message that would arrive changed and asks
+/// whether to send it; sends. Returns whether it came to sending.
+bool SendSmsToNumber(swSMS& sms, const QString& number, const QString& text);
+/// The same to the mobile number of a client, by title or by id as GetClientMobile takes them.
 bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString& text);

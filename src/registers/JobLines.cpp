@@ -70,6 +70,8 @@ void LineNames::readAll(const QString& query)
         }
         accounts.Close();
     }
+    if (!m_balancesUpTo.isValid())
+        return;
     const QHash<qint32, double> balances =
         GetBalances(u"Select ClintID from (%1)"_s.arg(lines), m_balancesUpTo);
     for (auto balance = balances.cbegin(); balance != balances.cend(); ++balance)

@@ -28,6 +28,7 @@ QString daysAhead(const QDate& date);
 class LineNames
 {
 public:
+    /// Without a day the rows tell no balances.
     explicit LineNames(const QDate& balancesUpTo)
         : m_balancesUpTo(balancesUpTo)
     {

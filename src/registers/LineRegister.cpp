@@ -3,13 +3,18 @@
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
+#include "jobcards/frmEditWorkerAssign.h"
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/Palette.h"
 #include "platform/values/Numbers.h"
+#include "registers/JobLines.h"
 #include "ui/ModOtherFUN.h"
+#include "ui/modLang.h"
 
+#include <QLineEdit>
 #include <QPainter>
 #include <QPixmapCache>
+#include <QPushButton>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -18,6 +23,7 @@ namespace {
 
 const QString allWorkers = u"*All"_s;
 constexpr int totalColumn = 2;
+constexpr double heightOfScreen = 0.97;
 
 /// Of the dots: waiting, ready, gone, back on the table, void.
 constexpr QRgb stateColours[] = {palette::amber, palette::green, palette::grey, palette::rust,
@@ -56,6 +62,45 @@ QPixmap statusDot(qint32 state)
 
 // Opening
 
+void LineRegister::setCriteria(const Criteria& criteria)
+{
+    m_criteria = criteria;
+    on(criteria.jobId, &QLineEdit::textChanged, [this](const QString& text) {
+        if (text.isEmpty())
+            SearchMode = Search::AllWorkers;
+    });
+    onKeyPress(criteria.jobId, [this](int& key) { typeJobId(key); });
+    onKeyPress(criteria.worker, [this](int& key) {
+        key = AutoSearchCombo(*m_criteria.worker, key);
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        view();
+    });
+    on(criteria.condition, &forms::ComboBox::clicked, [this] { conditionStep(); });
+    on(criteria.view, &QPushButton::clicked, &LineRegister::view);
+    on(criteria.find, &QPushButton::clicked, &LineRegister::quickFind);
+    on(criteria.list, &forms::ListView::dblClicked, &LineRegister::openLine);
+    onKeyDown(criteria.list, [this](int& key) {
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        openLine();
+    });
+}
+
+void LineRegister::Form_Load()
+{
+    SetFormLanguage(*this);
+    useScreenHeight(heightOfScreen);
+    session.RefreshLists = true;
+    resetCriteria();
+    m_criteria.list->setFocus();
+    // A line that cannot be shown must not keep the register shut.
+    forms::guarded(this, [this] { ExecuteSQL(); });
+}
+
+/// The working date, all workers, no condition.
 void LineRegister::resetCriteria()
 {
     m_criteria.period.set(session.WorkingDate, session.WorkingDate);
@@ -75,20 +120,56 @@ void LineRegister::Form_Activate()
     conditionStep();
 }
 
+void LineRegister::Form_KeyPress(int& key)
+{
+    Screen::Form_KeyPress(key);
+    if (key != forms::key::CtrlF)
+        return;
+    key = 0;
+    quickFind();
+}
+
 // Filling
 
-void LineRegister::showLines(const std::function<void(std::vector<forms::ListView::Row>&)>& read)
+QString LineRegister::searchText() const
 {
+    const QString between = DateField + u" between "_s;
+    if (SearchMode == Search::Card)
+        return allLines + u"JOBid="_s + values::CStr(values::Val(m_criteria.jobId->text()));
+    if (SearchMode == Search::Worker)
+        return allLines + u"WorkerID=%1 and "_s.arg(GetAccountID(ViewedWorker)) + between +
+               period().between() + order();
+    if (SearchMode == Search::Client)
+        return allLines + u"ClintID=%1 and "_s.arg(GetAccountID(SearchClient)) + between +
+               period().between() + order();
+    return allLines + between + period().betweenShort() + order();
+}
+
+/// What the rows had when a line is at fault is shown without a total.
+void LineRegister::ExecuteSQL()
+{
+    m_criteria.period.order();
     session.RefreshLists = false; // also if it fails: once told, the fault isn't told at each activation
     std::vector<forms::ListView::Row> rows;
     try {
-        read(rows);
+        readLines(rows);
     } catch (...) {
         m_criteria.list->setRows(std::move(rows));
         throw;
     }
     rows.push_back(totalRow(rows.size()));
     m_criteria.list->setRows(std::move(rows));
+}
+
+void LineRegister::readLines(std::vector<forms::ListView::Row>& rows)
+{
+    SearchSql = searchText();
+    LineNames names(m_criteria.balances ? period().to() : QDate());
+    names.readAll(SearchSql);
+    ado::Recordset& lines = DE.rsJOBS_DETAIL;
+    const auto closed = qScopeGuard([&lines] { lines.Close(); }); // a line at fault leaves no lock behind
+    for (lines.Open(SearchSql); !lines.AtEOF(); lines.MoveNext())
+        rows.push_back(rowOf(lines, names));
 }
 
 void LineRegister::keepLines(const std::function<bool(const QStringList&)>& stays)
@@ -106,6 +187,13 @@ forms::ListView::Row LineRegister::totalRow(size_t lines) const
     total.looks[totalColumn] = {{}, {}, true, QColor(palette::emphasis)};
     return total;
 }
+
+void LineRegister::RemoveUnwanted(const QString& condition)
+{
+    keepLines([&](const QStringList& cells) { return cells.value(m_criteria.statusColumn) == condition; });
+}
+
+void LineRegister::applyCondition(const QString& condition) { RemoveUnwanted(condition); }
 
 void LineRegister::conditionStep()
 {
@@ -145,7 +233,35 @@ void LineRegister::view()
     enterList();
 }
 
-// Coming back to the row
+void LineRegister::showClient(const QString& client, Search mode)
+{
+    SearchClient = client;
+    SearchMode = mode;
+    session.RefreshLists = true;
+    ExecuteSQL();
+    enterList();
+}
+
+void LineRegister::typeJobId(int& key)
+{
+    if (key != forms::key::Enter)
+        return;
+    key = 0;
+    SearchMode = Search::Card;
+    ExecuteSQL();
+    enterList();
+}
+
+// The selected row
+
+qint32 LineRegister::selectedLine() const { return tagOf(*m_criteria.list, m_criteria.list->selectedRow()); }
+
+/// Opens the line in the workshop's screen.
+void LineRegister::openLine()
+{
+    if (const qint32 line = selectedLine(); line != 0)
+        openOnRow([line] { frmEditWorkerAssign().ShowEdit(line); });
+}
 
 void LineRegister::keepPosition()
 {

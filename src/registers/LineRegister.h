@@ -5,15 +5,24 @@
 #include "platform/values/Literals.h"
 #include "ui/Period.h"
 
+class LineNames;
+class QLineEdit;
+class QPushButton;
+namespace ado {
+class Recordset;
+}
 namespace forms {
 class ComboBox;
-} // namespace forms
+}
 
 /// The number that a row of a register keeps in its tag; 0 for a total row, and for a row that isn't there.
 qint32 tagOf(const forms::ListView& list, int row);
 
 /// The dot in a state's colour that stands before its name.
 QPixmap statusDot(qint32 state);
+
+/// What the searches for lines begin with.
+inline const QString allLines = u"Select * from JOBS_Detail where "_s;
 
 /// Base of the registers of job lines: criteria over a list with a row for each line and a total row. The
 /// list is built anew, whole, from the criteria; the condition then works on the texts of its rows. A
@@ -22,29 +31,48 @@ class LineRegister : public forms::Screen
 {
     Q_OBJECT
 protected:
+    /// What the list is about: the lines of all workers or of one, of a card, or of a client in the period or
+    /// on all days.
+    enum class Search { AllWorkers, Worker, Card, Client, ClientOnAllDays };
+
     struct Criteria
     {
         forms::ListView* list;
+        int statusColumn;
         Period period;
+        QLineEdit* jobId;
         forms::ComboBox* worker;
         forms::ComboBox* condition; ///< its first entry is no condition
+        QPushButton* view;
+        QPushButton* find;
+        bool balances = false; ///< the rows tell them, as they are at the end of the days
     };
 
-    void setCriteria(const Criteria& criteria) { m_criteria = criteria; }
-    /// The working date, all workers, no condition.
-    void resetCriteria();
+    /// For the constructor.
+    void setCriteria(const Criteria& criteria);
 
+    /// Takes 97% of the display's height, begins with the working date, all workers and no condition, and
+    /// fills the list.
+    void Form_Load() override;
     void Form_Activate() override;
+    void Form_KeyPress(int& key) override;
 
     /// Builds the list from the criteria, whatever the condition. Throws DatabaseError; the lines before the
     /// one at fault then stand on the list.
-    virtual void ExecuteSQL() = 0;
-    /// Takes the lines off the list that the condition does not want.
-    virtual void applyCondition(const QString& condition) = 0;
+    virtual void ExecuteSQL();
+    /// The statement that finds what the list is about.
+    virtual QString searchText() const;
+    /// The order of the lines, with "order by".
+    virtual QString order() const = 0;
+    /// The row of the line on which `line` stands.
+    virtual forms::ListView::Row rowOf(ado::Recordset& line, LineNames& names) const = 0;
+    /// Takes the lines off the list that the condition does not want: those of other states.
+    virtual void applyCondition(const QString& condition);
+    /// Lets the operator find a client, and lists the client's lines.
+    virtual void quickFind() = 0;
 
-    /// Puts the lines on the list, and the total row below them. `read` appends them; what it had appended
-    /// when it fails is shown without a total.
-    void showLines(const std::function<void(std::vector<forms::ListView::Row>& rows)>& read);
+    /// Keeps the lines of a state; takes the text of the condition.
+    void RemoveUnwanted(const QString& condition);
     /// Keeps the lines that `stays` wants, and counts them anew. The total row itself is asked too.
     void keepLines(const std::function<bool(const QStringList& cells)>& stays);
 
@@ -53,23 +81,30 @@ protected:
     void conditionStep();
     /// Shows the lines of the worker chosen, and puts the keys there; refuses criteria that make no sense.
     void view();
+    /// Shows the client's lines, whatever the condition, and puts the keys there.
+    void showClient(const QString& client, Search mode);
     /// Puts the keys on the list, on its first line when none is selected.
     void enterList();
     /// Keeps where the selected row is, in the list and on the screen, for the next refresh.
     void keepPosition();
     /// Opens another screen that works on the selected row's line, and refreshes the list after it, once.
     void openOnRow(const std::function<void()>& open);
-
-    /// What the list is about: the lines of all workers or of one, of a card, or of a client in the period or
-    /// on all days.
-    enum class Search { AllWorkers, Worker, Card, Client, ClientOnAllDays };
+    /// The line of the selected row; 0 for the total row, and for none.
+    qint32 selectedLine() const;
+    Period period() const { return m_criteria.period; }
 
     Search SearchMode = Search::AllWorkers;
-    QString ViewedWorker;   ///< title; refreshes go by it, whatever the box shows meanwhile
-    QString SearchSql;      ///< what the list shows
-    qint16 ReturnIndex = 0; ///< position to select after a refresh, from 1; 0: none
+    QString DateField = u"Date"_s; ///< the column that the days range over
+    QString ViewedWorker;          ///< title; refreshes go by it, whatever the box shows meanwhile
+    QString SearchClient;          ///< the client that Quick Find gave
+    QString SearchSql;             ///< what the list shows
+    qint16 ReturnIndex = 0;        ///< position to select after a refresh, from 1; 0: none
 
 private:
+    void resetCriteria();
+    void typeJobId(int& key);
+    void openLine();
+    void readLines(std::vector<forms::ListView::Row>& rows);
     forms::ListView::Row totalRow(size_t lines) const;
 
     Criteria m_criteria{};

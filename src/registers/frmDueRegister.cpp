@@ -42,23 +42,10 @@ void frmDueRegister::Form_Load()
 }
 
 /// Whoever comes back from an account reads what is owed now, on the client that was opened.
-void frmDueRegister::Form_Activate()
-{
-    forms::ListView& list = *ui->lvSummary;
-    const int position = list.selectedRow();
-    const QString selected = list.tag(position);
-    ExcuteSQl();
-    if (position < 0)
-        return;
-    int row = 0;
-    while (row < list.rowCount() && list.tag(row) != selected)
-        ++row;
-    list.selectRow(row < list.rowCount() ? row : std::min(position, list.rowCount() - 1));
-}
+void frmDueRegister::Form_Activate() { ExcuteSQl(); }
 
 void frmDueRegister::ExcuteSQl()
 {
-    ui->lvSummary->Clear();
     std::vector<forms::ListView::Row> rows;
     ado::Recordset& accounts = DE.rsaccounts;
     for (accounts.Open(u"Select Accounts.ID, Title, sum(Amount) as Balance from Accounts, Postings"_s +
@@ -72,7 +59,7 @@ void frmDueRegister::ExcuteSQl()
                             QString::number(accounts["ID"].integer())});
     }
     accounts.Close();
-    ui->lvSummary->setRows(std::move(rows));
+    ui->lvSummary->refreshRows(std::move(rows));
 }
 
 void frmDueRegister::openAccount()

@@ -2,7 +2,6 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
-#include "core/store/Session.h"
 #include "planning/frmWorkerReport2.h"
 #include "platform/report/ListKeys.h"
 #include "platform/values/Dates.h"
@@ -10,18 +9,12 @@
 #include "registers/JobLines.h"
 #include "registers/frmSearchClient.h"
 #include "ui/DetailsPanel.h"
-#include "ui/ModOtherFUN.h"
-#include "ui/modLang.h"
 #include "ui_frmWorkerJobRegister.h"
-
-#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double heightOfScreen = 0.97;
-const QString allLines = u"Select * from JOBS_Detail where "_s;
 const QString blank = u" "_s;
 
 } // namespace
@@ -30,7 +23,15 @@ frmWorkerJobRegister::frmWorkerJobRegister()
     : ui(std::make_unique<Ui::frmWorkerJobRegister>())
 {
     ui->setupUi(this);
-    setCriteria({ui->lvSummary, period(), ui->cmbClient, ui->cmbCondition});
+    setCriteria({.list = ui->lvSummary,
+                 .statusColumn = StatusColumn,
+                 .period = {ui->DateFrom, ui->DateTo},
+                 .jobId = ui->txtSearchID,
+                 .worker = ui->cmbClient,
+                 .condition = ui->cmbCondition,
+                 .view = ui->Command4,
+                 .find = ui->Command8,
+                 .balances = true});
     // What the shares leave is the balance's. A column never gets too narrow for what it mostly holds.
     ui->lvSummary->setColumns({{u"Date"_s, 10, Qt::AlignLeft, 110},
                                {u"JOB ID"_s, 5, Qt::AlignLeft, 76},
@@ -49,30 +50,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
                                 u"Cutting Not Done"_s});
     m_details = new DetailsPanel(ui->picDetails, ui->lvSummary, ui->Command1, ui->Image1);
 
-    on(ui->txtSearchID, &QLineEdit::textChanged, [this](const QString& text) {
-        if (text.isEmpty())
-            SearchMode = Search::AllWorkers;
-    });
-    onKeyPress(ui->txtSearchID, [this](int& key) { typeJobId(key); });
-    onKeyPress(ui->cmbClient, [this](int& key) {
-        key = AutoSearchCombo(*ui->cmbClient, key);
-        if (key != forms::key::Enter)
-            return;
-        key = 0;
-        view();
-    });
-    on(ui->cmbCondition, &forms::ComboBox::clicked, [this] { conditionStep(); });
-    on(ui->Command4, &QPushButton::clicked, &frmWorkerJobRegister::view);
-    on(ui->Command8, &QPushButton::clicked, &frmWorkerJobRegister::quickFind);
     on(ui->Command3, &QPushButton::clicked, &frmWorkerJobRegister::showOverview);
-
-    on(ui->lvSummary, &forms::ListView::dblClicked, &frmWorkerJobRegister::openLine);
-    onKeyDown(ui->lvSummary, [this](int& key) {
-        if (key != forms::key::Enter)
-            return;
-        key = 0;
-        openLine();
-    });
     report::ListKeys::addTo(*ui->mnuFile, *ui->lvSummary);
     on(ui->lvSummary, &forms::ListView::menuAsked, &frmWorkerJobRegister::askMenu);
     on(ui->mnuUn, &QAction::triggered, &frmWorkerJobRegister::markCuttingDone);
@@ -86,24 +64,9 @@ frmWorkerJobRegister::frmWorkerJobRegister()
 
 frmWorkerJobRegister::~frmWorkerJobRegister() = default;
 
-// Opening
-
-void frmWorkerJobRegister::Form_Load()
-{
-    SetFormLanguage(*this);
-    useScreenHeight(heightOfScreen);
-    session.RefreshLists = true;
-    resetCriteria();
-    ui->lvSummary->setFocus();
-    // A line that cannot be shown must not keep the register shut.
-    forms::guarded(this, [this] { ExecuteSQL(); });
-}
-
 // Filling
 
 QString frmWorkerJobRegister::order() const { return u" order by JobID,id,"_s + DateField; }
-
-Period frmWorkerJobRegister::period() const { return {ui->DateFrom, ui->DateTo}; }
 
 /// The lines of one worker.
 QString frmWorkerJobRegister::workerSearch(const QString& workerId) const
@@ -116,35 +79,20 @@ QString frmWorkerJobRegister::searchText() const
 {
     if (SearchMode == Search::Worker)
         return workerSearch(QString::number(GetAccountID(ViewedWorker)));
-    if (SearchMode == Search::Card)
-        return allLines + u"JOBid="_s + values::CStr(values::Val(ui->txtSearchID->text()));
-    if (SearchMode == Search::Client)
-        return allLines + u"ClintID=%1 and "_s.arg(GetAccountID(SearchClient)) + DateField + u" between "_s +
-               period().between() + order();
     if (SearchMode == Search::ClientOnAllDays)
         return allLines + u"ClintID=%1  order by "_s.arg(GetAccountID(SearchClient)) + DateField + u" desc"_s;
-    return allLines + DateField + u" between #"_s + values::CStr(ui->DateFrom->value()) + u"# and #"_s +
-           values::CStr(ui->DateTo->value()) + u'#' + order();
+    return LineRegister::searchText();
 }
 
 void frmWorkerJobRegister::ExecuteSQL()
 {
-    period().order();
     DateField = ui->opDt1->isChecked() ? u"Date"_s : u"JobDelDate"_s;
-    showLines([this](std::vector<forms::ListView::Row>& rows) {
-        SearchSql = searchText();
-        LineNames names(ui->DateTo->value());
-        names.readAll(SearchSql);
-        ado::Recordset& lines = DE.rsJOBS_DETAIL;
-        const auto closed = qScopeGuard([&lines] { lines.Close(); }); // a line at fault leaves no lock behind
-        for (lines.Open(SearchSql); !lines.AtEOF(); lines.MoveNext())
-            rows.push_back(rowOf(lines, names));
-    });
+    LineRegister::ExecuteSQL();
     fillDetails();
 }
 
 /// One line's row. A mark outside its code has no cell of its own: what follows moves up.
-forms::ListView::Row frmWorkerJobRegister::rowOf(ado::Recordset& line, LineNames& names)
+forms::ListView::Row frmWorkerJobRegister::rowOf(ado::Recordset& line, LineNames& names) const
 {
     const qint32 client = line["ClintID"].integer();
     const qint32 worker = line["WorkerID"].integer();
@@ -213,11 +161,6 @@ void frmWorkerJobRegister::applyCondition(const QString& condition)
         RemoveUnwanted(condition);
 }
 
-void frmWorkerJobRegister::RemoveUnwanted(const QString& condition)
-{
-    keepLines([&](const QStringList& cells) { return cells.value(StatusColumn) == condition; });
-}
-
 void frmWorkerJobRegister::RemoveUnwanted2(const QString& condition)
 {
     const QString mark = cuttingName(condition == u"Cutting Done" ? 1 : 0);
@@ -236,27 +179,13 @@ void frmWorkerJobRegister::RemoveUnwanted3(const QString& condition)
 
 // Criteria
 
-void frmWorkerJobRegister::typeJobId(int& key)
-{
-    if (key != forms::key::Enter)
-        return;
-    key = 0;
-    SearchMode = Search::Card;
-    ExecuteSQL();
-    enterList();
-}
-
 void frmWorkerJobRegister::quickFind()
 {
-    SearchClient.clear();
+    QString client;
     qint16 allJobs = 0;
-    SearchClient2(allJobs, SearchClient);
-    if (SearchClient.isEmpty())
-        return;
-    SearchMode = allJobs == 1 ? Search::ClientOnAllDays : Search::Client;
-    session.RefreshLists = true;
-    ExecuteSQL();
-    enterList();
+    SearchClient2(allJobs, client);
+    if (!client.isEmpty())
+        showClient(client, allJobs == 1 ? Search::ClientOnAllDays : Search::Client);
 }
 
 /// The worker picked from the numbers of lines of all.

@@ -8,11 +8,7 @@
 namespace Ui {
 class frmWorkerJobRegister;
 }
-namespace ado {
-class Recordset;
-}
 class DetailsPanel;
-class LineNames;
 
 /// The job register, the shop's main work list: item lines of job cards by worker, dates, state, card or
 /// client, and what is done with them.
@@ -24,9 +20,7 @@ public:
     ~frmWorkerJobRegister() override;
 
     void ExecuteSQL() override;
-    /// Keep the lines of a state, of a cutting mark, with or without a worker; each takes the text of the
-    /// condition.
-    void RemoveUnwanted(const QString& condition);
+    /// Keep the lines of a cutting mark, with or without a worker; each takes the text of the condition.
     void RemoveUnwanted2(const QString& condition);
     void RemoveUnwanted3(const QString& condition);
     /// The number of lines of an item within the dates, for the worker chosen and for all.
@@ -36,30 +30,26 @@ public:
     void DeliverJobCard();
 
 protected:
-    void Form_Load() override;
     void Form_KeyPress(int& key) override;
     void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
+    QString searchText() const override;
+    QString order() const override;
+    forms::ListView::Row rowOf(ado::Recordset& line, LineNames& names) const override;
     void applyCondition(const QString& condition) override;
+    void quickFind() override;
 
 private:
     enum Column { JobColumn = 1, ClientColumn = 2, WorkerColumn = 6, CuttingColumn = 7, StatusColumn = 8 };
 
     // Filling
-    static forms::ListView::Row rowOf(ado::Recordset& line, LineNames& names);
-    QString searchText() const;
     QString workerSearch(const QString& workerId) const;
-    Period period() const;
-    QString order() const;
     void fillDetails();
     void countLines(const QString& condition, qint32& count);
 
     // Criteria
-    void typeJobId(int& key);
-    void quickFind();
     void showOverview();
 
     // Actions on the selected row
-    void openLine();
     void askMenu(int row, const QPoint& place);
     void markCuttingDone();
     void markCompleted();
@@ -68,7 +58,6 @@ private:
     void deliverWholeCard();
     void openJobCard();
     void openClientAccount();
-    qint32 selectedLine() const;
     qint32 selectedJob() const;
     QString askLocation();
     bool asked(const QString& question) const;
@@ -77,6 +66,4 @@ private:
 
     const std::unique_ptr<Ui::frmWorkerJobRegister> ui;
     DetailsPanel* m_details;
-    QString DateField = u"Date"_s; ///< the column that the dates range over
-    QString SearchClient;          ///< the client that Quick Find gave
 };

@@ -3,7 +3,6 @@
 #include "core/store/Session.h"
 #include "jobcards/JobProgress.h"
 #include "jobcards/frmEditJOB.h"
-#include "jobcards/frmEditWorkerAssign.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/values/Numbers.h"
 #include "registers/frmWorkerJobRegister.h"
@@ -18,17 +17,10 @@ using namespace Qt::StringLiterals;
 void frmWorkerJobRegister::Form_KeyPress(int& key)
 {
     LineRegister::Form_KeyPress(key);
-    switch (key) {
-    case forms::key::CtrlD:
-        m_details->setOpen(true);
-        break;
-    case forms::key::CtrlF:
-        quickFind();
-        break;
-    default:
+    if (key != forms::key::CtrlD)
         return;
-    }
     key = 0;
+    m_details->setOpen(true);
 }
 
 void frmWorkerJobRegister::Form_KeyDown(int& key, Qt::KeyboardModifiers)
@@ -63,11 +55,6 @@ void frmWorkerJobRegister::askMenu(int row, const QPoint& place)
 }
 
 // The selected row
-
-qint32 frmWorkerJobRegister::selectedLine() const
-{
-    return tagOf(*ui->lvSummary, ui->lvSummary->selectedRow());
-}
 
 /// The number before the "/"; 0 on the total row.
 qint32 frmWorkerJobRegister::selectedJob() const
@@ -172,13 +159,6 @@ void frmWorkerJobRegister::writeDelivered(qint32 job)
 }
 
 // Other screens
-
-/// Opens the line in the workshop's screen.
-void frmWorkerJobRegister::openLine()
-{
-    if (const qint32 line = selectedLine(); line != 0)
-        openOnRow([line] { frmEditWorkerAssign().ShowEdit(line); });
-}
 
 void frmWorkerJobRegister::openJobCard()
 {

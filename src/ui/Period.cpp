@@ -3,6 +3,7 @@
 #include "core/store/Texts.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/MessageBox.h"
+#include "platform/values/Dates.h"
 
 using namespace Qt::StringLiterals;
 
@@ -33,3 +34,8 @@ void Period::order()
 QString Period::text() const { return dateText(from()) + u" To "_s + dateText(to()); }
 
 QString Period::between() const { return sqlDates(from(), to()); }
+
+QString Period::betweenShort() const
+{
+    return u'#' + values::CStr(from()) + u"# and #"_s + values::CStr(to()) + u'#';
+}

@@ -32,6 +32,8 @@ public:
     QString text() const;
     /// The days between the marks of a statement: "#01-Feb-2024# and #10-Feb-2024#".
     QString between() const;
+    /// The same in the short form of dates: "#2024-02-01# and #2024-02-10#".
+    QString betweenShort() const;
 
 private:
     forms::DatePicker* m_from = nullptr;

@@ -17,7 +17,7 @@ frmSelectDate::frmSelectDate(QWidget* parent)
 
 frmSelectDate::~frmSelectDate() = default;
 
-void frmSelectDate::SelectDate(QDate& fromDate, QDate& toDate, int mode)
+bool frmSelectDate::SelectDate(QDate& fromDate, QDate& toDate, int mode)
 {
     m_confirmed = false;
     m_single = mode == SingleDate;
@@ -30,6 +30,7 @@ void frmSelectDate::SelectDate(QDate& fromDate, QDate& toDate, int mode)
         fromDate = ui->DateFrom->value();
         toDate = ui->DateTo->value();
     }
+    return m_confirmed;
 }
 
 /// A single date stands in both boxes.

@@ -20,8 +20,8 @@ public:
     ~frmSelectDate() override;
 
     /// Shows the dialog with the given dates. They become what was chosen (in `mode` 1 both are the same),
-    /// and stay when the dialog is left without a choice.
-    void SelectDate(QDate& fromDate, QDate& toDate, int mode);
+    /// and stay when the dialog is left without a choice; false then.
+    bool SelectDate(QDate& fromDate, QDate& toDate, int mode);
 
 private:
     void followDateFrom();

@@ -115,6 +115,8 @@ People invitePeople(const Plan& plan, Random& random)
         client.account = next++;
         client.title = titles.title(random, personName, &client.woman);
         describe(client, random, plan.lastDay);
+        if (i % 90 == 40) // in a small shop too somebody is to be greeted
+            client.birthday = plan.lastDay.addYears(-(20 + i % 37));
         client.size = random.between(86, 114);
         people.clients.push_back(client);
     }

@@ -109,8 +109,15 @@ void advance(Line& line, const Card& card, int progress, const QDate& lastDay, R
 
 void comeForTrial(Card& card, const QDate& lastDay, Random& random)
 {
-    if (card.trial >= lastDay || card.cancelled)
+    if (card.trial > lastDay || card.cancelled)
         return;
+    if (card.trial == lastDay) { // the day is under way
+        if (card.number % 3 == 0) {
+            card.appeared = TrialState::Appeared;
+            card.appearedOn = lastDay;
+        }
+        return;
+    }
     const int thrown = random.below(100);
     if (thrown < 80) {
         card.appeared = TrialState::Appeared;

@@ -106,6 +106,7 @@ void frmMain::RefershINFO()
         ui->lblShopName->setText(session.ShopName);
         ui->lblShopName->setToolTip(Qt::convertFromPlainText(session.ShopName)); // a long one is cut
     }
+    session.ShownShopName = ui->lblShopName->text();
     shop.Close();
     const QSignalBlocker quiet(ui->TodayDate);
     ui->TodayDate->setValue(session.WorkingDate);

@@ -5,7 +5,10 @@
 #include "accounts/frmWorkerWagesRegister.h"
 #include "planning/frmRatings.h"
 #include "platform/forms/Icons.h"
+#include "registers/frmBirthDayRimenders.h"
+#include "registers/frmDeliveryRegister.h"
 #include "registers/frmDueRegister.h"
+#include "registers/frmTrailDate.h"
 #include "ui_frmMenu.h"
 
 frmMenu::frmMenu()
@@ -13,11 +16,14 @@ frmMenu::frmMenu()
 {
     ui->setupUi(this);
     forms::applyIcons(*this, forms::iconInk);
+    opens<frmBirthDayRimenders>(ui->Command1);
     opens<frmDueRegister>(ui->Command2);
     opens<frmAccountBook>(ui->Command3);
+    opens<frmTrailDate>(ui->Command4);
     opens<frmRatings>(ui->Command5);
     opens<frmDayBook>(ui->Command6);
     opens<frmWorkerWagesRegister>(ui->Command7);
+    opens<frmDeliveryRegister>(ui->Command9);
     on(ui->Command8, &QPushButton::clicked, &frmMenu::unload);
 }
 

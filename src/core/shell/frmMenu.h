@@ -8,7 +8,7 @@ namespace Ui {
 class frmMenu;
 }
 
-/// The way to the reports. A report's command is alive once its screen is there.
+/// The way to the reports.
 class frmMenu : public MenuScreen
 {
     Q_OBJECT

@@ -20,6 +20,8 @@ struct Session
     QString ShopAddress3;
     QString ShopContacts;
 
+    QString ShownShopName; ///< as the main screen has it
+
     /// The folder of the executable, without a slash at its end: the database, the Hindi texts and the
     /// pictures lie in it.
     QString appFolder;

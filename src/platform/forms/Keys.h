@@ -13,6 +13,7 @@ inline constexpr int Enter = 13;
 inline constexpr int Escape = 27;
 inline constexpr int CtrlA = 1;
 inline constexpr int CtrlD = 4;
+inline constexpr int CtrlE = 5;
 inline constexpr int CtrlF = 6;
 inline constexpr int CtrlP = 16;
 inline constexpr int CtrlS = 19;

@@ -207,6 +207,20 @@ void ListView::setRows(std::vector<Row> rows)
     anew([&] { m_rows->replace(std::move(rows)); });
 }
 
+void ListView::refreshRows(std::vector<Row> rows)
+{
+    const int position = selectedRow();
+    const QString selected = tag(position);
+    const auto found = std::find_if(rows.begin(), rows.end(), [&](const Row& each) {
+        return !selected.isEmpty() && each.tag == selected;
+    });
+    const int row =
+        int(found != rows.end() ? found - rows.begin() : std::min(position, int(rows.size()) - 1));
+    setRows(std::move(rows));
+    if (position >= 0)
+        selectRow(row);
+}
+
 void ListView::keepRows(const std::function<bool(const Row&)>& stays)
 {
     anew([&] { m_rows->keep(stays); });
