@@ -34,6 +34,7 @@
 #include "media/frmCam.h"
 #include "media/frmHandNote.h"
 #include "media/frmPreview.h"
+#include "planning/frmDDP.h"
 #include "planning/frmFeedBack.h"
 #include "planning/frmRatings.h"
 #include "planning/frmWorkerReport2.h"
@@ -293,6 +294,7 @@ void takeAll()
         const QString scored = u"Select ID from JOBS_DETAIL where Score=4 and ClientFeedback<>''"_s;
         GiveFeedback(value(scored).toInt(), 0, score);
     });
+    picture("pending-orders", [] { frmDDP().showModal(); });
     picture("ratings", [] { frmRatings().showModal(); });
     picture("work-overview", [] {
         QString worker;

@@ -7,6 +7,7 @@
 #include "core/store/Texts.h"
 #include "jobcards/frmAddItem.h"
 #include "masters/frmEditClients.h"
+#include "planning/frmDDP.h"
 #include "messaging/swSMS.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Errors.h"
@@ -72,6 +73,7 @@ frmEditJOB::frmEditJOB(QWidget* parent)
     on(ui->Command8, &QPushButton::clicked, &frmEditJOB::toggleCancelReason);
     on(ui->Command9, &QPushButton::clicked, &frmEditJOB::quickFind);
     on(ui->Command10, &QPushButton::clicked, &frmEditJOB::copyLine);
+    on(ui->Command11, &QPushButton::clicked, [] { frmDDP().showModal(); });
     on(ui->Command12, &QPushButton::clicked, &frmEditJOB::hideCancelReason);
 }
 

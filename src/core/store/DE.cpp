@@ -28,7 +28,7 @@ void DataEnvironment::ensureIndexes()
         {"Jobs_Detail_Clint", "JOBS_DETAIL (ClintID, ItemID)"},
         {"Jobs_Detail_Date", "JOBS_DETAIL (DATE, ClintID, WorkerID)"},
         {"Jobs_Detail_Delivery", "JOBS_DETAIL (JobDelDate, ClintID, WorkerID)"},
-        {"Jobs_Detail_Item_Date", "JOBS_DETAIL (ItemID, DATE, WorkerID, QNT)"},
+        {"Jobs_Detail_Item", "JOBS_DETAIL (ItemID, DATE, WorkerID, QNT, DoneByWorker)"},
         {"Jobs_Detail_Payroll", "JOBS_DETAIL (PayrollID)"},
         {"Jobs_Detail_Score", "JOBS_DETAIL (WorkerID, Score)"},
         {"Jobs_Detail_Worker", "JOBS_DETAIL (WorkerID, DATE)"},

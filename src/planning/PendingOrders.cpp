@@ -1,0 +1,50 @@
+#include "planning/PendingOrders.h"
+
+#include "core/store/DE.h"
+#include "core/store/Session.h"
+#include "platform/values/Dates.h"
+#include "platform/values/Numbers.h"
+
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void countLines(const QString& condition, qint32& count)
+{
+    ado::Recordset& lines = DE.rsJOBS_DETAIL2;
+    lines.Open(u"Select count(QNT) from Jobs_Detail where "_s + condition + u" and DoneByWorker=0"_s);
+    count = lines[0].integer();
+    lines.Close();
+}
+
+} // namespace
+
+void GetPendingOrders(qint16 itemId, qint32& count) { countLines(u"ItemID=%1"_s.arg(itemId), count); }
+
+void GetOrdersToday(qint16 itemId, const QDate& date, qint32& count)
+{
+    countLines(u"ItemID=%1 and date=#%2#"_s.arg(itemId).arg(values::CStr(date)), count);
+}
+
+void predictDelivery(std::vector<ItemLoad>& loads)
+{
+    ado::Recordset& items = DE.rsITEMS;
+    const auto closed = qScopeGuard([&items] { items.Close(); });
+    for (items.Open(u"Select * from items order by name"_s); !items.AtEOF(); items.MoveNext()) {
+        const QString name = items["Name"].text();
+        const qint32 capacity = items["ProdcutionCap"].integer();
+        if (capacity == 0)
+            continue;
+        const qint16 item = values::toInt16(items["ID"].integer(), u"Item number"_s);
+        qint32 open = 0;
+        GetPendingOrders(item, open);
+        qint32 today = 0;
+        GetOrdersToday(item, session.WorkingDate, today);
+        const qint32 pending = values::toInt32(qint64(items["OpPendingOrders"].integer()) + open,
+                                               u"Pending orders of "_s + name);
+        const qint32 waiting = values::CInt(double(pending) / capacity, u"Days of work on "_s + name) + 1;
+        loads.push_back({name, capacity, pending, today, waiting, session.WorkingDate.addDays(waiting)});
+    }
+}
