@@ -9,6 +9,7 @@
 #include "accounts/rptAccountsBooks.h"
 #include "accounts/rptWagesRegister.h"
 #include "core/shell/frmAbout.h"
+#include "core/shell/frmGlance.h"
 #include "core/shell/frmLogin.h"
 #include "core/shell/frmMain.h"
 #include "core/shell/frmMasters.h"
@@ -294,6 +295,7 @@ void takeAll()
         const QString scored = u"Select ID from JOBS_DETAIL where Score=4 and ClientFeedback<>''"_s;
         GiveFeedback(value(scored).toInt(), 0, score);
     });
+    picture("glance", [] { frmGlance().showModal(); });
     picture("pending-orders", [] { frmDDP().showModal(); });
     picture("ratings", [] { frmRatings().showModal(); });
     picture("work-overview", [] {

@@ -24,10 +24,19 @@ frmDayBook::frmDayBook()
 
 frmDayBook::~frmDayBook() = default;
 
+void frmDayBook::ShowDays(const QDate& from, const QDate& to)
+{
+    m_from = from;
+    m_to = to;
+    showModal();
+}
+
 void frmDayBook::Form_Load()
 {
     SetFormLanguage(*this);
     Book::Form_Load();
+    if (m_from.isValid())
+        period.set(m_from, m_to);
     view();
 }
 

@@ -16,6 +16,8 @@ public:
     frmDayBook();
     ~frmDayBook() override;
 
+    /// Opens the book of some days.
+    void ShowDays(const QDate& from, const QDate& to);
     void ExecuteSQL() override;
 
 protected:
@@ -25,4 +27,6 @@ private:
     void view();
 
     const std::unique_ptr<Ui::frmDayBook> ui;
+    QDate m_from; ///< the days to begin with; invalid: the working date
+    QDate m_to;
 };

@@ -89,6 +89,12 @@ void LineRegister::setCriteria(const Criteria& criteria)
     });
 }
 
+void LineRegister::ShowLines(const Beginning& beginning)
+{
+    m_beginning = beginning;
+    showModal();
+}
+
 void LineRegister::Form_Load()
 {
     SetFormLanguage(*this);
@@ -97,18 +103,21 @@ void LineRegister::Form_Load()
     resetCriteria();
     m_criteria.list->setFocus();
     // A line that cannot be shown must not keep the register shut.
-    forms::guarded(this, [this] { ExecuteSQL(); });
+    forms::guarded(this, [this] { conditionStep(); });
 }
 
-/// The working date, all workers, no condition.
 void LineRegister::resetCriteria()
 {
-    m_criteria.period.set(session.WorkingDate, session.WorkingDate);
+    m_criteria.period.set(m_beginning.from.isValid() ? m_beginning.from : session.WorkingDate,
+                          m_beginning.to.isValid() ? m_beginning.to : session.WorkingDate);
     FillList(u"Title"_s, u"Accounts"_s, u" where type=%1"_s.arg(1), *m_criteria.worker, DE.rsaccounts);
     m_criteria.worker->insertItem(0, allWorkers);
-    m_criteria.worker->setText(allWorkers);
+    ViewedWorker = m_beginning.worker.isEmpty() ? allWorkers : m_beginning.worker;
+    m_criteria.worker->setText(ViewedWorker);
     m_criteria.condition->setListIndex(0);
-    SearchMode = Search::AllWorkers;
+    if (!m_beginning.condition.isEmpty())
+        m_criteria.condition->setText(m_beginning.condition);
+    SearchMode = ViewedWorker == allWorkers ? Search::AllWorkers : Search::Worker;
     ReturnIndex = 0;
 }
 

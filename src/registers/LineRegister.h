@@ -30,6 +30,19 @@ inline const QString allLines = u"Select * from JOBS_Detail where "_s;
 class LineRegister : public forms::Screen
 {
     Q_OBJECT
+public:
+    /// What a register begins with; what is left out is the working date, all workers, no condition.
+    struct Beginning
+    {
+        QDate from;
+        QDate to;
+        QString worker = {};
+        QString condition = {};
+    };
+
+    /// Shows the register with these criteria.
+    void ShowLines(const Beginning& beginning);
+
 protected:
     /// What the list is about: the lines of all workers or of one, of a card, or of a client in the period or
     /// on all days.
@@ -51,8 +64,7 @@ protected:
     /// For the constructor.
     void setCriteria(const Criteria& criteria);
 
-    /// Takes 97% of the display's height, begins with the working date, all workers and no condition, and
-    /// fills the list.
+    /// Takes 97% of the display's height, sets the criteria to begin with, and fills the list.
     void Form_Load() override;
     void Form_Activate() override;
     void Form_KeyPress(int& key) override;
@@ -108,6 +120,7 @@ private:
     forms::ListView::Row totalRow(size_t lines) const;
 
     Criteria m_criteria{};
+    Beginning m_beginning;
     int m_topRow = -1;      ///< of the list as it stood on the screen; -1: from its beginning
     bool m_opening = false; ///< the refresh after a screen above is under way already
 };

@@ -1,9 +1,9 @@
 #include "registers/frmBirthDayRimenders.h"
 
 #include "core/store/DE.h"
-#include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
+#include "registers/ShopFigures.h"
 #include "ui/ModOtherFUN.h"
 #include "ui_frmBirthDayRimenders.h"
 
@@ -27,13 +27,9 @@ void frmBirthDayRimenders::resetDays() { ui->DateSel->setValue(session.WorkingDa
 
 std::vector<forms::ListView::Row> frmBirthDayRimenders::read()
 {
-    const QDate day = ui->DateSel->value();
     std::vector<forms::ListView::Row> rows;
     ado::Recordset& clients = DE.rsaccounts;
-    for (clients.Open(u"select * from  Accounts"_s + whereType(AccountType::Client) +
-                      u" and month(dob) between %1 and %1 and day(dob) between  %2 and %2"_s.arg(day.month())
-                          .arg(day.day()));
-         !clients.AtEOF(); clients.MoveNext())
+    for (clients.Open(figures::birthdaySearch(ui->DateSel->value())); !clients.AtEOF(); clients.MoveNext())
         rows.push_back({{clients["Title"].text(), dateText(clients["dob"].date()), clients["Mobile"].text()},
                         clients["ID"].text()});
     clients.Close();

@@ -3,6 +3,7 @@
 #include "accounts/frmAccountBook.h"
 #include "accounts/frmDayBook.h"
 #include "accounts/frmWorkerWagesRegister.h"
+#include "core/shell/frmGlance.h"
 #include "planning/frmRatings.h"
 #include "platform/forms/Icons.h"
 #include "registers/frmBirthDayRimenders.h"
@@ -24,6 +25,7 @@ frmMenu::frmMenu()
     opens<frmDayBook>(ui->Command6);
     opens<frmWorkerWagesRegister>(ui->Command7);
     opens<frmDeliveryRegister>(ui->Command9);
+    opens<frmGlance>(ui->Command10);
     on(ui->Command8, &QPushButton::clicked, &frmMenu::unload);
 }
 

@@ -1,0 +1,298 @@
+#include "core/shell/frmGlance.h"
+
+#include "accounts/frmAccountBook.h"
+#include "accounts/frmDayBook.h"
+#include "core/store/Session.h"
+#include "core/store/Texts.h"
+#include "masters/frmClients.h"
+#include "platform/forms/Palette.h"
+#include "platform/report/Preview.h"
+#include "platform/values/Numbers.h"
+#include "registers/frmBirthDayRimenders.h"
+#include "registers/frmDeliveryRegister.h"
+#include "registers/frmDueRegister.h"
+#include "registers/frmTrailDate.h"
+#include "registers/frmWorkerJobRegister.h"
+#include "ui/modLang.h"
+#include "ui_frmGlance.h"
+
+#include <QStyle>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double heightOfScreen = 0.97;
+constexpr int printScale = 3; ///< the paper is finer than the display
+const QString dot = u"  ·  "_s;
+
+QString count(qint64 number) { return values::Format(double(number), u"#,##0"_s); }
+
+QString money(Currency amount) { return values::Format(amount.toDouble(), u"#,##0.00"_s); }
+
+QString shortDay(const QDate& day) { return QLocale::c().toString(day, u"d MMM"_s); }
+
+/// How far the lines in the shop are, in words; those of which there are none are left out.
+QString told(const figures::InShop& lines)
+{
+    QStringList parts;
+    for (const auto& [number, name] : {std::pair(lines.uncompleted, u"uncompleted"_s),
+                                       {lines.alteration, u"in alteration"_s},
+                                       {lines.ready, u"ready"_s}})
+        if (number > 0)
+            parts << count(number) + u' ' + name;
+    return parts.isEmpty() ? u"nothing"_s : parts.join(u", "_s);
+}
+
+} // namespace
+
+frmGlance::frmGlance()
+    : ui(std::make_unique<Ui::frmGlance>())
+{
+    ui->setupUi(this);
+    ui->chDue->setSeries({{u"Uncompleted"_s, QColor(palette::accent)},
+                          {u"Alteration"_s, QColor(palette::amber)},
+                          {u"Ready"_s, QColor(palette::accentLight)}},
+                         forms::BarChart::Bars::Stacked);
+    ui->chMoney->setSeries(
+        {{u"Booked"_s, QColor(palette::accentLight)}, {u"Taken"_s, QColor(palette::accent)}},
+        forms::BarChart::Bars::SideBySide);
+    ui->chDues->setSeries({{u"Owed by clients"_s, QColor(palette::accent)}},
+                          forms::BarChart::Bars::SideBySide);
+    ui->lvDues->setColumns({{u"Client"_s, forms::ListView::rest}, {u"Owes"_s, 36, Qt::AlignRight, 96}});
+    ui->lvWorkers->setColumns({{u"Worker"_s, forms::ListView::rest, Qt::AlignLeft, 110},
+                               {u"In hand"_s, 19, Qt::AlignRight, 62},
+                               {u"Alteration"_s, 21, Qt::AlignRight, 76},
+                               {u"Finished"_s, 21, Qt::AlignRight, 68}});
+
+    on(ui->cmdDue, &QPushButton::clicked, [this] { openDueDay(0); });
+    on(ui->cmdOverdue, &QPushButton::clicked, &frmGlance::openOverdue);
+    on(ui->cmdTrials, &QPushButton::clicked, [] { frmTrailDate().showModal(); });
+    on(ui->cmdBirthdays, &QPushButton::clicked, [] { frmBirthDayRimenders().showModal(); });
+    on(ui->cmdTaken, &QPushButton::clicked, [] { frmDayBook().showModal(); });
+    on(ui->cmdCards, &QPushButton::clicked, [] { frmWorkerJobRegister().showModal(); });
+    on(ui->chDue, &forms::BarChart::opened, &frmGlance::openDueDay);
+    on(ui->chMoney, &forms::BarChart::opened, &frmGlance::openWeek);
+    on(ui->chDues, &forms::BarChart::opened, [] { frmDueRegister().showModal(); });
+    for (const auto& [list, open] :
+         {std::pair(ui->lvDues, &frmGlance::openDebtor), {ui->lvWorkers, &frmGlance::openWorker}}) {
+        on(list, &forms::ListView::dblClicked, open);
+        onKeyDown(list, [this, act = open](int& key) {
+            if (key != forms::key::Enter)
+                return;
+            key = 0;
+            (this->*act)();
+        });
+    }
+    on(ui->cmdLines, &QPushButton::clicked,
+       [this] { frmWorkerJobRegister().ShowLines({.from = m_shop.firstDay, .to = m_day}); });
+    on(ui->cmdAccounts, &QPushButton::clicked, [] { frmClients().showModal(); });
+    on(ui->cmdPostings, &QPushButton::clicked,
+       [this] { frmDayBook().ShowDays(m_shop.firstDay.isValid() ? m_shop.firstDay : m_day, m_day); });
+    on(ui->cmdPrint, &QPushButton::clicked, &frmGlance::print);
+}
+
+frmGlance::~frmGlance() = default;
+
+void frmGlance::Form_Load()
+{
+    SetFormLanguage(*this);
+    useScreenHeight(heightOfScreen);
+    ui->cmdDue->setFocus();
+}
+
+void frmGlance::Form_Activate() { fill(); }
+
+void frmGlance::fill()
+{
+    m_day = session.WorkingDate;
+    m_shop = figures::read(m_day);
+    ui->lblDay->setText(QLocale::c().toString(m_day, u"dddd"_s) + u", "_s + dateText(m_day));
+    showDay();
+    showDue();
+    showMoney();
+    showDues();
+    showWorkers();
+    showRoom();
+}
+
+void frmGlance::showDay()
+{
+    const figures::InShop& today = m_shop.due.front();
+    ui->cmdDue->show(count(today.all()), u"%1 ready, %2 not ready"_s.arg(today.ready).arg(today.notReady()));
+    const figures::Overdue& overdue = m_shop.overdue;
+    ui->cmdOverdue->show(count(overdue.uncompleted),
+                         u"%1 in alteration, %2 not fetched"_s.arg(overdue.alteration).arg(overdue.ready),
+                         overdue.uncompleted > 0);
+    ui->cmdTrials->show(count(m_shop.trials.all), u"%1 not appeared"_s.arg(m_shop.trials.notAppeared));
+    ui->cmdBirthdays->show(count(m_shop.birthdays), u"clients"_s);
+    Currency all;
+    QStringList accounts;
+    for (const figures::Taken& taken : m_shop.taken) {
+        all += taken.amount;
+        accounts << taken.account + u' ' + money(taken.amount);
+    }
+    ui->cmdTaken->show(money(all), accounts.isEmpty() ? u"from clients"_s : accounts.join(u", "_s));
+    ui->cmdCards->show(count(m_shop.newCards), u"job cards"_s);
+}
+
+void frmGlance::showDue()
+{
+    std::vector<forms::BarChart::Group> groups;
+    for (size_t i = 0; i < m_shop.due.size(); ++i) {
+        const figures::InShop& lines = m_shop.due[i];
+        const QDate day = m_day.addDays(qint64(i));
+        groups.push_back(
+            {.label = QLocale::c().toString(day, u"ddd d"_s),
+             .values = {double(lines.uncompleted), double(lines.alteration), double(lines.ready)},
+             .meaning = dateText(day) + u": "_s + told(lines),
+             .apart = i == 0});
+    }
+    ui->chDue->setGroups(std::move(groups));
+    ui->chDue->setMark(m_shop.finishedADay,
+                       u"finished on a working day: "_s + values::Format(m_shop.finishedADay, u"0.0"_s));
+}
+
+void frmGlance::showMoney()
+{
+    std::vector<forms::BarChart::Group> groups;
+    for (const figures::Week& week : m_shop.weeks)
+        groups.push_back({.label = shortDay(week.from),
+                          .values = {week.booked.toDouble(), week.taken.toDouble()},
+                          .meaning = shortDay(week.from) + u" to "_s + shortDay(week.from.addDays(6)) +
+                                     u": booked "_s + money(week.booked) + u", taken "_s +
+                                     money(week.taken)});
+    ui->chMoney->setGroups(std::move(groups));
+}
+
+void frmGlance::showDues()
+{
+    static const QString ages[figures::Dues::ages] = {u"30 days"_s, u"60 days"_s, u"90 days"_s, u"older"_s};
+    static const QString meanings[figures::Dues::ages] = {u"up to 30 days old"_s, u"31 to 60 days old"_s,
+                                                          u"61 to 90 days old"_s, u"older than 90 days"_s};
+    std::vector<forms::BarChart::Group> groups;
+    Currency all;
+    for (int age = 0; age < figures::Dues::ages; ++age) {
+        const Currency due = m_shop.dues.byAge[age];
+        all += due;
+        groups.push_back({.label = ages[age],
+                          .values = {due.toDouble()},
+                          .meaning = money(due) + u" is "_s + meanings[age]});
+    }
+    ui->chDues->setGroups(std::move(groups));
+    ui->lblDues->setText(u"Dues: "_s + money(all) + u" of "_s + count(m_shop.dues.clients) + u" clients"_s);
+    std::vector<forms::ListView::Row> rows;
+    for (const figures::Dues::Debtor& debtor : m_shop.dues.largest)
+        rows.push_back({{debtor.title, money(debtor.due)}, debtor.title});
+    ui->lvDues->refreshRows(std::move(rows));
+}
+
+void frmGlance::showWorkers()
+{
+    std::vector<forms::ListView::Row> rows;
+    for (const figures::WorkerLoad& worker : m_shop.workers)
+        rows.push_back({{worker.name, count(worker.inHand), count(worker.alteration), count(worker.finished)},
+                        worker.name});
+    ui->lvWorkers->refreshRows(std::move(rows));
+}
+
+void frmGlance::showRoom()
+{
+    bool isShort = false;
+    for (const auto& [button, name, room] : {std::tuple(ui->cmdLines, u"Lines"_s, m_shop.lines),
+                                             {ui->cmdAccounts, u"Accounts"_s, m_shop.accounts},
+                                             {ui->cmdPostings, u"Postings"_s, m_shop.postings}}) {
+        button->setText(
+            u"%1 %2 of %3 (%4)"_s.arg(name, count(room.used), count(room.limit),
+                                      room.percent() < 1 ? u"under 1%"_s : u"%1%"_s.arg(room.percent())));
+        button->setProperty("urgent", room.isShort());
+        button->style()->unpolish(button);
+        button->style()->polish(button);
+        isShort = isShort || room.isShort();
+    }
+    ui->lblRoom->setText(isShort ? u"The shop's file is nearly full:"_s : u"Used of the shop's file:"_s);
+}
+
+// The lists behind the figures
+
+void frmGlance::openDueDay(int day)
+{
+    frmDeliveryRegister().ShowLines({.from = m_day.addDays(day), .to = m_day.addDays(day)});
+}
+
+void frmGlance::openOverdue()
+{
+    const QDate yesterday = m_day.addDays(-1);
+    frmDeliveryRegister().ShowLines(
+        {.from = m_shop.overdue.since.isValid() ? m_shop.overdue.since : yesterday,
+         .to = yesterday,
+         .condition = u"Uncompleted"_s});
+}
+
+void frmGlance::openWeek(int week)
+{
+    const QDate from = m_shop.weeks[size_t(week)].from;
+    frmDayBook().ShowDays(from, from.addDays(6));
+}
+
+void frmGlance::openDebtor()
+{
+    if (const int row = ui->lvDues->selectedRow(); row >= 0)
+        frmAccountBook().ShowAccount(ui->lvDues->tag(row));
+}
+
+void frmGlance::openWorker()
+{
+    const int row = ui->lvWorkers->selectedRow();
+    if (row < 0)
+        return;
+    const figures::WorkerLoad& worker = m_shop.workers[size_t(row)];
+    frmWorkerJobRegister().ShowLines({.from = worker.since.isValid() ? worker.since : m_day,
+                                      .to = m_day,
+                                      .worker = worker.name,
+                                      .condition = u"Uncompleted"_s});
+}
+
+// On paper
+
+void frmGlance::Form_KeyPress(int& key)
+{
+    Screen::Form_KeyPress(key);
+    if (key != forms::key::CtrlP)
+        return;
+    key = 0;
+    print();
+}
+
+/// The figures as they stand on the screen, across the paper, without what is chosen there.
+void frmGlance::print()
+{
+    QWidget* focused = focusWidget();
+    if (focused)
+        focused->clearFocus();
+    QImage picture(ui->sheet->size() * printScale, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(printScale);
+    picture.fill(QColor(palette::white));
+    ui->sheet->render(&picture);
+    if (focused)
+        focused->setFocus();
+    picture.setDevicePixelRatio(1);
+
+    report::Report paper(u"Shop at a Glance"_s);
+    paper.Subject = dateText(m_day);
+    paper.PageSize = {297, 210};
+    report::Section& head = paper.addSection(u"Section4"_s, report::Band::ReportHead);
+    report::Label& title = head.addLabel(u"lblTitle"_s, u"Shop at a Glance"_s);
+    title.place(0, 0, paper.width(), 400);
+    title.FontSize = 14;
+    title.Bold = true;
+    report::Label& day = head.addLabel(u"lblDay"_s, session.ShopName + dot + ui->lblDay->text());
+    day.place(0, 400, paper.width(), 300);
+    report::Image& sheet = head.addImage(u"imgSheet"_s);
+    const int height = std::min(paper.pageHeight() - paper.TopMargin - paper.BottomMargin - 800,
+                                paper.width() * picture.height() / picture.width());
+    sheet.place(0, 800, paper.width(), height);
+    sheet.Picture = picture;
+    head.Height = 800 + height;
+    report::Preview(paper).showModal();
+}

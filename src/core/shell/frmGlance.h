@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/forms/Screen.h"
+#include "registers/ShopFigures.h"
+
+#include <memory>
+
+namespace Ui {
+class frmGlance;
+}
+
+/// The shop in figures on the working date, which opens the day. Each figure, bar and row leads to the list
+/// behind it; what is shown is read anew whenever the screen comes forward.
+class frmGlance : public forms::Screen
+{
+    Q_OBJECT
+public:
+    frmGlance();
+    ~frmGlance() override;
+
+    /// Reads and shows the figures. Throws ado::DatabaseError.
+    void fill();
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_KeyPress(int& key) override;
+
+private:
+    void showDay();
+    void showDue();
+    void showMoney();
+    void showDues();
+    void showWorkers();
+    void showRoom();
+    void openOverdue();
+    void openDueDay(int day);
+    void openWeek(int week);
+    void openDebtor();
+    void openWorker();
+    void print();
+
+    const std::unique_ptr<Ui::frmGlance> ui;
+    figures::Shop m_shop;
+    QDate m_day;
+};
