@@ -62,7 +62,7 @@ frmGlance::frmGlance()
     ui->lvDues->setColumns({{u"Client"_s, forms::ListView::rest}, {u"Owes"_s, 36, Qt::AlignRight, 96}});
     ui->lvWorkers->setColumns({{u"Worker"_s, forms::ListView::rest, Qt::AlignLeft, 110},
                                {u"In hand"_s, 19, Qt::AlignRight, 62},
-                               {u"Alteration"_s, 21, Qt::AlignRight, 76},
+                               {u"Alteration"_s, 21, Qt::AlignRight, 86},
                                {u"Finished"_s, 21, Qt::AlignRight, 68}});
 
     on(ui->cmdDue, &QPushButton::clicked, [this] { openDueDay(0); });

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 using namespace Qt::StringLiterals;
@@ -115,28 +116,40 @@ void BarChart::paintEvent(QPaintEvent*)
     }
 }
 
-/// What the colours mean; or what the group chosen stands for.
+/// What the colours and the rule mean; or what the group chosen stands for.
 void BarChart::paintLegend(QPainter& painter) const
 {
     const QRectF line(gap, gap / 2, width() - 2 * gap, fontMetrics().height());
+    double x = line.left();
+    const auto write = [&](const QString& text, QRgb colour, Qt::Alignment side) {
+        const QRectF place(x, line.top(), line.right() - x, line.height());
+        painter.setPen(QColor(colour));
+        painter.drawText(place, side | Qt::AlignVCenter,
+                         fontMetrics().elidedText(text, Qt::ElideRight, int(place.width())));
+    };
     if (m_chosen >= 0) {
-        painter.setPen(QColor(palette::ink));
-        painter.drawText(
-            line, Qt::AlignLeft | Qt::AlignVCenter,
-            fontMetrics().elidedText(m_groups[size_t(m_chosen)].meaning, Qt::ElideRight, int(line.width())));
+        write(m_groups[size_t(m_chosen)].meaning, palette::ink, Qt::AlignLeft);
         return;
     }
-    double x = line.left();
     for (const Series& series : m_series) {
         painter.setPen(QPen(QColor(palette::border), 1));
         painter.setBrush(series.colour);
         painter.drawRect(QRectF(x, line.center().y() - swatch / 2, swatch, swatch));
         x += swatch + gap;
-        painter.setPen(QColor(palette::quietInk));
-        painter.drawText(QRectF(x, line.top(), line.right() - x, line.height()),
-                         Qt::AlignLeft | Qt::AlignVCenter, series.name);
-        x += fontMetrics().horizontalAdvance(series.name) + 3 * gap;
+        write(series.name, palette::quietInk, Qt::AlignLeft);
+        x += fontMetrics().horizontalAdvance(series.name) + 2 * gap;
     }
+    if (m_mark > 0)
+        write(m_markMeaning, palette::ink, Qt::AlignRight);
+}
+
+/// Where the labels find no room beside each other, only one of so many groups has its own.
+int BarChart::labelStep() const
+{
+    double widest = 1;
+    for (const Group& group : m_groups)
+        widest = std::max(widest, double(fontMetrics().horizontalAdvance(group.label)) + gap / 2);
+    return int(std::ceil(widest / groupPlace(0).width()));
 }
 
 void BarChart::paintGroup(QPainter& painter, int group, double top) const
@@ -172,12 +185,15 @@ void BarChart::paintGroup(QPainter& painter, int group, double top) const
             painter.drawText(QRectF(place.left(), bottom - line - 1, place.width(), line), Qt::AlignCenter,
                              QString::number(sum, 'f', 0));
     }
+    const int step = labelStep();
+    if (group % step != 0)
+        return;
     QFont font = this->font();
     font.setBold(shown.apart);
     painter.setFont(font);
     painter.setPen(QColor(shown.apart ? palette::ink : palette::quietInk));
-    painter.drawText(QRectF(place.left(), place.bottom() + gap / 2, place.width(), line), Qt::AlignCenter,
-                     shown.label);
+    painter.drawText(place.adjusted(0, place.height() + gap / 2, place.width() * (step - 1), line + gap),
+                     (step > 1 ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignTop, shown.label);
     painter.setFont(this->font());
 }
 
@@ -189,11 +205,6 @@ void BarChart::paintMark(QPainter& painter, double top) const
     const double y = bars.bottom() - m_mark / top * bars.height();
     painter.setPen(QPen(QColor(palette::ink), 1, Qt::DashLine));
     painter.drawLine(QPointF(bars.left(), y), QPointF(bars.right(), y));
-    if (m_chosen >= 0)
-        return;
-    painter.setPen(QColor(palette::ink));
-    painter.drawText(QRectF(gap, gap / 2, width() - 2 * gap, fontMetrics().height()),
-                     Qt::AlignRight | Qt::AlignVCenter, m_markMeaning);
 }
 
 // Choosing

@@ -61,6 +61,7 @@ private:
     QRectF groupPlace(int group) const;
     int groupAt(const QPointF& point) const;
     double highest() const;
+    int labelStep() const;
     void paintLegend(QPainter& painter) const;
     void paintGroup(QPainter& painter, int group, double top) const;
     void paintMark(QPainter& painter, double top) const;
