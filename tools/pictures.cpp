@@ -9,6 +9,7 @@
 #include "accounts/rptAccountsBooks.h"
 #include "accounts/rptWagesRegister.h"
 #include "core/shell/frmAbout.h"
+#include "core/shell/frmCheckShop.h"
 #include "core/shell/frmGlance.h"
 #include "core/shell/frmLogin.h"
 #include "core/shell/frmMain.h"
@@ -296,6 +297,15 @@ void takeAll()
         GiveFeedback(value(scored).toInt(), 0, score);
     });
     picture("glance", [] { frmGlance().showModal(); });
+    picture("check-shop", [] {
+        frmCheckShop({.findings = {{u"Job card 1436 comes to 1,250, the books say 1,150."_s,
+                                    u"Open the card and save it: it is posted anew."_s}},
+                      .cards = 530,
+                      .lines = 1000,
+                      .postings = 2570,
+                      .pictures = 12})
+            .showModal();
+    });
     picture("pending-orders", [] { frmDDP().showModal(); });
     picture("ratings", [] { frmRatings().showModal(); });
     picture("work-overview", [] {

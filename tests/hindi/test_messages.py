@@ -2,8 +2,8 @@
 
 Reads the sources as a compiler's first pass does. What goes to ShowMsg or ShowMessage must be whole literals (a message
 put together at run time has no Hindi), and have its Hindi. Where a name is passed instead, the text stands elsewhere in
-the sources: so every literal that is a sentence must have its Hindi too, unless it goes to a plain box, an error or the
-log, or the translators' file says that it stays in English ("as: ").
+the sources: so every literal that is a sentence must have its Hindi too, unless it goes to a plain box, an error, the
+log or the findings of the shop's check, or the translators' file says that it stays in English ("as: ").
 """
 
 import pathlib
@@ -30,7 +30,7 @@ TOKEN = re.compile(
 ESCAPE = re.compile(r"\\(.)")
 DIALOG = {"ShowMsg", "ShowMessage"}
 WRAPPERS = {"QStringLiteral", "QString", "fromLatin1", "fromUtf8", "QLatin1String", "tr", "const", "int"}
-ENGLISH = re.compile(r"(plainMessage|putBefore|criticalMessage|askPlain|q(Warning|Critical|Fatal|Info|Debug)|\w*Error)$")
+ENGLISH = re.compile(r"(plainMessage|putBefore|criticalMessage|askPlain|q(Warning|Critical|Fatal|Info|Debug)|\w*Error|Check|Finding)$")
 SENTENCE = re.compile(r"[A-Z][a-z']*( .*|\r\n.*)?[!?.](?<!\.\.\.)$", re.DOTALL)
 SQL = re.compile(r"(select|insert|update|delete|create|drop|alter)\b.*(\bfrom\b|\binto\b|\bset\b|\btable\b)", re.I | re.DOTALL)
 

@@ -48,6 +48,7 @@ frmSettings::frmSettings()
     on(ui->Command7, &QPushButton::clicked, &frmSettings::openBackupFolder);
     on(ui->Command4, &QPushButton::clicked, &frmSettings::backUp);
     on(ui->Command5, &QPushButton::clicked, &frmSettings::restore);
+    on(ui->cmdCheck, &QPushButton::clicked, &frmSettings::checkShop);
 }
 
 frmSettings::~frmSettings() = default;

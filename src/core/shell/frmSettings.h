@@ -43,6 +43,7 @@ private:
     QString chosenBackupFolder();
     void backUp();
     void restore();
+    void checkShop();
     void showLastBackup();
     void goTo(QWidget& field);
     void writeSettings();

@@ -1,5 +1,6 @@
 #include "core/shell/frmSettings.h"
 
+#include "core/shell/frmCheckShop.h"
 #include "core/store/Backup.h"
 #include "core/store/Settings.h"
 #include "platform/forms/Aside.h"
@@ -115,6 +116,14 @@ void frmSettings::restore()
     forms::plainMessage(this, u"Database restored.\r\nPlease restart application."_s);
     setNotice(true);
     QCoreApplication::exit();
+}
+
+void frmSettings::checkShop()
+{
+    shopcheck::Report report;
+    forms::runAside(this, u"Check the Shop"_s,
+                    [&report](const Watch& watch) { report = shopcheck::run(watch); });
+    frmCheckShop(std::move(report)).showModal();
 }
 
 void frmSettings::showLastBackup()

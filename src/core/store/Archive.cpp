@@ -4,6 +4,7 @@
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "platform/ado/Integrity.h"
 #include "platform/devices/Files.h"
 #include "platform/devices/RunAndWait.h"
 #include "platform/values/Numbers.h"
@@ -13,8 +14,6 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QtEndian>
-
-#include <sqlcipher/sqlite3.h>
 
 using namespace Qt::StringLiterals;
 
@@ -42,31 +41,6 @@ quint32 toldLength(const QString& archive)
         throw OperatorError(archive + u": "_s + file.errorString());
     const QByteArray bytes = file.read(size);
     return bytes.size() == size ? qFromLittleEndian<quint32>(bytes.constData()) : 0;
-}
-
-/// What the engine finds wrong; empty when it finds nothing.
-QString damage(ado::Connection& connection)
-{
-    QString report;
-    const auto keep = [](void* kept, int, char** values, char**) {
-        static_cast<QString*>(kept)->append(QString::fromUtf8(values[0]) + u'\n');
-        return 0;
-    };
-    char* error = nullptr;
-    sqlite3_exec(connection.handle(), "PRAGMA integrity_check(3)", keep, &report, &error);
-    report += QString::fromUtf8(error);
-    sqlite3_free(error);
-    return report == "ok\n"_L1 ? QString() : report.trimmed();
-}
-
-/// Ends a long statement when it is given up. The token must outlive the connection.
-void endWhenAsked(ado::Connection& connection, const std::stop_token& stop)
-{
-    constexpr int often = 1000; // instructions of the engine
-    sqlite3_progress_handler(
-        connection.handle(), often,
-        [](void* token) { return int(static_cast<const std::stop_token*>(token)->stop_requested()); },
-        const_cast<std::stop_token*>(&stop));
 }
 
 void refuseUnlessOurs(ado::Connection& connection)
@@ -171,8 +145,8 @@ Counts prove(const QString& database, const std::stop_token& stop)
                         "damaged."_s);
         throw;
     }
-    endWhenAsked(connection, stop);
-    if (const QString found = damage(connection); !found.isEmpty())
+    ado::endWhenAsked(connection, stop);
+    if (const QString found = ado::damage(connection); !found.isEmpty())
         throw OperatorError(u"The database in it is damaged.\r\n"_s + found);
     const Counts counts = countRows(connection);
     for (const QString& table : tableNames())
