@@ -4,6 +4,7 @@
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "core/store/Texts.h"
 #include "jobcards/JobCardStaging.h"
 #include "jobcards/PaperDesign.h"
 #include "jobcards/rptJOBCARD.h"
@@ -52,6 +53,8 @@ report::Row readLine(qint32 LineID)
     line["ID"].integer();
     report::Row row = report::readRows(line).front();
     line.Close();
+    row.set(paper::lineCode,
+            lineCodeText(row.value(u"JobID"_s).toString(), row.value(u"ItemSr"_s).toString()));
     return row;
 }
 

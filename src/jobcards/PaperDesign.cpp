@@ -65,6 +65,14 @@ report::Shape& bar(report::Section& section, const QString& name, int left, int 
     return shape;
 }
 
+void codeFoot(report::Report& paper, int width)
+{
+    constexpr int gap = report::mm(1.5);
+    constexpr int height = report::mm(10);
+    report::Section& foot = paper.addSection(u"SectionCode"_s, report::Band::PageFoot, gap + height);
+    foot.addBarcode(u"barLine"_s, lineCode).place(0, gap, width, height);
+}
+
 void numberPages(report::Report& paper, const QString& what)
 {
     constexpr int gap = 60;

@@ -2,6 +2,7 @@
 
 #include "platform/forms/Palette.h"
 #include "platform/report/Report.h"
+#include "platform/values/Literals.h"
 
 /// The hand in which all papers of the shop are set. Lengths are twips.
 namespace paper {
@@ -19,6 +20,10 @@ report::Shape& rule(report::Section& section, const QString& name, int left, int
                     QRgb color = palette::hairline);
 /// A shaded bar behind titles.
 report::Shape& bar(report::Section& section, const QString& name, int left, int top, int width, int height);
+/// The field of a line's row that holds its code.
+inline const QString lineCode = u"LineCode"_s;
+/// Its bars, for a scanner, at the foot of each page.
+void codeFoot(report::Report& paper, int width);
 /// At the foot of each page: what the paper is about, the page's number and how many there are.
 void numberPages(report::Report& paper, const QString& what);
 

@@ -11,7 +11,7 @@ namespace {
 constexpr QSizeF LabelSize(100, 60);
 constexpr int Width = mm(100 - 10);
 constexpr int CaptionWidth = 1350;
-constexpr int RowHeight = 340;
+constexpr int RowHeight = 300;
 
 } // namespace
 
@@ -20,7 +20,7 @@ rptLabel::rptLabel()
 {
     PageSize = LabelSize;
     LeftMargin = RightMargin = mm(5);
-    TopMargin = BottomMargin = mm(4);
+    TopMargin = BottomMargin = mm(3);
 
     Section& line = addSection(u"Section1"_s, Band::Detail);
     paper::company(line, 0, 0, Width, 12);
@@ -59,4 +59,5 @@ rptLabel::rptLabel()
     top += RowHeight;
     row("Label9", "Remark:", "Text2", "Remarks", top, wide);
     line.Height = top + RowHeight;
+    paper::codeFoot(*this, Width);
 }

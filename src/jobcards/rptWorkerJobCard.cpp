@@ -96,6 +96,7 @@ rptWorkerJobCard::rptWorkerJobCard()
     top += RowHeight;
     left("Label10", "Client Note :", "Text3", "ClientRemarks", top, Width - CaptionWidth).CanGrow = true;
     line.Height = top + RowHeight;
+    paper::codeFoot(*this, Width);
 }
 
 void rptWorkerJobCard::useHindiMeasurements()

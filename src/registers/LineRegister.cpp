@@ -11,6 +11,7 @@
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPixmapCache>
@@ -69,7 +70,12 @@ void LineRegister::setCriteria(const Criteria& criteria)
         if (text.isEmpty())
             SearchMode = Search::AllWorkers;
     });
-    onKeyPress(criteria.jobId, [this](int& key) { typeJobId(key); });
+    onKeyPress(criteria.jobId, [this](int& key) {
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        findJob();
+    });
     onKeyPress(criteria.worker, [this](int& key) {
         key = AutoSearchCombo(*m_criteria.worker, key);
         if (key != forms::key::Enter)
@@ -81,6 +87,14 @@ void LineRegister::setCriteria(const Criteria& criteria)
     on(criteria.view, &QPushButton::clicked, &LineRegister::view);
     on(criteria.find, &QPushButton::clicked, &LineRegister::quickFind);
     on(criteria.list, &forms::ListView::dblClicked, &LineRegister::openLine);
+    onKeyPress(criteria.list, [this](int& key) {
+        if (key < '0' || key > '9')
+            return;
+        m_criteria.jobId->setText(QChar(char16_t(key))); // the next garment is scanned
+        m_criteria.jobId->setFocus(Qt::OtherFocusReason);
+        m_criteria.jobId->deselect();
+        key = 0;
+    });
     onKeyDown(criteria.list, [this](int& key) {
         if (key != forms::key::Enter)
             return;
@@ -103,7 +117,7 @@ void LineRegister::Form_Load()
     resetCriteria();
     m_criteria.list->setFocus();
     // A line that cannot be shown must not keep the register shut.
-    forms::guarded(this, [this] { conditionStep(); });
+    forms::guarded(this, [this] { m_beginning.jobId.isEmpty() ? conditionStep() : findJob(); });
 }
 
 void LineRegister::resetCriteria()
@@ -117,6 +131,7 @@ void LineRegister::resetCriteria()
     m_criteria.condition->setListIndex(0);
     if (!m_beginning.condition.isEmpty())
         m_criteria.condition->setText(m_beginning.condition);
+    m_criteria.jobId->setText(m_beginning.jobId);
     SearchMode = ViewedWorker == allWorkers ? Search::AllWorkers : Search::Worker;
     ReturnIndex = 0;
 }
@@ -251,13 +266,28 @@ void LineRegister::showClient(const QString& client, Search mode)
     enterList();
 }
 
-void LineRegister::typeJobId(int& key)
+/// Shows the card of the number in the box. A line's code, as a scanner types it, chooses the line too; where
+/// there is none the box waits for the next.
+void LineRegister::findJob()
 {
-    if (key != forms::key::Enter)
-        return;
-    key = 0;
     SearchMode = Search::Card;
     ExecuteSQL();
+    forms::ListView& list = *m_criteria.list;
+    int found = -1;
+    if (const std::optional<LineCode> code = readLineCode(m_criteria.jobId->text())) {
+        const QString name = lineCodeText(QString::number(code->job), QString::number(code->item));
+        for (int row = 0; row < list.rowCount() && found < 0; ++row)
+            if (list.cell(row, m_criteria.jobColumn) == name)
+                found = row;
+        if (found < 0)
+            QApplication::beep();
+    }
+    if (tagOf(list, 0) == 0) {
+        m_criteria.jobId->setFocus();
+        m_criteria.jobId->selectAll();
+        return;
+    }
+    list.selectRow(found);
     enterList();
 }
 

@@ -38,6 +38,7 @@ public:
         QDate to;
         QString worker = {};
         QString condition = {};
+        QString jobId = {}; ///< of a card, or the code of a line of it; then nothing else counts
     };
 
     /// Shows the register with these criteria.
@@ -51,6 +52,7 @@ protected:
     struct Criteria
     {
         forms::ListView* list;
+        int jobColumn;
         int statusColumn;
         Period period;
         QLineEdit* jobId;
@@ -114,7 +116,7 @@ protected:
 
 private:
     void resetCriteria();
-    void typeJobId(int& key);
+    void findJob();
     void openLine();
     void readLines(std::vector<forms::ListView::Row>& rows);
     forms::ListView::Row totalRow(size_t lines) const;

@@ -14,6 +14,7 @@ frmDeliveryRegister::frmDeliveryRegister()
 {
     ui->setupUi(this);
     setCriteria({.list = ui->lvSummary,
+                 .jobColumn = JobColumn,
                  .statusColumn = StatusColumn,
                  .period = {ui->DateFrom, ui->DateTo},
                  .jobId = ui->txtSearchID,
@@ -54,7 +55,7 @@ forms::ListView::Row frmDeliveryRegister::rowOf(ado::Recordset& line, LineNames&
     const qint32 state = markOf(line["DoneByWorker"]);
     forms::ListView::Row row;
     row.cells << names.date(delivery) << names.date(line["Date"].date()) << daysAhead(delivery) + " Days"_L1
-              << line["JobID"].text() + u'/' + line["ItemSr"].text()
+              << lineCodeText(line["JobID"].text(), line["ItemSr"].text())
               << names.account(line["ClintID"].integer()) << names.item(line["ItemID"].integer())
               << line["Remarks"].text() << names.worker(line["WorkerID"].integer());
     if (state != qint32(LineState::Canceled)) { // a canceled line is nobody's to deliver

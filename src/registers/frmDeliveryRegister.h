@@ -24,7 +24,7 @@ protected:
     void quickFind() override;
 
 private:
-    enum Column { StatusColumn = 8 };
+    enum Column { JobColumn = 3, StatusColumn = 8 };
 
     void chooseDays(int mode);
 

@@ -24,6 +24,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
 {
     ui->setupUi(this);
     setCriteria({.list = ui->lvSummary,
+                 .jobColumn = JobColumn,
                  .statusColumn = StatusColumn,
                  .period = {ui->DateFrom, ui->DateTo},
                  .jobId = ui->txtSearchID,
@@ -99,7 +100,7 @@ forms::ListView::Row frmWorkerJobRegister::rowOf(ado::Recordset& line, LineNames
     const QDate delivery = line["JobDelDate"].date();
     const qint32 state = markOf(line["DoneByWorker"]);
     forms::ListView::Row row;
-    row.cells << names.date(line["Date"].date()) << line["JobID"].text() + u'/' + line["ItemSr"].text()
+    row.cells << names.date(line["Date"].date()) << lineCodeText(line["JobID"].text(), line["ItemSr"].text())
               << names.account(client) << names.item(line["ItemID"].integer()) << line["Remarks"].text()
               << names.date(delivery) + " ("_L1 + daysAhead(delivery) + " D)"_L1 << names.worker(worker);
     row.looks[ClientColumn].toolTip = names.contact(client);

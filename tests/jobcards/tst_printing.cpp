@@ -8,6 +8,7 @@
 #include "support/ShopTest.h"
 
 #include <QFontDatabase>
+#include <QPainter>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -26,6 +27,24 @@ static bool hasAll(const QStringList& texts, const QStringList& wanted)
 {
     return std::all_of(wanted.begin(), wanted.end(),
                        [&](const QString& text) { return texts.contains(text); });
+}
+
+/// What a scanner reads on the first page, as a printer of 203 dots to the inch makes it.
+static QString scanned(const report::Report& paper, const QString& file)
+{
+    constexpr double dots = 203.0 / report::twipsPerInch;
+    const report::Pages pages(paper);
+    QImage page((pages.size() * dots).toSize(), QImage::Format_Grayscale8);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    painter.scale(dots, dots);
+    pages.paint(painter, 0);
+    painter.end();
+    page.save(file);
+    QProcess reader;
+    reader.start("zbarimg", {"-q", "--raw", file});
+    reader.waitForFinished();
+    return QString::fromUtf8(reader.readAllStandardOutput()).trimmed();
 }
 
 class tst_printing : public ShopTest
@@ -168,6 +187,17 @@ private Q_SLOTS:
             SetSetting(12, hindi);
             QCOMPARE(WorkerSlipPaper(line)->section("Section1").field("txtItemDetails").FontFamily,
                      hindi == "Yes" ? "Kruti Dev 010" : "");
+        }
+    }
+
+    void barsOfTheLine()
+    {
+        storeCard();
+        for (const auto& [job, item] :
+             {std::pair("7", "1"), std::pair("1436", "2"), std::pair("2147483646", "32767")}) {
+            Shop::run(u"Update Jobs_Detail set JobID=%1, ItemSr=%2 where Id=%3"_s.arg(job, item).arg(line));
+            for (const auto& paper : {LabelPaper(line), WorkerSlipPaper(line)})
+                QCOMPARE(scanned(*paper, shop->folder() + "/page.png"), u"%1/%2"_s.arg(job, item));
         }
     }
 

@@ -1,4 +1,5 @@
 #include "accounts/frmAccountBook.h"
+#include "core/shell/frmMain.h"
 #include "jobcards/frmEditJOB.h"
 #include "jobcards/frmEditWorkerAssign.h"
 #include "planning/frmWorkerReport2.h"
@@ -171,6 +172,32 @@ private Q_SLOTS:
             press(Qt::Key_Return);
             QCOMPARE(focused(screen), "lvSummary");
             QCOMPARE(lines(screen).selectedRow(), 0);
+        });
+    }
+
+    void aScannedGarmentIsHandedOver()
+    {
+        onNextModal<Register>([this](Register& screen) {
+            const auto chosen = [&] { return lines(screen).tag(lines(screen).selectedRow()); };
+            QCOMPARE(shown(screen) + "; " + chosen(), "1 2 4 of 3; 2");
+            prompts->expect("Mark Item as Delivered to Client?", Answer::Yes);
+            press(Qt::Key_F8);
+            QCOMPARE(stored("DoneByWorker", 2), "2");
+            for (const auto& [code, seen] :
+                 {std::pair("2/3", "3 of 1; 3"), std::pair("1/9", "1 2 4 of 3; 1"), // no such line
+                  std::pair("77/1", " of 0; "), std::pair(" 1/4 ", "1 2 4 of 3; 4")}) {
+                typeText(code);
+                press(Qt::Key_Return);
+                QCOMPARE(shown(screen) + "; " + chosen(), seen);
+            }
+        });
+        inModal<frmMain>([](frmMain& main) {
+            typeText("1/2"); // on a button
+            press(Qt::Key_Return);
+            press(Qt::Key_F2);
+            typeText("1/2"); // this is a date
+            press(Qt::Key_Return);
+            QCOMPARE(date(main, "TodayDate").value(), QDate(2024, 2, 1));
         });
     }
 

@@ -11,6 +11,7 @@
 #include "core/store/DE.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "core/store/Texts.h"
 #include "jobcards/frmEditJOB.h"
 #include "platform/forms/Icons.h"
 #include "platform/values/Dates.h"
@@ -23,6 +24,12 @@
 #include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 scannerPause = 1000; // ms, the longest between two characters
+
+} // namespace
 
 bool frmMain::start()
 {
@@ -133,6 +140,7 @@ void frmMain::showLastBackup()
 
 void frmMain::Form_KeyPress(int& key)
 {
+    gatherCode(key);
     if (key != forms::key::Escape)
         return;
     key = 0;
@@ -140,8 +148,30 @@ void frmMain::Form_KeyPress(int& key)
         unload();
 }
 
+/// What a scanner types where no box has the focus. From its "/" on no button takes the Enter behind it.
+void frmMain::gatherCode(int key)
+{
+    if (m_sinceCharacter.hasExpired(scannerPause))
+        m_scanned.clear();
+    m_sinceCharacter.start();
+    const bool belongs = (key >= '0' && key <= '9') || key == '/';
+    if (!belongs || ui->TodayDate->hasFocus()) {
+        m_scanned.clear();
+        return;
+    }
+    m_scanned += QChar(char16_t(key));
+    if (QWidget* button = focusWidget(); button && key == '/')
+        button->clearFocus();
+}
+
 void frmMain::Form_KeyDown(int& key, Qt::KeyboardModifiers)
 {
+    if (key == forms::key::Enter && readLineCode(m_scanned) && !m_sinceCharacter.hasExpired(scannerPause)) {
+        key = 0;
+        ui->cmdCreateJOB->setFocus();
+        frmWorkerJobRegister().ShowLines({.from = {}, .to = {}, .jobId = std::exchange(m_scanned, {})});
+        return;
+    }
     constexpr int F2 = forms::key::F1 + 1;
     if (key != F2)
         return;

@@ -2,6 +2,7 @@
 
 #include "platform/forms/Screen.h"
 
+#include <QElapsedTimer>
 #include <memory>
 
 class Wallpaper;
@@ -34,7 +35,10 @@ private:
     void changeWorkingDate();
     void showWhetherToday();
     void showLastBackup();
+    void gatherCode(int key);
 
     std::unique_ptr<Ui::frmMain> ui;
     Wallpaper* MyWall;
+    QString m_scanned; ///< of a line's code, so far
+    QElapsedTimer m_sinceCharacter;
 };

@@ -1,5 +1,6 @@
 #include "core/store/Texts.h"
 
+#include "core/store/SerialNumber.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
 
@@ -18,6 +19,20 @@ QString balanceText(double balance)
     if (balance == 0)
         return u"None"_s;
     return moneyText(std::abs(balance)) + (balance > 0 ? u" Cr"_s : u" Dr"_s);
+}
+
+QString lineCodeText(const QString& job, const QString& item) { return job + u'/' + item; }
+
+std::optional<LineCode> readLineCode(const QString& text)
+{
+    const QStringList parts = text.trimmed().split(u'/');
+    if (parts.size() != 2)
+        return {};
+    const std::optional<qint32> job = readSerialNumber(parts[0]);
+    const std::optional<qint32> item = readSerialNumber(parts[1]);
+    if (!job || !item)
+        return {};
+    return LineCode{*job, *item};
 }
 
 QString sqlText(const QString& text) { return QString(text).replace(u'\'', "''"_L1); }

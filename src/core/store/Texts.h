@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QString>
+#include <optional>
 
 /// How the shop words its days and its money, on screens and on paper.
 
@@ -18,6 +19,16 @@ QString sqlDates(const QDate& from, const QDate& to);
 QString moneyText(double amount);
 /// "12.50 Cr" (the shop owes), "12.50 Dr" (the account owes), "None".
 QString balanceText(double balance);
+
+/// A line of a job card as the lists name it and its barcode holds it: "1436/2".
+struct LineCode
+{
+    qint32 job;
+    qint32 item; ///< from 1, within the card
+};
+QString lineCodeText(const QString& job, const QString& item);
+/// Reads one, blanks around it left out; nothing for any other text.
+std::optional<LineCode> readLineCode(const QString& text);
 
 /// Text as it goes between apostrophes in a statement: each apostrophe in it twice.
 QString sqlText(const QString& text);

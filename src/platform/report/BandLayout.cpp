@@ -1,5 +1,7 @@
 #include "platform/report/BandLayout.h"
 
+#include "platform/report/Barcode.h"
+
 #include <QFontMetricsF>
 #include <QTextLayout>
 
@@ -155,6 +157,9 @@ double BandLayout::place(const Control& control, double top)
     const QRectF at(control.Left, top, control.Width, control.Height);
     if (const auto* shape = dynamic_cast<const Shape*>(&control))
         m_band.pieces.push_back(ShapePiece{at, shape});
+    else if (const auto* code = dynamic_cast<const Barcode*>(&control))
+        m_band.pieces.push_back(BarsPiece{
+            at, barsOf(m_row.value(code->DataField).toString(), QRectF({}, at.size()), code->Module)});
     else if (const auto* image = dynamic_cast<const Image*>(&control); image && !image->Picture.isNull())
         m_band.pieces.push_back(ImagePiece{at, image->Picture});
     return 0;

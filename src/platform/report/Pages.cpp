@@ -239,6 +239,16 @@ void draw(QPainter& painter, const ImagePiece& piece)
     painter.drawImage(place, piece.picture);
 }
 
+/// Sharp edges: what is grey a scanner takes for either.
+void draw(QPainter& painter, const BarsPiece& piece)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    for (const QRectF& bar : piece.bars)
+        painter.fillRect(bar.translated(piece.place.topLeft()), Qt::black);
+    painter.restore();
+}
+
 void draw(QPainter& painter, const ShapePiece& piece)
 {
     const Shape& shape = *piece.shape;

@@ -31,7 +31,12 @@ struct ShapePiece
     QRectF place;
     const Shape* shape;
 };
-using Piece = std::variant<TextPiece, ImagePiece, ShapePiece>;
+struct BarsPiece
+{
+    QRectF place;
+    std::vector<QRectF> bars; ///< from the corner of the place
+};
+using Piece = std::variant<TextPiece, ImagePiece, ShapePiece, BarsPiece>;
 
 /// The pages of a report as they will stand on paper, whatever paints them: the preview, a printer, a PDF
 /// file. Made once; valid as long as the report.

@@ -71,6 +71,13 @@ Image& Section::addImage(const QString& name) { return add<Image>(name); }
 
 Shape& Section::addShape(const QString& name) { return add<Shape>(name); }
 
+Barcode& Section::addBarcode(const QString& name, const QString& dataField)
+{
+    auto& barcode = add<Barcode>(name);
+    barcode.DataField = dataField;
+    return barcode;
+}
+
 Section& Report::addSection(const QString& name, Band band, int height)
 {
     m_sections.push_back(std::make_unique<Section>(name, band, height));

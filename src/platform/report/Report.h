@@ -80,6 +80,14 @@ struct Image : Control
     QImage Picture;
 };
 
+/// The bars of a text (Code 128), for a scanner that types it.
+struct Barcode : Control
+{
+    using Control::Control;
+    QString DataField;
+    double Module = 20; ///< width of the narrowest bar, where the place has room: 0.35 mm
+};
+
 /// A rule from corner to corner of its place, or a box around it. One that reaches the bottom of its section
 /// grows with it.
 struct Shape : Control
@@ -117,6 +125,7 @@ public:
     Field& addField(const QString& name, const QString& dataField, const QString& format = {});
     Image& addImage(const QString& name);
     Shape& addShape(const QString& name);
+    Barcode& addBarcode(const QString& name, const QString& dataField);
 
     /// The control of that name, in any case. Throws std::logic_error when the design has none of the kind.
     Label& label(const QString& name) { return find<Label>(name); }
