@@ -48,6 +48,7 @@
 #include "platform/forms/Theme.h"
 #include "platform/report/Preview.h"
 #include "registers/frmBirthDayRimenders.h"
+#include "registers/frmClientFolder.h"
 #include "registers/frmDeliveryRegister.h"
 #include "registers/frmDueRegister.h"
 #include "registers/frmSearchClient.h"
@@ -295,6 +296,12 @@ void takeAll()
         QVariant score;
         const QString scored = u"Select ID from JOBS_DETAIL where Score=4 and ClientFeedback<>''"_s;
         GiveFeedback(value(scored).toInt(), 0, score);
+    });
+    picture("client-folder", [] {
+        frmClientFolder().ShowClient(
+            value(
+                u"Select ClintName from JOBS_DETAIL where Img1<>'' group by ClintID order by count(*) desc"_s)
+                .toString());
     });
     picture("glance", [] { frmGlance().showModal(); });
     picture("check-shop", [] {

@@ -6,6 +6,7 @@
 #include "core/store/Settings.h"
 #include "core/store/Texts.h"
 #include "jobcards/frmAddItem.h"
+#include "masters/ClientFolder.h"
 #include "masters/frmEditClients.h"
 #include "messaging/swSMS.h"
 #include "planning/frmDDP.h"
@@ -252,6 +253,11 @@ void frmEditJOB::Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers)
     if (key == forms::key::Tab && modifiers == Qt::NoModifier && !ui->lvItems->hasFocus()) {
         key = 0;
         ui->lvItems->setFocus(Qt::TabFocusReason);
+        return;
+    }
+    if (key == forms::key::F3) {
+        key = 0;
+        showClientFolder(ui->cmbClient->text());
         return;
     }
     key = ArrowsAsTab(key);

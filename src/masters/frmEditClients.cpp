@@ -3,6 +3,7 @@
 #include "core/store/Codes.h"
 #include "core/store/DE.h"
 #include "core/store/Session.h"
+#include "masters/ClientFolder.h"
 #include "ui/ModOtherFUN.h"
 #include "ui_frmEditClients.h"
 
@@ -36,6 +37,14 @@ void frmEditClients::AddNewFromJobCard(QString& result)
     m_newTitle.clear();
     AddNew();
     result = m_newTitle;
+}
+
+void frmEditClients::Form_KeyDown(int& key, Qt::KeyboardModifiers)
+{
+    if (key != forms::key::F3)
+        return;
+    key = 0;
+    showClientFolder(ui->txtName->Text());
 }
 
 void frmEditClients::clear()

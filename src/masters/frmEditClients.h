@@ -19,6 +19,9 @@ public:
     /// Adds one client, called from a job card; `result` is the client's title, or empty if none was added.
     void AddNewFromJobCard(QString& result);
 
+protected:
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
+
 private:
     void clear() override;
     void read(ado::Recordset& row) override;

@@ -3,6 +3,7 @@
 #include "core/store/DE.h"
 #include "core/store/Settings.h"
 #include "core/store/Texts.h"
+#include "masters/ClientFolder.h"
 #include "platform/values/Titles.h"
 #include "ui/modLang.h"
 #include "ui_frmSearchClient.h"
@@ -50,6 +51,14 @@ void frmSearchClient::Form_Load()
 {
     SetFormLanguage(*this);
     ui->opShowAllUndel->setChecked(GetSetting(settings::UndeliveredClientsOnly) == "1"_L1);
+}
+
+void frmSearchClient::Form_KeyDown(int& key, Qt::KeyboardModifiers)
+{
+    if (key != forms::key::F3)
+        return;
+    key = 0;
+    showClientFolder(ui->lvResults->cell(ui->lvResults->selectedRow(), 0));
 }
 
 void frmSearchClient::offerAllJobs() { ui->fmQuery->show(); }

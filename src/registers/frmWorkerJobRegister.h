@@ -58,6 +58,8 @@ private:
     void deliverWholeCard();
     void openJobCard();
     void openClientAccount();
+    void openClientFolder();
+    QString selectedClient() const;
     qint32 selectedJob() const;
     QString askLocation();
     bool asked(const QString& question) const;

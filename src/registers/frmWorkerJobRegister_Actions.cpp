@@ -3,6 +3,7 @@
 #include "core/store/Session.h"
 #include "jobcards/JobProgress.h"
 #include "jobcards/frmEditJOB.h"
+#include "masters/ClientFolder.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/values/Numbers.h"
 #include "registers/frmWorkerJobRegister.h"
@@ -31,6 +32,9 @@ void frmWorkerJobRegister::Form_KeyDown(int& key, Qt::KeyboardModifiers)
         break;
     case forms::key::F2:
         openClientAccount();
+        break;
+    case forms::key::F3:
+        openClientFolder();
         break;
     case forms::key::F6:
         markCuttingDone();
@@ -166,10 +170,20 @@ void frmWorkerJobRegister::openJobCard()
         frmEditJOB().ShowEdit(job);
 }
 
+/// Of the selected row; empty on the total row.
+QString frmWorkerJobRegister::selectedClient() const
+{
+    return selectedLine() == 0 ? QString() : ui->lvSummary->cell(ui->lvSummary->selectedRow(), ClientColumn);
+}
+
 void frmWorkerJobRegister::openClientAccount()
 {
-    if (selectedLine() == 0)
-        return;
-    const QString client = ui->lvSummary->cell(ui->lvSummary->selectedRow(), ClientColumn);
-    openOnRow([&client] { frmAccountBook().ShowAccount(client); });
+    if (const QString client = selectedClient(); !client.isEmpty())
+        openOnRow([&client] { frmAccountBook().ShowAccount(client); });
+}
+
+void frmWorkerJobRegister::openClientFolder()
+{
+    if (const QString client = selectedClient(); !client.isEmpty())
+        openOnRow([&client] { showClientFolder(client); });
 }

@@ -5,8 +5,10 @@
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
 #include "core/store/Startup.h"
+#include "masters/ClientFolder.h"
 #include "platform/devices/Files.h"
 #include "platform/forms/MessageBox.h"
+#include "registers/frmClientFolder.h"
 
 #include <QFileInfo>
 
@@ -34,6 +36,7 @@ bool openDatabase()
 
 bool Main()
 {
+    setClientFolder([](const QString& client) { frmClientFolder().ShowClient(client); });
     try {
         return openDatabase() && frmMain::start();
     } catch (const OperatorError& error) {

@@ -31,6 +31,7 @@ inline constexpr int Down = 40;
 inline constexpr int Delete = 46;
 inline constexpr int F1 = 112; // F2 is 113, and so on
 inline constexpr int F2 = F1 + 1;
+inline constexpr int F3 = F1 + 2;
 inline constexpr int F6 = F1 + 5;
 inline constexpr int F7 = F1 + 6;
 inline constexpr int F8 = F1 + 7;

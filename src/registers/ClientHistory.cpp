@@ -1,0 +1,165 @@
+#include "registers/ClientHistory.h"
+
+#include "core/store/Codes.h"
+#include "core/store/DE.h"
+#include "core/store/ShopPictures.h"
+#include "core/store/Texts.h"
+#include "registers/JobLines.h"
+
+#include <QHash>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+namespace history {
+
+namespace {
+
+/// How far the lines of one card are.
+struct Progress
+{
+    int lines = 0;
+    int ready = 0;
+    int delivered = 0;
+};
+
+QString stateText(const Progress& progress)
+{
+    if (progress.lines == 0)
+        return u"No garments"_s;
+    if (progress.delivered == progress.lines)
+        return statusName(qint32(LineState::Delivered));
+    if (progress.delivered > 0)
+        return u"%1 of %2 delivered"_s.arg(progress.delivered).arg(progress.lines);
+    return u"%1 of %2 ready"_s.arg(progress.ready).arg(progress.lines);
+}
+
+QHash<qint32, Progress> progressOf(const QString& client)
+{
+    QHash<qint32, Progress> cards;
+    ado::Recordset& lines = DE.rsJOBS_DETAIL2;
+    const auto closed = qScopeGuard([&lines] { lines.Close(); });
+    for (lines.Open(u"Select JobID, DoneByWorker, count(*) as Lines from JOBS_DETAIL where ClintID="_s +
+                    client + u" group by JobID, DoneByWorker"_s);
+         !lines.AtEOF(); lines.MoveNext()) {
+        Progress& card = cards[lines["JobID"].integer()];
+        const int count = lines["Lines"].integer();
+        const auto state = lines["DoneByWorker"].code<LineState>();
+        card.lines += count;
+        if (state == LineState::Completed)
+            card.ready += count;
+        else if (state == LineState::Delivered)
+            card.delivered += count;
+    }
+    return cards;
+}
+
+QStringList rowsOf(const QString& text)
+{
+    QStringList rows = text.split(u'\n');
+    for (QString& row : rows)
+        row = row.trimmed();
+    return rows;
+}
+
+/// Adds an order; measurements that the garment has not had so far come behind the others.
+void add(Garment& garment, Order order, const QStringList& names, const QStringList& values)
+{
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        if (names[i].isEmpty())
+            continue;
+        qsizetype at = 0;
+        while (at < garment.measurements.size() &&
+               garment.measurements[at].compare(names[i], Qt::CaseInsensitive) != 0)
+            ++at;
+        if (at == garment.measurements.size())
+            garment.measurements << names[i];
+        order.values.resize(garment.measurements.size());
+        order.values[at] = values.value(i);
+    }
+    garment.orders.push_back(std::move(order));
+}
+
+} // namespace
+
+size_t Garment::before(size_t order, qsizetype measurement) const
+{
+    do
+        ++order;
+    while (order < orders.size() && orders[order].values.value(measurement).isEmpty());
+    return order;
+}
+
+bool Garment::isChanged(size_t order, qsizetype measurement) const
+{
+    const QString value = orders[order].values.value(measurement);
+    const size_t older = before(order, measurement);
+    return !value.isEmpty() && older < orders.size() && orders[older].values[measurement] != value;
+}
+
+QDate Garment::since(qsizetype measurement) const
+{
+    size_t order = 0;
+    if (orders.front().values.value(measurement).isEmpty())
+        order = before(order, measurement);
+    if (order == orders.size())
+        return {};
+    while (!isChanged(order, measurement) && before(order, measurement) < orders.size())
+        order = before(order, measurement);
+    return orders[order].booked;
+}
+
+std::vector<Card> cardsOf(qint32 client)
+{
+    const QString id = QString::number(client);
+    const QHash<qint32, Progress> progress = progressOf(id);
+    std::vector<Card> found;
+    ado::Recordset& cards = DE.rsJobs2;
+    const auto closed = qScopeGuard([&cards] { cards.Close(); });
+    for (cards.Open(u"Select * from JOBS where ClintID="_s + id + u" order by Date desc, Id desc"_s);
+         !cards.AtEOF(); cards.MoveNext()) {
+        const qint32 number = cards["Id"].integer();
+        const bool canceled = cards["Status"].integer() != 0;
+        found.push_back(
+            {.number = number,
+             .booked = cards["Date"].date(),
+             .delivery = cards["DeliveryDate"].date(),
+             .state = canceled ? statusName(qint32(LineState::Canceled)) : stateText(progress.value(number)),
+             .amount = cards["AmountDue"].number(),
+             .paid = cards["AmountPaid"].number()});
+    }
+    return found;
+}
+
+std::vector<Garment> garmentsOf(qint32 client)
+{
+    std::vector<Garment> garments;
+    QHash<QString, size_t> places;
+    ado::Recordset& lines = DE.rsJOBS_DETAIL2;
+    const auto closed = qScopeGuard([&lines] { lines.Close(); });
+    for (lines.Open(u"Select * from JOBS_DETAIL where ClintID="_s + QString::number(client) +
+                    u" order by Date desc, JobID desc, ItemSr"_s);
+         !lines.AtEOF(); lines.MoveNext()) {
+        const QString item = lines["ItemName"].text();
+        const auto place = places.constFind(item.toCaseFolded());
+        if (place == places.constEnd()) {
+            places.insert(item.toCaseFolded(), garments.size());
+            garments.push_back({item, {}, {}});
+        }
+        Order order{.code = lineCodeText(lines["JobID"].text(), lines["ItemSr"].text()),
+                    .booked = lines["Date"].date(),
+                    .values = {},
+                    .remark = lines["Remarks"].text(),
+                    .note = lines["ClientRemarks"].text(),
+                    .pictures = {}};
+        for (const char* column : {"Img1", "Img2"})
+            if (const QString link = lines[column].text(); !link.isEmpty())
+                if (const QString picture = shownPicture(link); !picture.isEmpty())
+                    order.pictures << picture;
+        add(garments[places.value(item.toCaseFolded())], std::move(order),
+            rowsOf(lines["ItemDetails"].text()), rowsOf(lines["ItemDetailsValue"].text()));
+    }
+    return garments;
+}
+
+} // namespace history

@@ -1,0 +1,229 @@
+#include "registers/frmClientFolder.h"
+
+#include "core/store/DE.h"
+#include "core/store/Lookups.h"
+#include "core/store/Session.h"
+#include "core/store/Texts.h"
+#include "jobcards/frmEditJOB.h"
+#include "media/frmPreview.h"
+#include "platform/forms/ListSheet.h"
+#include "platform/forms/Palette.h"
+#include "platform/forms/Pictures.h"
+#include "platform/report/ListPaper.h"
+#include "platform/report/Preview.h"
+#include "ui/modLang.h"
+#include "ui_frmClientFolder.h"
+
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double heightOfScreen = 0.97;
+constexpr size_t ordersShown = 60; ///< of one garment, beside each other
+constexpr int ordersOnPaper = 6;
+constexpr size_t picturesShown = 8;
+constexpr int pictureSize = 64;
+enum MeasureColumn { NameColumn, SinceColumn, FirstOrder };
+
+QString ageText(const QDate& since)
+{
+    if (!since.isValid())
+        return {};
+    const qint64 days = since.daysTo(session.WorkingDate);
+    if (days < 60)
+        return u"%1 day%2"_s.arg(days).arg(days == 1 ? u""_s : u"s"_s);
+    return days < 730 ? u"%1 months"_s.arg(days / 30) : u"%1 years"_s.arg(days / 365);
+}
+
+} // namespace
+
+frmClientFolder::frmClientFolder()
+    : ui(std::make_unique<Ui::frmClientFolder>())
+{
+    ui->setupUi(this);
+    ui->lvCards->setColumns({{u"Card"_s, 15, Qt::AlignRight, 60},
+                             {u"Date"_s, 24, Qt::AlignLeft, 104},
+                             {u"State"_s, forms::ListView::rest, Qt::AlignLeft, 110},
+                             {u"Amount"_s, 19, Qt::AlignRight, 84},
+                             {u"Paid with it"_s, 19, Qt::AlignRight, 90}});
+    ui->lvGarments->setColumns({{u"Garment"_s, forms::ListView::rest},
+                                {u"Orders"_s, 18, Qt::AlignRight, 60},
+                                {u"Last order"_s, 26, Qt::AlignLeft, 104}});
+    on(ui->lvGarments, &forms::ListView::selectionMoved, &frmClientFolder::showMeasurements);
+    onKeyDown(ui->lvGarments, [this](int& key) {
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        ui->lvMeasures->setFocus();
+    });
+    on(ui->lvCards, &forms::ListView::dblClicked, &frmClientFolder::openCard);
+    onKeyDown(ui->lvCards, [this](int& key) {
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        openCard();
+    });
+    on(ui->cmdPrint, &QPushButton::clicked, &frmClientFolder::print);
+}
+
+frmClientFolder::~frmClientFolder() = default;
+
+void frmClientFolder::ShowClient(const QString& title)
+{
+    m_client = title;
+    GetAccountID(title);
+    showModal();
+}
+
+void frmClientFolder::Form_Load()
+{
+    SetFormLanguage(*this);
+    useScreenHeight(heightOfScreen);
+    ui->lvGarments->setFocus();
+}
+
+/// Whoever comes back from a card sees it as it is now.
+void frmClientFolder::Form_Activate()
+{
+    const qint32 id = GetAccountID(m_client);
+    m_garments = history::garmentsOf(id);
+    ado::Recordset& client = DE.rsaccounts;
+    client.Open(u"Select * from Accounts where ID="_s + QString::number(id));
+    ui->lblClient->setText(client["Title"].text());
+    QStringList contact;
+    for (const char* field : {"Address", "City", "Mobile"})
+        if (const QString text = client[field].text().simplified(); !text.isEmpty())
+            contact << text;
+    client.Close();
+    ui->lblContact->setText(contact.join(u"  ·  "_s));
+    const double balance = GetBalances(QString::number(id), session.WorkingDate).value(id);
+    ui->lblBalance->setText(u"Balance: "_s + balanceText(balance));
+    showCards();
+    showGarments();
+}
+
+void frmClientFolder::showCards()
+{
+    std::vector<forms::ListView::Row> rows;
+    for (const history::Card& card : history::cardsOf(GetAccountID(m_client))) {
+        const QString number = QString::number(card.number);
+        rows.push_back(
+            {{number, dateText(card.booked), card.state, moneyText(card.amount), moneyText(card.paid)},
+             number});
+    }
+    ui->lvCards->refreshRows(std::move(rows));
+    if (ui->lvCards->selectedRow() < 0)
+        ui->lvCards->selectRow(0);
+}
+
+void frmClientFolder::showGarments()
+{
+    std::vector<forms::ListView::Row> rows;
+    for (const history::Garment& garment : m_garments)
+        rows.push_back(
+            {{garment.item, QString::number(garment.orders.size()), dateText(garment.orders.front().booked)},
+             garment.item});
+    ui->lvGarments->refreshRows(std::move(rows));
+    if (ui->lvGarments->selectedRow() < 0)
+        ui->lvGarments->selectRow(0);
+    showMeasurements();
+}
+
+const history::Garment* frmClientFolder::chosenGarment() const
+{
+    const int row = ui->lvGarments->selectedRow();
+    return row >= 0 && size_t(row) < m_garments.size() ? &m_garments[size_t(row)] : nullptr;
+}
+
+void frmClientFolder::showMeasurements()
+{
+    const history::Garment* garment = chosenGarment();
+    std::vector<forms::ListView::Column> columns{{u"Measurement"_s, 18, Qt::AlignLeft, 120},
+                                                 {u"Unchanged for"_s, 12, Qt::AlignLeft, 108}};
+    std::vector<forms::ListView::Row> rows;
+    if (garment) {
+        const size_t orders = std::min(garment->orders.size(), ordersShown);
+        for (size_t order = 0; order < orders; ++order)
+            columns.push_back(
+                {dateText(garment->orders[order].booked) + u"  "_s + garment->orders[order].code, 18,
+                 Qt::AlignLeft, 160});
+        for (qsizetype i = 0; i < garment->measurements.size(); ++i) {
+            forms::ListView::Row row{{garment->measurements[i], ageText(garment->since(i))}};
+            for (size_t order = 0; order < orders; ++order) {
+                row.cells << garment->orders[order].values.value(i);
+                if (garment->isChanged(order, i))
+                    row.looks[FirstOrder + int(order)] = {{}, {}, true, QColor(palette::accent)};
+            }
+            rows.push_back(std::move(row));
+        }
+        for (const auto& [name, text] :
+             {std::pair(u"Remark"_s, &history::Order::remark), {u"Client note"_s, &history::Order::note}}) {
+            forms::ListView::Row row{{name, QString()}};
+            row.apart = true;
+            for (size_t order = 0; order < orders; ++order)
+                row.cells << (garment->orders[order].*text).simplified();
+            rows.push_back(std::move(row));
+        }
+    }
+    ui->lvMeasures->setColumns(columns);
+    ui->lvMeasures->setRows(std::move(rows));
+    ui->lvMeasures->selectRow(0);
+    ui->cmdPrint->setEnabled(garment != nullptr);
+    showPictures(garment ? *garment : history::Garment());
+}
+
+/// Those of the newest orders.
+void frmClientFolder::showPictures(const history::Garment& garment)
+{
+    for (QPushButton* button : m_pictures)
+        delete button;
+    m_pictures.clear();
+    for (const history::Order& order : garment.orders) {
+        for (const QString& path : order.pictures) {
+            if (m_pictures.size() == picturesShown)
+                return;
+            auto* button = new QPushButton;
+            button->setProperty("figure", true);
+            button->setIconSize({pictureSize, pictureSize});
+            button->setIcon(QIcon(forms::loadPicture(path, {pictureSize, pictureSize})));
+            button->setToolTip(order.code + u"  "_s + dateText(order.booked));
+            button->setAccessibleName(u"Picture of "_s + order.code);
+            on(button, &QPushButton::clicked, [path] { frmPreview().ShowImage(path); });
+            ui->layPictures->insertWidget(int(m_pictures.size()), button);
+            m_pictures.push_back(button);
+        }
+    }
+}
+
+void frmClientFolder::openCard()
+{
+    if (const int row = ui->lvCards->selectedRow(); row >= 0)
+        frmEditJOB().ShowEdit(ui->lvCards->tag(row).toInt());
+}
+
+void frmClientFolder::Form_KeyPress(int& key)
+{
+    Screen::Form_KeyPress(key);
+    if (key != forms::key::CtrlP)
+        return;
+    key = 0;
+    print();
+}
+
+/// The measurement sheet of the garment: its newest orders.
+void frmClientFolder::print()
+{
+    const history::Garment* garment = chosenGarment();
+    if (!garment)
+        return;
+    forms::ListSheet sheet = forms::sheetOf(*ui->lvMeasures);
+    sheet.title = u"Measurements of "_s + m_client;
+    sheet.criteria = {garment->item, dateText(session.WorkingDate)};
+    const size_t columns = std::min(sheet.columns.size(), size_t(FirstOrder + ordersOnPaper));
+    sheet.columns.resize(columns);
+    for (forms::ListSheet::Row& row : sheet.rows)
+        row.cells = row.cells.first(std::min(row.cells.size(), qsizetype(columns)));
+    report::Preview(*report::listPaper(sheet)).showModal();
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/forms/Screen.h"
+#include "registers/ClientHistory.h"
+
+#include <memory>
+
+class QPushButton;
+namespace Ui {
+class frmClientFolder;
+}
+
+/// A client's folder: the cards with their states, and the measurements of each garment through time, one
+/// column an order, what changed from one to the next marked.
+class frmClientFolder : public forms::Screen
+{
+    Q_OBJECT
+public:
+    frmClientFolder();
+    ~frmClientFolder() override;
+
+    /// Opens the folder of a client. Throws ado::NoCurrentRecordError for one that is not there.
+    void ShowClient(const QString& title);
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_KeyPress(int& key) override;
+
+private:
+    const history::Garment* chosenGarment() const;
+    void showCards();
+    void showGarments();
+    void showMeasurements();
+    void showPictures(const history::Garment& garment);
+    void openCard();
+    void print();
+
+    const std::unique_ptr<Ui::frmClientFolder> ui;
+    QString m_client;
+    std::vector<history::Garment> m_garments;
+    std::vector<QPushButton*> m_pictures;
+};
