@@ -268,6 +268,12 @@ void takeAll()
     picture("assign-job", [] { frmEditWorkerAssign().ShowEdit(shownLine()); });
     picture("paper-job-card", [] { PrintJobCard(showpiece()); });
     picture("paper-slip", [] { PrintWorkerSlip(shownLine()); });
+    picture("paper-slip-hindi", [] {
+        SetSetting(settings::Language, u"Hindi"_s);
+        SetSetting(settings::HindiSlip, u"Yes"_s);
+        PrintWorkerSlip(shownLine());
+        SetSetting(settings::Language, u"English"_s);
+    });
     picture("paper-label", [] { PrintLabel(shownLine()); });
     picture("garment-picture", [] {
         frmPreview().ShowImage(value(u"Select Img2 from Jobs_Detail where Img2<>''"_s).toString());
@@ -299,8 +305,7 @@ void takeAll()
     });
     picture("client-folder", [] {
         frmClientFolder().ShowClient(
-            value(
-                u"Select ClintName from JOBS_DETAIL where Img1<>'' group by ClintID order by count(*) desc"_s)
+            value(u"Select ClintName from JOBS_DETAIL group by ClintID, ItemID order by count(*) desc"_s)
                 .toString());
     });
     picture("glance", [] { frmGlance().showModal(); });

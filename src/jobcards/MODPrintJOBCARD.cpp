@@ -100,7 +100,7 @@ std::unique_ptr<report::Report> WorkerSlipPaper(qint32 LineID)
 {
     auto slip = std::make_unique<rptWorkerJobCard>();
     if (GetSetting(settings::Language) == "Hindi"_L1 && GetSetting(settings::HindiSlip) == "Yes"_L1)
-        slip->useHindiMeasurements();
+        slip->useHindi();
     slip->setLine(readLine(LineID));
     slip->section(u"Section2"_s).label(u"lblCompany"_s).Caption = session.ShopName;
     nameLine(*slip, u"Job Order"_s);

@@ -1,5 +1,6 @@
 #include "jobcards/rptWorkerJobCard.h"
 
+#include "jobcards/HindiWords.h"
 #include "jobcards/PaperDesign.h"
 #include "platform/report/BandLayout.h"
 
@@ -18,6 +19,8 @@ constexpr int CaptionWidth = 1350;
 constexpr int RowHeight = 340;
 constexpr int MeasureHeight = 320;
 constexpr int NameWidth = 3500; ///< of a measurement's name
+
+constexpr double hindiScale = 1.2; ///< its letters are smaller than Latin ones of the same size
 
 const QString Day = u"dd-MMM-yyyy"_s;
 
@@ -99,12 +102,21 @@ rptWorkerJobCard::rptWorkerJobCard()
     paper::codeFoot(*this, Width);
 }
 
-void rptWorkerJobCard::useHindiMeasurements()
+void rptWorkerJobCard::useHindi()
 {
-    Section& line = section(u"Section1"_s);
-    Field& names = line.field(u"txtItemDetails"_s);
-    names.FontFamily = u"Kruti Dev 010"_s;
-    names.FontSize = line.field(u"Text1"_s).FontSize = 14;
+    m_hindi = true;
+    for (const auto& control : section(u"Section1"_s).controls()) {
+        if (auto* caption = dynamic_cast<Label*>(control.get())) {
+            caption->Caption = hindiWord(caption->Caption);
+            caption->FontFamily = hindiPaperFont;
+            caption->FontSize *= hindiScale;
+        }
+    }
+    for (const auto& name : {u"txtItemName"_s, u"txtItemDetails"_s}) {
+        Field& field = section(u"Section1"_s).field(name);
+        field.FontFamily = hindiPaperFont;
+        field.FontSize *= hindiScale;
+    }
 }
 
 void rptWorkerJobCard::setLine(Row line)
@@ -113,6 +125,9 @@ void rptWorkerJobCard::setLine(Row line)
     Section& section1 = section(u"Section1"_s);
     const Field& nameField = section1.field(u"txtItemDetails"_s);
     const Field& valueField = section1.field(u"Text1"_s);
+    if (m_hindi)
+        for (const QString& field : {nameField.DataField, u"ItemName"_s})
+            line.set(field, hindiLines(line.value(field).toString()));
     const QStringList names = line.value(nameField.DataField).toString().split(lineBreak);
     const QStringList values = line.value(valueField.DataField).toString().split(lineBreak);
     QStringList left;

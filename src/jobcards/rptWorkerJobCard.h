@@ -9,9 +9,13 @@ class rptWorkerJobCard : public report::Report
 public:
     rptWorkerJobCard();
 
-    /// Sets the names of the measurements in the type in which a Hindi shop keeps them. Call before setLine.
-    void useHindiMeasurements();
+    /// Puts captions, garment and names of measurements in Hindi, as far as it has the words. Call before
+    /// setLine.
+    void useHindi();
     /// Takes the line as the source. Each measurement's value stands beside its name, also where one of the
     /// two needs more than one line.
     void setLine(report::Row line);
+
+private:
+    bool m_hindi = false;
 };

@@ -25,6 +25,11 @@ private Q_SLOTS:
             onNextModal<frmSelectFile>([](frmSelectFile&) { press(Qt::Key_Escape); }); // on "Select"
             for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Tab, Qt::Key_Space})
                 press(key);
+            press(Qt::Key_Tab);
+            QVERIFY(!control<QWidget>(screen, "chHindiSlip").isEnabled());
+            press(Qt::Key_Down); // Hindi
+            press(Qt::Key_Return);
+            press(Qt::Key_Space);
             press(Qt::Key_Tab, Qt::ControlModifier);
             control<QWidget>(screen, "txtLogo").setFocus();
             onNextModal<frmSelectFile>([](frmSelectFile& picker) {
@@ -52,9 +57,9 @@ private Q_SLOTS:
             press(Qt::Key_Escape);
         });
         QStringList settings;
-        for (const qint32 number : {2, 3, 4, 5, 6, 10, 11, 13, 14, 15, 19, 22, 23, 24, 25, 26})
+        for (const qint32 number : {0, 12, 2, 3, 4, 5, 6, 10, 11, 13, 14, 15, 19, 22, 23, 24, 25, 26})
             settings << stored(number);
-        QCOMPARE(settings, QStringList({"No", "Yes", "4", "/home/shop/logo.png", "Stitched By Hand",
+        QCOMPARE(settings, QStringList({"Hindi", "Yes", "No", "Yes", "4", "/home/shop/logo.png", "Stitched By Hand",
                                         "Rangoli Ta", "/home/shop/wall.png", "3", "1", "0", "none", "1", "1",
                                         DefaultJobRegisteredDraft() + "\rThanks", DefaultJobFinishedDraft(),
                                         DefaultDueBalanceDraft()}));

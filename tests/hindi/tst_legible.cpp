@@ -1,6 +1,8 @@
+#include "jobcards/rptWorkerJobCard.h"
 #include "platform/ado/Connection.h"
 #include "platform/ado/Recordset.h"
 #include "platform/forms/Theme.h"
+#include "platform/report/Pages.h"
 #include "support/Files.h"
 
 #include <QImage>
@@ -63,6 +65,38 @@ static QStringList readAloud(const QList<QImage>& pages)
     return texts;
 }
 
+/// The worker's slip, in Hindi as far as there are words for it.
+static QImage slip()
+{
+    rptWorkerJobCard paper;
+    paper.useHindi();
+    report::Row line;
+    for (const auto& [field, value] : std::initializer_list<std::pair<QString, QVariant>>{
+             {"DATE", QDate(2024, 2, 1)},
+             {"JobDelDate", QDate(2024, 2, 20)},
+             {"JobID", 1436},
+             {"ItemSr", 2},
+             {"QNT", 1},
+             {"ClintName", "Asha"},
+             {"WorkerName", "Ravi"},
+             {"ItemName", "salwar kameez"},
+             {"ItemDetails", "Length\r\n CHEST \r\nFront Neck\r\nCoat Tail\r\nSleeve"},
+             {"ItemDetailsValue", "40\r\n38\r\n7\r\n9\r\n24"},
+             {"Remarks", ""},
+             {"ClientRemarks", ""},
+             {"LineCode", "1436/2"}})
+        line.set(field, value);
+    paper.setLine(line);
+    constexpr double dots = 300.0 / report::twipsPerInch;
+    const report::Pages pages(paper);
+    QImage page((pages.size() * dots).toSize(), QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    painter.scale(dots, dots);
+    pages.paint(painter, 0);
+    return page;
+}
+
 /// The letters alone: a reader may take the full stop for a stroke, and blanks and line breaks differ.
 static QString letters(QString text)
 {
@@ -86,6 +120,14 @@ class TestLegible : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { forms::applyTheme(*qApp, PROGRAM_FOLDER "/fonts"); }
+
+    void workersSlip()
+    {
+        const QString read = letters(readAloud({slip()}).join(u' '));
+        for (const char* word :
+             {"सलवार कमीज", "लंबाई", "छाती", "आगे का गला", "आस्तीन", "ग्राहक", "कारीगर", "टिप्पणी"})
+            QVERIFY2(read.contains(letters(QString::fromUtf8(word))), qPrintable(word + (" in " + read)));
+    }
 
     void everyMessage()
     {

@@ -42,6 +42,8 @@ frmSettings::frmSettings()
 
     on(ui->Command3, &QPushButton::clicked, [this] { selectPicture(*ui->txtWall); });
     on(ui->Command2, &QPushButton::clicked, [this] { selectPicture(*ui->txtLogo); });
+    ui->cmbLanguage->AddItems({u"English"_s, u"Hindi"_s});
+    on(ui->cmbLanguage, &forms::ComboBox::currentTextChanged, &frmSettings::showWhetherHindi);
     on(ui->Command8, &QPushButton::clicked, &frmSettings::loadDefaultDrafts);
     on(ui->Command1, &QPushButton::clicked, &frmSettings::save);
     on(ui->Command6, &QPushButton::clicked, &frmSettings::selectBackupFolder);
@@ -69,6 +71,9 @@ void frmSettings::Form_Load()
     ui->txtDelMargin->setText(GetSetting(settings::DeliveryMargin));
     check(*ui->chPrintAfterSave, settings::PrintAfterSave);
     check(*ui->chPreview, settings::PrintPreview);
+    ui->cmbLanguage->setText(GetSetting(settings::Language));
+    ui->chHindiSlip->setChecked(GetSetting(settings::HindiSlip) == "Yes"_L1);
+    showWhetherHindi();
     ui->txtBackuppath->setText(GetSetting(settings::BackupFolder));
     check(*ui->opChangeDateAuto, settings::SystemDateAtStart);
     ui->txtStartNum->setText(GetSetting(settings::FirstJobNumber));
@@ -205,6 +210,9 @@ void frmSettings::goTo(QWidget& field)
     field.setFocus();
 }
 
+/// The slip is in Hindi only where the messages are.
+void frmSettings::showWhetherHindi() { ui->chHindiSlip->setEnabled(ui->cmbLanguage->text() == "Hindi"_L1); }
+
 void frmSettings::writeSettings()
 {
     SetSetting(settings::ModemPort, ui->cmbSMSPort->text());
@@ -218,6 +226,9 @@ void frmSettings::writeSettings()
     SetSetting(settings::PrintAfterSave, checkedText(*ui->chPrintAfterSave));
     SetSetting(settings::PrintPreview, checkedText(*ui->chPreview));
     SetSetting(settings::SystemDateAtStart, checkedText(*ui->opChangeDateAuto));
+    if (const QString language = ui->cmbLanguage->text(); !language.isEmpty())
+        SetSetting(settings::Language, language);
+    SetSetting(settings::HindiSlip, ui->chHindiSlip->isChecked() ? u"Yes"_s : u"No"_s);
     SetSetting(settings::FirstJobNumber, numberText(*ui->txtStartNum));
     SetSetting(settings::SmsJobRegistered, draft(*ui->txtSMS1));
     SetSetting(settings::SmsJobFinished, draft(*ui->txtSMS2));

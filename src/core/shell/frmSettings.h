@@ -46,6 +46,7 @@ private:
     void checkShop();
     void showLastBackup();
     void goTo(QWidget& field);
+    void showWhetherHindi();
     void writeSettings();
 
     const std::unique_ptr<Ui::frmSettings> ui;
