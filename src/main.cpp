@@ -34,6 +34,10 @@ int main(int argc, char* argv[])
             {.name = u"Slow camera"_s, .timeToOpen = 4000},
             {.name = u"Loose cable"_s, .picturesLeft = 60},
             {.name = u"Taken camera"_s, .fault = u"In use elsewhere"_s}}));
+    if (const QString notice = qEnvironmentVariable("SEAMWISE_NOTICE"); !notice.isEmpty()) {
+        forms::criticalMessage(nullptr, notice); // whoever starts the program could not
+        return 1;
+    }
     const int result = Main() ? QApplication::exec() : 1;
     report::finishPrinting();
     devices::setCameras({});
