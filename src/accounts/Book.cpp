@@ -37,13 +37,7 @@ void Book::setBook(forms::ListView* list, const Period& days)
 {
     m_list = list;
     period = days;
-    on(list, &forms::ListView::dblClicked, &Book::openSelected);
-    onKeyDown(list, [this](int& key) {
-        if (key != forms::key::Enter)
-            return;
-        key = 0;
-        openSelected();
-    });
+    onOpened(list, &Book::openSelected);
 }
 
 void Book::Form_Load()

@@ -48,13 +48,7 @@ frmWorkerWagesRegister::frmWorkerWagesRegister()
     on(ui->Command3, &QPushButton::clicked, &frmWorkerWagesRegister::createPayroll);
     on(ui->Command5, &QPushButton::clicked, [this] { ui->lvSummary->print(ui->cmbClient->text()); });
 
-    on(ui->lvSummary, &forms::ListView::dblClicked, &frmWorkerWagesRegister::openLine);
-    onKeyDown(ui->lvSummary, [this](int& key) {
-        if (key != forms::key::Enter)
-            return;
-        key = 0;
-        openLine();
-    });
+    onOpened(ui->lvSummary, &frmWorkerWagesRegister::openLine);
 }
 
 frmWorkerWagesRegister::~frmWorkerWagesRegister() = default;

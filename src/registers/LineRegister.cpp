@@ -86,7 +86,6 @@ void LineRegister::setCriteria(const Criteria& criteria)
     on(criteria.condition, &forms::ComboBox::clicked, [this] { conditionStep(); });
     on(criteria.view, &QPushButton::clicked, &LineRegister::view);
     on(criteria.find, &QPushButton::clicked, &LineRegister::quickFind);
-    on(criteria.list, &forms::ListView::dblClicked, &LineRegister::openLine);
     onKeyPress(criteria.list, [this](int& key) {
         if (key < '0' || key > '9')
             return;
@@ -95,12 +94,7 @@ void LineRegister::setCriteria(const Criteria& criteria)
         m_criteria.jobId->deselect();
         key = 0;
     });
-    onKeyDown(criteria.list, [this](int& key) {
-        if (key != forms::key::Enter)
-            return;
-        key = 0;
-        openLine();
-    });
+    onOpened(criteria.list, &LineRegister::openLine);
 }
 
 void LineRegister::ShowLines(const Beginning& beginning)

@@ -58,13 +58,7 @@ frmClientFolder::frmClientFolder()
         key = 0;
         ui->lvMeasures->setFocus();
     });
-    on(ui->lvCards, &forms::ListView::dblClicked, &frmClientFolder::openCard);
-    onKeyDown(ui->lvCards, [this](int& key) {
-        if (key != forms::key::Enter)
-            return;
-        key = 0;
-        openCard();
-    });
+    onOpened(ui->lvCards, &frmClientFolder::openCard);
     on(ui->cmdPrint, &QPushButton::clicked, &frmClientFolder::print);
 }
 

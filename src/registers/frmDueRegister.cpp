@@ -23,13 +23,7 @@ frmDueRegister::frmDueRegister()
 {
     ui->setupUi(this);
     ui->lvSummary->setColumns({{u"Client"_s, 70}, {u"Due Amount"_s, 25, Qt::AlignRight, 120}});
-    on(ui->lvSummary, &forms::ListView::dblClicked, &frmDueRegister::openAccount);
-    onKeyDown(ui->lvSummary, [this](int& key) {
-        if (key != forms::key::Enter)
-            return;
-        key = 0;
-        openAccount();
-    });
+    onOpened(ui->lvSummary, &frmDueRegister::openAccount);
 }
 
 frmDueRegister::~frmDueRegister() = default;

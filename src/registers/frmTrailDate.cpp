@@ -27,13 +27,7 @@ frmTrailDate::frmTrailDate()
                                {u"Contact"_s, 18, Qt::AlignLeft, 120}});
     for (forms::DatePicker* day : {ui->DateFrom, ui->DateTo})
         onKeyPress(day, [](int& key) { key = EnterAsTab(key); });
-    on(ui->lvSummary, &forms::ListView::dblClicked, &frmTrailDate::openCard);
-    onKeyDown(ui->lvSummary, [this](int& key) {
-        if (key != forms::key::Enter)
-            return;
-        key = 0;
-        openCard();
-    });
+    onOpened(ui->lvSummary, &frmTrailDate::openCard);
     on(ui->lvSummary, &forms::ListView::menuAsked, [this](int, const QPoint& place) {
         if (selectedJob() != 0)
             ui->mnuS->popup(place);

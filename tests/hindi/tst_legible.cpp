@@ -2,8 +2,8 @@
 #include "platform/ado/Connection.h"
 #include "platform/ado/Recordset.h"
 #include "platform/forms/Theme.h"
-#include "platform/report/Pages.h"
 #include "support/Files.h"
+#include "support/Pdf.h"
 
 #include <QImage>
 #include <QPainter>
@@ -87,14 +87,7 @@ static QImage slip()
              {"LineCode", "1436/2"}})
         line.set(field, value);
     paper.setLine(line);
-    constexpr double dots = 300.0 / report::twipsPerInch;
-    const report::Pages pages(paper);
-    QImage page((pages.size() * dots).toSize(), QImage::Format_RGB32);
-    page.fill(Qt::white);
-    QPainter painter(&page);
-    painter.scale(dots, dots);
-    pages.paint(painter, 0);
-    return page;
+    return printed(paper, 300);
 }
 
 /// The letters alone: a reader may take the full stop for a stroke, and blanks and line breaks differ.

@@ -8,7 +8,6 @@
 #include "support/ShopTest.h"
 
 #include <QFontDatabase>
-#include <QPainter>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -29,18 +28,10 @@ static bool hasAll(const QStringList& texts, const QStringList& wanted)
                        [&](const QString& text) { return texts.contains(text); });
 }
 
-/// What a scanner reads on the first page, as a printer of 203 dots to the inch makes it.
+/// What a scanner reads on the first page of a printer of 203 dots to the inch.
 static QString scanned(const report::Report& paper, const QString& file)
 {
-    constexpr double dots = 203.0 / report::twipsPerInch;
-    const report::Pages pages(paper);
-    QImage page((pages.size() * dots).toSize(), QImage::Format_Grayscale8);
-    page.fill(Qt::white);
-    QPainter painter(&page);
-    painter.scale(dots, dots);
-    pages.paint(painter, 0);
-    painter.end();
-    page.save(file);
+    printed(paper, 203).save(file);
     QProcess reader;
     reader.start("zbarimg", {"-q", "--raw", file});
     reader.waitForFinished();

@@ -4,6 +4,8 @@
 #include "platform/report/Pdf.h"
 #include "platform/report/Report.h"
 
+#include <QImage>
+#include <QPainter>
 #include <QProcess>
 #include <QStringList>
 
@@ -20,7 +22,20 @@ inline QStringList readBack(const QByteArray& content)
     return pages;
 }
 
-/// The same of a paper; of each run of blanks one is left.
+/// The first page of a paper as a printer of so many dots to the inch makes it.
+inline QImage printed(const report::Report& paper, double resolution)
+{
+    const double dots = resolution / report::twipsPerInch;
+    const report::Pages pages(paper);
+    QImage page((pages.size() * dots).toSize(), QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    painter.scale(dots, dots);
+    pages.paint(painter, 0);
+    return page;
+}
+
+/// The text of a paper's pages; of each run of blanks one is left.
 inline QStringList readBack(const report::Report& paper)
 {
     QStringList pages = readBack(report::pdf(report::Pages(paper), paper.Title));

@@ -74,16 +74,8 @@ frmGlance::frmGlance()
     on(ui->chDue, &forms::BarChart::opened, &frmGlance::openDueDay);
     on(ui->chMoney, &forms::BarChart::opened, &frmGlance::openWeek);
     on(ui->chDues, &forms::BarChart::opened, [] { frmDueRegister().showModal(); });
-    for (const auto& [list, open] :
-         {std::pair(ui->lvDues, &frmGlance::openDebtor), {ui->lvWorkers, &frmGlance::openWorker}}) {
-        on(list, &forms::ListView::dblClicked, open);
-        onKeyDown(list, [this, act = open](int& key) {
-            if (key != forms::key::Enter)
-                return;
-            key = 0;
-            (this->*act)();
-        });
-    }
+    onOpened(ui->lvDues, &frmGlance::openDebtor);
+    onOpened(ui->lvWorkers, &frmGlance::openWorker);
     on(ui->cmdLines, &QPushButton::clicked,
        [this] { frmWorkerJobRegister().ShowLines({.from = m_shop.firstDay, .to = m_day}); });
     on(ui->cmdAccounts, &QPushButton::clicked, [] { frmClients().showModal(); });

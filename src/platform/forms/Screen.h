@@ -126,6 +126,21 @@ protected:
             });
         });
     }
+    /// What a double click or Enter on a list does: opens the row that is selected, as a rule.
+    template <typename List, typename Procedure>
+    void onOpened(List* list, Procedure procedure)
+    {
+        on(list, &List::dblClicked, procedure);
+        onKeyDown(list, [this, procedure](int& key) mutable {
+            if (key != key::Enter)
+                return;
+            key = 0;
+            if constexpr (std::is_member_function_pointer_v<Procedure>)
+                std::invoke(procedure, static_cast<typename detail::MemberClass<Procedure>::type*>(this));
+            else
+                procedure();
+        });
+    }
     /// Event procedures of one control. A composite control (a combo, a picker) counts with its inner boxes.
     /// Focus that comes back to the same control (from an open list, a message, another window) is no new
     /// focus.
