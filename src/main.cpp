@@ -17,7 +17,7 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Seamwise"_s);
-    QApplication::setApplicationVersion(u"8.0"_s);
+    QApplication::setApplicationVersion(QStringLiteral(SEAMWISE_VERSION));
     QApplication::setWindowIcon(QIcon(u":/icons/app.svg"_s));
     QApplication::setQuitOnLastWindowClosed(false);
 

@@ -349,7 +349,7 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setApplicationVersion(u"8.0"_s);
+    QApplication::setApplicationVersion(QStringLiteral(SEAMWISE_VERSION));
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 3)
         qFatal("usage: pictures <folder> <program folder>");

@@ -30,7 +30,7 @@ frmTrailDate::frmTrailDate()
     onOpened(ui->lvSummary, &frmTrailDate::openCard);
     on(ui->lvSummary, &forms::ListView::menuAsked, [this](int, const QPoint& place) {
         if (selectedJob() != 0)
-            ui->mnuS->popup(place);
+            forms::ListView::showMenu(*ui->mnuS, place);
     });
     report::ListKeys::addTo(*ui->mnuS, *ui->lvSummary);
     on(ui->mnuSetApp, &QAction::triggered, [this] { setState(TrialState::Appeared); });

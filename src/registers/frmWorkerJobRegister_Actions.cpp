@@ -55,7 +55,7 @@ void frmWorkerJobRegister::askMenu(int row, const QPoint& place)
 {
     if (row < 0 || row >= ui->lvSummary->rowCount() - 1)
         return;
-    ui->mnuFile->popup(place);
+    forms::ListView::showMenu(*ui->mnuFile, place);
 }
 
 // The selected row

@@ -12,6 +12,8 @@ frmSelectDate::frmSelectDate(QWidget* parent)
     ui->setupUi(this);
     on(ui->DateFrom, &forms::DatePicker::changed, &frmSelectDate::followDateFrom);
     on(ui->DateFrom, &forms::DatePicker::calendarClosed, &frmSelectDate::followDateFrom);
+    for (forms::DatePicker* day : {ui->DateFrom, ui->DateTo})
+        onKeyPress(day, [](int& key) { key = EnterAsTab(key); });
     on(ui->cmdOk, &QPushButton::clicked, &frmSelectDate::select);
 }
 

@@ -65,9 +65,13 @@ class Launcher(unittest.TestCase):
         self.assertIn(f"Seamwise could not be brought into {self.shop}", told)
         self.assertTrue(told.startswith("first in"))  # by the program that is installed
         self.data.unlink()
-        (self.installed / "program" / "Lang.mdb").unlink()
-        self.assertIn("Lang.mdb is missing", self.start())
-        self.assertFalse((self.shop / "seamwise").exists())
+        self.start()
+        self.release("second")
+        (self.shop / "Lang.mdb.new").mkdir()  # a copy that fails half-way, as on a full disk
+        (self.shop / "Lang.mdb.new" / "Lang.mdb").mkdir()
+        told, started = self.start().split("\n")[0], self.start().split("\n")[-1]
+        self.assertIn("could not be brought", told)
+        self.assertEqual(started, f"first in {self.shop} now")
 
 
 if __name__ == "__main__":

@@ -236,7 +236,7 @@ private Q_SLOTS:
             QTRY_VERIFY(menu.isVisible());
             prompts->expect("Mark Item as Alteration?", Answer::Yes);
             prompts->expectInput("Please specify location!", "B2");
-            for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
+            for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
                 press(key);
             QCOMPARE(stored("DoneByWorker, AltDate, Loc", 2), "3 2024-02-12 B2");
             QCOMPARE(lines(screen).selectedRow(), 1);

@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <QTextDocument>
@@ -219,6 +220,12 @@ void ListView::refreshRows(std::vector<Row> rows)
     setRows(std::move(rows));
     if (position >= 0)
         selectRow(row);
+}
+
+void ListView::showMenu(QMenu& menu, const QPoint& place)
+{
+    menu.popup(place);
+    menu.setActiveAction(menu.actions().value(0));
 }
 
 void ListView::keepRows(const std::function<bool(const Row&)>& stays)

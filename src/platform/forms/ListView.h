@@ -8,6 +8,8 @@
 #include <functional>
 #include <vector>
 
+class QMenu;
+
 namespace forms {
 
 /// A list in report view: columns with titles, rows of cells, a tag on each row. Rows are selected whole and
@@ -79,6 +81,9 @@ public:
     void setTopRow(int row);
     /// Whether somebody answers when a menu is asked for.
     bool hasMenu() const { return isSignalConnected(QMetaMethod::fromSignal(&ListView::menuAsked)); }
+
+    /// Shows a menu that was asked for, on its first entry: Enter and the arrows work at once.
+    static void showMenu(QMenu& menu, const QPoint& place);
 
 Q_SIGNALS:
     /// A row was double-clicked.
