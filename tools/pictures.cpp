@@ -44,8 +44,10 @@
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/ListBox.h"
+#include "platform/forms/ListSheet.h"
 #include "platform/forms/ListView.h"
 #include "platform/forms/Theme.h"
+#include "platform/report/ListPaper.h"
 #include "platform/report/Preview.h"
 #include "registers/frmBirthDayRimenders.h"
 #include "registers/frmClientFolder.h"
@@ -263,6 +265,12 @@ void takeAll()
         [](forms::Screen& screen) { showDays(screen, 180); });
     picture(
         "day-book", [] { frmDayBook().showModal(); }, [](forms::Screen& screen) { showDays(screen, 3); });
+    picture("paper-list", [] {
+        frmDueRegister dues;
+        dues.load();
+        dues.ExcuteSQl();
+        report::Preview(*report::listPaper(forms::sheetOf(*dues.findChild<forms::ListView*>()))).showModal();
+    });
     picture("paper-statement", [] { report::Preview(*statement(false)).showModal(); });
     picture("paper-statement-remark", [] { report::Preview(*statement(true)).showModal(); });
     picture("assign-job", [] { frmEditWorkerAssign().ShowEdit(shownLine()); });
