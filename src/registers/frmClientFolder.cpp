@@ -50,7 +50,7 @@ frmClientFolder::frmClientFolder()
                              {u"Paid with it"_s, 19, Qt::AlignRight, 90}});
     ui->lvGarments->setColumns({{u"Garment"_s, forms::ListView::rest},
                                 {u"Orders"_s, 18, Qt::AlignRight, 60},
-                                {u"Last order"_s, 26, Qt::AlignLeft, 104}});
+                                {u"Last order"_s, 28, Qt::AlignLeft, 122}});
     on(ui->lvGarments, &forms::ListView::selectionMoved, &frmClientFolder::showMeasurements);
     onKeyDown(ui->lvGarments, [this](int& key) {
         if (key != forms::key::Enter)
