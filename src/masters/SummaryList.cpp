@@ -80,6 +80,13 @@ void SummaryList::search(const QString& text)
     ui->lstSummary->setListIndex(ui->lstSummary->findString(text, startAfter));
 }
 
+void SummaryList::setHelp(const QString& help) { ui->lblHelp->setText(help); }
+
+QString SummaryList::selectedTitle() const
+{
+    return ui->lstSummary->ListIndex() < 0 ? QString() : ui->lstSummary->Text();
+}
+
 void SummaryList::openSelected()
 {
     if (ui->lstSummary->ListIndex() < 0)

@@ -36,6 +36,10 @@ protected:
 
     explicit SummaryList(const Kind& kind);
     void setButtonCaptions(const QString& add, const QString& back);
+    /// What the list's keys do, at the foot of the screen.
+    void setHelp(const QString& help);
+    /// The title of the selected record; empty without one.
+    QString selectedTitle() const;
 
     void Form_Load() override;
     void Form_Activate() override;

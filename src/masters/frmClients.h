@@ -9,6 +9,9 @@ class frmClients : public SummaryList
 public:
     frmClients();
 
+protected:
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
+
 private:
     void fill(ListTarget& list) override;
     void addRecord() override;

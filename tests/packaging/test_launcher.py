@@ -44,6 +44,7 @@ class Launcher(unittest.TestCase):
     def test_first_start_and_update(self):
         self.assertEqual(self.start(), f"first in {self.shop} now")
         self.assertEqual((self.shop / "fonts" / "Sans.otf").read_text(), "letters")
+        self.assertEqual(self.shop.stat().st_mode & 0o777, 0o700)
         (self.shop / "data.mdb").write_text("the shop")
         kept = (self.shop / "fonts" / "Sans.otf").stat()
         with open(self.shop / "seamwise") as running:  # goes on with the file it began with

@@ -1,5 +1,6 @@
 #include "jobcards/frmEditJOB.h"
 #include "masters/ClientFolder.h"
+#include "masters/frmClients.h"
 #include "masters/frmEditClients.h"
 #include "media/frmPreview.h"
 #include "platform/report/Preview.h"
@@ -133,6 +134,10 @@ private Q_SLOTS:
         inModal<frmSearchClient>([&](frmSearchClient& search) {
             fillIn(search, "txtName", u"souza"_s);
             listView(search, "lvResults").selectRow(0);
+            folderOpens();
+        });
+        inModal<frmClients>([&](frmClients&) {
+            press(Qt::Key_Down);
             folderOpens();
         });
         onNextModal<frmEditClients>([&](frmEditClients&) { folderOpens(); });
