@@ -4,11 +4,15 @@
 
 #include <QString>
 
+/// The Hindi of what stands on the worker's slip, from the word list. Words are looked up in any case and
+/// with blanks around them; one without Hindi comes back as it is.
+
 /// The font in which Hindi stands on paper. It comes with the program.
 inline const QString hindiPaperFont = u"Lohit Devanagari"_s;
 
-/// The Hindi of a word of the worker's slip (a caption, a garment, a measurement), in any case and with blanks
-/// around it; one without Hindi comes back as it is.
+/// Of a caption or a garment.
 QString hindiWord(const QString& word);
-/// The same of each line of a text.
-QString hindiLines(const QString& text);
+/// Of the names of a garment's measurements, line by line: some mean another thing on some garments.
+QString hindiMeasurements(const QString& names, const QString& garment);
+/// Of what was measured or chosen, line by line: "One", "Regular", "Front".
+QString hindiValues(const QString& values);

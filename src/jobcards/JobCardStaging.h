@@ -9,7 +9,7 @@
 /// They hold one job at a time, and keep it until the next print.
 
 /// Puts a job into the work tables, in one commit, so that another connection finds it whole. Throws
-/// ado::DatabaseError, and leaves them empty, when the job is gone.
+/// ado::DatabaseError when the job is gone; the tables then hold the job before it.
 void StageJobCard(qint32 JobID);
 
 /// Add a row to the work tables; money and dates are kept there as text.

@@ -50,7 +50,11 @@ frmEditJOB::frmEditJOB(QWidget* parent)
         });
     }
     onKeyPress(ui->cmbClient, [this](int& key) { typeClient(key); });
-    onLostFocus(ui->cmbClient, [this] { greetClient(); });
+    on(ui->cmbClient, &forms::ComboBox::clicked, &frmEditJOB::leaveClient);
+    onLostFocus(ui->cmbClient, [this] {
+        leaveClient();
+        greetClient();
+    });
     onLostFocus(ui->cmbAccount, [this] { ComboFindIndex(*ui->cmbAccount); });
     onKeyPress(ui->cmbAccount, [this](int& key) { key = AutoSearchCombo(*ui->cmbAccount, key); });
     on(ui->txtAmountPaid, &QLineEdit::textEdited, &frmEditJOB::limitPaid);
@@ -210,6 +214,7 @@ void frmEditJOB::showHead(const JobCardHead& head)
     ui->picBanner->setText(u"Welcome to "_s + session.ShopName);
     ui->JobDate->setValue(head.Date);
     ui->cmbClient->setText(head.Client);
+    m_measured = head.Client;
     ui->cmbAccount->setText(head.ReceiptAccount);
     ui->DateDel->setValue(head.DeliveryDate);
     ui->DateTrial->setValue(head.TrialDate);
@@ -267,13 +272,23 @@ void frmEditJOB::typeClient(int& key)
 {
     if (key == forms::key::CtrlA) {
         QString added;
-        frmEditClients().AddNewFromJobCard(added);
+        frmEditClients().AddNewFromJobCard(added, m_typedClient.unknown());
         if (!added.isEmpty()) {
+            m_typedClient.clear();
             fillClients();
             ui->cmbClient->setText(added);
         }
+    } else {
+        m_typedClient.take(*ui->cmbClient, key);
     }
     key = AutoSearchCombo(*ui->cmbClient, key);
+    showHelp();
+}
+
+void frmEditJOB::leaveClient()
+{
+    m_typedClient.clear();
+    showHelp();
 }
 
 /// Greets the client with the last visit and the balance.
@@ -380,6 +395,8 @@ void frmEditJOB::addLine()
         ui->cmbAccount->setFocus();
         return;
     }
+    if (m_card.JobRows.RowCount() == 1)
+        m_measured = ui->cmbClient->text();
     appendLine();
     DoTotal();
 }

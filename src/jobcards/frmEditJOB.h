@@ -2,6 +2,7 @@
 
 #include "jobcards/UnsavedCards.h"
 #include "platform/forms/Screen.h"
+#include "ui/TypedName.h"
 
 #include <memory>
 
@@ -51,6 +52,7 @@ private:
     void fillClients();
 
     void typeClient(int& key);
+    void leaveClient();
     void greetClient();
     void limitPaid();
     void showBalance();
@@ -79,6 +81,7 @@ private:
     void keepUnsaved();
     void undo();
     void showHelp();
+    QString notice() const;
 
     JobCardHead typedHead() const;
     JobCardHead head() const;
@@ -87,6 +90,8 @@ private:
 
     std::unique_ptr<Ui::frmEditJOB> ui;
     std::unique_ptr<swSMS> swSMS1;
+    TypedName m_typedClient;
+    QString m_measured; ///< the client whose measurements the lines began with
     JobCard m_card;
     bool CardChanged = false;
     std::optional<JobCardDraft> m_blank; ///< a new card as it was when it opened

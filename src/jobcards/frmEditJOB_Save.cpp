@@ -36,6 +36,7 @@ void frmEditJOB::save()
     } else {
         SaveEdit();
     }
+    ui->Command2->setFocus(); // Enter once more must not save once more
     offerSms();
 }
 

@@ -65,4 +65,16 @@ void frmEditJOB::showHelp()
         ui->lblUnsaved->setText(u"Ctrl+Z brings back the unsaved card "_s +
                                 unsavedCards.last().description());
     ui->lblUnsaved->setVisible(any);
+    ui->lblHelp->setNotice(notice());
+}
+
+/// What the operator should know of the client's name.
+QString frmEditJOB::notice() const
+{
+    if (const QString& nobody = m_typedClient.unknown(); !nobody.isEmpty())
+        return u"Nobody begins with '%1'  ·  Ctrl+A adds"_s.arg(nobody);
+    const bool measured = m_card.JobRows.RowCount() > 0 && !m_measured.isEmpty();
+    if (measured && ui->cmbClient->text() != m_measured)
+        return u"The garments keep the measurements of "_s + m_measured;
+    return {};
 }

@@ -112,7 +112,7 @@ void rptWorkerJobCard::useHindi()
             caption->FontSize *= hindiScale;
         }
     }
-    for (const auto& name : {u"txtItemName"_s, u"txtItemDetails"_s}) {
+    for (const auto& name : {u"txtItemName"_s, u"txtItemDetails"_s, u"Text1"_s}) {
         Field& field = section(u"Section1"_s).field(name);
         field.FontFamily = hindiPaperFont;
         field.FontSize *= hindiScale;
@@ -125,9 +125,12 @@ void rptWorkerJobCard::setLine(Row line)
     Section& section1 = section(u"Section1"_s);
     const Field& nameField = section1.field(u"txtItemDetails"_s);
     const Field& valueField = section1.field(u"Text1"_s);
-    if (m_hindi)
-        for (const QString& field : {nameField.DataField, u"ItemName"_s})
-            line.set(field, hindiLines(line.value(field).toString()));
+    if (m_hindi) {
+        const QString garment = line.value(u"ItemName"_s).toString();
+        line.set(u"ItemName"_s, hindiWord(garment.trimmed()));
+        line.set(nameField.DataField, hindiMeasurements(line.value(nameField.DataField).toString(), garment));
+        line.set(valueField.DataField, hindiValues(line.value(valueField.DataField).toString()));
+    }
     const QStringList names = line.value(nameField.DataField).toString().split(lineBreak);
     const QStringList values = line.value(valueField.DataField).toString().split(lineBreak);
     QStringList left;

@@ -5,6 +5,7 @@
 #include "core/store/Session.h"
 #include "masters/ClientFolder.h"
 #include "ui/ModOtherFUN.h"
+#include "ui/boxes.h"
 #include "ui_frmEditClients.h"
 
 #include <QStyle>
@@ -31,9 +32,10 @@ frmEditClients::frmEditClients()
 
 frmEditClients::~frmEditClients() = default;
 
-void frmEditClients::AddNewFromJobCard(QString& result)
+void frmEditClients::AddNewFromJobCard(QString& result, const QString& typedName)
 {
     m_fromJobCard = true;
+    m_typedName = typedName;
     m_newTitle.clear();
     AddNew();
     result = m_newTitle;
@@ -49,6 +51,7 @@ void frmEditClients::Form_KeyDown(int& key, Qt::KeyboardModifiers)
 
 void frmEditClients::clear()
 {
+    ui->txtName->setText(boxes::capitalized(m_typedName));
     for (swTextBox* box : {ui->txtAddress, ui->txtCity, ui->txtState, ui->txtMobile})
         box->setText({});
     ui->dateDob->setValue(session.WorkingDate);

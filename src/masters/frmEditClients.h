@@ -17,7 +17,8 @@ public:
     ~frmEditClients() override;
 
     /// Adds one client, called from a job card; `result` is the client's title, or empty if none was added.
-    void AddNewFromJobCard(QString& result);
+    /// The name begins with what was typed on the card.
+    void AddNewFromJobCard(QString& result, const QString& typedName = {});
 
 protected:
     void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
@@ -33,6 +34,7 @@ private:
 
     const std::unique_ptr<Ui::frmEditClients> ui;
     bool m_fromJobCard = false;
+    QString m_typedName;
     bool m_dobKnown = true; ///< the date in the picker is the client's
     QString m_newTitle;
 };

@@ -8,6 +8,7 @@
 #include "platform/forms/Palette.h"
 #include "platform/values/Numbers.h"
 #include "registers/JobLines.h"
+#include "ui/HelpLine.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
 
@@ -67,8 +68,8 @@ void LineRegister::setCriteria(const Criteria& criteria)
 {
     m_criteria = criteria;
     on(criteria.jobId, &QLineEdit::textChanged, [this](const QString& text) {
-        if (text.isEmpty())
-            SearchMode = Search::AllWorkers;
+        if (text.isEmpty() && SearchMode == Search::Card)
+            leaveCard();
     });
     onKeyPress(criteria.jobId, [this](int& key) {
         if (key != forms::key::Enter)
@@ -167,6 +168,8 @@ QString LineRegister::searchText() const
 void LineRegister::ExecuteSQL()
 {
     m_criteria.period.order();
+    m_criteria.help->setNotice({});
+    explainEmpty({});
     session.RefreshLists = false; // also if it fails: once told, the fault isn't told at each activation
     std::vector<forms::ListView::Row> rows;
     try {
@@ -201,6 +204,7 @@ forms::ListView::Row LineRegister::totalRow(size_t lines) const
     forms::ListView::Row total;
     for (int column = 0; column < m_criteria.list->model()->columnCount(); ++column)
         total.cells << u" "_s;
+    total.total = true;
     total.cells[totalColumn] = u"Total JOBS : %1"_s.arg(lines);
     total.looks[totalColumn] = {{}, {}, true, QColor(palette::emphasis)};
     return total;
@@ -216,16 +220,35 @@ void LineRegister::applyCondition(const QString& condition) { RemoveUnwanted(con
 void LineRegister::conditionStep()
 {
     ExecuteSQL();
-    if (const QString condition = m_criteria.condition->text(); condition != m_criteria.condition->List(0))
+    if (const QString condition = m_criteria.condition->text(); condition != m_criteria.condition->List(0)) {
         applyCondition(condition);
+        explainEmpty(condition);
+    }
     forms::ListView& list = *m_criteria.list;
     list.setTopRow(std::exchange(m_topRow, -1));
-    if (ReturnIndex < 1 || ReturnIndex > list.rowCount())
-        return;
-    const int row = ReturnIndex - 1;
-    const int line = tagOf(list, row) != 0 ? row : row - 1;
-    if (tagOf(list, line) != 0)
-        list.selectRow(line);
+    if (ReturnIndex >= 1 && tagOf(list, ReturnIndex - 1) != 0)
+        list.selectRow(ReturnIndex - 1);
+}
+
+/// Why the list has no lines, for the operator who sees an empty one.
+void LineRegister::explainEmpty(const QString& condition)
+{
+    const QString days =
+        (DateField == u"Date" ? u" with the job date "_s : u" with the delivery date "_s) + period().words();
+    QString text;
+    if (!condition.isEmpty())
+        text = u"None of these lines is in the state '%1'."_s.arg(condition);
+    else if (SearchMode == Search::Card)
+        text = u"There is no line of a job card '%1'."_s.arg(m_criteria.jobId->text());
+    else if (SearchMode == Search::ClientOnAllDays)
+        text = SearchClient + u" has no lines."_s;
+    else if (SearchMode == Search::Client)
+        text = SearchClient + u" has no lines"_s + days + u". "_s + otherDaysHint();
+    else if (SearchMode == Search::Worker)
+        text = ViewedWorker + u" has no lines"_s + days + u'.';
+    else
+        text = u"There are no lines"_s + days + u'.';
+    m_criteria.list->setProperty("emptyText", text);
 }
 
 void LineRegister::enterList()
@@ -260,29 +283,50 @@ void LineRegister::showClient(const QString& client, Search mode)
     enterList();
 }
 
-/// Shows the card of the number in the box. A line's code, as a scanner types it, chooses the line too; where
-/// there is none the box waits for the next.
+/// Shows the card of the number in the box. A line's code, as a scanner types it, chooses the line too. Where
+/// there is none no line is chosen, and the box waits for the next.
 void LineRegister::findJob()
 {
     SearchMode = Search::Card;
     ExecuteSQL();
     forms::ListView& list = *m_criteria.list;
-    int found = -1;
-    if (const std::optional<LineCode> code = readLineCode(m_criteria.jobId->text())) {
-        const QString name = lineCodeText(QString::number(code->job), QString::number(code->item));
-        for (int row = 0; row < list.rowCount() && found < 0; ++row)
-            if (list.cell(row, m_criteria.jobColumn) == name)
-                found = row;
-        if (found < 0)
-            QApplication::beep();
+    const QString typed = m_criteria.jobId->text().trimmed();
+    const bool wantsLine = typed.contains(u'/');
+    const int line = wantsLine ? rowOfCode(typed) : 0;
+    if (line < 0) {
+        QApplication::beep();
+        m_criteria.help->setNotice(u"There is no line %1: nothing is chosen"_s.arg(typed));
     }
-    if (tagOf(list, 0) == 0) {
+    if (line < 0 || tagOf(list, line) == 0) {
         m_criteria.jobId->setFocus();
         m_criteria.jobId->selectAll();
         return;
     }
-    list.selectRow(found);
-    enterList();
+    list.setFocus();
+    list.selectRow(line);
+}
+
+/// The row of the line with this code; -1: none.
+int LineRegister::rowOfCode(const QString& typed) const
+{
+    const std::optional<LineCode> code = readLineCode(typed);
+    if (!code)
+        return -1;
+    const QString name = lineCodeText(QString::number(code->job), QString::number(code->item));
+    int row = m_criteria.list->rowCount() - 1;
+    while (row >= 0 && m_criteria.list->cell(row, m_criteria.jobColumn) != name)
+        --row;
+    return row;
+}
+
+/// The emptied box leaves the card for the lines of all workers; the worker's box says so, unless another
+/// name was put there meanwhile.
+void LineRegister::leaveCard()
+{
+    SearchMode = Search::AllWorkers;
+    if (m_criteria.worker->text() == ViewedWorker)
+        m_criteria.worker->setText(allWorkers);
+    ViewedWorker = allWorkers;
 }
 
 // The selected row

@@ -5,6 +5,7 @@
 #include "platform/values/Literals.h"
 #include "ui/Period.h"
 
+class HelpLine;
 class LineNames;
 class QLineEdit;
 class QPushButton;
@@ -60,6 +61,7 @@ protected:
         forms::ComboBox* condition; ///< its first entry is no condition
         QPushButton* view;
         QPushButton* find;
+        HelpLine* help;
         bool balances = false; ///< the rows tell them, as they are at the end of the days
     };
 
@@ -80,6 +82,8 @@ protected:
     virtual QString order() const = 0;
     /// The row of the line on which `line` stands.
     virtual forms::ListView::Row rowOf(ado::Recordset& line, LineNames& names) const = 0;
+    /// How the operator gets at a client's lines of other days, for a list that has none of these.
+    virtual QString otherDaysHint() const = 0;
     /// Takes the lines off the list that the condition does not want: those of other states.
     virtual void applyCondition(const QString& condition);
     /// Lets the operator find a client, and lists the client's lines.
@@ -90,8 +94,8 @@ protected:
     /// Keeps the lines that `stays` wants, and counts them anew. The total row itself is asked too.
     void keepLines(const std::function<bool(const QStringList& cells)>& stays);
 
-    /// Rebuilds the list under its condition and comes back to the row kept in ReturnIndex; behind the last
-    /// line, to that. The total row is no line to work on.
+    /// Rebuilds the list under its condition and comes back to the row kept in ReturnIndex. Where the last
+    /// line has left the list none is selected: a key must not work on a line that nobody chose.
     void conditionStep();
     /// Shows the lines of the worker chosen, and puts the keys there; refuses criteria that make no sense.
     void view();
@@ -117,7 +121,10 @@ protected:
 private:
     void resetCriteria();
     void findJob();
+    int rowOfCode(const QString& typed) const;
+    void leaveCard();
     void openLine();
+    void explainEmpty(const QString& condition);
     void readLines(std::vector<forms::ListView::Row>& rows);
     forms::ListView::Row totalRow(size_t lines) const;
 

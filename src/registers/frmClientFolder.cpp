@@ -161,6 +161,7 @@ void frmClientFolder::showMeasurements()
             rows.push_back(std::move(row));
         }
     }
+    showHowMany(garment ? garment->orders.size() : 0);
     ui->lvMeasures->setColumns(columns);
     ui->lvMeasures->setRows(std::move(rows));
     ui->lvMeasures->selectRow(0);
@@ -168,11 +169,22 @@ void frmClientFolder::showMeasurements()
     showPictures(garment ? *garment : history::Garment());
 }
 
+/// Not every order of a garment that was ordered often has a column.
+void frmClientFolder::showHowMany(size_t orders)
+{
+    QString caption = u"Measurements, what changed from one order to the next in colour"_s;
+    if (orders > ordersShown)
+        caption += u"; the newest %1 of %2 orders"_s.arg(ordersShown).arg(orders);
+    ui->lblMeasures->setText(caption);
+}
+
 /// Those of the newest orders.
 void frmClientFolder::showPictures(const history::Garment& garment)
 {
-    for (QPushButton* button : m_pictures)
-        delete button;
+    for (QPushButton* button : m_pictures) {
+        button->hide();
+        button->deleteLater(); // its click may still be under way
+    }
     m_pictures.clear();
     for (const history::Order& order : garment.orders) {
         for (const QString& path : order.pictures) {
@@ -215,6 +227,8 @@ void frmClientFolder::print()
     forms::ListSheet sheet = forms::sheetOf(*ui->lvMeasures);
     sheet.title = u"Measurements of "_s + m_client;
     sheet.criteria = {garment->item, dateText(session.WorkingDate)};
+    if (const size_t orders = garment->orders.size(); orders > size_t(ordersOnPaper))
+        sheet.criteria << u"the newest %1 of %2 orders"_s.arg(ordersOnPaper).arg(orders);
     const size_t columns = std::min(sheet.columns.size(), size_t(FirstOrder + ordersOnPaper));
     sheet.columns.resize(columns);
     for (forms::ListSheet::Row& row : sheet.rows)

@@ -32,6 +32,7 @@ private:
     void showCards();
     void showGarments();
     void showMeasurements();
+    void showHowMany(size_t orders);
     void showPictures(const history::Garment& garment);
     void openCard();
     void print();

@@ -21,7 +21,8 @@ frmDeliveryRegister::frmDeliveryRegister()
                  .worker = ui->cmbClient,
                  .condition = ui->cmbCondition,
                  .view = ui->Command4,
-                 .find = ui->Command8});
+                 .find = ui->Command8,
+                 .help = ui->lblHelp});
     DateField = u"JobDelDate"_s;
     ui->lvSummary->setColumns({{u"Del. Date"_s, 11, Qt::AlignLeft, 106},
                                {u"Date"_s, 11, Qt::AlignLeft, 106},
@@ -95,3 +96,5 @@ void frmDeliveryRegister::quickFind()
     ui->cmbClient->setText(client);
     showClient(client, Search::Client);
 }
+
+QString frmDeliveryRegister::otherDaysHint() const { return u"Ctrl+E chooses other days."_s; }

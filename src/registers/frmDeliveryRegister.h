@@ -22,6 +22,7 @@ protected:
     QString order() const override;
     forms::ListView::Row rowOf(ado::Recordset& line, LineNames& names) const override;
     void quickFind() override;
+    QString otherDaysHint() const override;
 
 private:
     enum Column { JobColumn = 3, StatusColumn = 8 };

@@ -32,6 +32,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
                  .condition = ui->cmbCondition,
                  .view = ui->Command4,
                  .find = ui->Command8,
+                 .help = ui->lblHelp,
                  .balances = true});
     // What the shares leave is the balance's. A column never gets too narrow for what it mostly holds.
     ui->lvSummary->setColumns({{u"Date"_s, 10, Qt::AlignLeft, 110},
@@ -187,6 +188,11 @@ void frmWorkerJobRegister::quickFind()
     SearchClient2(allJobs, client);
     if (!client.isEmpty())
         showClient(client, allJobs == 1 ? Search::ClientOnAllDays : Search::Client);
+}
+
+QString frmWorkerJobRegister::otherDaysHint() const
+{
+    return u"Ctrl+F with 'Show all jobs' ticked lists those of all days."_s;
 }
 
 /// The worker picked from the numbers of lines of all.

@@ -37,6 +37,7 @@ protected:
     forms::ListView::Row rowOf(ado::Recordset& line, LineNames& names) const override;
     void applyCondition(const QString& condition) override;
     void quickFind() override;
+    QString otherDaysHint() const override;
 
 private:
     enum Column { JobColumn = 1, ClientColumn = 2, WorkerColumn = 6, CuttingColumn = 7, StatusColumn = 8 };
@@ -65,6 +66,7 @@ private:
     bool asked(const QString& question) const;
     void writeLine(qint32 line, const std::function<void(ado::Recordset& row)>& write);
     void writeDelivered(qint32 job);
+    void refreshAfterMark();
 
     const std::unique_ptr<Ui::frmWorkerJobRegister> ui;
     DetailsPanel* m_details;

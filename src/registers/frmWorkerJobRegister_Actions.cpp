@@ -84,9 +84,7 @@ void frmWorkerJobRegister::writeLine(qint32 line, const std::function<void(ado::
     write(row);
     row.Update();
     row.Close();
-    keepPosition();
-    conditionStep();
-    enterList();
+    refreshAfterMark();
 }
 
 void frmWorkerJobRegister::markCuttingDone()
@@ -142,9 +140,7 @@ void frmWorkerJobRegister::deliverWholeCard()
     if (job == 0 || !asked(u"Job Card as Delivered to Client?"_s))
         return;
     writeDelivered(job);
-    keepPosition();
-    conditionStep();
-    enterList();
+    refreshAfterMark();
 }
 
 void frmWorkerJobRegister::DeliverJobCard()
@@ -154,6 +150,14 @@ void frmWorkerJobRegister::DeliverJobCard()
         return;
     writeDelivered(job);
     ExecuteSQL();
+}
+
+/// The keys stay with the list.
+void frmWorkerJobRegister::refreshAfterMark()
+{
+    keepPosition();
+    conditionStep();
+    ui->lvSummary->setFocus();
 }
 
 /// Also the lines that are not on the list.

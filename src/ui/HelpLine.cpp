@@ -1,5 +1,7 @@
 #include "ui/HelpLine.h"
 
+#include "platform/forms/Palette.h"
+
 #include <QPainter>
 #include <QStyle>
 
@@ -13,14 +15,36 @@ HelpLine::HelpLine(QWidget* parent)
     setProperty("hint", true);
 }
 
+void HelpLine::setNotice(const QString& notice)
+{
+    if (notice == m_notice)
+        return;
+    m_notice = notice;
+    setAccessibleDescription(notice);
+    update();
+}
+
 void HelpLine::paintEvent(QPaintEvent*)
 {
     const QString separator = u"  ·  "_s;
-    const QRect room = contentsRect().adjusted(qMax(0, indent()), 0, 0, 0);
+    constexpr int gap = 20; // between the notice and the keys
+    QRect room = contentsRect().adjusted(qMax(0, indent()), 0, 0, 0);
+    QPainter painter(this);
+    if (!m_notice.isEmpty()) {
+        painter.save();
+        QFont strong = font();
+        strong.setBold(true);
+        painter.setFont(strong);
+        painter.setPen(QColor(palette::notice));
+        const QFontMetrics metrics(strong);
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
+                         metrics.elidedText(m_notice, Qt::ElideRight, room.width()));
+        room.setLeft(room.left() + metrics.horizontalAdvance(m_notice) + gap);
+        painter.restore();
+    }
     QString shown = text();
     while (fontMetrics().horizontalAdvance(shown) > room.width() && !shown.isEmpty())
         shown.truncate(qMax<qsizetype>(0, shown.lastIndexOf(separator)));
-    QPainter painter(this);
     style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
                           foregroundRole());
 }

@@ -10,6 +10,14 @@ class HelpLine : public QLabel
 public:
     explicit HelpLine(QWidget* parent = nullptr);
 
+    /// What the operator should know at the moment: it stands in front of the keys and stands out from them.
+    /// Empty when there is nothing to know.
+    void setNotice(const QString& notice);
+    QString notice() const { return m_notice; }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_notice;
 };

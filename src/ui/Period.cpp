@@ -33,6 +33,8 @@ void Period::order()
 
 QString Period::text() const { return dateText(from()) + u" To "_s + dateText(to()); }
 
+QString Period::words() const { return from() == to() ? dateText(from()) : text(); }
+
 QString Period::between() const { return sqlDates(from(), to()); }
 
 QString Period::betweenShort() const

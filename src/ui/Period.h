@@ -30,6 +30,8 @@ public:
 
     /// "01-Feb-2024 To 10-Feb-2024".
     QString text() const;
+    /// The same, of one day just that: "10-Feb-2024".
+    QString words() const;
     /// The days between the marks of a statement: "#01-Feb-2024# and #10-Feb-2024#".
     QString between() const;
     /// The same in the short form of dates: "#2024-02-01# and #2024-02-10#".

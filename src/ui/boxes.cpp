@@ -23,6 +23,14 @@ void writeTitles(QLineEdit& box)
     });
 }
 
+QString capitalized(QString text)
+{
+    for (qsizetype i = 0; i < text.size(); ++i)
+        if (i == 0 || text[i - 1] == u' ')
+            text[i] = text[i].toUpper();
+    return text;
+}
+
 QString unselectedText(const QLineEdit& box)
 {
     QString rest = box.text();

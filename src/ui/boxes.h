@@ -16,6 +16,9 @@ QString shown(const QString& text, int boxType);
 /// Each apostrophe that is typed or pasted into the box becomes the one that titles are written with.
 void writeTitles(QLineEdit& box);
 
+/// Each word begun with a capital, as a plain box does while it is typed in.
+QString capitalized(QString text);
+
 /// What stays of a box's text when a key replaces its selection.
 QString unselectedText(const QLineEdit& box);
 

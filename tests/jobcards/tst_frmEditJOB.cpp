@@ -3,6 +3,7 @@
 #include "jobcards/frmEditJOB.h"
 #include "masters/frmEditClients.h"
 #include "support/ShopTest.h"
+#include "ui/HelpLine.h"
 
 static forms::ListView& lines(frmEditJOB& job) { return listView(job, "lvItems"); }
 
@@ -103,6 +104,7 @@ private Q_SLOTS:
             prompts->expect("New Job Created.");
             press(Qt::Key_Return); // on "Save"
             QCOMPARE(label(job, "lblTitle"), "Edit JOB Card");
+            QCOMPARE(focused(job), "Command2"); // Enter once more does not save once more
             press(Qt::Key_Escape);
             QVERIFY(!job.isVisible());
         });
@@ -110,6 +112,35 @@ private Q_SLOTS:
         QCOMPARE(count("Jobs where ID=2 and Remark='Wedding' and CashAccID=4"), 1);
         QCOMPARE(count("Jobs_Detail where JobID=2 and WorkerWagesDue=120"), 1);
         QCOMPARE(GetBalance(qint16(asha), session.WorkingDate), -800.0);
+    }
+
+    void aNameThatNobodyHas()
+    {
+        onNewCard([&](frmEditJOB& job) {
+            const auto notice = [&] { return control<HelpLine>(job, "lblHelp").notice(); };
+            typeText("as");
+            QCOMPARE(notice(), "");
+            typeText("im k");
+            QCOMPARE(combo(job, "cmbClient").text(), "Asha Rao"); // the nearest stays in the box
+            QCOMPARE(notice(), "Nobody begins with 'Asim k'  ·  Ctrl+A adds");
+            onNextModal<frmEditClients>([&](frmEditClients& client) {
+                QCOMPARE(field(client, "txtName").text(), "Asim K");
+                prompts->expect("New Client Created.");
+                save();
+            });
+            press(Qt::Key_A, Qt::ControlModifier);
+            QTRY_COMPARE(combo(job, "cmbClient").text(), "Asim K");
+            QCOMPARE(notice(), "");
+            fillIn(job, "cmbClient", "asx");
+            press(Qt::Key_Backspace);
+            QCOMPARE(notice(), "");
+            combo(job, "cmbClient").setText("Asha Rao");
+            addLine(job, "Shirt", "1", "100");
+            combo(job, "cmbClient").setText("Asim K");
+            combo(job, "cmbClient").setFocus();
+            press(Qt::Key_Tab);
+            QCOMPARE(notice(), "The garments keep the measurements of Asha Rao");
+        });
     }
 
     void refusals()

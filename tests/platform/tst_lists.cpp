@@ -149,7 +149,16 @@ private Q_SLOTS:
                                                 "'=1+1\tआशा\t\nTotal\t1.00\t"));
             view->selectRow(2);
             press(Qt::Key_C, Qt::ControlModifier);
-            QCOMPARE(clipboard->text(), "Total\t1.00\t");
+            QCOMPARE(clipboard->text(), "Client\tDue\tSince\nTotal\t1.00\t");
+            press(Qt::Key_Up, Qt::ShiftModifier);
+            press(Qt::Key_C, Qt::ControlModifier); // one row at a time, where rows are worked on
+            QCOMPARE(clipboard->text(), "Client\tDue\tSince\n'=1+1\tआशा\t");
+            view->setSeveral(true);
+            press(Qt::Key_Up, Qt::ShiftModifier);
+            QCOMPARE(view->selectedRow(), 0);
+            press(Qt::Key_C, Qt::ControlModifier);
+            QCOMPARE(clipboard->text(), "Client\tDue\tSince\nAsha \"A\", Agra\t-12.50\t09-Feb-2024\n"
+                                        "'=1+1\tआशा\t");
 
             const ListSheet sheet = sheetOf(*view);
             QCOMPARE(sheet.criteria, QStringList("Agra"));

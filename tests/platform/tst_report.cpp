@@ -145,12 +145,12 @@ private Q_SLOTS:
     {
         setPrintPatience(500);
         for (const auto& [script, told] :
-             {std::pair("echo 'lp: Error - no default destination.' >&2; exit 1",
+             {std::pair("echo '/usr/bin/lp: Error - No default destination.' >&2; exit 1",
                         " was not printed: this computer has no printer, or none of its printers is the "
                         "default one.\n\nSet up a printer in the computer's settings and make it the default "
                         "one. In the preview, \"Print\" lets you choose among the printers and \"Save as "
                         "PDF\" keeps the paper as a file."),
-              std::pair("echo 'lp: jammed' >&2; exit 1", " was not printed.\n\nlp: jammed"),
+              std::pair("echo 'lp: jammed' >&2; exit 1", " was not printed.\n\njammed"),
               std::pair("exec yes", " was not printed.\n\nThe print system gives no reason."),
               std::pair("", " was not printed: this computer has no print system (the program \"lp\" is "
                             "missing).")}) {

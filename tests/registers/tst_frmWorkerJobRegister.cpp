@@ -6,6 +6,7 @@
 #include "registers/frmSearchClient.h"
 #include "registers/frmWorkerJobRegister.h"
 #include "support/ShopTest.h"
+#include "ui/HelpLine.h"
 
 #include <QMenu>
 #include <QSignalSpy>
@@ -139,6 +140,9 @@ private Q_SLOTS:
             QCOMPARE(find(false, "Asha"), "1 2 3 of 3");
             QCOMPARE(find(true, "Asha"), "1 2 3 4 of 4");
             QCOMPARE(find(false, "Bela"), " of 0");
+            QCOMPARE(lines(screen).property("emptyText").toString(),
+                     "Bela has no lines with the job date 10-Feb-2024 To 11-Feb-2024. Ctrl+F with 'Show all "
+                     "jobs' ticked lists those of all days.");
         });
     }
 
@@ -168,10 +172,18 @@ private Q_SLOTS:
             QCOMPARE(lines(screen).topRow(), top);
             QCOMPARE(lines(screen).selectedRow(), 38);
             QCOMPARE(focused(screen), "lvSummary");
+            press(Qt::Key_1); // as if a garment were scanned
+            press(Qt::Key_Backspace);
+            choose(screen, "Completed");
+            choose(screen, "*All");
+            QCOMPARE(shown(screen), ravis);
             fillIn(screen, "txtSearchID", "2");
             press(Qt::Key_Return);
             QCOMPARE(focused(screen), "lvSummary");
             QCOMPARE(lines(screen).selectedRow(), 0);
+            combo(screen, "cmbClient").setText("Ravi");
+            field(screen, "txtSearchID").clear(); // leaves the card for all workers
+            QCOMPARE(combo(screen, "cmbClient").text(), "*All");
         });
     }
 
@@ -184,11 +196,18 @@ private Q_SLOTS:
             press(Qt::Key_F8);
             QCOMPARE(stored("DoneByWorker", 2), "2");
             for (const auto& [code, seen] :
-                 {std::pair("2/3", "3 of 1; 3"), std::pair("1/9", "1 2 4 of 3; 1"), // no such line
-                  std::pair("77/1", " of 0; "), std::pair(" 1/4 ", "1 2 4 of 3; 4")}) {
+                 {std::pair("2/3", "3 of 1; 3"), std::pair("1/9", "1 2 4 of 3; "), // no such line
+                  std::pair("1/", "1 2 4 of 3; "), std::pair("77/1", " of 0; "),
+                  std::pair(" 1/4 ", "1 2 4 of 3; 4")}) {
                 typeText(code);
                 press(Qt::Key_Return);
                 QCOMPARE(shown(screen) + "; " + chosen(), seen);
+                const bool found = !chosen().isEmpty();
+                QCOMPARE(focused(screen), found ? "lvSummary" : "txtSearchID");
+                QCOMPARE(control<HelpLine>(screen, "lblHelp").notice(),
+                         found ? QString() : u"There is no line %1: nothing is chosen"_s.arg(code));
+                if (!found)
+                    press(Qt::Key_F8); // asks nothing
             }
         });
         inModal<frmMain>([](frmMain& main) {

@@ -144,7 +144,10 @@ void frmMain::Form_KeyPress(int& key)
     if (key != forms::key::Escape)
         return;
     key = 0;
-    if (ShowMsg(u"Are you sure to exit?"_s, 2))
+    if (!ShowMsg(u"Are you sure to exit?"_s, 2))
+        return;
+    if (unsavedCards.isEmpty() ||
+        ShowMsg(u"A job card that was left unsaved will be lost. Exit all the same?"_s, 2))
         unload();
 }
 

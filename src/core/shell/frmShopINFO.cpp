@@ -13,6 +13,8 @@ frmShopINFO::frmShopINFO()
 {
     ui->setupUi(this);
     on(ui->Check1, &QCheckBox::clicked, &frmShopINFO::toggleLogin);
+    on(ui->chShowPassword, &QCheckBox::toggled,
+       [this](bool shown) { ui->txtPassword->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password); });
     on(ui->Command1, &QPushButton::clicked, &frmShopINFO::save);
 }
 
@@ -30,6 +32,7 @@ void frmShopINFO::Form_Load()
     ui->txtCONTACTS->setText(shop["Contacts"].text());
     shop.Close();
 
+    ui->chShowPassword->setChecked(false);
     const bool locked = GetSetting(settings::LoginRequired) == "1"_L1;
     ui->Check1->setChecked(locked);
     ui->Frame1->setEnabled(locked);

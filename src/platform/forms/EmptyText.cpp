@@ -8,8 +8,6 @@ namespace forms {
 void paintEmptyText(const QAbstractItemView& list)
 {
     constexpr int margin = 16;
-    if (list.model()->rowCount() > 0)
-        return;
     QPainter painter(list.viewport());
     painter.setFont(list.font());
     painter.setPen(list.palette().color(QPalette::PlaceholderText));

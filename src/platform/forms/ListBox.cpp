@@ -102,7 +102,8 @@ void ListBox::keyPressEvent(QKeyEvent* event)
 void ListBox::paintEvent(QPaintEvent* event)
 {
     QListView::paintEvent(event);
-    paintEmptyText(*this);
+    if (ListCount() == 0)
+        paintEmptyText(*this);
 }
 
 void ListBox::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)

@@ -107,7 +107,7 @@ ListSheet sheetOf(const QAbstractItemView& list)
         for (int column = 0; column < model.columnCount(); ++column) {
             const QModelIndex cell = model.index(row, column);
             line.cells << cell.data().toString();
-            line.isBold = line.isBold || cell.data(Qt::FontRole).value<QFont>().bold();
+            line.bold.push_back(cell.data(Qt::FontRole).value<QFont>().bold());
         }
         sheet.rows.push_back(std::move(line));
     }

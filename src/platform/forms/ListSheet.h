@@ -20,7 +20,8 @@ struct ListSheet
     struct Row
     {
         QStringList cells;
-        bool isBold = false; ///< a total
+        std::vector<bool> bold; ///< by column; those left out are not
+        bool isBold(size_t column) const { return column < bold.size() && bold[column]; }
     };
 
     QString title;        ///< of the screen

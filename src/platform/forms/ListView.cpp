@@ -85,7 +85,7 @@ public:
         if (!has(index.row()) || index.column() < 0 || index.column() >= columnCount())
             return {};
         if (role == Qt::DisplayRole)
-            return m_rows[size_t(index.row())].cells.value(index.column()).replace(u'\n', u' ');
+            return oneLine(m_rows[size_t(index.row())].cells.value(index.column()));
         if (role == Qt::TextAlignmentRole)
             return alignment(index.column());
         if (role == Qt::SizeHintRole)
@@ -114,6 +114,10 @@ public:
         m_rows.clear();
         m_columns = columns;
         endResetModel();
+    }
+    bool isEmpty() const
+    {
+        return std::all_of(m_rows.begin(), m_rows.end(), [](const Row& row) { return row.total; });
     }
     bool has(int row) const { return row >= 0 && row < rowCount(); }
     Row* row(int row) { return has(row) ? &m_rows[size_t(row)] : nullptr; }
@@ -146,6 +150,10 @@ public:
     }
 
 private:
+    static QString oneLine(QString text)
+    {
+        return text.contains(u'\n') ? text.remove(u'\r').replace(u'\n', u' ') : text;
+    }
     static QVariant data(const Look& look, int role)
     {
         switch (role) {
@@ -192,6 +200,8 @@ ListView::ListView(QWidget* parent)
 }
 
 ListView::~ListView() = default;
+
+void ListView::setSeveral(bool several) { setSelectionMode(several ? ExtendedSelection : SingleSelection); }
 
 void ListView::setColumns(const std::vector<Column>& columns)
 {
@@ -305,6 +315,9 @@ int ListView::rowCount() const { return m_rows->rowCount(); }
 
 int ListView::selectedRow() const
 {
+    const QModelIndex current = currentIndex();
+    if (selectionModel()->isSelected(current))
+        return current.row();
     const QModelIndexList selected = selectionModel()->selectedRows();
     return selected.isEmpty() ? -1 : selected.first().row();
 }
@@ -417,12 +430,15 @@ void ListView::drawRow(QPainter* painter, const QStyleOptionViewItem& option, co
 void ListView::paintEvent(QPaintEvent* event)
 {
     QTreeView::paintEvent(event);
-    paintEmptyText(*this);
+    if (m_rows->isEmpty())
+        paintEmptyText(*this);
 }
 
 void ListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
 {
     QTreeView::selectionChanged(selected, deselected);
+    if (header()->length() < viewport()->width())
+        viewport()->update(); // a row reaches further than its cells
     Q_EMIT selectionMoved();
 }
 

@@ -42,6 +42,7 @@ public:
         QString tag = {};
         QMap<int, Look> looks = {}; ///< by column
         bool apart = false;         ///< stands on a shade, as a total does
+        bool total = false;         ///< sums up the others: a list of it alone counts as empty
     };
 
     explicit ListView(QWidget* parent = nullptr);
@@ -49,6 +50,10 @@ public:
 
     /// Lays out the columns anew; rows go. Widths follow the view's width.
     void setColumns(const std::vector<Column>& columns);
+
+    /// Whether several rows can be chosen, with Shift or Ctrl held, to be copied. For lists whose rows are
+    /// not worked on: a key must never mark one row of several that look chosen.
+    void setSeveral(bool several);
 
     /// Adds a row at the end and returns its number.
     int addRow(const QStringList& cells, const QString& tag = {});
@@ -71,7 +76,7 @@ public:
     void removeRow(int row);
     void Clear();
     int rowCount() const;
-    /// -1: none.
+    /// The row that is selected, of several the one chosen last; -1: none.
     int selectedRow() const;
     /// Selects a row and brings it into view; a row outside the list selects none.
     void selectRow(int row);

@@ -17,6 +17,7 @@ inline constexpr QRgb white = 0xFFFFFFFF;
 inline constexpr QRgb accent = 0xFF0F766E;      ///< what is selected
 inline constexpr QRgb accentLight = 0xFFA9D3CD; ///< beside it, on a chart
 inline constexpr QRgb emphasis = 0xFFFF0000;
+inline constexpr QRgb notice = 0xFF9A3412; ///< what the operator should know at the moment
 inline constexpr QRgb desk = 0xFF8C949C;   ///< behind a sheet of paper
 inline constexpr QRgb shadow = 0x3C000000; ///< of a sheet of paper
 

@@ -43,10 +43,13 @@ QAbstractItemView* listOf(QWidget* widget)
 void copy(const QAbstractItemView& list)
 {
     forms::ListSheet sheet = forms::sheetOf(list);
-    if (const QModelIndexList chosen = list.selectionModel()->selectedRows(); !chosen.isEmpty()) {
-        sheet.rows = {sheet.rows[size_t(chosen.front().row())]};
-        for (forms::ListSheet::Column& column : sheet.columns)
-            column.title.clear();
+    QModelIndexList chosen = list.selectionModel()->selectedRows();
+    if (!chosen.isEmpty()) {
+        std::sort(chosen.begin(), chosen.end());
+        std::vector<forms::ListSheet::Row> rows;
+        for (const QModelIndex& each : chosen)
+            rows.push_back(std::move(sheet.rows[size_t(each.row())]));
+        sheet.rows = std::move(rows);
     }
     if (!sheet.rows.empty())
         QGuiApplication::clipboard()->setText(forms::tabbed(sheet));

@@ -130,7 +130,7 @@ std::unique_ptr<Report> listPaper(const forms::ListSheet& sheet)
         for (size_t column = 0; column < widths.size(); ++column)
             for (const bool bold : {false, true})
                 row.set(fieldName(column, bold),
-                        bold == each.isBold ? each.cells.value(int(column)).trimmed() : QString());
+                        bold == each.isBold(column) ? each.cells.value(int(column)).trimmed() : QString());
         rows.push_back(std::move(row));
     }
     paper->setDataSource(std::move(rows));

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QPointer>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -41,6 +42,14 @@ void tellFailure(const QString& text)
     QMetaObject::invokeMethod(qApp, tell, Qt::QueuedConnection);
 }
 
+/// What the print system says, without the name of the program that says it: "lp: Error - " or its path.
+QString withoutProgram(QString complaint)
+{
+    static const QRegularExpression program(u"^\\S*\\blp: (Error - )?"_s,
+                                            QRegularExpression::MultilineOption);
+    return complaint.remove(program);
+}
+
 void tellEnd(SpoolerRun::End end, const QString& title, const QString& complaint)
 {
     switch (end) {
@@ -51,7 +60,7 @@ void tellEnd(SpoolerRun::End end, const QString& title, const QString& complaint
                     "\"lp\" is missing)."_s.arg(title));
         return;
     case SpoolerRun::End::Refused:
-        if (complaint.contains("no default destination"_L1)) {
+        if (complaint.contains("no default destination"_L1, Qt::CaseInsensitive)) {
             tellFailure(
                 u"\"%1\" was not printed: this computer has no printer, or none of its printers is the "
                 "default one.\n\nSet up a printer in the computer's settings and make it the default "
@@ -60,7 +69,7 @@ void tellEnd(SpoolerRun::End end, const QString& title, const QString& complaint
             return;
         }
         tellFailure(u"\"%1\" was not printed.\n\n%2"_s.arg(
-            title, complaint.isEmpty() ? u"The print system gives no reason."_s : complaint));
+            title, complaint.isEmpty() ? u"The print system gives no reason."_s : withoutProgram(complaint)));
         return;
     case SpoolerRun::End::Silent:
         tellFailure(u"The printer does not answer. \"%1\" may not have been printed."_s.arg(title));
