@@ -56,6 +56,16 @@ void frmEditItem::read(ado::Recordset& row)
     ui->txtPendingOrdersBal->setText(row["OpPendingOrders"].text());
 }
 
+/// Ctrl+Enter leaves the template from any line.
+void frmEditItem::Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers)
+{
+    if (key != forms::key::Enter || !modifiers.testFlag(Qt::ControlModifier) ||
+        !ui->txtItemDetails->hasFocus())
+        return;
+    key = 0;
+    ui->txtFees->setFocus();
+}
+
 /// A second Enter straight after the first ends the template instead of adding a blank line.
 void frmEditItem::templateKey(int& key)
 {

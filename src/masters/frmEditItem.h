@@ -17,6 +17,9 @@ public:
     frmEditItem();
     ~frmEditItem() override;
 
+protected:
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
+
 private:
     void clear() override;
     void read(ado::Recordset& row) override;

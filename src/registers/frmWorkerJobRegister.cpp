@@ -40,7 +40,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
                                {u"Client Name"_s, 12, Qt::AlignLeft, 130},
                                {u"Item Name"_s, 12, Qt::AlignLeft, 110},
                                {u"Remark"_s, 7, Qt::AlignLeft, 80},
-                               {u"Del. Date"_s, 10, Qt::AlignLeft, 160},
+                               {u"Del. Date"_s, 10, Qt::AlignLeft, 178},
                                {u"Worker Name"_s, 7, Qt::AlignLeft, 112},
                                {u"Cutting"_s, 7, Qt::AlignLeft, 84},
                                {u"Status"_s, 10, Qt::AlignLeft, 124},

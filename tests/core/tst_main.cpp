@@ -4,6 +4,7 @@
 #include "core/shell/frmShopINFO.h"
 #include "core/shell/modMain.h"
 #include "core/store/Schema.h"
+#include "jobcards/UnsavedCards.h"
 #include "masters/frmClients.h"
 #include "support/ShopTest.h"
 
@@ -103,6 +104,16 @@ private Q_SLOTS:
                 QVERIFY(!masters.isVisible());
             });
             press(Qt::Key_M, Qt::AltModifier);
+            unsavedCards = {};
+            unsavedCards.keep({});
+            for (const Answer answer : {Answer::No, Answer::Yes}) {
+                prompts->expect("Are you sure to exit?", answer);
+                if (answer == Answer::Yes)
+                    prompts->expect("A job card that was left unsaved will be lost. Exit all the same?",
+                                    Answer::No);
+                press(Qt::Key_Escape);
+            }
+            unsavedCards = {};
             for (const Answer answer : {Answer::No, Answer::Esc, Answer::Yes}) {
                 QVERIFY(main.isVisible());
                 prompts->expect("Are you sure to exit?", answer);

@@ -36,6 +36,9 @@ private Q_SLOTS:
                 typeFields({"Length", "Chest=40"});
                 press(Qt::Key_Return); // a second Enter in a row ends the template
                 QCOMPARE(focused(form), "txtFees");
+                details(form).setFocus();
+                press(Qt::Key_Return, Qt::ControlModifier);
+                QCOMPARE(focused(form), "txtFees");
                 typeFields({"450.5", "120", "8", "two"});
                 QCOMPARE(focused(form), "Command1");
                 onNextModal<frmEditItem>([](frmEditItem& next) {

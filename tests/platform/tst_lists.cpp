@@ -172,6 +172,11 @@ private Q_SLOTS:
             QVERIFY(pages[0].startsWith("Dues Agra Client Due Since Asha \"A\", Agra -12.50 09-Feb-2024"));
             QVERIFY(pages[1].startsWith("Dues Agra Client Due Since Ravi") && pages[1].endsWith("2 of 2"));
 
+            ListSheet wide;
+            wide.columns = {{"JOB ID"}, {"Remark"}};
+            wide.rows.push_back({{"1/1", QString("Velvet collar ").repeated(40)}, {}});
+            QVERIFY(readBack(*report::listPaper(wide))[0].contains("JOB ID Remark 1/1 Velvet"));
+
             const QTemporaryDir folder;
             Prompts prompts;
             for (const char* path : {"/list.csv", "/none/list.csv"}) {

@@ -208,6 +208,7 @@ void Screen::unload()
     const bool wasFront = front() == this;
     leaveChain();
     closePopups();
+    move(pos()); // where it stands is where it comes again
     hide();
     if (m_loop)
         m_loop->quit();
@@ -346,10 +347,13 @@ void Screen::paintEvent(QPaintEvent* event)
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-/// Stands over the middle of the screen below.
+/// Stands over the middle of the screen below when it first comes; after that, where it was left.
 void Screen::showEvent(QShowEvent* event)
 {
+    const bool stoodBefore = testAttribute(Qt::WA_Moved);
     QDialog::showEvent(event);
+    if (stoodBefore)
+        return;
     const auto& screens = chain();
     const auto self = std::find(screens.begin(), screens.end(), this);
     if (!event->spontaneous() && self != screens.begin() && self != screens.end())

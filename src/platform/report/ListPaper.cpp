@@ -16,6 +16,7 @@ namespace {
 
 constexpr int gap = 130;   ///< between two columns
 constexpr int least = 400; ///< a column's width
+constexpr int slack = 40;  ///< a small type is set a little wider than the large one that is measured
 constexpr int rowHeight = 290;
 constexpr double typeSize = 9;
 
@@ -32,7 +33,7 @@ std::vector<int> wanted(const forms::ListSheet& sheet, const QString& family)
         double width = metrics.horizontalAdvance(sheet.columns[column].title);
         for (const forms::ListSheet::Row& row : sheet.rows)
             width = std::max(width, metrics.horizontalAdvance(row.cells.value(int(column))));
-        widths.push_back(std::max(least, int(width * twips) + gap));
+        widths.push_back(std::max(least, int(width * twips) + slack + gap));
     }
     return widths;
 }
