@@ -23,6 +23,27 @@ void refuseTakenNumber(qint32 number)
 
 } // namespace
 
+QString JobCardHead::dateNotice() const
+{
+    constexpr int tenMonths = 304; // days
+    QStringList early;
+    QStringList notices;
+    for (const auto& [name, day] :
+         {std::pair(u"Delivery"_s, DeliveryDate), std::pair(u"Trial"_s, TrialDate)}) {
+        if (day < Date)
+            early += name;
+        else if (day > Date.addDays(tenMonths))
+            notices += u"%1 is %2 days after the card's date"_s.arg(name).arg(Date.daysTo(day));
+    }
+    if (!early.isEmpty())
+        notices.prepend(early.join(u" and "_s).toLower() + (early.size() > 1 ? u" are"_s : u" is"_s) +
+                        u" before the card's date"_s);
+    QString notice = notices.join(u"  ·  "_s);
+    if (!notice.isEmpty())
+        notice[0] = notice[0].toUpper();
+    return notice;
+}
+
 qint32 JobCard::GetNewNum()
 {
     qint32 last = values::CLng(values::Val(GetSetting(settings::FirstJobNumber)) - 1, u"First JOB ID"_s);

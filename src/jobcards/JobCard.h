@@ -26,6 +26,10 @@ struct JobCardHead
     QString CancelReason;
 
     bool operator==(const JobCardHead&) const = default;
+
+    /// Which of the promised dates can hardly be meant: those before the card's own, and those more than ten
+    /// months behind it. Empty when all are well.
+    QString dateNotice() const;
 };
 
 /// The one job card that is open: its lines, and what its saves must know of them. A card is written as head,

@@ -2,6 +2,7 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Session.h"
 #include "core/store/ShopPictures.h"
 #include "core/store/Startup.h"
 #include "jobcards/PictureFiles.h"
@@ -282,7 +283,8 @@ void frmAddItem::drawNote()
 QString frmAddItem::newPicture(int number) const
 {
     MakeImagesFolder();
-    return picturefiles::newPath(ui->lblClint->text(), QDateTime::currentDateTime(), number);
+    return picturefiles::newPath(ui->lblClint->text(), QDateTime(session.WorkingDate, QTime::currentTime()),
+                                 number);
 }
 
 /// The picture goes to the second place; its file is named as the first's are.

@@ -41,6 +41,10 @@ frmEditJOB::frmEditJOB(QWidget* parent)
                              {u"Amount"_s, 12, Qt::AlignRight}});
     for (forms::DatePicker* picker : {ui->JobDate, ui->DateDel, ui->DateTrial})
         picker->setCustomFormat(u"dd-MMM-yyyy"_s);
+    for (forms::DatePicker* promised : {ui->DateDel, ui->DateTrial})
+        promised->look(values::Looks::Ahead, ui->JobDate);
+    for (forms::DatePicker* picker : {ui->JobDate, ui->DateDel, ui->DateTrial})
+        on(picker, &forms::DatePicker::changed, [this] { showHelp(); });
 
     for (forms::ComboBox* combo : {ui->cmbClient, ui->cmbAccount}) {
         onGotFocus(combo, [combo] {

@@ -68,7 +68,7 @@ void frmEditJOB::showHelp()
     ui->lblHelp->setNotice(notice());
 }
 
-/// What the operator should know of the client's name.
+/// What the operator should know of the client's name and of the dates.
 QString frmEditJOB::notice() const
 {
     if (const QString& nobody = m_typedClient.unknown(); !nobody.isEmpty())
@@ -76,5 +76,5 @@ QString frmEditJOB::notice() const
     const bool measured = m_card.JobRows.RowCount() > 0 && !m_measured.isEmpty();
     if (measured && ui->cmbClient->text() != m_measured)
         return u"The garments keep the measurements of "_s + m_measured;
-    return {};
+    return typedHead().dateNotice();
 }

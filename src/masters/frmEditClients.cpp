@@ -3,6 +3,7 @@
 #include "core/store/Codes.h"
 #include "core/store/DE.h"
 #include "core/store/Session.h"
+#include "core/store/Texts.h"
 #include "masters/ClientFolder.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/boxes.h"
@@ -25,9 +26,10 @@ frmEditClients::frmEditClients()
 {
     ui->setupUi(this);
     setControls({ui->lblTitle, ui->txtName, ui->Command1, ui->Command2});
-    ui->dateDob->setLatest(session.WorkingDate);
+    ui->dateDob->look(values::Looks::Birth, session.WorkingDate);
+    ui->dateDob->setMayBeEmpty(true);
     onKeyPress(ui->dateDob, [](int& key) { key = EnterAsTab(key); });
-    on(ui->dateDob, &forms::DatePicker::changed, [this] { setDobKnown(true); });
+    on(ui->dateDob, &forms::DatePicker::changed, [this] { showDob(false); });
 }
 
 frmEditClients::~frmEditClients() = default;
@@ -55,15 +57,19 @@ void frmEditClients::clear()
     for (swTextBox* box : {ui->txtAddress, ui->txtCity, ui->txtState, ui->txtMobile})
         box->setText({});
     ui->dateDob->setValue(session.WorkingDate);
-    setDobKnown(true);
+    showDob(true);
 }
 
-/// A picker always shows a date; one that is nobody's birthday is dimmed, and a hint says so.
-void frmEditClients::setDobKnown(bool known)
+/// What becomes of the date of birth: a new client's begins with the working date, which is stored when
+/// nobody changes it; such a date is dimmed.
+void frmEditClients::showDob(bool offered)
 {
-    m_dobKnown = known;
-    ui->lblDobHint->setVisible(!known);
-    ui->dateDob->setProperty("unset", !known);
+    const QDate dob = ui->dateDob->value();
+    const QString today = u"Unless it is changed, %1 is stored  ·  Del: no date"_s.arg(dateText(dob));
+    const QString none = u"No date is stored  ·  one that is typed here will be"_s;
+    ui->lblDobHint->setText(offered ? today : none);
+    ui->lblDobHint->setVisible(offered || !dob.isValid());
+    ui->dateDob->setProperty("unset", offered);
     ui->dateDob->style()->unpolish(ui->dateDob);
     ui->dateDob->style()->polish(ui->dateDob);
 }
@@ -74,8 +80,8 @@ void frmEditClients::read(ado::Recordset& row)
     ui->txtCity->setText(row["CITY"].text());
     ui->txtState->setText(row["STATE"].text());
     ui->txtMobile->setText(row["MOBILE"].text());
-    ui->dateDob->setValue(row["DOB"].isNull() ? session.WorkingDate : row["DOB"].date());
-    setDobKnown(!row["DOB"].isNull());
+    ui->dateDob->setValue(row["DOB"].date());
+    showDob(false);
 }
 
 void frmEditClients::write(ado::Recordset& row)
@@ -86,8 +92,8 @@ void frmEditClients::write(ado::Recordset& row)
     row["State"] = ui->txtState->Text();
     row["Mobile"] = ui->txtMobile->Text();
     ui->dateDob->settle(); // a date that is still being typed is chosen, too
-    if (m_dobKnown)
-        row["dob"] = ui->dateDob->value();
+    const QDate dob = ui->dateDob->value();
+    row["dob"] = dob.isValid() ? QVariant(dob) : ado::Null;
 }
 
 bool frmEditClients::isInUse(qint16 id)

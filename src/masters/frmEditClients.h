@@ -30,11 +30,10 @@ private:
     bool isInUse(qint16 id) override;
     bool addsAnotherAfter(const QString& name) override;
 
-    void setDobKnown(bool known);
+    void showDob(bool offered);
 
     const std::unique_ptr<Ui::frmEditClients> ui;
     bool m_fromJobCard = false;
     QString m_typedName;
-    bool m_dobKnown = true; ///< the date in the picker is the client's
     QString m_newTitle;
 };

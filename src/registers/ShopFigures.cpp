@@ -86,7 +86,10 @@ void readDay(Shop& shop, const QDate& day)
              if (row["appeared"].code<TrialState>() == TrialState::NotAppeared)
                  shop.trials.notAppeared += cards;
          });
-    each(birthdaySearch(day), [&](ado::Recordset&) { ++shop.birthdays; });
+    each(birthdaySearch(day), [&](ado::Recordset& row) {
+        if (!isUnderAYear(row["dob"].date(), day))
+            ++shop.birthdays;
+    });
     shop.newCards = one(u"Select count(*) from Jobs where Date="_s + sqlDate(day));
     each(u"Select min(Date) as First from Jobs"_s, [&](ado::Recordset& row) {
         if (!row[0].isNull())
@@ -221,6 +224,8 @@ Shop read(const QDate& day)
     shop.postings = roomOf(u"Postings"_s, HighestSerialNumber);
     return shop;
 }
+
+bool isUnderAYear(const QDate& dob, const QDate& day) { return dob > day.addYears(-1); }
 
 QString birthdaySearch(const QDate& day)
 {

@@ -104,5 +104,8 @@ Shop read(const QDate& day);
 
 /// The clients born on this day of the year.
 QString birthdaySearch(const QDate& day);
+/// Whether such a date of birth is none to congratulate on: it is less than a year before the day, as where a
+/// client was entered without one and the day of the entry was stored.
+bool isUnderAYear(const QDate& dob, const QDate& day);
 
 } // namespace figures

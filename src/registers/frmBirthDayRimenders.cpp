@@ -3,11 +3,26 @@
 #include "core/store/DE.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
+#include "platform/forms/Palette.h"
 #include "registers/ShopFigures.h"
 #include "ui/ModOtherFUN.h"
 #include "ui_frmBirthDayRimenders.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// No birthday, as a rule, but the day on which the client was entered.
+void dim(forms::ListView::Row& row)
+{
+    for (int column = 0; column < int(row.cells.size()); ++column)
+        row.looks[column] = {.toolTip = u"Less than a year before: as a rule the day of the entry"_s,
+                             .picture = {},
+                             .bold = false,
+                             .colour = QColor(palette::faint)};
+}
+
+} // namespace
 
 frmBirthDayRimenders::frmBirthDayRimenders()
     : ReminderScreen(settings::BirthdayGreeting, u"wishes you a very Happy Birthday..."_s)
@@ -29,9 +44,14 @@ std::vector<forms::ListView::Row> frmBirthDayRimenders::read()
 {
     std::vector<forms::ListView::Row> rows;
     ado::Recordset& clients = DE.rsaccounts;
-    for (clients.Open(figures::birthdaySearch(ui->DateSel->value())); !clients.AtEOF(); clients.MoveNext())
-        rows.push_back({{clients["Title"].text(), dateText(clients["dob"].date()), clients["Mobile"].text()},
-                        clients["ID"].text()});
+    const QDate day = ui->DateSel->value();
+    for (clients.Open(figures::birthdaySearch(day)); !clients.AtEOF(); clients.MoveNext()) {
+        const QDate dob = clients["dob"].date();
+        rows.push_back(
+            {{clients["Title"].text(), dateText(dob), clients["Mobile"].text()}, clients["ID"].text()});
+        if (figures::isUnderAYear(dob, day))
+            dim(rows.back());
+    }
     clients.Close();
     return rows;
 }

@@ -16,7 +16,7 @@ frmDeliveryRegister::frmDeliveryRegister()
     setCriteria({.list = ui->lvSummary,
                  .jobColumn = JobColumn,
                  .statusColumn = StatusColumn,
-                 .period = {ui->DateFrom, ui->DateTo},
+                 .period = {ui->DateFrom, ui->DateTo, Period::Of::PromisedDays},
                  .jobId = ui->txtSearchID,
                  .worker = ui->cmbClient,
                  .condition = ui->cmbCondition,

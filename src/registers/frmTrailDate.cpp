@@ -19,7 +19,7 @@ frmTrailDate::frmTrailDate()
 {
     ui->setupUi(this);
     setControls({ui->lvSummary, ui->Command1, ui->txtMessage, ui->Command3, ui->Command2});
-    period = {ui->DateFrom, ui->DateTo};
+    period = {ui->DateFrom, ui->DateTo, Period::Of::PromisedDays};
     ui->lvSummary->setColumns({{u"Name"_s, forms::ListView::rest, Qt::AlignLeft, 150},
                                {u"Trial Date"_s, 16, Qt::AlignLeft, 118},
                                {u"Status"_s, 28, Qt::AlignLeft, 200},
@@ -77,7 +77,9 @@ void frmTrailDate::chooseNewDay()
     if (job == 0)
         return;
     QDate day = values::readDate(ui->lvSummary->cell(ui->lvSummary->selectedRow(), 1));
-    if (!frmSelectDate().SelectDate(day, day, frmSelectDate::SingleDate))
+    frmSelectDate dialog;
+    dialog.lookAhead(session.WorkingDate);
+    if (!dialog.SelectDate(day, day, frmSelectDate::SingleDate))
         return;
     trials::setDay(job, day);
     fill();

@@ -50,6 +50,9 @@ frmWorkerJobRegister::frmWorkerJobRegister()
     ui->cmbCondition->AddItems({u"*All"_s, u"Completed"_s, u"Uncompleted"_s, u"Delivered"_s, u"Alteration"_s,
                                 u"Canceled"_s, u"Assigned"_s, u"Not Assigned"_s, u"Cutting Done"_s,
                                 u"Cutting Not Done"_s});
+    on(ui->opDt2, &QRadioButton::toggled, [this](bool byDelivery) {
+        period().isOf(byDelivery ? Period::Of::PromisedDays : Period::Of::PastDays);
+    });
     m_details = new DetailsPanel(ui->picDetails, ui->lvSummary, ui->Command1, ui->Image1);
 
     on(ui->Command3, &QPushButton::clicked, &frmWorkerJobRegister::showOverview);

@@ -1,11 +1,28 @@
 #include "ui/Period.h"
 
+#include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "platform/forms/DatePicker.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/values/Dates.h"
 
 using namespace Qt::StringLiterals;
+
+Period::Period(forms::DatePicker* from, forms::DatePicker* to, Of days)
+    : m_from(from)
+    , m_to(to)
+{
+    isOf(days);
+    m_to->look(values::Looks::Onward, m_from);
+}
+
+void Period::isOf(Of days)
+{
+    if (days == Of::PastDays)
+        m_from->look(values::Looks::Back, session.WorkingDate);
+    else
+        m_from->look(values::Looks::Around);
+}
 
 QDate Period::from() const { return m_from->value(); }
 

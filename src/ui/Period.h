@@ -12,12 +12,13 @@ class DatePicker;
 class Period
 {
 public:
+    /// What the days are those of: a typed beginning is looked for back from the working date, in a list of
+    /// what has been promised around the day that stands. A typed end is looked for from the beginning on.
+    enum class Of { PastDays, PromisedDays };
+
     Period() = default; ///< of no pickers yet
-    Period(forms::DatePicker* from, forms::DatePicker* to)
-        : m_from(from)
-        , m_to(to)
-    {
-    }
+    Period(forms::DatePicker* from, forms::DatePicker* to, Of days = Of::PastDays);
+    void isOf(Of days);
 
     QDate from() const;
     QDate to() const;

@@ -10,6 +10,7 @@ frmSelectDate::frmSelectDate(QWidget* parent)
     , ui(std::make_unique<Ui::frmSelectDate>())
 {
     ui->setupUi(this);
+    ui->DateTo->look(values::Looks::Onward, ui->DateFrom);
     on(ui->DateFrom, &forms::DatePicker::changed, &frmSelectDate::followDateFrom);
     on(ui->DateFrom, &forms::DatePicker::calendarClosed, &frmSelectDate::followDateFrom);
     for (forms::DatePicker* day : {ui->DateFrom, ui->DateTo})
@@ -18,6 +19,8 @@ frmSelectDate::frmSelectDate(QWidget* parent)
 }
 
 frmSelectDate::~frmSelectDate() = default;
+
+void frmSelectDate::lookAhead(const QDate& from) { ui->DateFrom->look(values::Looks::Ahead, from); }
 
 bool frmSelectDate::SelectDate(QDate& fromDate, QDate& toDate, int mode)
 {

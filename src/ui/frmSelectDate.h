@@ -19,6 +19,8 @@ public:
     explicit frmSelectDate(QWidget* parent = nullptr);
     ~frmSelectDate() override;
 
+    /// A typed date is looked for from this day on: for what is promised.
+    void lookAhead(const QDate& from);
     /// Shows the dialog with the given dates. They become what was chosen (in `mode` 1 both are the same),
     /// and stay when the dialog is left without a choice; false then.
     bool SelectDate(QDate& fromDate, QDate& toDate, int mode);

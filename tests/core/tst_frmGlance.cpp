@@ -187,6 +187,8 @@ private Q_SLOTS:
     void theDayAndTheRoomLeft()
     {
         Shop::run(u"Update Accounts set dob='1990-02-10' where Title='Asha'"_s);
+        const qint32 entered = shop->addClient(u"Entered Today"_s);
+        Shop::run(u"Update Accounts set dob='2024-02-10' where ID=%1"_s.arg(entered)); // no birthday
         shop->addJob(1, asha);
         Shop::run(u"Update Jobs set TrialDate='2024-02-10'"_s);
         addLine(10, 0);

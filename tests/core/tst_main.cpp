@@ -6,6 +6,7 @@
 #include "core/store/Schema.h"
 #include "jobcards/UnsavedCards.h"
 #include "masters/frmClients.h"
+#include "registers/frmWorkerJobRegister.h"
 #include "support/ShopTest.h"
 
 #include <QDir>
@@ -120,6 +121,50 @@ private Q_SLOTS:
                 press(Qt::Key_Escape);
             }
             QVERIFY(!main.isVisible());
+        });
+    }
+
+    /// The working date by keys, and a garment's code that is scanned while its box has the focus.
+    void datesAndScans()
+    {
+        inModal<frmMain>([](frmMain& main) {
+            forms::DatePicker& day = date(main, "TodayDate");
+            const auto scan = [](const char* code) {
+                QString found;
+                onNextModal<frmWorkerJobRegister>(
+                    [&](frmWorkerJobRegister& list) { found = field(list, "txtSearchID").text(); });
+                typeText(code);
+                press(Qt::Key_Return);
+                return found;
+            };
+            press(Qt::Key_F2);
+            typeText("25-1");
+            press(Qt::Key_Return);
+            QCOMPARE(session.WorkingDate, QDate(2024, 1, 25));
+            QCOMPARE(day.selectedText(), "25-Jan-2024");
+            typeText("26");
+            QCOMPARE(day.text(), "26"); // in place of the date, not behind it
+            press(Qt::Key_Return);
+            QCOMPARE(session.WorkingDate, QDate(2024, 1, 26));
+            QCOMPARE(scan("12/1"), "12/1"); // no twelfth of January
+            press(Qt::Key_F2);
+            QCOMPARE(scan("1436/2"), "1436/2");
+            press(Qt::Key_F2);
+            QCOMPARE(scan("12/14"), "12/14");
+            QCOMPARE(session.WorkingDate, QDate(2024, 1, 26));
+            press(Qt::Key_F2);
+            typeText("3/2"); // asked for the date: it is one
+            press(Qt::Key_F2);
+            QCOMPARE(day.selectedText(), "03-Feb-2024");
+            typeText("4");
+            press(Qt::Key_Tab);
+            QCOMPARE(session.WorkingDate, QDate(2024, 2, 4));
+            QCOMPARE(GetSetting(1, {}), "2024-02-04");
+            control<QWidget>(main, "cmdCreateJOB").setFocus();
+            typeText("14/");
+            press(Qt::Key_Return); // half a code presses no button
+            QVERIFY(main.isActiveWindow());
+            QCOMPARE(scan("7/1"), "7/1");
         });
     }
 

@@ -275,6 +275,32 @@ private Q_SLOTS:
         QCOMPARE(count("Jobs_Detail"), 2);
     }
 
+    /// What is promised lies ahead of the card's date; a whole date stands, and is noticed.
+    void datesThatArePromised()
+    {
+        onNewCard([](frmEditJOB& job) {
+            const std::tuple<const char*, const char*, QDate, const char*> entries[] = {
+                {"DateDel", "5", {2024, 3, 5}, ""},
+                {"DateDel", "9-2-24", {2024, 2, 9}, "Delivery is before the card's date"},
+                {"DateTrial", "9-2-24", {2024, 2, 9}, "Delivery and trial are before the card's date"},
+                {"DateDel",
+                 "15/1",
+                 {2025, 1, 15},
+                 "Trial is before the card's date  ·  Delivery is 340 days after the card's date"},
+                {"DateDel", "15/2", {2024, 2, 15}, "Trial is before the card's date"},
+                {"JobDate", "15/12", {2023, 12, 15}, ""},
+                {"DateTrial", "20", {2023, 12, 20}, ""},
+            };
+            for (const auto& [name, typed, read, notice] : entries) {
+                date(job, name).setFocus();
+                typeText(typed);
+                press(Qt::Key_PageDown);
+                QCOMPARE(date(job, name).value(), read);
+                QCOMPARE(control<HelpLine>(job, "lblHelp").notice(), notice);
+            }
+        });
+    }
+
     void aCardLeftUnsavedComesBackWhole()
     {
         unsavedCards = {};

@@ -27,6 +27,8 @@ private Q_SLOTS:
                 box(form, "txtName").setFocus();
                 typeFields({"anita o'rao", "12 mill road", "pune", "mh", "9829000000"});
                 QCOMPARE(focused(form), "dateDob");
+                QCOMPARE(label(form, "lblDobHint"),
+                         "Unless it is changed, 10-Feb-2024 is stored  ·  Del: no date");
                 date(form, "dateDob").setValue({1990, 5, 17});
                 press(Qt::Key_Return);
                 onNextModal<frmEditClients>([](frmEditClients& next) {
@@ -62,7 +64,7 @@ private Q_SLOTS:
                 }
             });
             const QString updated = "Client Information Updated.";
-            prompts->expectAll({updated, "Duplicate!", updated, updated, updated, updated});
+            prompts->expectAll({updated, "Duplicate!", updated, updated, updated, updated, updated, updated});
             typeText("an");
             press(Qt::Key_Return);
             QCOMPARE(entries(list).List(0) + entries(list).List(1), "BelaChhaya");
@@ -71,10 +73,19 @@ private Q_SLOTS:
                 QVERIFY(hint.isVisible());
                 save();
                 QCOMPARE(Shop::count("Select * from Accounts where Title='Bela' and DOB is null"), 1);
+                QVERIFY(date(form, "dateDob").text().isEmpty());
                 date(form, "dateDob").setFocus();
                 typeText("2-1-88");
                 save();
                 QVERIFY(!hint.isVisible());
+                date(form, "dateDob").setFocus();
+                press(Qt::Key_Delete);
+                QVERIFY(hint.isVisible());
+                save();
+                QCOMPARE(Shop::count("Select * from Accounts where Title='Bela' and DOB is null"), 1);
+                date(form, "dateDob").setFocus();
+                typeText("2-1-88");
+                save();
             });
             fillIn(list, "txtSearch", "bel");
             press(Qt::Key_Return);
@@ -87,6 +98,28 @@ private Q_SLOTS:
                      "Select * from Accounts where Type=0 and Title='Chhaya' and City='Pune' and State='Mh' "
                      "and Mobile='9829000000'"),
                  1);
+    }
+
+    /// What is stored for a new client's date of birth: what stands there, what is typed, nothing after Del.
+    void newClientsDateOfBirth()
+    {
+        for (const auto& [keys, stored] : {std::pair("", "2024-02-10"), std::pair("17-5", "2023-05-17"),
+                                           std::pair("26-11-05", "2005-11-26"), std::pair("x", "")}) {
+            const QString name = QString("Client ") + keys;
+            onNextModal<frmEditClients>([&](frmEditClients& form) {
+                box(form, "txtName").setText(name);
+                date(form, "dateDob").setFocus();
+                if (QString(keys) == "x")
+                    press(Qt::Key_Delete);
+                else
+                    typeText(keys);
+                save();
+            });
+            prompts->expect("New Client Created.");
+            QString added;
+            frmEditClients().AddNewFromJobCard(added);
+            QCOMPARE(Shop::rows("Select DOB from Accounts where Title='" + added + "'"), QStringList(stored));
+        }
     }
 
     void workersAreAddedSearchedAndEdited()

@@ -2,6 +2,7 @@
 #include "platform/values/Dates.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Numbers.h"
+#include "platform/values/TypedDate.h"
 
 #include "support/Refusal.h"
 
@@ -55,17 +56,81 @@ const Reading days[] = {{"2024-2-9", "2024-02-09"},
 const char* const noDays[] = {"29-Feb-2023", "31-31-2020",  "2024-13-01", "10-Foo-2024",
                               "10-Feb-24",   "2024-02-10x", "",           "12"};
 
-/// Typed where 28-Dec-2024 stands.
-const Reading typedDays[] = {
-    {"31032024", "2024-03-31"},      {"20250310", "2025-03-10"},   {"310324", "2024-03-31"},
-    {"3103", "2024-03-31"},          {"1501", "2025-01-15"},       {"7", "2024-12-07"},
-    {"10-3-2025", "2025-03-10"},     {"01/01/2025", "2025-01-01"}, {"1.2.25", "2025-02-01"},
-    {"5 6 1999", "1999-06-05"},      {"2025-03-10", "2025-03-10"}, {"10 MARCH", "2024-03-10"},
-    {"march 10, 25", "2025-03-10"},  {"10mar2025", "2025-03-10"},  {"3-Sept-24", "2024-09-03"},
-    {" 29-feb-2024 ", "2024-02-29"}, {"12-11-2024", "2024-11-12"}, {"31-12-", "2024-12-31"}};
+/// A date as it is typed, and what it is in a box that looks each way; "no" is no date.
+struct TypedDay
+{
+    const char* typed;
+    const char* around;
+    const char* ahead;
+    const char* back;
+    const char* birth;
+};
+
+/// Typed on 25-Nov-2026.
+const TypedDay typedDays[] = {
+    // day, month and year
+    {"31032024", "2024-03-31", "2024-03-31", "2024-03-31", "2024-03-31"},
+    {"20250310", "2025-03-10", "2025-03-10", "2025-03-10", "2025-03-10"},
+    {"20111112", "2011-11-12", "2011-11-12", "2011-11-12", "2011-11-12"},
+    {"310324", "2024-03-31", "2024-03-31", "2024-03-31", "2024-03-31"},
+    {"10-3-2027", "2027-03-10", "2027-03-10", "2027-03-10", "2027-03-10"},
+    {"01/01/2025", "2025-01-01", "2025-01-01", "2025-01-01", "2025-01-01"},
+    {"1.2.25", "2025-02-01", "2025-02-01", "2025-02-01", "2025-02-01"},
+    {"5 6 1999", "1999-06-05", "1999-06-05", "1999-06-05", "1999-06-05"},
+    {"2025-03-10", "2025-03-10", "2025-03-10", "2025-03-10", "2025-03-10"},
+    {"march 10, 25", "2025-03-10", "2025-03-10", "2025-03-10", "2025-03-10"},
+    {"10mar2025", "2025-03-10", "2025-03-10", "2025-03-10", "2025-03-10"},
+    {"3-Sept-24", "2024-09-03", "2024-09-03", "2024-09-03", "2024-09-03"},
+    {" 29-feb-2024 ", "2024-02-29", "2024-02-29", "2024-02-29", "2024-02-29"},
+    {"12-11-2024", "2024-11-12", "2024-11-12", "2024-11-12", "2024-11-12"},
+    {"24-11-26", "2026-11-24", "2026-11-24", "2026-11-24", "2026-11-24"}, // a whole date stands
+    // a year of two digits
+    {"5/11/99", "1999-11-05", "1999-11-05", "1999-11-05", "1999-11-05"},
+    {"26-11-26", "2026-11-26", "2026-11-26", "2026-11-26", "1926-11-26"},
+    {"170535", "2035-05-17", "2035-05-17", "2035-05-17", "1935-05-17"},
+    {"26-11-05", "2026-11-05", "2026-11-05", "2026-11-05", "2005-11-26"}, // the year first, but for births
+    {"261105", "2026-11-05", "2026-11-05", "2026-11-05", "2005-11-26"},
+    {"26.12.07", "2026-12-07", "2026-12-07", "2026-12-07", "2007-12-26"},
+    {"26-Nov-05", "2005-11-26", "2005-11-26", "2005-11-26", "2005-11-26"},
+    {"20-11-12", "2012-11-20", "2012-11-20", "2012-11-20", "2012-11-20"}, // fourteen years are not too many
+    {"31-11-05", "no", "no", "no", "no"},                                 // a slip is no other date
+    // the year left out
+    {"15/2", "2026-02-15", "2027-02-15", "2026-02-15", "2026-02-15"},
+    {"1502", "2026-02-15", "2027-02-15", "2026-02-15", "2026-02-15"},
+    {"15 feb", "2026-02-15", "2027-02-15", "2026-02-15", "2026-02-15"},
+    {"Feb 15", "2026-02-15", "2027-02-15", "2026-02-15", "2026-02-15"},
+    {"24-11", "2026-11-24", "2027-11-24", "2026-11-24", "2026-11-24"},
+    {"25-11-", "2026-11-25", "2026-11-25", "2026-11-25", "2026-11-25"},
+    {"1-12", "2026-12-01", "2026-12-01", "2025-12-01", "2025-12-01"},
+    {"10-1", "2027-01-10", "2027-01-10", "2026-01-10", "2026-01-10"},
+    {"29/2", "no", "no", "no", "no"},
+    // the month left out
+    {"5", "2026-11-05", "2026-12-05", "2026-11-05", "2026-11-05"},
+    {"28", "2026-11-28", "2026-11-28", "2026-10-28", "2026-10-28"},
+    {"25", "2026-11-25", "2026-11-25", "2026-11-25", "2026-11-25"},
+    {"31", "no", "2026-12-31", "2026-10-31", "2026-10-31"},
+    // a year alone is nothing else
+    {"2012", "no", "no", "no", "no"},
+    {"1912", "no", "no", "no", "no"},
+    {"20.12", "2026-12-20", "2026-12-20", "2025-12-20", "2025-12-20"},
+};
 const char* const noTypedDays[] = {"31-02",  "29022023", "12-13-2024", "103",        "10325",   "1032025",
                                    "10-Foo", "10-ma-24", "10-03-024",  "10-03-3202", "1-2-3-4", "10:3:25",
                                    "0",      "",         "-",          "March 2025", "१०-३-२५"};
+
+/// The part of a typed date that stands where the caret is.
+struct CaretPlace
+{
+    const char* typed; // the caret is "|"
+    DatePart part;
+};
+
+const CaretPlace caretPlaces[] = {
+    {"25-11|", DatePart::Month},      {"25|-11", DatePart::Day},       {"|25-11", DatePart::Day},
+    {"251126|", DatePart::Year},      {"25|1126", DatePart::Day},      {"2511|", DatePart::Month},
+    {"2026-11|-05", DatePart::Month}, {"2026|-11-05", DatePart::Year}, {"26-11-05|", DatePart::Day},
+    {"nov|", DatePart::Day},          {"nov| 5", DatePart::Month},     {"5|", DatePart::Day},
+};
 
 class tst_values : public QObject
 {
@@ -92,16 +157,32 @@ private Q_SLOTS:
 
     void typedDates()
     {
-        const QDate stood(2024, 12, 28);
-        for (const auto& [text, date] : typedDays)
-            QCOMPARE(CStr(readTypedDate(text, stood)), date);
-        for (const char* text : noTypedDays)
-            QVERIFY2(!readTypedDate(QString::fromUtf8(text), stood).isValid(), text);
+        const QDate day(2026, 11, 25);
+        const std::pair<Looks, const char * TypedDay::*> ways[] = {{Looks::Around, &TypedDay::around},
+                                                                   {Looks::Ahead, &TypedDay::ahead},
+                                                                   {Looks::Back, &TypedDay::back},
+                                                                   {Looks::Birth, &TypedDay::birth}};
+        for (const auto& [looks, meant] : ways) {
+            for (const TypedDay& each : typedDays) {
+                const QDate read = readTypedDate(each.typed, day, looks);
+                QCOMPARE(QString("%1: %2").arg(each.typed, read.isValid() ? CStr(read) : "no"),
+                         QString("%1: %2").arg(each.typed, each.*meant));
+            }
+            for (const char* text : noTypedDays)
+                QVERIFY2(!readTypedDate(QString::fromUtf8(text), day, looks).isValid(), text);
+        }
+        for (const auto& [text, date] : {std::pair("15/2", "2027-02-15"), std::pair("10/11", "2026-11-10"),
+                                         std::pair("28", "2026-11-28"), std::pair("5", "2026-12-05")})
+            QCOMPARE(CStr(readTypedDate(text, day, Looks::Onward)), date);
         QCOMPARE(readTypedDate("30-12", QDate(2025, 1, 2)), QDate(2024, 12, 30));
-        const QDate today(2024, 2, 10); // births
-        for (const auto& [text, date] : {std::pair("170585", "1985-05-17"), std::pair("1-2-24", "2024-02-01"),
-                                         std::pair("11-2-24", "1924-02-11"), std::pair("11-2", "2023-02-11")})
-            QCOMPARE(CStr(readTypedDate(text, today, today)), date);
+        QCOMPARE(readTypedDate("15-10", QDate(2025, 1, 2)), QDate(2024, 10, 15));
+        QCOMPARE(readTypedDate("29-2", QDate(2027, 11, 25), Looks::Ahead), QDate(2028, 2, 29));
+        QCOMPARE(readTypedDate("30", QDate(2026, 1, 31), Looks::Ahead), QDate(2026, 3, 30));
+        for (const auto& [typed, part] : caretPlaces) {
+            const QString text(typed);
+            QVERIFY2(typedPartAt(QString(text).remove('|'), text.indexOf('|'), day, Looks::Around) == part,
+                     typed);
+        }
     }
 
     void narrowing()

@@ -187,6 +187,28 @@ private Q_SLOTS:
         });
     }
 
+    void daysAreTypedTheirWay()
+    {
+        inModal<Register>([](Register& screen) {
+            const auto type = [&](const char* name, const char* text) {
+                date(screen, name).setFocus();
+                typeText(text);
+                press(Qt::Key_Return);
+                return date(screen, name).text();
+            };
+            QCOMPARE(type("DateFrom", "28"), "28-Jan-2024");
+            QCOMPARE(type("DateFrom", "1/3"), "01-Mar-2023");
+            QCOMPARE(type("DateTo", "15"), "15-Mar-2023");
+            QCOMPARE(type("DateTo", "15/1"), "15-Jan-2023"); // the beginning may yet be typed
+            QCOMPARE(type("DateFrom", "20-11-23"), "20-Nov-2023");
+            QCOMPARE(type("DateTo", "15/1"), "15-Jan-2024");
+            click(screen, "opDt2"); // days of delivery
+            date(screen, "DateFrom").setValue({2024, 2, 10});
+            QCOMPARE(type("DateFrom", "28"), "28-Feb-2024");
+            QCOMPARE(type("DateFrom", "1/4"), "01-Apr-2024");
+        });
+    }
+
     void aScannedGarmentIsHandedOver()
     {
         onNextModal<Register>([this](Register& screen) {

@@ -92,6 +92,10 @@ private Q_SLOTS:
             choose(0);
             onNextModal<frmSelectDate>([](frmSelectDate& days) {
                 QCOMPARE(date(days, "DateFrom").value(), QDate(2024, 2, 10));
+                typeText(u"5/2"_s);
+                press(Qt::Key_Up);                                         // the month
+                QCOMPARE(date(days, "DateTo").value(), QDate(2025, 3, 5)); // of a coming year
+                date(days, "DateFrom").selectAll();
                 typeText(u"12-2-24"_s);
                 press(Qt::Key_Return);
                 press(Qt::Key_Return);
@@ -134,6 +138,18 @@ private Q_SLOTS:
             QCOMPARE(on(QDate(2024, 2, 29)), u"Ravi|29-Feb-2000|||"_s);
             QCOMPARE(on(QDate(2023, 2, 28)) + on(QDate(2023, 3, 1)), QString());
             click(screen, "Command2"); // nobody is selected
+            Shop::run(u"Update Accounts set dob='2023-02-11' where Title='Asha'"_s);
+            Shop::run(u"Update Accounts set dob='2023-02-10' where Title='Ravi'"_s);
+            for (const auto& [day, dimmed] : {std::pair(QDate(2024, 2, 10), u"Ravi no, Zoya no"_s),
+                                              std::pair(QDate(2023, 2, 11), u"Asha yes"_s),
+                                              std::pair(QDate(2024, 2, 11), u"Asha no"_s)}) {
+                on(day);
+                QStringList seen;
+                for (int row = 0; row < list(screen).rowCount(); ++row)
+                    seen << list(screen).cell(row, 0) +
+                                (list(screen).look(row, 1).colour.isValid() ? u" yes" : u" no");
+                QCOMPARE(seen.join(u", "_s), dimmed);
+            }
         });
         inModal<frmMenu>([](frmMenu&) { press(Qt::Key_B, Qt::AltModifier); });
     }

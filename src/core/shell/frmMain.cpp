@@ -21,6 +21,7 @@
 #include "ui/modLang.h"
 #include "ui_frmMain.h"
 
+#include <QApplication>
 #include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
@@ -60,6 +61,7 @@ frmMain::frmMain()
     on(ui->cmdLastBackup, &QPushButton::clicked, [] { frmSettings().ShowBackup(); });
     on(ui->TodayDate, &forms::DatePicker::changed, &frmMain::changeWorkingDate);
     on(ui->TodayDate, &forms::DatePicker::calendarClosed, &frmMain::changeWorkingDate);
+    onGotFocus(ui->TodayDate, [this] { m_dateTaken = false; });
 }
 
 frmMain::~frmMain() = default;
@@ -151,35 +153,66 @@ void frmMain::Form_KeyPress(int& key)
         unload();
 }
 
-/// What a scanner types where no box has the focus. From its "/" on no button takes the Enter behind it.
-void frmMain::gatherCode(int key)
+/// What a scanner types, wherever the focus is. From its "/" on no button takes the Enter behind it, nor the
+/// date box the rest of it.
+void frmMain::gatherCode(int& key)
 {
     if (m_sinceCharacter.hasExpired(scannerPause))
         m_scanned.clear();
     m_sinceCharacter.start();
     const bool belongs = (key >= '0' && key <= '9') || key == '/';
-    if (!belongs || ui->TodayDate->hasFocus()) {
+    if (!belongs) {
         m_scanned.clear();
         return;
     }
     m_scanned += QChar(char16_t(key));
-    if (QWidget* button = focusWidget(); button && key == '/')
-        button->clearFocus();
+    QWidget* focus = focusWidget();
+    if (key != '/' || !focus || (focus == ui->TodayDate && !takesCodeFromDate()))
+        return;
+    focus->clearFocus();
+    key = 0;
+}
+
+/// Whether the digits in the date box, with a "/" behind them, are a card's number: the date has been taken
+/// already, or no day has it. The box then shows the working date again.
+bool frmMain::takesCodeFromDate()
+{
+    constexpr int lastDay = 31;
+    bool isNumber = false;
+    const QString typed = ui->TodayDate->text();
+    const int number = typed.toInt(&isNumber);
+    if (!isNumber || (!m_dateTaken && number <= lastDay))
+        return false;
+    m_scanned = typed + u'/';
+    ui->TodayDate->revert();
+    return true;
 }
 
 void frmMain::Form_KeyDown(int& key, Qt::KeyboardModifiers)
 {
-    if (key == forms::key::Enter && readLineCode(m_scanned) && !m_sinceCharacter.hasExpired(scannerPause)) {
-        key = 0;
-        ui->cmdCreateJOB->setFocus();
-        frmWorkerJobRegister().ShowLines({.from = {}, .to = {}, .jobId = std::exchange(m_scanned, {})});
-        return;
-    }
     constexpr int F2 = forms::key::F1 + 1;
-    if (key != F2)
+    if (key == F2) {
+        key = 0;
+        m_dateTaken = false;
+        ui->TodayDate->setFocus();
+        ui->TodayDate->selectAll();
+    }
+    if (key != forms::key::Enter)
+        return;
+    const bool inDate = ui->TodayDate->hasFocus();
+    m_dateTaken = inDate;
+    const QString typed =
+        m_sinceCharacter.hasExpired(scannerPause) ? QString() : std::exchange(m_scanned, {});
+    const bool isDate = inDate && values::readTypedDate(typed, session.WorkingDate).isValid();
+    if (isDate || !typed.contains(u'/'))
         return;
     key = 0;
-    ui->TodayDate->setFocus();
+    if (!readLineCode(typed)) {
+        QApplication::beep();
+        return;
+    }
+    ui->cmdCreateJOB->setFocus();
+    frmWorkerJobRegister().ShowLines({.from = {}, .to = {}, .jobId = typed});
 }
 
 /// The shop can be back-dated for a session; the next start remembers the day.

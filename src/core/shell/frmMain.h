@@ -35,10 +35,12 @@ private:
     void changeWorkingDate();
     void showWhetherToday();
     void showLastBackup();
-    void gatherCode(int key);
+    void gatherCode(int& key);
+    bool takesCodeFromDate();
 
     std::unique_ptr<Ui::frmMain> ui;
     Wallpaper* MyWall;
-    QString m_scanned; ///< of a line's code, so far
+    QString m_scanned;        ///< of a line's code, so far
+    bool m_dateTaken = false; ///< the working date stands selected; what is typed now is the screen's
     QElapsedTimer m_sinceCharacter;
 };

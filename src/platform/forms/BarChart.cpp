@@ -214,7 +214,7 @@ void BarChart::keyPressEvent(QKeyEvent* event)
     const int last = int(m_groups.size()) - 1;
     switch (event->key()) {
     case Qt::Key_Left:
-        choose(std::max(0, m_chosen - 1));
+        choose(std::min(std::max(0, m_chosen - 1), last));
         break;
     case Qt::Key_Right:
         choose(std::min(last, m_chosen + 1));

@@ -203,8 +203,10 @@ void ComboBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
 /// Takes an entry as the operator's choice, as near to `index` as the list has one.
 void ComboBox::walk(int index)
 {
+    if (count() == 0)
+        return;
     const int entry = qBound(0, index, count() - 1);
-    if (count() == 0 || entry == ListIndex())
+    if (entry == ListIndex())
         return;
     setListIndex(entry);
     select(0, int(text().size()));

@@ -5,7 +5,6 @@
 #include <QLocale>
 #include <QRegularExpression>
 #include <array>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -57,64 +56,6 @@ QDate readStored(const QString& text)
     return QDate(numbers[0], numbers[1], numbers[2]);
 }
 
-/// 1 to 12 for a month's name or the first three or more of its letters; 0 for anything else.
-int typedMonth(const QString& name)
-{
-    for (int month = 1; month <= 12 && name.size() >= 3; ++month) {
-        if (monthName(month, QLocale::LongFormat).startsWith(name, Qt::CaseInsensitive))
-            return month;
-    }
-    return 0;
-}
-
-/// Cuts digits alone into day, month and year; 20250310 is the year first, as it is no date the other way.
-QStringList cutDigits(const QString& digits)
-{
-    const auto cut = [&digits](qsizetype first, qsizetype second) {
-        return QStringList{digits.left(first), digits.mid(first, second), digits.mid(first + second)};
-    };
-    switch (digits.size()) {
-    case 8: {
-        const bool dayFirst =
-            QDate(digits.mid(4).toInt(), digits.mid(2, 2).toInt(), digits.left(2).toInt()).isValid();
-        return dayFirst ? cut(2, 2) : cut(4, 2);
-    }
-    case 6:
-        return cut(2, 2);
-    case 4:
-        return {digits.left(2), digits.mid(2)};
-    default:
-        return {digits};
-    }
-}
-
-/// Day, month and year as typed; the month a name or a number, the others numbers.
-struct TypedParts
-{
-    QString day, month, year;
-};
-
-std::optional<TypedParts> sortParts(const QStringList& parts)
-{
-    const auto isName = [](const QString& part) { return part.front().isLetter(); };
-    switch (parts.size()) {
-    case 1:
-        return TypedParts{parts[0], {}, {}};
-    case 2:
-        return isName(parts[0]) ? TypedParts{parts[1], parts[0], {}} : TypedParts{parts[0], parts[1], {}};
-    case 3:
-        if (isName(parts[0]))
-            return TypedParts{parts[1], parts[0], parts[2]};
-        return parts[0].size() == 4 ? TypedParts{parts[2], parts[1], parts[0]}
-                                    : TypedParts{parts[0], parts[1], parts[2]};
-    default:
-        return {};
-    }
-}
-
-/// A number of one or two digits; 0 for anything else.
-int shortNumber(const QString& part) { return part.size() <= 2 ? part.toInt() : 0; }
-
 QString formatRun(const QDate& date, QChar letter, qsizetype length)
 {
     const auto digits = [](int number, qsizetype width) {
@@ -154,48 +95,6 @@ QDate readDate(const QString& text)
         return monthFirst.isValid() ? monthFirst : QDate(year, second, first);
     }
     return {};
-}
-
-QDate readTypedDate(const QString& text, const QDate& stood, const QDate& latest)
-{
-    static const QRegularExpression form(u"^[0-9A-Za-z][-/., 0-9A-Za-z]*$"_s);
-    static const QRegularExpression part(u"[0-9]+|[A-Za-z]+"_s);
-    const QString typed = text.simplified();
-    if (!form.match(typed).hasMatch())
-        return {};
-    QStringList parts;
-    for (auto match = part.globalMatch(typed); match.hasNext();)
-        parts += match.next().captured();
-    if (parts.size() == 1)
-        parts = cutDigits(parts[0]);
-    const auto sorted = sortParts(parts);
-    if (!sorted)
-        return {};
-
-    const auto& [dayText, monthText, yearText] = *sorted;
-    const int day = shortNumber(dayText);
-    const bool named = !monthText.isEmpty() && monthText.front().isLetter();
-    const int month = monthText.isEmpty() ? stood.month()
-                      : named             ? typedMonth(monthText)
-                                          : shortNumber(monthText);
-    if (yearText.size() == 4) {
-        const int year = yearText.toInt();
-        return year >= 1900 && year <= 2199 ? QDate(year, month, day) : QDate();
-    }
-    if (yearText.size() == 2) {
-        const QDate date(2000 + yearText.toInt(), month, day);
-        return latest.isValid() && date > latest ? QDate(date.year() - 100, month, day) : date;
-    }
-    if (!yearText.isEmpty())
-        return {};
-
-    constexpr int tenMonths = 304; // days
-    const QDate date(stood.year(), month, day);
-    if (!monthText.isEmpty() && date < stood.addDays(-tenMonths))
-        return QDate(stood.year() + 1, month, day);
-    if ((!monthText.isEmpty() && date > stood.addDays(tenMonths)) || (latest.isValid() && date > latest))
-        return QDate(stood.year() - 1, month, day);
-    return date;
 }
 
 QDate CDate(const QString& text)
