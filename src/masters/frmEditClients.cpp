@@ -65,10 +65,15 @@ void frmEditClients::clear()
 void frmEditClients::showDob(bool offered)
 {
     const QDate dob = ui->dateDob->value();
-    const QString today = u"Unless it is changed, %1 is stored  ·  Del: no date"_s.arg(dateText(dob));
-    const QString none = u"No date is stored  ·  one that is typed here will be"_s;
-    ui->lblDobHint->setText(offered ? today : none);
-    ui->lblDobHint->setVisible(offered || !dob.isValid());
+    QString hint;
+    if (offered)
+        hint = u"Unless it is changed, %1 is stored  ·  Del: no date"_s.arg(dateText(dob));
+    else if (!dob.isValid())
+        hint = u"Empty: no date of birth is stored"_s;
+    else if (dob > session.WorkingDate)
+        hint = u"This day is still to come"_s;
+    ui->lblDobHint->setText(hint);
+    ui->lblDobHint->setVisible(!hint.isEmpty());
     ui->dateDob->setProperty("unset", offered);
     ui->dateDob->style()->unpolish(ui->dateDob);
     ui->dateDob->style()->polish(ui->dateDob);

@@ -33,6 +33,7 @@ frmBirthDayRimenders::frmBirthDayRimenders()
     ui->lvSummary->setColumns({{u"Name"_s, forms::ListView::rest, Qt::AlignLeft, 150},
                                {u"DOB"_s, 24, Qt::AlignLeft, 118},
                                {u"Contact"_s, 28, Qt::AlignLeft, 120}});
+    ui->DateSel->look(values::Looks::Around, session.WorkingDate);
     onKeyPress(ui->DateSel, [](int& key) { key = EnterAsTab(key); });
 }
 

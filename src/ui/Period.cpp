@@ -18,10 +18,7 @@ Period::Period(forms::DatePicker* from, forms::DatePicker* to, Of days)
 
 void Period::isOf(Of days)
 {
-    if (days == Of::PastDays)
-        m_from->look(values::Looks::Back, session.WorkingDate);
-    else
-        m_from->look(values::Looks::Around);
+    m_from->look(days == Of::PastDays ? values::Looks::Back : values::Looks::Around, session.WorkingDate);
 }
 
 QDate Period::from() const { return m_from->value(); }

@@ -13,7 +13,7 @@ class Period
 {
 public:
     /// What the days are those of: a typed beginning is looked for back from the working date, in a list of
-    /// what has been promised around the day that stands. A typed end is looked for from the beginning on.
+    /// what has been promised around that day. A typed end is looked for from the beginning on.
     enum class Of { PastDays, PromisedDays };
 
     Period() = default; ///< of no pickers yet

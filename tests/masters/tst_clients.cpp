@@ -84,6 +84,10 @@ private Q_SLOTS:
                 save();
                 QCOMPARE(Shop::count("Select * from Accounts where Title='Bela' and DOB is null"), 1);
                 date(form, "dateDob").setFocus();
+                typeText("11-2-2024");
+                press(Qt::Key_Tab);
+                QCOMPARE(hint.text(), "This day is still to come");
+                date(form, "dateDob").setFocus();
                 typeText("2-1-88");
                 save();
             });
