@@ -12,14 +12,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// No birthday, as a rule, but the day on which the client was entered.
 void dim(forms::ListView::Row& row)
 {
     for (int column = 0; column < int(row.cells.size()); ++column)
-        row.looks[column] = {.toolTip = u"Less than a year before: as a rule the day of the entry"_s,
-                             .picture = {},
-                             .bold = false,
-                             .colour = QColor(palette::faint)};
+        row.looks[column].colour = QColor(palette::faint);
 }
 
 } // namespace
@@ -46,13 +42,18 @@ std::vector<forms::ListView::Row> frmBirthDayRimenders::read()
     std::vector<forms::ListView::Row> rows;
     ado::Recordset& clients = DE.rsaccounts;
     const QDate day = ui->DateSel->value();
+    bool anyDimmed = false;
     for (clients.Open(figures::birthdaySearch(day)); !clients.AtEOF(); clients.MoveNext()) {
         const QDate dob = clients["dob"].date();
         rows.push_back(
             {{clients["Title"].text(), dateText(dob), clients["Mobile"].text()}, clients["ID"].text()});
-        if (figures::isUnderAYear(dob, day))
+        if (figures::isUnderAYear(dob, day)) {
             dim(rows.back());
+            anyDimmed = true;
+        }
     }
     clients.Close();
+    ui->lblHelp->setNotice(anyDimmed ? u"Dimmed: younger than a year, mostly the day of the entry"_s
+                                     : QString());
     return rows;
 }

@@ -148,6 +148,10 @@ private Q_SLOTS:
             QCOMPARE(session.WorkingDate, QDate(2024, 1, 26));
             QCOMPARE(scan("12/1"), "12/1"); // no twelfth of January
             press(Qt::Key_F2);
+            press(Qt::Key_F4);
+            press(Qt::Key_Return); // in the calendar
+            QCOMPARE(scan("12/1"), "12/1");
+            press(Qt::Key_F2);
             QCOMPARE(scan("1436/2"), "1436/2");
             press(Qt::Key_F2);
             QCOMPARE(scan("12/14"), "12/14");

@@ -6,6 +6,7 @@
 #include "registers/frmTrailDate.h"
 #include "support/Modem.h"
 #include "support/ShopTest.h"
+#include "ui/HelpLine.h"
 #include "ui/frmSelectDate.h"
 #include "ui/swTextBoxMultiLine.h"
 
@@ -149,6 +150,7 @@ private Q_SLOTS:
                     seen << list(screen).cell(row, 0) +
                                 (list(screen).look(row, 1).colour.isValid() ? u" yes" : u" no");
                 QCOMPARE(seen.join(u", "_s), dimmed);
+                QCOMPARE(control<HelpLine>(screen, "lblHelp").notice().isEmpty(), !dimmed.contains(u"yes"_s));
             }
         });
         inModal<frmMenu>([](frmMenu&) { press(Qt::Key_B, Qt::AltModifier); });

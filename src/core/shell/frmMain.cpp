@@ -60,7 +60,10 @@ frmMain::frmMain()
     on(ui->Command4, &QPushButton::clicked, [] { frmAbout().showModal(); });
     on(ui->cmdLastBackup, &QPushButton::clicked, [] { frmSettings().ShowBackup(); });
     on(ui->TodayDate, &forms::DatePicker::changed, &frmMain::changeWorkingDate);
-    on(ui->TodayDate, &forms::DatePicker::calendarClosed, &frmMain::changeWorkingDate);
+    on(ui->TodayDate, &forms::DatePicker::calendarClosed, [this] {
+        changeWorkingDate();
+        m_dateTaken = true;
+    });
     onGotFocus(ui->TodayDate, [this] { m_dateTaken = false; });
 }
 
