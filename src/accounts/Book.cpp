@@ -14,7 +14,7 @@ constexpr double heightOfScreen = 0.97;
 
 } // namespace
 
-bool openVoucher(QWidget* screen, const QString& tag)
+bool openVoucher(QWidget* screen, const QString& tag, qint32 posting)
 {
     const VoucherTag voucher = VoucherTag::of(tag);
     if (voucher.type != VoucherType::Job && voucher.type != VoucherType::Entry)
@@ -29,7 +29,7 @@ bool openVoucher(QWidget* screen, const QString& tag)
     if (isCard)
         return frmEditJOB().ShowEdit(voucher.number);
     qint16 saved = 0;
-    frmTransiction().ShowEdit(voucher.number, saved);
+    frmTransiction().ShowEdit(voucher.number, saved, posting);
     return saved != 0;
 }
 
@@ -50,7 +50,9 @@ void Book::show(const std::vector<BookLine>& lines)
 {
     std::vector<forms::ListView::Row> rows;
     rows.reserve(lines.size());
+    m_postings.clear();
     for (const BookLine& line : lines) {
+        m_postings.push_back(line.posting);
         forms::ListView::Row row{line.cells, line.tag};
         row.apart = !line.isPosting();
         if (row.apart) {
@@ -72,7 +74,8 @@ void Book::select(const QString& tag)
 
 void Book::openSelected()
 {
-    if (openVoucher(this, m_list->tag(m_list->selectedRow())))
+    const int row = m_list->selectedRow();
+    if (row >= 0 && openVoucher(this, m_list->tag(row), m_postings[size_t(row)]))
         refresh();
 }
 

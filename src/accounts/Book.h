@@ -7,8 +7,8 @@
 
 /// Opens what stands behind a row of a book: the job card, or the entry screen of a voucher. True when it
 /// came back saved, and also when the ledger no longer has it, which the operator is told: either way the
-/// book is to be made anew. A row of a total opens nothing.
-bool openVoucher(QWidget* screen, const QString& tag);
+/// book is to be made anew. A row of a total opens nothing. `posting` tells entries of the same number apart.
+bool openVoucher(QWidget* screen, const QString& tag, qint32 posting = 0);
 
 /// Base of the books: a list of vouchers over some days, each of which opens on Enter.
 class Book : public forms::Screen
@@ -38,4 +38,5 @@ protected:
 
 private:
     forms::ListView* m_list = nullptr;
+    std::vector<qint32> m_postings; ///< behind the rows
 };

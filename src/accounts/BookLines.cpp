@@ -82,7 +82,8 @@ void AccountBook::addPostings(qint32 account, const QDate& from, const QDate& to
                      lines.push_back({{day, posting["VID"].text(), posting["particulars"].text(), title,
                                        debit ? moneyText(-amount) : blank, debit ? blank : moneyText(amount),
                                        posting["Remark"].text()},
-                                      tagOf(posting)});
+                                      tagOf(posting),
+                                      posting["ID"].integer()});
                  });
 }
 
@@ -94,7 +95,8 @@ std::vector<BookLine> daybook::read(const QDate& from, const QDate& to)
                      lines.push_back(
                          {{day, posting["VID"].text(), posting["particulars"].text(), title,
                            moneyText(std::abs(posting["Amount"].number())), posting["Remark"].text()},
-                          tagOf(posting)});
+                          tagOf(posting),
+                          posting["ID"].integer()});
                  });
     lines.push_back({{blank, blank, blank, u"Total Vouchers : %1"_s.arg(lines.size()), blank, blank}});
     return lines;

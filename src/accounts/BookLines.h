@@ -9,7 +9,8 @@
 struct BookLine
 {
     QStringList cells;
-    QString tag = {}; ///< of its VoucherTag
+    QString tag = {};   ///< of its VoucherTag
+    qint32 posting = 0; ///< its own number in the ledger
 
     bool isPosting() const { return !tag.isEmpty(); }
 };

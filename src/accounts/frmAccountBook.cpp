@@ -96,15 +96,28 @@ void frmAccountBook::ExecuteSQL()
 {
     const QString title = ComboFindIndex(*ui->cmbAccount) < 0 ? QString() : ui->cmbAccount->Text();
     const qint32 id = title.isEmpty() ? 0 : idOf(title);
-    m_book = id == 0 ? AccountBook() : AccountBook(id, period.from(), period.to());
-    m_account = id == 0 ? QString() : title;
-    m_period = period.text();
-    show(m_book.lines);
-    ui->lblShown->setText(id == 0 ? QString() : m_account + u'\n' + m_period);
+    AccountBook book;
+    try {
+        if (id != 0)
+            book = AccountBook(id, period.from(), period.to());
+    } catch (...) {
+        showBook({}, {}); // never the account before under the new name
+        throw;
+    }
+    showBook(std::move(book), id == 0 ? QString() : title);
     if (id == 0 && !title.isEmpty()) {
         loadList();
         forms::plainMessage(this, u"The account \"%1\" is no longer there."_s.arg(title));
     }
+}
+
+void frmAccountBook::showBook(AccountBook book, const QString& account)
+{
+    m_book = std::move(book);
+    m_account = account;
+    m_period = period.text();
+    show(m_book.lines);
+    ui->lblShown->setText(account.isEmpty() ? QString() : account + u'\n' + m_period);
 }
 
 // Commands
@@ -131,13 +144,13 @@ void frmAccountBook::addEntry()
 {
     if (!accountChosen())
         return;
-    const qint32 number = Voucher::NextEntryNumber();
+    frmTransiction entry;
     qint16 saved = 0;
-    frmTransiction().ShowAddNew(ui->cmbAccount->Text(), saved);
+    entry.ShowAddNew(ui->cmbAccount->Text(), saved);
     if (saved == 0)
         return;
     refresh();
-    select(VoucherTag{number, VoucherType::Entry}.text());
+    select(VoucherTag{entry.number(), VoucherType::Entry}.text());
     ui->lvSummary->setFocus();
 }
 
@@ -161,8 +174,7 @@ void frmAccountBook::openDayBook()
 void frmAccountBook::openWages()
 {
     frmWorkerWagesRegister().showModal();
-    if (!m_account.isEmpty())
-        refresh();
+    refresh();
     ui->lvSummary->setFocus();
 }
 

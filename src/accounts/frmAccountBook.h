@@ -31,6 +31,7 @@ protected:
     void openSelected() override;
 
 private:
+    void showBook(AccountBook book, const QString& account);
     bool accountChosen();
     void view();
     void addEntry();

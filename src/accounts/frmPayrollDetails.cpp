@@ -29,9 +29,11 @@ void frmPayrollDetails::Form_Load()
 
 void frmPayrollDetails::ExecuteSQL(const QString& accountTitle, qint32 vid)
 {
+    load();
     PayrollAccount = accountTitle;
     ui->lvSummary->setLines(wages::read(wages::linesOfPayroll(vid)));
     ui->lvSummary->selectRow(0);
     ui->lblTotal->setText(ui->lvSummary->total());
+    session.RefreshLists = false;
     showModal();
 }

@@ -7,6 +7,7 @@
 #include "core/store/SerialNumber.h"
 #include "core/store/Session.h"
 #include "core/store/Voucher.h"
+#include "platform/forms/MessageBox.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
@@ -83,14 +84,15 @@ void frmTransiction::ShowAddNew(const QString& accountTitle, qint16& saved)
     saved = EntrySaved;
 }
 
-void frmTransiction::ShowEdit(qint32 vid, qint16& saved)
+void frmTransiction::ShowEdit(qint32 vid, qint16& saved, qint32 posting)
 {
     EntrySaved = 0;
     fillAccounts();
     EntryID = vid;
+    m_rows = Voucher(VoucherType::Entry, vid).Pair(posting);
 
     ado::Recordset& line = DE.rspostings;
-    line.Open(u"Select * from Postings where vid=%1 and vtype=2 and sr=1"_s.arg(vid));
+    line.Open(u"Select * from Postings where id=%1"_s.arg(m_rows.first));
     ui->txtVID->setText(QString::number(vid));
     EntryAccount = GetAccountTitle(line["accID"].integer());
     ui->cmbRefAcc->setText(GetAccountTitle(line["refID"].integer()));
@@ -173,6 +175,8 @@ void frmTransiction::save()
     }
     applyLabels();
     if (EntryMode == RecordMode::New) {
+        if (!settleNumber())
+            return;
         SaveNew();
         ShowMsg(u"New Entry saved."_s);
     } else {
@@ -181,6 +185,26 @@ void frmTransiction::save()
     }
     session.RefreshLists = true;
     EntrySaved = -1;
+}
+
+/// A number that is stored already may be used once more, but never unnoticed. False: the operator goes back
+/// to the voucher.
+bool frmTransiction::settleNumber()
+{
+    const std::optional<qint32> typed = readSerialNumber(ui->txtVID->Text());
+    const QString there = typed ? Voucher(VoucherType::Entry, *typed).description() : QString();
+    if (there.isEmpty())
+        return true;
+    const QString next = QString::number(Voucher::NextEntryNumber());
+    const std::optional<bool> useNext = forms::askPlainOrCancel(
+        this,
+        u"Voucher %1 is there already: %2. Use the next free number %3?\n\nNo saves this one as another "
+        "voucher of number %1."_s.arg(QString::number(*typed), there, next));
+    if (!useNext)
+        ui->txtVID->setFocus();
+    else if (*useNext)
+        ui->txtVID->setText(next);
+    return useNext.has_value();
 }
 
 /// What the two lines of the voucher on the screen hold; line 1 is the main account's.
@@ -204,7 +228,7 @@ void frmTransiction::SaveNew()
     }
     const PostingPair entry = pair();
     EntryID = *number;
-    DE.connection().writeBatch([&] { Voucher(VoucherType::Entry, EntryID).AddPair(entry); });
+    DE.connection().writeBatch([&] { m_rows = Voucher(VoucherType::Entry, EntryID).AddPair(entry); });
     EntryMode = RecordMode::Stored;
     setWindowTitle(u"Edit Entry"_s);
     ui->lblTitle->setText(windowTitle());
@@ -213,7 +237,7 @@ void frmTransiction::SaveNew()
 void frmTransiction::SaveEdit()
 {
     const PostingPair entry = pair();
-    DE.connection().writeBatch([&] { Voucher(VoucherType::Entry, EntryID).ChangePair(entry); });
+    DE.connection().writeBatch([&] { Voucher(VoucherType::Entry, EntryID).ChangePair(m_rows, entry); });
 }
 
 void frmTransiction::remove()
@@ -228,7 +252,7 @@ void frmTransiction::remove()
     DE.connection().writeBatch([&] {
         if (EntryIsPayroll != 0)
             payroll::Release(EntryID);
-        Voucher(VoucherType::Entry, EntryID).Delete();
+        Voucher(VoucherType::Entry, EntryID).Delete(m_rows);
     });
     session.RefreshLists = true;
     EntrySaved = -1;

@@ -25,8 +25,11 @@ public:
 
     /// Opens a new voucher of an account. `saved` is -1 when something was saved or deleted, else 0.
     void ShowAddNew(const QString& accountTitle, qint16& saved);
-    /// Opens an entry voucher or payroll by its number. Throws ado::NoCurrentRecordError when there is none.
-    void ShowEdit(qint32 vid, qint16& saved);
+    /// Opens an entry voucher or payroll by its number; of several that were given the same number, the one
+    /// that has the posting. Throws ado::NoCurrentRecordError when there is none.
+    void ShowEdit(qint32 vid, qint16& saved, qint32 posting = 0);
+    /// The number of the voucher on the screen, once it is stored.
+    qint32 number() const { return EntryID; }
     /// The number that follows the highest entry voucher.
     void GetNewNum(qint32& n);
     /// Write the voucher on the screen. Throw OperatorError for a number or an amount that no voucher can
@@ -43,6 +46,7 @@ private:
     void mirrorAmount();
     void applyLabels();
     void save();
+    bool settleNumber();
     PostingPair pair() const;
     void remove();
 
@@ -50,6 +54,7 @@ private:
     RecordMode EntryMode = RecordMode::New;
     qint16 EntrySaved = 0;     ///< -1 after a save or a delete
     qint32 EntryID = 0;        ///< the voucher's number
+    PairRows m_rows;           ///< what a save changes and a delete takes: the rows opened or added here
     qint16 EntryIsPayroll = 0; ///< -1 for a payroll
     QString EntryAccount;      ///< the main account's title; the save goes by it, whatever the combo shows
 };

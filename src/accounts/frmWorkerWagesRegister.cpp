@@ -36,17 +36,22 @@ frmWorkerWagesRegister::frmWorkerWagesRegister()
         key = 0;
         view();
     };
-    onKeyPress(ui->cmbClient, [this, enterViews](int& key) {
+    onKeyPress(ui->cmbClient, [this](int& key) {
         key = AutoSearchCombo(*ui->cmbClient, key);
-        enterViews(key);
+        if (key != forms::key::Enter)
+            return;
+        key = 0;
+        leaveWorker();
     });
-    for (forms::DatePicker* day : {ui->DateFrom, ui->DateTo})
+    for (forms::DatePicker* day : {ui->DateFrom, ui->DateTo}) {
         onKeyPress(day, [](int& key) { key = EnterAsTab(key); });
+        onGotFocus(day, [this] { m_daysSeen = true; });
+    }
     for (QRadioButton* option : {ui->op1, ui->op2, ui->op3})
         onKeyPress(option, enterViews);
     on(ui->Command4, &QPushButton::clicked, &frmWorkerWagesRegister::view);
     on(ui->Command3, &QPushButton::clicked, &frmWorkerWagesRegister::createPayroll);
-    on(ui->Command5, &QPushButton::clicked, [this] { ui->lvSummary->print(ui->cmbClient->text()); });
+    on(ui->Command5, &QPushButton::clicked, &frmWorkerWagesRegister::print);
 
     onOpened(ui->lvSummary, &frmWorkerWagesRegister::openLine);
 }
@@ -62,18 +67,17 @@ void frmWorkerWagesRegister::Form_Load()
     session.RefreshLists = true;
     m_period.set(session.WorkingDate, session.WorkingDate);
     FillList(u"title"_s, u"Accounts"_s, whereType(AccountType::Worker), *ui->cmbClient, DE.rsaccounts);
+    m_daysSeen = false;
+    for (QRadioButton* option :
+         {ui->op1, ui->op2, ui->op3}) // the keys come to the one chosen, from either side
+        option->setFocusPolicy(option->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
     ui->cmbClient->setFocus();
 }
 
-/// Back from a screen that has changed lines: what is listed, listed anew.
 void frmWorkerWagesRegister::Form_Activate()
 {
-    if (!session.RefreshLists)
-        return;
-    if (ListSql.isEmpty())
+    if (session.RefreshLists)
         ExecuteSQL();
-    else
-        showLines();
 }
 
 void frmWorkerWagesRegister::Form_KeyPress(int& key)
@@ -117,10 +121,12 @@ void frmWorkerWagesRegister::ExecuteSQL()
     const std::optional<wages::Scope> scope = chosen();
     if (!scope) {
         ListSql.clear();
+        m_shownWorker.clear();
         showLines();
         return;
     }
     ComboSyncIndex(*ui->cmbClient);
+    m_shownWorker = ui->cmbClient->text();
     if (*scope != std::exchange(m_shown, *scope))
         ReturnIndex = 1;
     chooseStatement();
@@ -160,6 +166,15 @@ void frmWorkerWagesRegister::view()
     ExecuteSQL();
     if (ui->lvSummary->rowCount() > 0)
         ui->lvSummary->setFocus();
+}
+
+/// Enter goes on to the days until they have been seen; after that it views at once.
+void frmWorkerWagesRegister::leaveWorker()
+{
+    if (m_daysSeen)
+        view();
+    else
+        ui->DateFrom->setFocus(Qt::TabFocusReason);
 }
 
 /// Opens the selected line in the workshop's screen; the list is listed anew when that has saved it.
@@ -202,7 +217,18 @@ void frmWorkerWagesRegister::createPayroll()
     if (refusesPayroll())
         return;
     payroll::Create(m_shown, ui->lvSummary->lines(), session.TodayDate);
-    showLines();
+    ExecuteSQL();
     forms::plainMessage(this, u"Payroll Created."_s);
     ui->cmbClient->setFocus();
+}
+
+/// The paper names the worker whose lines it has, whatever the box says by now.
+void frmWorkerWagesRegister::print()
+{
+    if (ComboFindIndex(*ui->cmbClient) < 0) {
+        ShowMsg(u"Please select Worker!"_s);
+        ui->cmbClient->setFocus();
+        return;
+    }
+    ui->lvSummary->print(m_shownWorker.isEmpty() ? ui->cmbClient->text() : m_shownWorker);
 }

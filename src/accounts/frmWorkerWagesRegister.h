@@ -36,17 +36,21 @@ private:
     void showLines();
     void fillDetails();
     void view();
+    void leaveWorker();
     void openLine();
 
     // What is made of it
     bool refusesPayroll();
     void createPayroll();
+    void print();
 
     const std::unique_ptr<Ui::frmWorkerWagesRegister> ui;
     Period m_period;
     DetailsPanel* m_details;
 
     wages::Scope m_shown;    ///< what the list is about, whatever stands in the boxes by now
+    QString m_shownWorker;   ///< the worker's title; empty before a first view
+    bool m_daysSeen = false; ///< the keys have been on the days
     QString ListSql;         ///< of the list
     bool UnpaidView = false; ///< the list has the unpaid lines
     qint32 ReturnIndex = 0;  ///< position to select after a refresh, from 1

@@ -30,13 +30,13 @@ struct Column
 
 /// The money stands right-aligned, with room to what follows it.
 const Column columns[] = {
-    {"Label2", "Date", "txtDate", "date", Gap, 1200, Day},
-    {"Label3", "JOB ID", "txtJobID", "Jobid", 1350, 930, {}},
-    {"Label4", "Client Name", "txtClient", "client", 2310, 1700, {}},
-    {"Label5", "Item", "txtItem", "item", 4050, 1430, {}},
-    {"Label6", "Amount", "txtWages", "wages", 5500, 940, Money},
-    {"Label7", "Balance", "txtBalance", "balance", 6460, 1160, Money},
-    {"Label8", "Completed Date", "txtCompleted", "completed", 7750, 1560, {}},
+    {"Label2", "Date", "txtDate", "date", Gap, 1280, Day},
+    {"Label3", "JOB ID", "txtJobID", "Jobid", 1410, 930, {}},
+    {"Label4", "Client Name", "txtClient", "client", 2360, 1680, {}},
+    {"Label5", "Item", "txtItem", "item", 4070, 1430, {}},
+    {"Label6", "Amount", "txtWages", "wages", 5510, 940, Money},
+    {"Label7", "Balance", "txtBalance", "balance", 6470, 1200, Money},
+    {"Label8", "Completed Date", "txtCompleted", "completed", 7830, 1480, {}},
     {"Label9", "Paid  Unpaid", "txtStatus", "status", 9360, Width - 9360, {}},
 };
 

@@ -20,6 +20,7 @@ constexpr int RowHeight = 340;
 constexpr int MeasureHeight = 320;
 constexpr int NameWidth = 3500; ///< of a measurement's name
 
+constexpr double CaptionLeast = 7; ///< points
 constexpr double hindiScale = 1.2; ///< its letters are smaller than Latin ones of the same size
 
 const QString Day = u"dd-MMM-yyyy"_s;
@@ -110,9 +111,11 @@ void rptWorkerJobCard::useHindi()
             caption->Caption = hindiWord(caption->Caption);
             caption->FontFamily = hindiPaperFont;
             caption->FontSize *= hindiScale;
+            while (caption->FontSize > CaptionLeast && linesOf(caption->Caption, *caption, *this).size() > 1)
+                caption->FontSize -= 0.5;
         }
     }
-    for (const auto& name : {u"txtItemName"_s, u"txtItemDetails"_s, u"Text1"_s}) {
+    for (const auto& name : {u"txtItemName"_s, u"txtItemDetails"_s}) {
         Field& field = section(u"Section1"_s).field(name);
         field.FontFamily = hindiPaperFont;
         field.FontSize *= hindiScale;

@@ -75,7 +75,8 @@ private Q_SLOTS:
     {
         Shop::run("Update Postings set vType=1 where VID=2");
         Shop::run("Update Postings set Amount=-Amount where VID=3");
-        QCOMPARE(texts(daybook::read(day.addDays(-1), day)), "09-Feb-2024|2|Receipt|Cash|500.50| = 2|1\n"
+        Shop::run("Update Postings set VID=4 where VID=2"); // by day, then by number
+        QCOMPARE(texts(daybook::read(day.addDays(-1), day)), "09-Feb-2024|4|Receipt|Cash|500.50| = 4|1\n"
                                                              "10-Feb-2024|3|Receipt|Asha|200.00| = 3|2\n"
                                                              " | | |Total Vouchers : 2| | ");
         QCOMPARE(texts(daybook::read(day.addDays(1), day.addDays(2))), " | | |Total Vouchers : 0| | ");
@@ -91,6 +92,8 @@ private Q_SLOTS:
         session.ShopName = "Needle & Co";
         shop->addVoucher(1, shop->addClient("Almost"), cash, -0.004);
         shop->addVoucher(1, shop->addClient("In Credit"), cash, 5);
+        shop->addVoucher(9, shop->addClient("Owes Tomorrow"), cash, -30);
+        Shop::run("Update Postings set Date='2024-02-11', VID=1 where VID=9");
         inModal<frmMenu>([&](frmMenu&) {
             onNextModal<frmDueRegister>([&](frmDueRegister& dues) {
                 QCOMPARE(column(dues, 0) + column(dues, 1), "Almost|Asha0.00|300.50");

@@ -185,7 +185,7 @@ private:
                                    move.credited, move.debited,
                                    move.amount,   "remark"};
             Voucher voucher(VoucherType::Entry, number);
-            stored ? voucher.ChangePair(pair) : voucher.AddPair(pair);
+            stored ? voucher.ChangePair(voucher.Pair(), pair) : void(voucher.AddPair(pair));
         });
         entries[number] = {move, false, {}};
     }

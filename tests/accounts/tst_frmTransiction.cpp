@@ -45,6 +45,8 @@ class tst_frmTransiction : public ShopTest
 private Q_SLOTS:
     void entersAVoucherByKeysAlone()
     {
+        shop->addVoucher(40, asha, cash, 80);
+        Shop::run("Update Postings set vType=1"); // a job card's: its number is of another series
         prompts->expectAll({NewSaved, Updated});
         const qint16 saved = addNew("Asha", [](frmTransiction& form) {
             QCOMPARE(date(form, "VcDate").value(), session.WorkingDate);
@@ -136,6 +138,53 @@ private Q_SLOTS:
             });
             stored(60);
         }
+    }
+
+    void aNumberThatIsTaken()
+    {
+        const qint32 bela = shop->addClient("Bela");
+        prompts->expect(NewSaved);
+        addNew("Asha", [](frmTransiction& form) {
+            fill(form, "Receipt", "Cash", "100");
+            save();
+        });
+        const QString question = "Voucher 1 is there already: a Receipt of 100.00. Use the next free number "
+                                 "2?\n\nNo saves this one as another voucher of number 1.";
+        const auto amounts = [](qint32 account) {
+            return Shop::rows(u"Select Amount from Postings where accID=%1"_s.arg(account)).join(' ');
+        };
+        addNew("Bela", [&](frmTransiction& form) {
+            box(form, "txtVID").setText("1");
+            fill(form, "Receipt", "Cash", "70");
+            prompts->expect(question, Answer::Esc);
+            save();
+            QCOMPARE(focused(form), "txtVID");
+            QCOMPARE(amounts(bela), "");
+            prompts->expect(question, Answer::No);
+            prompts->expectAll({NewSaved, Updated});
+            save();
+            box(form, "txtAmount").setText("75");
+            save(); // changes its own rows
+        });
+        QCOMPARE(amounts(asha) + "; " + amounts(bela) + "; " + amounts(cash), "100; 75; -100 -75");
+        const qint32 belas = Shop::value(u"Select ID from Postings where accID=%1"_s.arg(bela)).toInt();
+        onNextModal<frmTransiction>([this](frmTransiction& form) {
+            QCOMPARE(combo(form, "cmbAccount").text(), "Bela");
+            prompts->expect(DeleteIt, Answer::Yes);
+            remove();
+        });
+        qint16 saved = 0;
+        frmTransiction().ShowEdit(1, saved, belas);
+        QCOMPARE(amounts(asha) + "; " + amounts(bela), "100; ");
+        addNew("Bela", [&](frmTransiction& form) {
+            box(form, "txtVID").setText("1");
+            fill(form, "Receipt", "Cash", "70");
+            prompts->expect(question, Answer::Yes);
+            prompts->expect(NewSaved);
+            save();
+            QCOMPARE(form.number(), 2);
+        });
+        QCOMPARE(Shop::value(u"Select VID from Postings where accID=%1"_s.arg(bela)).toInt(), 2);
     }
 
     void deletesVouchersButNoneOfJobs()

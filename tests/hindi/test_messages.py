@@ -30,7 +30,7 @@ TOKEN = re.compile(
 ESCAPE = re.compile(r"\\(.)")
 DIALOG = {"ShowMsg", "ShowMessage"}
 WRAPPERS = {"QStringLiteral", "QString", "fromLatin1", "fromUtf8", "QLatin1String", "tr", "const", "int"}
-ENGLISH = re.compile(r"(plainMessage|putBefore|criticalMessage|askPlain|q(Warning|Critical|Fatal|Info|Debug)|\w*Error|Check|Finding)$")
+ENGLISH = re.compile(r"(plainMessage|putBefore|criticalMessage|askPlain(OrCancel)?|q(Warning|Critical|Fatal|Info|Debug)|\w*Error|Check|Finding)$")
 SENTENCE = re.compile(r"[A-Z][a-z']*( .*|\r\n.*)?[!?.](?<!\.\.\.)$", re.DOTALL)
 SQL = re.compile(r"(select|insert|update|delete|create|drop|alter)\b.*(\bfrom\b|\binto\b|\bset\b|\btable\b)", re.I | re.DOTALL)
 

@@ -1,7 +1,11 @@
 #include "core/store/Voucher.h"
 
 #include "core/store/DE.h"
+#include "core/store/Texts.h"
 #include "platform/values/Numbers.h"
+
+#include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -37,8 +41,9 @@ qint32 lastOf(const QString& sql, const char* field)
 
 QString Voucher::where() const { return u" where vid=%1 and vtype=%2"_s.arg(m_number).arg(qint32(m_type)); }
 
-void Voucher::AddPair(const PostingPair& pair, PostingMarks marks)
+PairRows Voucher::AddPair(const PostingPair& pair, PostingMarks marks)
 {
+    PairRows rows;
     ado::Recordset& line = DE.rspostings;
     line.Open(u"Select * from Postings order by ID"_s);
     for (const bool first : {true, false}) {
@@ -50,24 +55,76 @@ void Voucher::AddPair(const PostingPair& pair, PostingMarks marks)
         line["Status"] = int(marks.cancelled);
         line["isPayroll"] = int(marks.payroll);
         line.Update();
+        (first ? rows.first : rows.second) = line["ID"].integer();
     }
     line.Close();
+    return rows;
 }
 
-void Voucher::ChangePair(const PostingPair& pair)
+/// The lines 1 and 2 of each entry that has the number, in the order in which they were entered.
+std::vector<PairRows> Voucher::pairs() const
+{
+    std::vector<PairRows> found;
+    ado::Recordset& lines = DE.rspostings;
+    lines.Open(u"Select ID, Sr from Postings"_s + where() + u" and sr in (1, 2) order by ID"_s);
+    for (; !lines.AtEOF(); lines.MoveNext()) {
+        const qint32 id = lines["ID"].integer();
+        if (lines["Sr"].integer() == 1) {
+            found.push_back({.first = id});
+            continue;
+        }
+        const auto half =
+            std::find_if(found.begin(), found.end(), [](const PairRows& rows) { return rows.second == 0; });
+        if (half != found.end())
+            half->second = id;
+    }
+    lines.Close();
+    return found;
+}
+
+PairRows Voucher::Pair(qint32 posting) const
+{
+    const std::vector<PairRows> all = pairs();
+    for (const PairRows& rows : all)
+        if (posting != 0 && (rows.first == posting || rows.second == posting))
+            return rows;
+    return all.empty() ? PairRows() : all.front();
+}
+
+void Voucher::ChangePair(const PairRows& rows, const PostingPair& pair)
 {
     ado::Recordset& line = DE.rspostings;
-    for (const int sr : {1, 2}) {
-        line.Open(u"Select * from Postings"_s + where() + u" and sr=%1"_s.arg(sr));
-        if (sr == 2)
-            line.MoveLast();
-        setLine(pair, sr == 1);
+    for (const bool first : {true, false}) {
+        line.Open(u"Select * from Postings where id=%1"_s.arg(first ? rows.first : rows.second));
+        setLine(pair, first);
         line.Update();
         line.Close();
     }
 }
 
 void Voucher::Delete() { DE.connection().Execute(u"Delete from Postings"_s + where()); }
+
+void Voucher::Delete(const PairRows& rows)
+{
+    if (pairs().size() < 2)
+        Delete();
+    else
+        DE.connection().Execute(
+            u"Delete from Postings where id in (%1, %2)"_s.arg(rows.first).arg(rows.second));
+}
+
+QString Voucher::description() const
+{
+    ado::Recordset& line = DE.rspostings;
+    line.Open(u"Select * from Postings"_s + where());
+    QString text;
+    if (!line.AtEOF()) {
+        const QString kind = line["isPayroll"].integer() > 0 ? u"payroll"_s : line["particulars"].text();
+        text = u"a %1 of %2"_s.arg(kind, moneyText(std::abs(line["Amount"].number())));
+    }
+    line.Close();
+    return text;
+}
 
 qint32 Voucher::NextEntryNumber()
 {

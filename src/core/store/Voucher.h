@@ -5,6 +5,7 @@
 
 #include <QDate>
 #include <QString>
+#include <vector>
 
 /// Two postings that move one account against another.
 struct PostingPair
@@ -24,6 +25,13 @@ struct PostingMarks
     bool payroll = false;
 };
 
+/// The two rows of a pair, by their own numbers in the ledger; 0 for one that is not there.
+struct PairRows
+{
+    qint32 first = 0;
+    qint32 second = 0;
+};
+
 /// The postings that share a number and a type: one pair, or the two of a job card (the sale, and the money
 /// taken with it). Each pair sums to zero, and so do all the shop's postings. Write within a write batch. All
 /// throw ado::DatabaseError.
@@ -37,11 +45,18 @@ public:
     }
 
     /// Appends the pair as the voucher's next two lines (`Sr`), counted by this object from 1.
-    void AddPair(const PostingPair& pair, PostingMarks marks = {});
-    /// Writes the pair over the stored lines 1 and 2; number, type and marks stay. Throws
-    /// ado::NoCurrentRecordError when a line is not there.
-    void ChangePair(const PostingPair& pair);
+    PairRows AddPair(const PostingPair& pair, PostingMarks marks = {});
+    /// The stored lines 1 and 2. A number can be given to more than one entry by hand: then those of the
+    /// entry that has the posting, or of the one entered first.
+    PairRows Pair(qint32 posting = 0) const;
+    /// Writes the pair over these rows; number, type and marks stay. Throws ado::NoCurrentRecordError when
+    /// one of them is not there.
+    void ChangePair(const PairRows& rows, const PostingPair& pair);
     void Delete();
+    /// Deletes the entry of these rows; another of the same number stays.
+    void Delete(const PairRows& rows);
+    /// What is stored under the number, in the operator's words: "a Receipt of 100.00"; empty for a free one.
+    QString description() const;
 
     /// One above the highest number of the entries: the number of a deleted last one is used again.
     static qint32 NextEntryNumber();
@@ -51,6 +66,7 @@ public:
 
 private:
     QString where() const;
+    std::vector<PairRows> pairs() const;
 
     VoucherType m_type;
     qint32 m_number;

@@ -222,11 +222,17 @@ void ListView::refreshRows(std::vector<Row> rows)
 {
     const int position = selectedRow();
     const QString selected = tag(position);
-    const auto found = std::find_if(rows.begin(), rows.end(), [&](const Row& each) {
-        return !selected.isEmpty() && each.tag == selected;
-    });
-    const int row =
-        int(found != rows.end() ? found - rows.begin() : std::min(position, int(rows.size()) - 1));
+    int row = std::min(position, int(rows.size()) - 1);
+    if (!selected.isEmpty()) {
+        int before = 0; // rows of the same tag above it
+        for (int above = 0; above < position; ++above)
+            before += tag(above) == selected ? 1 : 0;
+        for (int each = 0; each < int(rows.size()) && before >= 0; ++each)
+            if (rows[size_t(each)].tag == selected) {
+                row = each;
+                --before;
+            }
+    }
     setRows(std::move(rows));
     if (position >= 0)
         selectRow(row);

@@ -60,8 +60,8 @@ public:
     int addRow(Row row);
     /// Puts other rows in place of all, at once; none is selected then.
     void setRows(std::vector<Row> rows);
-    /// The same, but the row that was selected stays so, by its tag; where that is gone or empty, the one in
-    /// its place.
+    /// The same, but the row that was selected stays so, by its tag, the second of a tag the second; where
+    /// the tag is gone or empty, the one in its place.
     void refreshRows(std::vector<Row> rows);
     /// Removes, at once, the rows that `stays` does not want; none is selected then.
     void keepRows(const std::function<bool(const Row& row)>& stays);

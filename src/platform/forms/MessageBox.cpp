@@ -65,6 +65,15 @@ bool askPlain(QWidget* parent, const QString& text)
     return run(parent, QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
+std::optional<bool> askPlainOrCancel(QWidget* parent, const QString& text)
+{
+    const int button =
+        run(parent, QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    if (button != QMessageBox::Yes && button != QMessageBox::No)
+        return {};
+    return button == QMessageBox::Yes;
+}
+
 QString inputBox(QWidget* parent, const QString& prompt, const QString& title)
 {
     const QPointer<QInputDialog> box = new QInputDialog(windowBelow(parent));

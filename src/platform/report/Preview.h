@@ -18,6 +18,8 @@ class Preview : public forms::Screen
 public:
     explicit Preview(const Report& report, QWidget* parent = nullptr);
 
+    const Report& report() const { return m_report; }
+
 protected:
     void Form_Load() override;
     void Form_KeyPress(int& key) override;
