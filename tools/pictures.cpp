@@ -21,6 +21,7 @@
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "core/store/ShopChecks.h"
 #include "core/store/Texts.h"
 #include "jobcards/JobCard.h"
 #include "jobcards/MODPrintJOBCARD.h"
@@ -318,12 +319,16 @@ void takeAll()
     });
     picture("glance", [] { frmGlance().showModal(); });
     picture("check-shop", [] {
-        frmCheckShop({.findings = {{u"Job card 1436 comes to 1,250, the books say 1,150."_s,
-                                    u"Open the card and save it: it is posted anew."_s}},
-                      .cards = 530,
-                      .lines = 1000,
-                      .postings = 2570,
-                      .pictures = 12})
+        frmCheckShop(
+            {.findings = {{u"Job card 1436 comes to 1150; its garments and the books say 1250."_s,
+                           u"Mend: the card's total becomes 1250."_s, &shopcheck::recordChecks().front()},
+                          {u"2 garments have the one code 1440/1."_s,
+                           u"Open the card. If one stands there twice, remove it. Save: its garments "
+                           "are numbered anew."_s}},
+             .cards = 530,
+             .lines = 1000,
+             .postings = 2570,
+             .pictures = 12})
             .showModal();
     });
     picture("pending-orders", [] { frmDDP().showModal(); });

@@ -63,6 +63,7 @@ frmEditJOB::frmEditJOB(QWidget* parent)
     onKeyPress(ui->cmbAccount, [this](int& key) { key = AutoSearchCombo(*ui->cmbAccount, key); });
     on(ui->txtAmountPaid, &QLineEdit::textEdited, &frmEditJOB::limitPaid);
     on(ui->txtAmountPaid, &swTextBox::Change, &frmEditJOB::showBalance);
+    on(ui->txtAmountDue, &QLineEdit::textChanged, &frmEditJOB::showGarments);
 
     on(ui->lvItems, &forms::ListView::dblClicked, &frmEditJOB::editLine);
     onKeyDown(ui->lvItems, [this](int& key) {
@@ -343,14 +344,28 @@ void frmEditJOB::showBalance()
 
 void frmEditJOB::DoTotal()
 {
-    const int rows = ui->lvItems->rowCount();
-    if (rows == 0)
+    if (ui->lvItems->rowCount() == 0)
         return;
-    double total = 0;
-    for (int row = 0; row < rows; ++row)
-        total += values::Val(ui->lvItems->cell(row, AmountColumn));
-    ui->txtAmountDue->setText(moneyText(total));
+    ui->txtAmountDue->setText(moneyText(garments()));
     showBalance();
+}
+
+/// What the lines of the list come to.
+double frmEditJOB::garments() const
+{
+    double total = 0;
+    for (int row = 0; row < ui->lvItems->rowCount(); ++row)
+        total += values::Val(ui->lvItems->cell(row, AmountColumn));
+    return total;
+}
+
+/// Says beside the total what the garments come to, where that is something else: after a copy, or where the
+/// total was typed.
+void frmEditJOB::showGarments()
+{
+    const QString sum = moneyText(garments());
+    const bool same = ui->lvItems->rowCount() == 0 || sum == moneyText(values::Val(ui->txtAmountDue->text()));
+    ui->lblGarments->setText(same ? QString() : u"Garments: "_s + sum);
 }
 
 void frmEditJOB::quickFind()
@@ -378,12 +393,14 @@ void frmEditJOB::showLines()
     for (int row = 1; row <= m_card.JobRows.RowCount(); ++row)
         ui->lvItems->addRow(lineCells(row));
     ui->lvItems->selectRow(0);
+    showGarments();
 }
 
 /// Shows the last row of the card at the end of the list.
 void frmEditJOB::appendLine()
 {
     ui->lvItems->selectRow(ui->lvItems->addRow(lineCells(m_card.JobRows.RowCount())));
+    showGarments();
 }
 
 /// The row of the card (from 1) whose list entry is selected.
@@ -429,6 +446,7 @@ void frmEditJOB::removeLine()
     ui->lvItems->removeRow(row - 1);
     ui->lvItems->selectRow(qMin(row, ui->lvItems->rowCount()) - 1);
     DoTotal();
+    showGarments();
 }
 
 void frmEditJOB::clearLines()
@@ -436,6 +454,7 @@ void frmEditJOB::clearLines()
     m_card.Clear();
     ui->lvItems->Clear();
     DoTotal();
+    showGarments();
 }
 
 /// The copy shares the stored line of its source, and the total waits for the next change.

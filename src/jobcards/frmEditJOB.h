@@ -56,6 +56,8 @@ private:
     void greetClient();
     void limitPaid();
     void showBalance();
+    double garments() const;
+    void showGarments();
 
     QStringList lineCells(int row) const;
     void showLines();

@@ -118,8 +118,8 @@ class EveryMessageHasHindi(unittest.TestCase):
         known, kept = read_messages(MESSAGES), read_kept(MESSAGES)
         wrong = []
         for path in sorted((ROOT / "src").rglob("*")):
-            # The platform knows nothing of a shop: what it says are errors, in English.
-            if path.suffix in {".cpp", ".h"} and "platform" not in path.parts:
+            # The platform knows nothing of a shop: what it says are errors, in English. So are the check's findings.
+            if path.suffix in {".cpp", ".h"} and "platform" not in path.parts and not path.name.startswith("ShopCheck"):
                 wrong += [f"{path.relative_to(ROOT)}: {fault}" for fault in faults(path.read_text("utf-8"), known, kept)]
         self.assertFalse(wrong, f"\nAdd the Hindi to {MESSAGES.relative_to(ROOT)}:\n" + "\n".join(wrong))
 

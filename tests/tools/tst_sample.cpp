@@ -1,4 +1,5 @@
 // The sample shop: the books agree, every state of a line is there, the same plan lays the same shop.
+#include "core/store/ShopCheck.h"
 #include "sample/SampleShop.h"
 #include "support/Shop.h"
 
@@ -41,6 +42,14 @@ class tst_sample : public QObject
 private Q_SLOTS:
     void initTestCase() { sample::layShop(small(), m_folder.path()); }
     void cleanupTestCase() { DE.close(); }
+
+    void theCheckFindsNothing()
+    {
+        QStringList found;
+        for (const shopcheck::Finding& finding : shopcheck::run({}).findings)
+            found << finding.what;
+        QCOMPARE(found, QStringList());
+    }
 
     void theBooksAgree()
     {

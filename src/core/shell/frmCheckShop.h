@@ -9,7 +9,8 @@ namespace Ui {
 class frmCheckShop;
 }
 
-/// What was found in the shop that does not fit together, and what can be done about it.
+/// What was found in the shop that does not fit together, and what can be done about it: on the screens that
+/// the finding names, or, where those cannot, by a mend that is asked for here.
 class frmCheckShop : public forms::Screen
 {
     Q_OBJECT
@@ -21,8 +22,11 @@ protected:
     void Form_Load() override;
 
 private:
+    void showReport(int row);
     void showChosen();
+    void mend();
 
     const std::unique_ptr<Ui::frmCheckShop> ui;
-    const shopcheck::Report m_report;
+    shopcheck::Report m_report;
+    int m_mended = 0;
 };

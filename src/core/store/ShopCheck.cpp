@@ -1,11 +1,17 @@
 #include "core/store/ShopCheck.h"
 
+#include "core/store/DE.h"
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
+#include "core/store/ShopChecks.h"
 #include "core/store/ShopPictures.h"
+#include "core/store/Texts.h"
 #include "platform/ado/Connection.h"
 #include "platform/ado/Integrity.h"
 #include "platform/ado/Recordset.h"
+#include "platform/values/Errors.h"
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -13,91 +19,28 @@ namespace shopcheck {
 
 namespace {
 
-/// A query that finds what does not fit; %1, %2 ... in the sentence are its columns.
-struct Check
+QStringList cells(ado::Recordset& row)
 {
-    const char16_t* query;
-    const char16_t* what;
-    const char16_t* remedy;
-};
+    QStringList texts;
+    for (int column = 0; column < row.FieldCount(); ++column)
+        texts << row[column].text();
+    return texts;
+}
 
-constexpr Check cards[] = {
-    Check{u"Select Id, count(*) from JOBS group by Id having count(*)>1",
-          u"The number %1 is that of %2 job cards.",
-          u"Only one of them opens. Enter the other one anew under another number."},
-    Check{
-        u"Select Id, ClintName from JOBS as c where not exists (Select 1 from JOBS_DETAIL where JobID=c.Id)",
-        u"Job card %1 (%2) has no garments.", u"Open the card and add them, or delete it."},
-    Check{
-        u"Select ItemName, ClintName, JobID from JOBS_DETAIL as l where not exists (Select 1 from JOBS where "
-        "Id=l.JobID)",
-        u"%1 of %2 stands on job card %3, which is not there.", u"Enter the garment on a new card."},
-    Check{u"Select c.Id, AmountDue, Total from JOBS as c, (Select JobID, total(Amount) as Total from "
-          u"JOBS_DETAIL "
-          u"group by JobID) as l where l.JobID=c.Id and abs(AmountDue-Total)>=0.005",
-          u"Job card %1 comes to %2, its garments to %3.",
-          u"Open the card and save it: it is added up anew."},
-    Check{u"Select Id, ClintName from JOBS as c where not exists (Select 1 from Accounts where Id=c.ClintID)",
-          u"The client of job card %1 (%2) is not there.", u"Open the card and choose a client."},
-    Check{u"Select JobID, ItemSr, ItemName from JOBS_DETAIL as l where not exists (Select 1 from ITEMS where "
-          "Id=l.ItemID)",
-          u"The item of %1/%2 (%3) is not in the catalogue.",
-          u"Open the card and choose an item for this garment."},
-    Check{
-        u"Select JobID, ItemSr, WorkerName from JOBS_DETAIL as l where WorkerID<>0 and not exists (Select 1 "
-        u"from "
-        "Accounts where Id=l.WorkerID)",
-        u"The worker of %1/%2 (%3) is not there.",
-        u"Open the garment in the JOB Register and choose a worker."},
-};
-
-constexpr Check books[] = {
-    Check{u"Select Total from (Select total(Amount) as Total from Postings) where abs(Total)>=0.005",
-          u"All postings together come to %1, not to zero.",
-          u"What is named below, if anything, tells where."},
-    Check{u"Select VID, case Vtype when 1 then 'job card' else 'voucher' end from Postings group by VID, "
-          u"Vtype, "
-          "(sr+1)/2 having count(*)<>2 or abs(total(Amount))>=0.005",
-          u"The postings of %2 %1 do not make up pairs.",
-          u"Open it in the Day Book and save it: it is posted anew."},
-    Check{u"Select Id, ClintName, AmountDue from JOBS as c where AmountDue<>0 and not exists (Select 1 from "
-          u"Postings "
-          "where VID=c.Id and Vtype=1)",
-          u"Job card %1 (%2, %3) is not in the books.", u"Open the card and save it."},
-    Check{
-        u"Select c.Id, AmountDue, -p.Amount from JOBS as c, Postings as p where p.VID=c.Id and p.Vtype=1 and "
-        "p.sr=1 and abs(AmountDue+p.Amount)>=0.005",
-        u"Job card %1 comes to %2, the books say %3.", u"Open the card and save it: it is posted anew."},
-    Check{u"Select VID from Postings as p where Vtype=1 and sr=1 and not exists (Select 1 from JOBS where "
-          u"Id=p.VID)",
-          u"Job card %1 is in the books, but not there.",
-          u"Enter a card with this number and delete it: that takes it out of the books."},
-    Check{u"Select VID, particulars from Postings as p where not exists (Select 1 from Accounts where "
-          u"Id=p.AccID)",
-          u"An account of voucher %1 (%2) is not there.", u"Open it in the Day Book and choose an account."},
-};
-
-constexpr Check wages[] = {
-    Check{u"Select JobID, ItemSr, WorkerName from JOBS_DETAIL where MarkAsPaid>0 and PayrollID=0",
-          u"%1/%2 (%3) is marked as paid without a payroll.",
-          u"If it was not marked by hand, open it in the JOB Register and take the mark off."},
-    Check{u"Select JobID, ItemSr, PayrollID from JOBS_DETAIL as l where PayrollID>0 and not exists (Select 1 "
-          u"from "
-          "Postings where VID=l.PayrollID and isPayroll<>0)",
-          u"%1/%2 was paid by payroll %3, which is not in the books.",
-          u"Open it in the JOB Register and take the mark off; the next payroll pays it."},
-};
-
-QString sentence(QStringView text, ado::Recordset& row)
+/// The text with its %1, %2 ... replaced by the row's cells; what a cell holds is not looked into again.
+QString filled(QStringView text, const QStringList& row)
 {
-    QString told;
+    QString whole;
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == u'%')
-            told += row[text[++i].digitValue() - 1].text();
-        else
-            told += text[i];
+        const int column = text[i] == u'%' && i + 1 < text.size() ? text[i + 1].digitValue() : -1;
+        if (column < 1) {
+            whole += text[i];
+        } else {
+            whole += row.value(column - 1);
+            ++i;
+        }
     }
-    return told;
+    return whole;
 }
 
 class Findings
@@ -115,8 +58,8 @@ public:
     ~Findings()
     {
         if (m_count > mostOfAKind)
-            m_all.push_back(
-                Finding{u"... and %1 more of this kind."_s.arg(m_count - mostOfAKind), m_all.back().remedy});
+            m_all.push_back({u"... and %1 more of this kind."_s.arg(m_count - mostOfAKind),
+                             u"They are named when those above are put right."_s});
     }
 
 private:
@@ -124,68 +67,161 @@ private:
     int m_count = 0;
 };
 
-template <size_t Count>
-void look(ado::Connection& connection, const Check (&checks)[Count], Report& report)
+/// The shop as a check reads it. A part that cannot be read ends only the question that came upon it.
+class Reader
 {
-    for (const Check& check : checks) {
-        Findings findings(report.findings);
-        ado::Recordset row(connection);
-        for (row.Open(QString::fromUtf16(check.query)); !row.AtEOF(); row.MoveNext())
-            findings.add(Finding{sentence(check.what, row), QString::fromUtf16(check.remedy)});
+public:
+    explicit Reader(const Watch& watch)
+        : m_watch(watch)
+    {
     }
-}
 
-void lookAtPictures(ado::Connection& connection, const std::stop_token& stop, Report& report)
-{
-    Findings findings(report.findings);
-    ado::Recordset row(connection);
-    for (row.Open(u"Select JobID, ItemSr, Img1, Img2 from JOBS_DETAIL where Img1<>'' or Img2<>''"_s);
-         !row.AtEOF(); row.MoveNext()) {
-        if (stop.stop_requested())
-            throw GivenUp();
-        for (const char* column : {"Img1", "Img2"}) {
-            const QString link = row[column].text();
-            if (link.isEmpty())
-                continue;
-            ++report.pictures;
-            if (shownPicture(link).isEmpty())
-                findings.add(
-                    {u"A picture of %1/%2 is gone: %3"_s.arg(row["JobID"].text(), row["ItemSr"].text(), link),
-                     u"\"Restore Database\" brings back pictures that a backup has; or take it anew."_s});
+    Report look()
+    {
+        m_watch.step(u"Reading the whole file"_s, [this] { readFile(); });
+        if (m_unreadable)
+            return std::move(m_report);
+        m_watch.step(u"Looking at accounts and items"_s, [this] { ask(recordChecks()); });
+        m_watch.step(u"Looking at the job cards"_s, [this] { ask(cardChecks()); });
+        m_watch.step(u"Looking at the books"_s, [this] { ask(bookChecks()); });
+        m_watch.step(u"Looking at the wages"_s, [this] { ask(wageChecks()); });
+        m_watch.step(u"Looking for the pictures"_s, [this] { attempt([this] { lookAtPictures(); }); });
+        return std::move(m_report);
+    }
+
+private:
+    void open()
+    {
+        m_connection = std::make_unique<ado::Connection>();
+        m_connection->open(session.databasePath(), databasePassword(), ado::Connection::Mode::ReadOnly);
+        ado::endWhenAsked(*m_connection, m_watch.stop);
+        m_connection->Execute(u"BEGIN"_s); // all that is read is of one moment
+    }
+
+    void readFile()
+    {
+        try {
+            open();
+        } catch (ado::DatabaseError& error) {
+            m_unreadable = true;
+            return addDamage(error.text());
+        }
+        if (const QString damage = ado::damage(*m_connection); !damage.isEmpty())
+            addDamage(damage);
+        m_report.cards = countOf(u"JOBS"_s);
+        m_report.lines = countOf(u"JOBS_DETAIL"_s);
+        m_report.postings = countOf(u"Postings"_s);
+    }
+
+    void addDamage(const QString& damage)
+    {
+        m_damaged = true;
+        m_report.findings.push_back({u"The file is damaged: "_s + damage,
+                                     u"Restore the last backup. Keep the file as it is until then."_s});
+    }
+
+    /// In a damaged file a question may meet a page that cannot be read. The engine takes no other on that
+    /// connection then.
+    void attempt(const std::function<void()>& question)
+    {
+        try {
+            question();
+        } catch (ado::DatabaseError&) {
+            if (!m_damaged || m_watch.stop.stop_requested())
+                throw;
+            open();
         }
     }
-}
 
-int countOf(ado::Connection& connection, const QString& table)
+    int countOf(const QString& table)
+    {
+        int rows = 0;
+        attempt([&] {
+            ado::Recordset row(*m_connection);
+            row.Open(u"Select count(*) from "_s + table);
+            rows = row[0].integer();
+        });
+        return rows;
+    }
+
+    void ask(const std::vector<Check>& checks)
+    {
+        for (const Check& check : checks) {
+            attempt([&] {
+                Findings findings(m_report.findings);
+                ado::Recordset row(*m_connection);
+                for (row.Open(check.query); !row.AtEOF(); row.MoveNext())
+                    findings.add(found(check, cells(row)));
+            });
+        }
+    }
+
+    Finding found(const Check& check, const QStringList& row) const
+    {
+        if (m_damaged)
+            return {filled(check.what, row), u"Restore the last backup."_s};
+        return {filled(check.what, row), filled(check.remedy, row), &check, row};
+    }
+
+    void lookAtPictures()
+    {
+        Findings findings(m_report.findings);
+        ado::Recordset row(*m_connection);
+        for (row.Open(u"Select JobID, ItemSr, Img1, Img2 from JOBS_DETAIL where Img1<>'' or Img2<>''"_s);
+             !row.AtEOF(); row.MoveNext()) {
+            if (m_watch.stop.stop_requested())
+                throw GivenUp();
+            for (const char* column : {"Img1", "Img2"})
+                lookAtPicture(row, row[column].text(), findings);
+        }
+    }
+
+    void lookAtPicture(ado::Recordset& line, const QString& link, Findings& findings)
+    {
+        if (link.isEmpty())
+            return;
+        ++m_report.pictures;
+        if (shownPicture(link).isEmpty())
+            findings.add(
+                {u"A picture of %1/%2 is gone: %3"_s.arg(line["JobID"].text(), line["ItemSr"].text(), link),
+                 u"\"Restore Database\" brings back pictures that a backup has. Or open the card, press Enter on the garment, take the picture anew or press Clear, then OK, and save."_s});
+    }
+
+    const Watch& m_watch;
+    std::unique_ptr<ado::Connection> m_connection;
+    Report m_report;
+    bool m_damaged = false;
+    bool m_unreadable = false;
+};
+
+bool stillFinds(const Finding& finding)
 {
-    ado::Recordset row(connection);
-    row.Open(u"Select count(*) from "_s + table);
-    return row[0].integer();
+    ado::Recordset row(DE.connection());
+    for (row.Open(finding.check->query); !row.AtEOF(); row.MoveNext()) {
+        if (cells(row) == finding.row)
+            return true;
+    }
+    return false;
 }
 
 } // namespace
 
-Report run(const Watch& watch)
+bool Finding::canBeMended() const { return check && !check->mend.isEmpty(); }
+
+Report run(const Watch& watch) { return Reader(watch).look(); }
+
+void mend(const Finding& finding)
 {
-    Report report;
-    ado::Connection connection;
-    connection.open(session.databasePath(), databasePassword(), ado::Connection::Mode::ReadOnly);
-    ado::endWhenAsked(connection, watch.stop);
-    connection.Execute(u"BEGIN"_s); // all that is read is of one moment
-    watch.step(u"Reading the whole file"_s, [&] {
-        if (const QString damage = ado::damage(connection); !damage.isEmpty())
-            report.findings.push_back(
-                Finding{u"The file is damaged: "_s + damage,
-                        u"Restore the last backup. Keep the file as it is until then."_s});
-        report.cards = countOf(connection, u"JOBS"_s);
-        report.lines = countOf(connection, u"JOBS_DETAIL"_s);
-        report.postings = countOf(connection, u"Postings"_s);
+    QStringList values;
+    for (const QString& cell : finding.row)
+        values << sqlText(cell);
+    DE.connection().writeBatch([&] {
+        if (!finding.canBeMended() || !stillFinds(finding))
+            throw OperatorError(u"The shop has changed since it was looked over."_s);
+        for (const QString& statement : finding.check->mend)
+            DE.connection().Execute(filled(statement, values));
     });
-    watch.step(u"Looking at the job cards"_s, [&] { look(connection, cards, report); });
-    watch.step(u"Looking at the books"_s, [&] { look(connection, books, report); });
-    watch.step(u"Looking at the wages"_s, [&] { look(connection, wages, report); });
-    watch.step(u"Looking for the pictures"_s, [&] { lookAtPictures(connection, watch.stop, report); });
-    return report;
+    session.RefreshLists = true;
 }
 
 } // namespace shopcheck

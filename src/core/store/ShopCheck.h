@@ -3,16 +3,23 @@
 #include "platform/values/Watch.h"
 
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 /// Looks over the whole shop for what does not fit together. It reads by a connection of its own and changes
-/// nothing.
+/// nothing; what it finds is mended one by one, when the operator asks for it.
 namespace shopcheck {
+
+struct Check;
 
 struct Finding
 {
     QString what;
-    QString remedy; ///< what the operator can do about it
+    QString remedy;               ///< what the operator can do about it, or what a mend will do
+    const Check* check = nullptr; ///< that found it
+    QStringList row = {};         ///< the row that it found
+    /// True where mend() puts it right.
+    bool canBeMended() const;
 };
 
 struct Report
@@ -27,8 +34,12 @@ struct Report
 /// Of one kind of fault so many are named; the others are counted.
 inline constexpr int mostOfAKind = 20;
 
-/// Slow: two seconds in a full shop. For any thread. Throws OperatorError when the file cannot be read, and
-/// GivenUp.
+/// Slow: two seconds in a full shop. For any thread. A damaged file is a finding, and what can still be read
+/// of it is looked over; nothing of it can be mended. Throws OperatorError and GivenUp.
 Report run(const Watch& watch);
+
+/// Does what the finding's remedy says, whole or not at all. Throws OperatorError, with nothing written, when
+/// the shop is no longer as it was found.
+void mend(const Finding& finding);
 
 } // namespace shopcheck
