@@ -39,6 +39,7 @@ frmAccountBook::frmAccountBook()
 {
     ui->setupUi(this);
     setBook(ui->lvSummary, {ui->DateFrom, ui->DateTo});
+    ui->lvSummary->setSeveral(true);
     ui->lvSummary->setColumns({{u"Date"_s, 10, Qt::AlignLeft, 118},
                                {u"VC #"_s, 8, Qt::AlignRight, 66},
                                {u"Voucher"_s, 12, Qt::AlignLeft, 92},
@@ -78,6 +79,18 @@ void frmAccountBook::ShowAccount(const QString& title)
 {
     load();
     ui->cmbAccount->setText(title);
+    ExecuteSQL();
+    ui->lvSummary->setFocus();
+    showModal();
+}
+
+void frmAccountBook::ShowLedgerAccount(const QString& title, const QDate& from, const QDate& to)
+{
+    load();
+    ui->cmbType->setListIndex(int(AccountType::Ledger));
+    loadList();
+    ui->cmbAccount->setText(title);
+    period.set(from, to);
     ExecuteSQL();
     ui->lvSummary->setFocus();
     showModal();

@@ -22,6 +22,8 @@ public:
 
     /// Opens the book of a client on the working date.
     void ShowAccount(const QString& title);
+    /// Opens the book of an account that is neither a client nor a worker.
+    void ShowLedgerAccount(const QString& title, const QDate& from, const QDate& to);
     /// Fills the accounts of the kind chosen.
     void loadList();
     void ExecuteSQL() override;

@@ -11,6 +11,7 @@ frmDayBook::frmDayBook()
 {
     ui->setupUi(this);
     setBook(ui->lvSummary, {ui->DateFrom, ui->DateTo});
+    ui->lvSummary->setSeveral(true);
     ui->lvSummary->setColumns({{u"Date"_s, 10, Qt::AlignLeft, 118},
                                {u"VC #"_s, 10, Qt::AlignRight, 66},
                                {u"Voucher"_s, 10, Qt::AlignLeft, 92},

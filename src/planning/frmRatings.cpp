@@ -19,6 +19,7 @@ frmRatings::frmRatings()
     : ui(std::make_unique<Ui::frmRatings>())
 {
     ui->setupUi(this);
+    ui->lvSummary->setSeveral(true);
     ui->lvSummary->setColumns({{QString(), 7, Qt::AlignRight},
                                {u"Rank"_s, 10, Qt::AlignRight},
                                {u"Worker Name"_s, forms::ListView::rest},

@@ -13,11 +13,13 @@ constexpr int WorkerColumn = 1;
 
 } // namespace
 
-frmWorkerReport2::frmWorkerReport2(const QString& sql)
+frmWorkerReport2::frmWorkerReport2(const QString& sql, const QString& range)
     : ui(std::make_unique<Ui::frmWorkerReport2>())
     , m_sql(sql)
 {
     ui->setupUi(this);
+    ui->lblRange->setText(range);
+    ui->lblRange->setVisible(!range.isEmpty());
     ui->lvSummary->setColumns({{u"Sr"_s, 12, Qt::AlignRight},
                                {u"Worker"_s, forms::ListView::rest},
                                {u"Jobs in Hand"_s, 28, Qt::AlignRight}});
@@ -70,9 +72,9 @@ void frmWorkerReport2::choose()
     unload();
 }
 
-void ShowWorkerOverView(const QString& sql, QString& result)
+void ShowWorkerOverView(const QString& sql, QString& result, const QString& range)
 {
-    frmWorkerReport2 overview(sql);
+    frmWorkerReport2 overview(sql, range);
     overview.showModal();
     result = overview.chosen();
 }

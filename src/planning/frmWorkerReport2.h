@@ -15,8 +15,9 @@ class frmWorkerReport2 : public forms::Screen
 {
     Q_OBJECT
 public:
-    /// `sql` selects one worker's lines; "%id" in it stands for the worker's id.
-    explicit frmWorkerReport2(const QString& sql);
+    /// `sql` selects one worker's lines; "%id" in it stands for the worker's id. `range` tells the operator
+    /// which lines these are.
+    explicit frmWorkerReport2(const QString& sql, const QString& range = {});
     ~frmWorkerReport2() override;
 
     /// Counts the lines of one worker. Throws OverflowError beyond 16 bits.
@@ -37,5 +38,5 @@ private:
 };
 
 /// Shows the workers with their numbers of lines; `result` is the name of the one picked, or "-1000". `sql`
-/// selects one worker's lines, with "%id" for the worker's id.
-void ShowWorkerOverView(const QString& sql, QString& result);
+/// selects one worker's lines, with "%id" for the worker's id; `range` tells which these are.
+void ShowWorkerOverView(const QString& sql, QString& result, const QString& range = {});

@@ -84,7 +84,10 @@ void LineRegister::setCriteria(const Criteria& criteria)
         key = 0;
         view();
     });
-    on(criteria.condition, &forms::ComboBox::clicked, [this] { conditionStep(); });
+    on(criteria.condition, &forms::ComboBox::clicked, [this] {
+        m_inShop = false;
+        conditionStep();
+    });
     on(criteria.view, &QPushButton::clicked, &LineRegister::view);
     on(criteria.find, &QPushButton::clicked, &LineRegister::quickFind);
     onKeyPress(criteria.list, [this](int& key) {
@@ -128,6 +131,7 @@ void LineRegister::resetCriteria()
         m_criteria.condition->setText(m_beginning.condition);
     m_criteria.jobId->setText(m_beginning.jobId);
     SearchMode = ViewedWorker == allWorkers ? Search::AllWorkers : Search::Worker;
+    m_inShop = m_beginning.inShop;
     ReturnIndex = 0;
 }
 
@@ -168,7 +172,7 @@ QString LineRegister::searchText() const
 void LineRegister::ExecuteSQL()
 {
     m_criteria.period.order();
-    m_criteria.help->setNotice({});
+    m_criteria.help->setNotice(m_inShop ? u"Only what is still in the shop: Alt+V shows all"_s : QString());
     explainEmpty({});
     session.RefreshLists = false; // also if it fails: once told, the fault isn't told at each activation
     std::vector<forms::ListView::Row> rows;
@@ -190,7 +194,8 @@ void LineRegister::readLines(std::vector<forms::ListView::Row>& rows)
     ado::Recordset& lines = DE.rsJOBS_DETAIL;
     const auto closed = qScopeGuard([&lines] { lines.Close(); }); // a line at fault leaves no lock behind
     for (lines.Open(SearchSql); !lines.AtEOF(); lines.MoveNext())
-        rows.push_back(rowOf(lines, names));
+        if (!m_inShop || isInShop(lines["DoneByWorker"].code<LineState>()))
+            rows.push_back(rowOf(lines, names));
 }
 
 void LineRegister::keepLines(const std::function<bool(const QStringList&)>& stays)
@@ -230,11 +235,15 @@ void LineRegister::conditionStep()
         list.selectRow(ReturnIndex - 1);
 }
 
+QString LineRegister::daysText() const
+{
+    return (DateField == u"Date" ? u"with the job date "_s : u"with the delivery date "_s) + period().words();
+}
+
 /// Why the list has no lines, for the operator who sees an empty one.
 void LineRegister::explainEmpty(const QString& condition)
 {
-    const QString days =
-        (DateField == u"Date" ? u" with the job date "_s : u" with the delivery date "_s) + period().words();
+    const QString days = u' ' + daysText();
     QString text;
     if (!condition.isEmpty())
         text = u"None of these lines is in the state '%1'."_s.arg(condition);
@@ -263,6 +272,7 @@ void LineRegister::view()
 {
     if (!m_criteria.period.accepted(this))
         return;
+    m_inShop = false;
     if (ComboFindIndex(*m_criteria.worker) < 0) {
         ShowMsg(u"Please Select Worker Name!"_s);
         return;
@@ -278,6 +288,7 @@ void LineRegister::showClient(const QString& client, Search mode)
 {
     SearchClient = client;
     SearchMode = mode;
+    m_inShop = false;
     session.RefreshLists = true;
     ExecuteSQL();
     enterList();
@@ -288,6 +299,7 @@ void LineRegister::showClient(const QString& client, Search mode)
 void LineRegister::findJob()
 {
     SearchMode = Search::Card;
+    m_inShop = false;
     ExecuteSQL();
     forms::ListView& list = *m_criteria.list;
     const QString typed = m_criteria.jobId->text().trimmed();

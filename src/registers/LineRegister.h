@@ -39,7 +39,8 @@ public:
         QDate to;
         QString worker = {};
         QString condition = {};
-        QString jobId = {}; ///< of a card, or the code of a line of it; then nothing else counts
+        QString jobId = {};  ///< of a card, or the code of a line of it; then nothing else counts
+        bool inShop = false; ///< without the lines that are delivered or canceled, until another view
     };
 
     /// Shows the register with these criteria.
@@ -109,6 +110,8 @@ protected:
     void openOnRow(const std::function<void()>& open);
     /// The line of the selected row; 0 for the total row, and for none.
     qint32 selectedLine() const;
+    /// "with the job date 10-Feb-2024": which lines the days mean.
+    QString daysText() const;
     Period period() const { return m_criteria.period; }
 
     Search SearchMode = Search::AllWorkers;
@@ -130,6 +133,7 @@ private:
 
     Criteria m_criteria{};
     Beginning m_beginning;
+    bool m_inShop = false;  ///< lines that are delivered or canceled are left out
     int m_topRow = -1;      ///< of the list as it stood on the screen; -1: from its beginning
     bool m_opening = false; ///< the refresh after a screen above is under way already
 };

@@ -91,10 +91,14 @@ void readDay(Shop& shop, const QDate& day)
             ++shop.birthdays;
     });
     shop.newCards = one(u"Select count(*) from Jobs where Date="_s + sqlDate(day));
-    each(u"Select min(Date) as First from Jobs"_s, [&](ado::Recordset& row) {
-        if (!row[0].isNull())
-            shop.firstDay = row[0].date();
+    each(u"Select min(Date), max(Date) from Jobs"_s, [&](ado::Recordset& row) {
+        if (row[0].isNull())
+            return;
+        shop.firstDay = row[0].date();
+        shop.lastDay = row[1].date();
     });
+    shop.clients = one(u"Select count(*) from Accounts"_s + whereType(AccountType::Client));
+    shop.ledgerAccounts = one(u"Select count(*) from Accounts"_s + whereType(AccountType::Ledger));
 }
 
 /// What clients paid on some days, by day and account: debits of the accounts that keep money.
@@ -137,7 +141,7 @@ void readMoney(Shop& shop, const QDate& day)
 void readDues(Shop& shop, const QDate& day)
 {
     const auto bookedSince = [&](int days) {
-        return u", -sum(case when Amount<0 and Date>%1 then Amount else 0 end) as Since%2"_s
+        return u", -sum(case when Amount<0 and Date>=%1 then Amount else 0 end) as Since%2"_s
             .arg(sqlDate(day.addDays(-days)))
             .arg(days);
     };

@@ -96,7 +96,10 @@ struct Shop
     Room lines;
     Room accounts;
     Room postings;
+    int clients = 0;
+    int ledgerAccounts = 0;
     QDate firstDay; ///< of all cards; invalid without any
+    QDate lastDay;
 };
 
 /// Reads them. Throws ado::DatabaseError.

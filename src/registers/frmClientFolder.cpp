@@ -43,6 +43,8 @@ frmClientFolder::frmClientFolder()
     : ui(std::make_unique<Ui::frmClientFolder>())
 {
     ui->setupUi(this);
+    for (forms::ListView* list : {ui->lvCards, ui->lvMeasures})
+        list->setSeveral(true);
     ui->lvCards->setColumns({{u"Card"_s, 15, Qt::AlignRight, 60},
                              {u"Date"_s, 24, Qt::AlignLeft, 104},
                              {u"State"_s, forms::ListView::rest, Qt::AlignLeft, 110},

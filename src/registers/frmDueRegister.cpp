@@ -22,6 +22,7 @@ frmDueRegister::frmDueRegister()
     : ui(std::make_unique<Ui::frmDueRegister>())
 {
     ui->setupUi(this);
+    ui->lvSummary->setSeveral(true);
     ui->lvSummary->setColumns({{u"Client"_s, 70}, {u"Due Amount"_s, 25, Qt::AlignRight, 120}});
     onOpened(ui->lvSummary, &frmDueRegister::openAccount);
 }

@@ -202,7 +202,7 @@ QString frmWorkerJobRegister::otherDaysHint() const
 void frmWorkerJobRegister::showOverview()
 {
     QString worker;
-    ShowWorkerOverView(workerSearch(u"%id"_s), worker);
+    ShowWorkerOverView(workerSearch(u"%id"_s), worker, u"Lines in every state "_s + daysText());
     if (worker == u"-1000")
         return;
     ui->cmbClient->setText(worker);

@@ -2,6 +2,7 @@
 #include "accounts/frmDayBook.h"
 #include "core/shell/frmGlance.h"
 #include "core/shell/frmMenu.h"
+#include "masters/frmClients.h"
 #include "platform/forms/BarChart.h"
 #include "platform/forms/FigureButton.h"
 #include "platform/report/Preview.h"
@@ -10,8 +11,10 @@
 #include "registers/frmDueRegister.h"
 #include "registers/frmTrailDate.h"
 #include "registers/frmWorkerJobRegister.h"
+#include "support/Pdf.h"
 #include "support/ShopTest.h"
 
+#include <QMenu>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -106,6 +109,8 @@ private Q_SLOTS:
             QCOMPARE(rowText(screen, 0, "lvWorkers"), u"Ravi|5|2|2"_s);
 
             onNextModal<frmDeliveryRegister>([](frmDeliveryRegister& list) {
+                QCOMPARE(lines(list), 4); // what is counted
+                click(list, "Command4");
                 QCOMPARE(lines(list), 6);
                 Shop::run(u"Update Jobs_Detail set DoneByWorker=2 where JobDelDate='2024-02-10'"_s);
             });
@@ -161,10 +166,14 @@ private Q_SLOTS:
             QStringList ages;
             for (int age = 0; age < 4; ++age)
                 ages << meaning(screen, "chDues", age).section(u' ', 0, 0);
-            QCOMPARE(ages, QStringList({u"900.00"_s, u"60.00"_s, u"0.00"_s, u"340.00"_s}));
+            QCOMPARE(ages, QStringList({u"940.00"_s, u"20.00"_s, u"0.00"_s, u"340.00"_s}));
             QCOMPARE(rowText(screen, 0, "lvDues") + rowText(screen, 1, "lvDues"),
                      u"Asha|1,240.00D'Souza|60.00"_s);
 
+            onNextModal<frmAccountBook>([](frmAccountBook& book) {
+                QCOMPARE(label(book, "lblShown"), u"Cash\n10-Feb-2024 To 10-Feb-2024"_s);
+            });
+            click(screen, "cmdTaken");
             onNextModal<frmDayBook>(
                 [](frmDayBook& book) { QCOMPARE(rowText(book, 0).left(11), u"10-Feb-2024"_s); });
             control<QWidget>(screen, "chMoney").setFocus();
@@ -178,7 +187,13 @@ private Q_SLOTS:
             onNextModal<frmDueRegister>([](frmDueRegister&) {});
             control<QWidget>(screen, "chDues").setFocus();
             press(Qt::Key_Space);
-            onNextModal<report::Preview>([](report::Preview&) {});
+            onNextModal<report::Preview>([](report::Preview& paper) {
+                const QString text = readBack(paper.report()).join(u' ');
+                for (const char* printed : {"Asha 1,240.00", "D'Souza 60.00", "30 days 940.00", "Taken today",
+                                            "380.00", "4 Feb 900.00", "Ravi 0 0 0", "1 of 1"})
+                    QVERIFY2(text.contains(QLatin1String(printed)),
+                             qPrintable(QLatin1String(printed) + text));
+            });
             press(Qt::Key_P, Qt::ControlModifier);
             QCOMPARE(focused(screen), u"chDues"_s);
         });
@@ -204,6 +219,18 @@ private Q_SLOTS:
             QCOMPARE(control<QAbstractButton>(screen, "cmdLines").text(), u"Lines 29,491 of 32,767 (90%)"_s);
             onNextModal<frmWorkerJobRegister>([](frmWorkerJobRegister& list) { QCOMPARE(lines(list), 1); });
             click(screen, "cmdLines");
+            session.WorkingDate = QDate(2024, 1, 1); // before the first card
+            screen.fill();
+            onNextModal<frmWorkerJobRegister>([](frmWorkerJobRegister& list) { QCOMPARE(lines(list), 1); });
+            click(screen, "cmdLines");
+            session.WorkingDate = QDate(2024, 2, 10);
+            click(screen, "cmdAccounts");
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            QVERIFY(menu);
+            QCOMPARE(menu->actions().front()->text(), u"Clients  2"_s);
+            onNextModal<frmClients>(
+                [](frmClients& list) { QCOMPARE(listBox(list, "lstSummary").ListCount(), 2); });
+            press(Qt::Key_Return);
         });
         inModal<frmMenu>([](frmMenu&) { press(Qt::Key_G, Qt::AltModifier); });
     }

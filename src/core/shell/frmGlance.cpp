@@ -1,10 +1,15 @@
 #include "core/shell/frmGlance.h"
 
 #include "accounts/frmAccountBook.h"
+#include "accounts/frmAccountsList.h"
 #include "accounts/frmDayBook.h"
+#include "core/shell/GlancePaper.h"
+#include "core/shell/GlanceTexts.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "masters/frmClients.h"
+#include "masters/frmWorkers.h"
+#include "platform/forms/ListView.h"
 #include "platform/forms/Palette.h"
 #include "platform/report/Preview.h"
 #include "platform/values/Numbers.h"
@@ -16,33 +21,15 @@
 #include "ui/modLang.h"
 #include "ui_frmGlance.h"
 
+#include <QMenu>
 #include <QStyle>
 
 using namespace Qt::StringLiterals;
+using namespace glance;
 
 namespace {
 
 constexpr double heightOfScreen = 0.97;
-constexpr int printScale = 3; ///< the paper is finer than the display
-const QString dot = u"  ·  "_s;
-
-QString count(qint64 number) { return values::Format(double(number), u"#,##0"_s); }
-
-QString money(Currency amount) { return values::Format(amount.toDouble(), u"#,##0.00"_s); }
-
-QString shortDay(const QDate& day) { return QLocale::c().toString(day, u"d MMM"_s); }
-
-/// How far the lines in the shop are, in words; those of which there are none are left out.
-QString told(const figures::InShop& lines)
-{
-    QStringList parts;
-    for (const auto& [number, name] : {std::pair(lines.uncompleted, u"uncompleted"_s),
-                                       {lines.alteration, u"in alteration"_s},
-                                       {lines.ready, u"ready"_s}})
-        if (number > 0)
-            parts << count(number) + u' ' + name;
-    return parts.isEmpty() ? u"nothing"_s : parts.join(u", "_s);
-}
 
 } // namespace
 
@@ -69,7 +56,7 @@ frmGlance::frmGlance()
     on(ui->cmdOverdue, &QPushButton::clicked, &frmGlance::openOverdue);
     on(ui->cmdTrials, &QPushButton::clicked, [] { frmTrailDate().showModal(); });
     on(ui->cmdBirthdays, &QPushButton::clicked, [] { frmBirthDayRimenders().showModal(); });
-    on(ui->cmdTaken, &QPushButton::clicked, [] { frmDayBook().showModal(); });
+    on(ui->cmdTaken, &QPushButton::clicked, &frmGlance::openTaken);
     on(ui->cmdCards, &QPushButton::clicked, [] { frmWorkerJobRegister().showModal(); });
     on(ui->chDue, &forms::BarChart::opened, &frmGlance::openDueDay);
     on(ui->chMoney, &forms::BarChart::opened, &frmGlance::openWeek);
@@ -77,10 +64,9 @@ frmGlance::frmGlance()
     onOpened(ui->lvDues, &frmGlance::openDebtor);
     onOpened(ui->lvWorkers, &frmGlance::openWorker);
     on(ui->cmdLines, &QPushButton::clicked,
-       [this] { frmWorkerJobRegister().ShowLines({.from = m_shop.firstDay, .to = m_day}); });
-    on(ui->cmdAccounts, &QPushButton::clicked, [] { frmClients().showModal(); });
-    on(ui->cmdPostings, &QPushButton::clicked,
-       [this] { frmDayBook().ShowDays(m_shop.firstDay.isValid() ? m_shop.firstDay : m_day, m_day); });
+       [this] { frmWorkerJobRegister().ShowLines({.from = firstDay(), .to = lastDay()}); });
+    on(ui->cmdAccounts, &QPushButton::clicked, &frmGlance::openAccounts);
+    on(ui->cmdPostings, &QPushButton::clicked, [this] { frmDayBook().ShowDays(firstDay(), lastDay()); });
     on(ui->cmdPrint, &QPushButton::clicked, &frmGlance::print);
 }
 
@@ -99,7 +85,7 @@ void frmGlance::fill()
 {
     m_day = session.WorkingDate;
     m_shop = figures::read(m_day);
-    ui->lblDay->setText(QLocale::c().toString(m_day, u"dddd"_s) + u", "_s + dateText(m_day));
+    ui->lblDay->setText(longDay(m_day));
     showDay();
     showDue();
     showMoney();
@@ -137,7 +123,7 @@ void frmGlance::showDue()
         groups.push_back(
             {.label = QLocale::c().toString(day, u"ddd d"_s),
              .values = {double(lines.uncompleted), double(lines.alteration), double(lines.ready)},
-             .meaning = dateText(day) + u": "_s + told(lines),
+             .meaning = dateText(day) + u": "_s + inWords(lines),
              .apart = i == 0});
     }
     ui->chDue->setGroups(std::move(groups));
@@ -160,8 +146,6 @@ void frmGlance::showMoney()
 void frmGlance::showDues()
 {
     static const QString ages[figures::Dues::ages] = {u"30 days"_s, u"60 days"_s, u"90 days"_s, u"older"_s};
-    static const QString meanings[figures::Dues::ages] = {u"up to 30 days old"_s, u"31 to 60 days old"_s,
-                                                          u"61 to 90 days old"_s, u"older than 90 days"_s};
     std::vector<forms::BarChart::Group> groups;
     Currency all;
     for (int age = 0; age < figures::Dues::ages; ++age) {
@@ -169,7 +153,7 @@ void frmGlance::showDues()
         all += due;
         groups.push_back({.label = ages[age],
                           .values = {due.toDouble()},
-                          .meaning = money(due) + u" is "_s + meanings[age]});
+                          .meaning = money(due) + u" is "_s + ageText(age)});
     }
     ui->chDues->setGroups(std::move(groups));
     ui->lblDues->setText(u"Dues: "_s + money(all) + u" of "_s + count(m_shop.dues.clients) + u" clients"_s);
@@ -194,9 +178,7 @@ void frmGlance::showRoom()
     for (const auto& [button, name, room] : {std::tuple(ui->cmdLines, u"Lines"_s, m_shop.lines),
                                              {ui->cmdAccounts, u"Accounts"_s, m_shop.accounts},
                                              {ui->cmdPostings, u"Postings"_s, m_shop.postings}}) {
-        button->setText(
-            u"%1 %2 of %3 (%4)"_s.arg(name, count(room.used), count(room.limit),
-                                      room.percent() < 1 ? u"under 1%"_s : u"%1%"_s.arg(room.percent())));
+        button->setText(roomText(name, room));
         button->setProperty("urgent", room.isShort());
         button->style()->unpolish(button);
         button->style()->polish(button);
@@ -209,7 +191,54 @@ void frmGlance::showRoom()
 
 void frmGlance::openDueDay(int day)
 {
-    frmDeliveryRegister().ShowLines({.from = m_day.addDays(day), .to = m_day.addDays(day)});
+    frmDeliveryRegister().ShowLines({.from = m_day.addDays(day), .to = m_day.addDays(day), .inShop = true});
+}
+
+/// The days of all cards, and the working date.
+QDate frmGlance::firstDay() const
+{
+    return m_shop.firstDay.isValid() ? std::min(m_shop.firstDay, m_day) : m_day;
+}
+
+QDate frmGlance::lastDay() const
+{
+    return m_shop.lastDay.isValid() ? std::max(m_shop.lastDay, m_day) : m_day;
+}
+
+/// The book of the account that took the money; of several, the one chosen.
+void frmGlance::openTaken()
+{
+    const auto open = [this](const QString& account) {
+        frmAccountBook().ShowLedgerAccount(account, m_day, m_day);
+    };
+    if (m_shop.taken.size() == 1)
+        return open(m_shop.taken.front().account);
+    if (m_shop.taken.empty())
+        return frmDayBook().showModal();
+    std::vector<Way> ways;
+    for (const figures::Taken& taken : m_shop.taken)
+        ways.push_back({taken.account + u"  "_s + money(taken.amount),
+                        [open, account = taken.account] { open(account); }});
+    choose(*ui->cmdTaken, ways);
+}
+
+/// The three lists of accounts together are what is counted.
+void frmGlance::openAccounts()
+{
+    choose(*ui->cmdAccounts,
+           {{u"Clients  "_s + count(m_shop.clients), [] { frmClients().showModal(); }},
+            {u"Workers  "_s + count(qint64(m_shop.workers.size())), [] { frmWorkers().showModal(); }},
+            {u"Accounts  "_s + count(m_shop.ledgerAccounts), [] { frmAccountsList().showModal(); }}});
+}
+
+/// Offers the lists that together are behind a figure.
+void frmGlance::choose(QWidget& figure, const std::vector<Way>& ways)
+{
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const Way& way : ways)
+        on(menu->addAction(way.text), &QAction::triggered, way.open);
+    forms::ListView::showMenu(*menu, figure.mapToGlobal(QPoint(0, figure.height())));
 }
 
 void frmGlance::openOverdue()
@@ -239,8 +268,8 @@ void frmGlance::openWorker()
     if (row < 0)
         return;
     const figures::WorkerLoad& worker = m_shop.workers[size_t(row)];
-    frmWorkerJobRegister().ShowLines({.from = worker.since.isValid() ? worker.since : m_day,
-                                      .to = m_day,
+    frmWorkerJobRegister().ShowLines({.from = worker.since.isValid() ? std::min(worker.since, m_day) : m_day,
+                                      .to = lastDay(),
                                       .worker = worker.name,
                                       .condition = u"Uncompleted"_s});
 }
@@ -256,35 +285,4 @@ void frmGlance::Form_KeyPress(int& key)
     print();
 }
 
-/// The figures as they stand on the screen, across the paper, without what is chosen there.
-void frmGlance::print()
-{
-    QWidget* focused = focusWidget();
-    if (focused)
-        focused->clearFocus();
-    QImage picture(ui->sheet->size() * printScale, QImage::Format_RGB32);
-    picture.setDevicePixelRatio(printScale);
-    picture.fill(QColor(palette::white));
-    ui->sheet->render(&picture);
-    if (focused)
-        focused->setFocus();
-    picture.setDevicePixelRatio(1);
-
-    report::Report paper(u"Shop at a Glance"_s);
-    paper.Subject = dateText(m_day);
-    paper.PageSize = {297, 210};
-    report::Section& head = paper.addSection(u"Section4"_s, report::Band::ReportHead);
-    report::Label& title = head.addLabel(u"lblTitle"_s, u"Shop at a Glance"_s);
-    title.place(0, 0, paper.width(), 400);
-    title.FontSize = 14;
-    title.Bold = true;
-    report::Label& day = head.addLabel(u"lblDay"_s, session.ShopName + dot + ui->lblDay->text());
-    day.place(0, 400, paper.width(), 300);
-    report::Image& sheet = head.addImage(u"imgSheet"_s);
-    const int height = std::min(paper.pageHeight() - paper.TopMargin - paper.BottomMargin - 800,
-                                paper.width() * picture.height() / picture.width());
-    sheet.place(0, 800, paper.width(), height);
-    sheet.Picture = picture;
-    head.Height = 800 + height;
-    report::Preview(paper).showModal();
-}
+void frmGlance::print() { report::Preview(GlancePaper(m_shop, m_day)).showModal(); }

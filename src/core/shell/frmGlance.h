@@ -3,6 +3,7 @@
 #include "platform/forms/Screen.h"
 #include "registers/ShopFigures.h"
 
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -35,6 +36,17 @@ private:
     void showRoom();
     void openOverdue();
     void openDueDay(int day);
+    /// One of the lists that a figure stands for.
+    struct Way
+    {
+        QString text;
+        std::function<void()> open;
+    };
+    void choose(QWidget& figure, const std::vector<Way>& ways);
+    void openTaken();
+    void openAccounts();
+    QDate firstDay() const;
+    QDate lastDay() const;
     void openWeek(int week);
     void openDebtor();
     void openWorker();

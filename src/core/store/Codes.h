@@ -16,6 +16,12 @@ enum class TrialState : qint32 { NotAppeared = 0, Appeared = 1, Canceled = 2 };
 /// `Jobs_Detail.DoneByWorker`: how far a garment is.
 enum class LineState : qint32 { Uncompleted = 0, Completed = 1, Delivered = 2, Alteration = 3, Canceled = 4 };
 
+/// Whether a garment is still in the shop: neither handed over nor given up.
+constexpr bool isInShop(LineState state)
+{
+    return state != LineState::Delivered && state != LineState::Canceled;
+}
+
 /// `Jobs_Detail.CuttingStatus`.
 enum class CuttingMark : qint32 { NotDone = 0, Done = 1 };
 

@@ -3,6 +3,7 @@
 #include "platform/values/Literals.h"
 
 #include <QLabel>
+#include <QPainter>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -10,11 +11,29 @@ using namespace Qt::StringLiterals;
 
 namespace forms {
 
+namespace {
+
+/// A line that ends in an ellipsis where the room does not do.
+class CutLabel : public QLabel
+{
+    using QLabel::QLabel;
+
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(),
+                              fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()),
+                              foregroundRole());
+    }
+};
+
+} // namespace
+
 FigureButton::FigureButton(QWidget* parent)
     : QPushButton(parent)
     , m_caption(new QLabel(this))
     , m_figure(new QLabel(this))
-    , m_more(new QLabel(this))
+    , m_more(new CutLabel(this))
 {
     setProperty("figure", true);
     m_caption->setProperty("caption", true);
