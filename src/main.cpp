@@ -1,4 +1,5 @@
 #include "core/shell/modMain.h"
+#include "core/store/Copies.h"
 #include "core/store/Session.h"
 #include "platform/ado/Connection.h"
 #include "platform/devices/TestCameras.h"
@@ -29,17 +30,19 @@ int main(int argc, char* argv[])
     values::setCriticalNotice([](const QString& text) { forms::criticalMessage(nullptr, text); });
     report::ListKeys::install();
     if (qEnvironmentVariableIsSet("SEAMWISE_TEST_CAMERA"))
-        devices::setCameras(std::make_unique<devices::TestCameras>(std::vector<devices::TestCamera>{
-            {.name = u"Test pattern"_s},
-            {.name = u"Slow camera"_s, .timeToOpen = 4000},
-            {.name = u"Loose cable"_s, .picturesLeft = 60},
-            {.name = u"Taken camera"_s, .fault = u"In use elsewhere"_s}}));
+        devices::setCameras(std::make_unique<devices::TestCameras>(
+            std::vector<devices::TestCamera>{{.name = u"Test pattern"_s},
+                                             {.name = u"Slow camera"_s, .timeToOpen = 4000},
+                                             {.name = u"Loose cable"_s, .picturesLeft = 60},
+                                             {.name = u"Taken camera"_s, .fault = u"In use elsewhere"_s}}));
     if (const QString notice = qEnvironmentVariable("SEAMWISE_NOTICE"); !notice.isEmpty()) {
         forms::criticalMessage(nullptr, notice); // whoever starts the program could not
         return 1;
     }
     const int result = Main() ? QApplication::exec() : 1;
     report::finishPrinting();
+    QGuiApplication::sync(); // no window waits for what follows
+    copies::finishDay();
     devices::setCameras({});
     return result;
 }

@@ -1,5 +1,6 @@
 #include "core/shell/frmMain.h"
 
+#include "core/shell/CopyAtStart.h"
 #include "core/shell/Wallpaper.h"
 #include "core/shell/frmAbout.h"
 #include "core/shell/frmLogin.h"
@@ -39,6 +40,7 @@ bool frmMain::start()
     auto* screen = new frmMain;
     connect(qApp, &QCoreApplication::aboutToQuit, screen, [screen] { delete screen; });
     screen->showModeless();
+    screen->m_copyAtStart->begin();
     return true;
 }
 
@@ -50,6 +52,7 @@ frmMain::frmMain()
     forms::applyIcons(*this, forms::iconLight);
     ui->Image2->setPixmap(forms::picture(u"app"_s, 48));
     MyWall = new Wallpaper(ui->Picture1);
+    m_copyAtStart = new CopyAtStart(this);
 
     on(ui->cmdCreateJOB, &QPushButton::clicked, [] { frmEditJOB().ShowAddNew(); });
     on(ui->cmdCreateNewClint, &QPushButton::clicked, [] { frmMasters().showModal(); });
@@ -59,6 +62,7 @@ frmMain::frmMain()
     on(ui->Command7, &QPushButton::clicked, [] { frmSettings().showModal(); });
     on(ui->Command4, &QPushButton::clicked, [] { frmAbout().showModal(); });
     on(ui->cmdLastBackup, &QPushButton::clicked, [] { frmSettings().ShowBackup(); });
+    on(m_copyAtStart, &CopyAtStart::ended, &frmMain::showLastBackup);
     on(ui->TodayDate, &forms::DatePicker::changed, &frmMain::changeWorkingDate);
     on(ui->TodayDate, &forms::DatePicker::calendarClosed, [this] {
         changeWorkingDate();
@@ -140,7 +144,13 @@ void frmMain::showWhetherToday()
 void frmMain::showLastBackup()
 {
     const QDate last = values::readDate(GetSetting(settings::LastBackup));
-    ui->cmdLastBackup->setText(lastBackupText(last, QDate::currentDate()).replace(u"backup"_s, u"&backup"_s));
+    QString text = lastBackupText(last, QDate::currentDate()).replace(u"backup"_s, u"&backup"_s);
+    if (!session.CopyTrouble.isEmpty())
+        text += u"  ·  No copy of the shop"_s;
+    ui->cmdLastBackup->setText(text);
+    ui->cmdLastBackup->setToolTip(session.CopyTrouble.isEmpty()
+                                      ? u"Opens the backup in the settings"_s
+                                      : Qt::convertFromPlainText(session.CopyTrouble));
 }
 
 void frmMain::Form_KeyPress(int& key)

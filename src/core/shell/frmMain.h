@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <memory>
 
+class CopyAtStart;
 class Wallpaper;
 
 namespace Ui {
@@ -40,6 +41,7 @@ private:
 
     std::unique_ptr<Ui::frmMain> ui;
     Wallpaper* MyWall;
+    CopyAtStart* m_copyAtStart;
     QString m_scanned;        ///< of a line's code, so far
     bool m_dateTaken = false; ///< the working date stands selected; what is typed now is the screen's
     QElapsedTimer m_sinceCharacter;

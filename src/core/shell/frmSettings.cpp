@@ -1,5 +1,6 @@
 #include "core/shell/frmSettings.h"
 
+#include "core/shell/CopyList.h"
 #include "core/store/DE.h"
 #include "core/store/SerialNumber.h"
 #include "core/store/Settings.h"
@@ -50,6 +51,8 @@ frmSettings::frmSettings()
     on(ui->Command7, &QPushButton::clicked, &frmSettings::openBackupFolder);
     on(ui->Command4, &QPushButton::clicked, &frmSettings::backUp);
     on(ui->Command5, &QPushButton::clicked, &frmSettings::restore);
+    m_copies = new CopyList(ui->lvCopies);
+    on(ui->cmdRestoreCopy, &QPushButton::clicked, &frmSettings::restoreCopy);
     on(ui->cmdCheck, &QPushButton::clicked, &frmSettings::checkShop);
 }
 
@@ -81,6 +84,7 @@ void frmSettings::Form_Load()
     showDraft(*ui->txtSMS2, GetSetting(settings::SmsJobFinished, DefaultJobFinishedDraft()));
     showDraft(*ui->txtSMS3, GetSetting(settings::SmsDueBalance, DefaultDueBalanceDraft()));
     showLastBackup();
+    m_copies->fill();
 }
 
 void frmSettings::ShowBackup()

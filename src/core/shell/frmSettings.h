@@ -5,6 +5,7 @@
 #include <QHash>
 #include <memory>
 
+class CopyList;
 class QLineEdit;
 class swTextBoxMultiLine;
 
@@ -43,6 +44,8 @@ private:
     QString chosenBackupFolder();
     void backUp();
     void restore();
+    void restoreCopy();
+    void restoreFrom(const QString& archive);
     void checkShop();
     void showLastBackup();
     void goTo(QWidget& field);
@@ -51,4 +54,5 @@ private:
 
     const std::unique_ptr<Ui::frmSettings> ui;
     QHash<const swTextBoxMultiLine*, QString> m_shownDrafts;
+    CopyList* m_copies;
 };

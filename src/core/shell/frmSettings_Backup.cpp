@@ -1,7 +1,9 @@
 #include "core/shell/frmSettings.h"
 
+#include "core/shell/CopyList.h"
 #include "core/shell/frmCheckShop.h"
 #include "core/store/Backup.h"
+#include "core/store/Session.h"
 #include "core/store/Settings.h"
 #include "platform/forms/Aside.h"
 #include "platform/forms/MessageBox.h"
@@ -91,7 +93,6 @@ void frmSettings::backUp()
         forms::criticalMessage(this, pictures);
 }
 
-/// The program ends with the shop's file exchanged: no screen may look into the one that it had open.
 void frmSettings::restore()
 {
     const QString folder = chosenBackupFolder();
@@ -102,6 +103,21 @@ void frmSettings::restore()
         forms::criticalMessage(this, u"No backup file found!"_s);
         return;
     }
+    restoreFrom(archive);
+}
+
+void frmSettings::restoreCopy()
+{
+    const QString copy = m_copies->chosen();
+    if (copy.isEmpty())
+        forms::criticalMessage(this, u"Please choose a copy in the list!"_s);
+    else
+        restoreFrom(copy);
+}
+
+/// The program ends with the shop's file exchanged: no screen may look into the one that it had open.
+void frmSettings::restoreFrom(const QString& archive)
+{
     QString pictures;
     {
         Restore restore(archive);
@@ -128,6 +144,8 @@ void frmSettings::checkShop()
 
 void frmSettings::showLastBackup()
 {
-    ui->lblLastBackup->setText(
-        lastBackupText(values::readDate(GetSetting(settings::LastBackup)), QDate::currentDate()));
+    QString text = lastBackupText(values::readDate(GetSetting(settings::LastBackup)), QDate::currentDate());
+    if (!session.CopyTrouble.isEmpty())
+        text += u'\n' + session.CopyTrouble;
+    ui->lblLastBackup->setText(text);
 }

@@ -1,9 +1,11 @@
 #include "core/shell/modMain.h"
 
 #include "core/shell/frmMain.h"
+#include "core/store/Backup.h"
 #include "core/store/DE.h"
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "core/store/Startup.h"
 #include "masters/ClientFolder.h"
 #include "platform/devices/Files.h"
@@ -29,6 +31,7 @@ bool openDatabase()
     }
     DE.ensureIndexes();
     LoadSessionDefaults();
+    clearLeftovers(GetSetting(settings::BackupFolder));
     return true;
 }
 

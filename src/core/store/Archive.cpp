@@ -110,6 +110,10 @@ void pack(const QString& into, const std::stop_token& stop)
 
 void unpack(const QString& archive, const QString& into, const std::stop_token& stop)
 {
+    if (archive.endsWith(".mdb"_L1)) {
+        files::copyWhole(archive, into);
+        return;
+    }
     devices::RunAndWait({.program = gzipOrRefuse(),
                          .arguments = {u"-d"_s, u"-c"_s},
                          .folder = session.appFolder,

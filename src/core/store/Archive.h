@@ -15,6 +15,9 @@ namespace archive {
 /// The archive's name in the backup folder. A file of another spelling, "sebackup.gz" say, is the same one.
 inline constexpr QLatin1StringView fileName("SEbackup.gz");
 
+/// A copy of the database that is not finished.
+inline constexpr QLatin1StringView unfinishedCopy("unfinished.mdb.new");
+
 /// The paths in a folder that are the archive's in any spelling, the newest file first.
 QStringList spellings(const QString& folder);
 /// The archive of a folder; empty when there is no such file.
@@ -44,7 +47,8 @@ private:
 /// Packs the shop's database into the file. These block their thread. They throw OperatorError, and
 /// GivenUp.
 void pack(const QString& into, const std::stop_token& stop);
-/// Unpacks an archive into the file: all of it, and nothing but it.
+/// Unpacks an archive into the file: all of it, and nothing but it. A file of the shop's that is not packed
+/// is copied.
 void unpack(const QString& archive, const QString& into, const std::stop_token& stop);
 
 /// Each table of a database with the number of its rows.

@@ -1,5 +1,6 @@
 #include "core/store/Backup.h"
 
+#include "core/store/Copies.h"
 #include "core/store/DE.h"
 #include "core/store/Session.h"
 #include "core/store/Startup.h"
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 
 #include <sqlcipher/sqlite3.h>
 
@@ -22,6 +24,11 @@ const QString shopStands = u"Nothing has been restored. The shop is as it was."_
 
 /// What the engine puts behind a file's name to call its journal.
 const QString journal = u"-journal"_s;
+
+// Their files while they are not finished.
+QString restoringPath() { return session.appFolder + u"/data.restoring.mdb"_s; }
+QString proofPath() { return session.appFolder + u"/data.backup-proof.mdb"_s; }
+QString packedPath(const QString& folder) { return folder + u'/' + archive::fileName + u".new"_s; }
 
 /// Pictures of the shop, beside the archive.
 QString pictureFolder(const QString& folder) { return folder + u"/SEimages"_s; }
@@ -83,6 +90,21 @@ void takeTurn(QLockFile& lock)
 }
 
 QString lockPath() { return session.appFolder + u"/data.backup.lock"_s; }
+
+/// Removes the files, with their journals, unless a program that holds the lock may be at them.
+void clearUnlessHeld(const QString& lockPath, const QStringList& paths)
+{
+    if (std::none_of(paths.begin(), paths.end(), [](const QString& path) { return QFileInfo::exists(path); }))
+        return;
+    QLockFile lock(lockPath);
+    lock.setStaleLockTime(0);
+    if (!lock.tryLock())
+        return;
+    for (const QString& path : paths) {
+        QFile::remove(path);
+        QFile::remove(path + journal);
+    }
+}
 
 /// Sees to it that no program is in the middle of a write, and that what a dead one has left half-written is
 /// undone. A file too damaged for that is replaced all the same.
@@ -156,11 +178,11 @@ void Backup::run(const Watch& watch)
         std::unique_ptr<archive::Scratch> packed;
         const QString place = m_folder + u'/' + archive::fileName;
         watch.step(u"packing the database"_s, [&] {
-            packed = std::make_unique<archive::Scratch>(place + u".new"_s);
+            packed = std::make_unique<archive::Scratch>(packedPath(m_folder));
             archive::pack(packed->path(), watch.stop);
         });
         {
-            const archive::Scratch unpacked(session.appFolder + u"/data.backup-proof.mdb"_s);
+            const archive::Scratch unpacked(proofPath());
             watch.step(u"unpacking it again for a proof"_s,
                        [&] { archive::unpack(packed->path(), unpacked.path(), watch.stop); });
             watch.step(u"comparing it with the shop"_s, [&] {
@@ -204,7 +226,7 @@ void Restore::unpack(const Watch& watch)
 {
     orSay(shopStands, [&] {
         watch.step(u"unpacking the archive"_s, [&] {
-            m_unpacked = std::make_unique<archive::Scratch>(session.appFolder + u"/data.restoring.mdb"_s);
+            m_unpacked = std::make_unique<archive::Scratch>(restoringPath());
             archive::unpack(m_archive, m_unpacked->path(), watch.stop);
         });
         watch.step(u"proving the archive"_s, [&] {
@@ -273,6 +295,19 @@ QString Restore::freeName() const
     while (QFileInfo::exists(name(number)) || QFileInfo(name(number)).isSymLink())
         ++number;
     return name(number);
+}
+
+void clearLeftovers(const QString& backupFolder)
+{
+    QStringList places{restoringPath(), proofPath(), session.appFolder + u'/' + files::unfinishedCopy};
+    for (const copies::Copy& aside : copies::putAside()) // a second name of the shop's file, no more
+        if (files::identity(aside.path) == files::identity(session.databasePath()))
+            places << aside.path;
+    if (!backupFolder.isEmpty())
+        places << packedPath(backupFolder) << backupFolder + u"/SEcopies/"_s + files::unfinishedCopy
+               << pictureFolder(backupFolder) + u'/' + files::unfinishedCopy;
+    clearUnlessHeld(lockPath(), places);
+    clearUnlessHeld(copies::lockPath(), {copies::folder() + u'/' + archive::unfinishedCopy});
 }
 
 QString lastBackupText(const QDate& last, const QDate& today)

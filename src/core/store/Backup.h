@@ -66,5 +66,9 @@ private:
     std::unique_ptr<archive::Scratch> m_unpacked;
 };
 
+/// Removes what a backup, a restore or a copy that was killed has left, beside the shop and in the backup
+/// folder. What another program is at stays.
+void clearLeftovers(const QString& backupFolder);
+
 /// "Last backup: 12 days ago", "No backup yet": by the system's date, for the shop can move its own.
 QString lastBackupText(const QDate& last, const QDate& today);

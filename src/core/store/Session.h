@@ -20,6 +20,8 @@ struct Session
     QString ShopAddress3;
     QString ShopContacts;
 
+    QString CopyTrouble; ///< why the last day's copy of the shop is not where it should be; empty when it is
+
     QString ShownShopName; ///< as the main screen has it
 
     /// The folder of the executable, without a slash at its end: the database, the Hindi texts and the

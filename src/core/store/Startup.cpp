@@ -22,12 +22,16 @@ void MakeImagesFolder()
 
 bool CheckDatabaseVersion() { return values::Val(GetSetting(settings::DatabaseVersion)) == DatabaseVersion; }
 
+QDate StoredWorkingDate()
+{
+    const QDate stored = values::readDate(GetSetting(settings::WorkingDate));
+    return stored.isValid() ? stored : values::CDate(settings::WorkingDate.standard);
+}
+
 void LoadSessionDefaults()
 {
     session.Language = GetSetting(settings::Language);
-    session.WorkingDate = values::readDate(GetSetting(settings::WorkingDate));
-    if (!session.WorkingDate.isValid())
-        session.WorkingDate = values::CDate(settings::WorkingDate.standard);
+    session.WorkingDate = StoredWorkingDate();
     if (GetSetting(settings::SystemDateAtStart) == "1"_L1)
         session.WorkingDate = QDate::currentDate();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QDate>
+
 /// The steps of the start that need no screen.
 
 /// Makes the folder `images` beside the executable. That it cannot be made is no fault here: the picture
@@ -10,6 +12,8 @@ void MakeImagesFolder();
 /// not.
 bool CheckDatabaseVersion();
 
-/// Fills `session.Language` and `session.WorkingDate` from the settings 0, 1 and 22. A working date that
-/// cannot be read counts as never set.
+/// The working date as the file has it. One that cannot be read counts as never set.
+QDate StoredWorkingDate();
+
+/// Fills `session.Language` and `session.WorkingDate` from the settings 0, 1 and 22.
 void LoadSessionDefaults();

@@ -3,6 +3,7 @@
 
 #include "platform/ado/ConnectionPrivate.h"
 #include "platform/ado/Dialect.h"
+#include "platform/ado/FileCopy.h"
 #include "platform/ado/Functions.h"
 #include "platform/ado/RecordsetPrivate.h"
 #include "platform/devices/Files.h"
@@ -231,6 +232,8 @@ void Connection::openFile(const QString& path, const QString& password, int flag
 void Connection::close()
 {
     d->closeRecordsets();
+    while (!d->copies.empty()) // the engine would keep the file open for them
+        d->copies.back()->giveUp();
     d->statements.clear();
     sqlite3_close(d->database);
     d->database = nullptr;

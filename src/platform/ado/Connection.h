@@ -57,6 +57,7 @@ public:
     sqlite3* handle() const;
 
 private:
+    friend class FileCopy;
     friend class Recordset;
     struct Private;
     void openFile(const QString& path, const QString& password, int flags);

@@ -7,6 +7,8 @@
 
 namespace ado {
 
+class FileCopy;
+
 /// What recordsets and their connection share.
 struct Connection::Private
 {
@@ -16,6 +18,7 @@ struct Connection::Private
     bool waiting = false; // for another program's lock
     StatementCache statements;
     std::vector<Recordset*> recordsets; // those open
+    std::vector<FileCopy*> copies;      // those being made
 
     bool inBatch = false;
     QString lostBy; // the engine's text, when it took back the open batch on its own
