@@ -3,10 +3,9 @@
 #include "accounts/VoucherTag.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "core/store/Texts.h"
 #include "platform/values/Numbers.h"
-
-#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -24,16 +23,13 @@ void readPostings(
     const QHash<qint32, QString> titles =
         GetAccountTitles(u"Select "_s + column + u" from Postings where "_s + condition);
     QHash<QDate, QString> days;
-    ado::Recordset& postings = DE.rspostings;
-    const auto closed = qScopeGuard([&postings] { postings.Close(); });
-    for (postings.Open(u"Select * from Postings where "_s + condition + order); !postings.AtEOF();
-         postings.MoveNext()) {
+    each(u"Select * from Postings where "_s + condition + order, [&](ado::Recordset& postings) {
         const QDate date = postings["Date"].date();
         QString& day = days[date];
         if (day.isNull())
             day = dateText(date);
         add(postings, day, titles.value(postings[account].integer()));
-    }
+    });
 }
 
 QString tagOf(ado::Recordset& posting)

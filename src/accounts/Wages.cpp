@@ -2,9 +2,8 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "core/store/Texts.h"
-
-#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -60,9 +59,7 @@ std::vector<Line> read(const QString& statement)
     std::vector<Line> lines;
     QHash<qint32, QString> items; // a worker makes the same few all the year
     Currency balance;
-    ado::Recordset& row = DE.rsJOBS_DETAIL;
-    const auto closed = qScopeGuard([&row] { row.Close(); });
-    for (row.Open(statement); !row.AtEOF(); row.MoveNext()) {
+    each(statement, [&](ado::Recordset& row) {
         const qint32 item = row["ItemID"].integer();
         if (!items.contains(item))
             items.insert(item, GetItemName(item));
@@ -76,19 +73,15 @@ std::vector<Line> read(const QString& statement)
                          .balance = balance,
                          .completed = row["CompletedDate"].date(),
                          .paid = row["MarkAsPaid"].integer() != 0});
-    }
+    });
     return lines;
 }
 
 QHash<qint32, qint32> itemCounts(const Scope& scope)
 {
     QHash<qint32, qint32> counts;
-    ado::Recordset& counted = DE.rsJOBS_DETAIL2;
-    for (counted.Open(u"Select ItemID, count(QNT) from JOBS_Detail where "_s + within(scope) +
-                      u"group by ItemID"_s);
-         !counted.AtEOF(); counted.MoveNext())
-        counts.insert(counted[0].integer(), counted[1].integer());
-    counted.Close();
+    each(u"Select ItemID, count(QNT) from JOBS_Detail where "_s + within(scope) + u"group by ItemID"_s,
+         [&](ado::Recordset& counted) { counts.insert(counted[0].integer(), counted[1].integer()); });
     return counts;
 }
 

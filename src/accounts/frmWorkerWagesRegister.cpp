@@ -3,6 +3,7 @@
 #include "accounts/Payroll.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "jobcards/frmEditWorkerAssign.h"
@@ -151,11 +152,10 @@ void frmWorkerWagesRegister::fillDetails()
 {
     ui->lvDetails->Clear();
     const QHash<qint32, qint32> counts = wages::itemCounts(m_shown);
-    ado::Recordset& items = DE.rsITEMS;
-    for (items.Open(u"Select * from Items order by Name"_s); !items.AtEOF(); items.MoveNext())
+    each(u"Select * from Items order by Name"_s, [&](ado::Recordset& items) {
         if (const qint32 count = counts.value(items["ID"].integer()); count > 0)
             ui->lvDetails->addRow({items["Name"].text(), QString::number(count)});
-    items.Close();
+    });
 }
 
 void frmWorkerWagesRegister::view()

@@ -2,6 +2,7 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "platform/values/Dates.h"
 
 using namespace Qt::StringLiterals;
@@ -21,12 +22,10 @@ void StageJobCard(qint32 JobID)
                          job["AmountPaid"].money());
             job.Close();
 
-            ado::Recordset& lines = DE.rsJOBS_DETAIL;
-            for (lines.Open(u"Select * from Jobs_Detail where jobid="_s + number); !lines.AtEOF();
-                 lines.MoveNext())
+            each(u"Select * from Jobs_Detail where jobid="_s + number, [&](ado::Recordset& lines) {
                 AddPrintBody(JobID, lines["QNT"].integer(), GetItemName(lines["ItemID"].integer()),
                              lines["Remarks"].text(), lines["Fees"].money(), lines["Amount"].money());
-            lines.Close();
+            });
         },
         {});
 }

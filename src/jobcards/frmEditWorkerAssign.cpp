@@ -22,7 +22,6 @@
 #include "ui/modLang.h"
 #include "ui_frmEditWorkerAssign.h"
 
-#include <QScopeGuard>
 #include <QScrollBar>
 
 using namespace Qt::StringLiterals;
@@ -225,14 +224,16 @@ void frmEditWorkerAssign::RateWorker()
     if (worker == m_ratedWorker)
         return;
     m_ratedWorker = worker;
-    qint16 rating = 0;
-    const auto show = qScopeGuard([&] {
-        ui->lblAvgScorer->setText(u"Overall Ratting : "_s + QString::number(rating));
-        if (const QPixmap picture = stars(rating, HeightOfStars); !picture.isNull())
-            ui->imgStars->setPixmap(picture);
-    });
+    showRating(0); // also for a worker that cannot be looked up
     if (!worker.isEmpty() && worker != noWorker)
-        rating = GetWorkerRating(GetAccountID(worker));
+        showRating(GetWorkerRating(GetAccountID(worker)));
+}
+
+void frmEditWorkerAssign::showRating(qint16 rating)
+{
+    ui->lblAvgScorer->setText(u"Overall Ratting : "_s + QString::number(rating));
+    if (const QPixmap picture = stars(rating, HeightOfStars); !picture.isNull())
+        ui->imgStars->setPixmap(picture);
 }
 
 // Keys

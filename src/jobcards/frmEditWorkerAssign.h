@@ -33,6 +33,7 @@ public:
     void ShowEdit(qint32 LineID);
     /// Shows the rating of the worker who stands in the box; 0 for none.
     void RateWorker();
+    void showRating(qint16 rating);
 
 protected:
     void Form_Load() override;

@@ -1,11 +1,10 @@
 #include "planning/PendingOrders.h"
 
 #include "core/store/DE.h"
+#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
-
-#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -30,13 +29,11 @@ void GetOrdersToday(qint16 itemId, const QDate& date, qint32& count)
 
 void predictDelivery(std::vector<ItemLoad>& loads)
 {
-    ado::Recordset& items = DE.rsITEMS;
-    const auto closed = qScopeGuard([&items] { items.Close(); });
-    for (items.Open(u"Select * from items order by name"_s); !items.AtEOF(); items.MoveNext()) {
+    each(u"Select * from items order by name"_s, [&](ado::Recordset& items) {
         const QString name = items["Name"].text();
         const qint32 capacity = items["ProdcutionCap"].integer();
         if (capacity == 0)
-            continue;
+            return;
         const qint16 item = values::toInt16(items["ID"].integer(), u"Item number"_s);
         qint32 open = 0;
         GetPendingOrders(item, open);
@@ -46,5 +43,5 @@ void predictDelivery(std::vector<ItemLoad>& loads)
                                                u"Pending orders of "_s + name);
         const qint32 waiting = values::CInt(double(pending) / capacity, u"Days of work on "_s + name) + 1;
         loads.push_back({name, capacity, pending, today, waiting, session.WorkingDate.addDays(waiting)});
-    }
+    });
 }

@@ -6,8 +6,6 @@
 #include "ui/modLang.h"
 #include "ui_frmDDP.h"
 
-#include <QScopeGuard>
-
 using namespace Qt::StringLiterals;
 
 frmDDP::frmDDP()
@@ -33,18 +31,26 @@ void frmDDP::Form_Load()
 void frmDDP::Prddict()
 {
     std::vector<ItemLoad> loads;
-    const auto shown = qScopeGuard([&] {
-        std::vector<forms::ListView::Row> rows;
-        for (const ItemLoad& load : loads) {
-            forms::ListView::Row row{{load.item, QString::number(load.capacity),
-                                      QString::number(load.pending), QString::number(load.today),
-                                      u"%1 Days"_s.arg(load.waiting), dateText(load.ready)}};
-            row.looks[PendingColumn].bold = true;
-            row.looks[DateColumn].bold = true;
-            rows.push_back(std::move(row));
-        }
-        ui->lvSummary->setRows(std::move(rows));
-        ui->lvSummary->selectRow(0);
-    });
-    predictDelivery(loads);
+    try {
+        predictDelivery(loads);
+    } catch (...) {
+        showLoads(loads); // those before the one at fault
+        throw;
+    }
+    showLoads(loads);
+}
+
+void frmDDP::showLoads(const std::vector<ItemLoad>& loads)
+{
+    std::vector<forms::ListView::Row> rows;
+    for (const ItemLoad& load : loads) {
+        forms::ListView::Row row{{load.item, QString::number(load.capacity), QString::number(load.pending),
+                                  QString::number(load.today), u"%1 Days"_s.arg(load.waiting),
+                                  dateText(load.ready)}};
+        row.looks[PendingColumn].bold = true;
+        row.looks[DateColumn].bold = true;
+        rows.push_back(std::move(row));
+    }
+    ui->lvSummary->setRows(std::move(rows));
+    ui->lvSummary->selectRow(0);
 }

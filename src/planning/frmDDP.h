@@ -3,10 +3,12 @@
 #include "platform/forms/Screen.h"
 
 #include <memory>
+#include <vector>
 
 namespace Ui {
 class frmDDP;
 }
+struct ItemLoad;
 
 /// What waits on each garment and when one ordered now could be ready; for the operator who writes a job
 /// card.
@@ -25,6 +27,8 @@ protected:
 
 private:
     enum Column { PendingColumn = 2, DateColumn = 5 };
+
+    void showLoads(const std::vector<ItemLoad>& loads);
 
     const std::unique_ptr<Ui::frmDDP> ui;
 };

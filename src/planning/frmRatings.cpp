@@ -1,6 +1,7 @@
 #include "planning/frmRatings.h"
 
 #include "core/store/DE.h"
+#include "core/store/Rows.h"
 #include "planning/Ratings.h"
 #include "planning/Stars.h"
 #include "ui/modLang.h"
@@ -43,9 +44,8 @@ void frmRatings::GetRank()
     std::vector<QPixmap> ImageList1;
     for (int rating = 0; rating <= 5; ++rating)
         ImageList1.push_back(stars(rating, heightOfStars));
-    ado::Recordset& ranks = DE.rsrank;
     std::vector<forms::ListView::Row> rows;
-    for (ranks.Open(u"Select * from Rank order by Score desc"_s); !ranks.AtEOF(); ranks.MoveNext()) {
+    each(u"Select * from Rank order by Score desc"_s, [&](ado::Recordset& ranks) {
         const QString position = QString::number(rows.size() + 1);
         forms::ListView::Row row{
             {position, position, ranks["Name"].text(), ranks["Score"].text(), QString()}};
@@ -53,8 +53,7 @@ void frmRatings::GetRank()
         if (rating < ImageList1.size())
             row.looks[RatingColumn].picture = ImageList1[rating];
         rows.push_back(std::move(row));
-    }
-    ranks.Close();
+    });
     ui->lvSummary->setRows(std::move(rows));
     ui->lvSummary->selectRow(0);
 }

@@ -2,12 +2,12 @@
 
 #include "core/store/Codes.h"
 #include "core/store/DE.h"
+#include "core/store/Rows.h"
 #include "core/store/ShopPictures.h"
 #include "core/store/Texts.h"
 #include "registers/JobLines.h"
 
 #include <QHash>
-#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -37,20 +37,18 @@ QString stateText(const Progress& progress)
 QHash<qint32, Progress> progressOf(const QString& client)
 {
     QHash<qint32, Progress> cards;
-    ado::Recordset& lines = DE.rsJOBS_DETAIL2;
-    const auto closed = qScopeGuard([&lines] { lines.Close(); });
-    for (lines.Open(u"Select JobID, DoneByWorker, count(*) as Lines from JOBS_DETAIL where ClintID="_s +
-                    client + u" group by JobID, DoneByWorker"_s);
-         !lines.AtEOF(); lines.MoveNext()) {
-        Progress& card = cards[lines["JobID"].integer()];
-        const int count = lines["Lines"].integer();
-        const auto state = lines["DoneByWorker"].code<LineState>();
-        card.lines += count;
-        if (state == LineState::Completed)
-            card.ready += count;
-        else if (state == LineState::Delivered)
-            card.delivered += count;
-    }
+    each(u"Select JobID, DoneByWorker, count(*) as Lines from JOBS_DETAIL where ClintID="_s + client +
+             u" group by JobID, DoneByWorker"_s,
+         [&](ado::Recordset& lines) {
+             Progress& card = cards[lines["JobID"].integer()];
+             const int count = lines["Lines"].integer();
+             const auto state = lines["DoneByWorker"].code<LineState>();
+             card.lines += count;
+             if (state == LineState::Completed)
+                 card.ready += count;
+             else if (state == LineState::Delivered)
+                 card.delivered += count;
+         });
     return cards;
 }
 
@@ -114,20 +112,18 @@ std::vector<Card> cardsOf(qint32 client)
     const QString id = QString::number(client);
     const QHash<qint32, Progress> progress = progressOf(id);
     std::vector<Card> found;
-    ado::Recordset& cards = DE.rsJobs2;
-    const auto closed = qScopeGuard([&cards] { cards.Close(); });
-    for (cards.Open(u"Select * from JOBS where ClintID="_s + id + u" order by Date desc, Id desc"_s);
-         !cards.AtEOF(); cards.MoveNext()) {
-        const qint32 number = cards["Id"].integer();
-        const bool canceled = cards["Status"].integer() != 0;
-        found.push_back(
-            {.number = number,
-             .booked = cards["Date"].date(),
-             .delivery = cards["DeliveryDate"].date(),
-             .state = canceled ? statusName(qint32(LineState::Canceled)) : stateText(progress.value(number)),
-             .amount = cards["AmountDue"].number(),
-             .paid = cards["AmountPaid"].number()});
-    }
+    each(u"Select * from JOBS where ClintID="_s + id + u" order by Date desc, Id desc"_s,
+         [&](ado::Recordset& cards) {
+             const qint32 number = cards["Id"].integer();
+             const bool canceled = cards["Status"].integer() != 0;
+             found.push_back({.number = number,
+                              .booked = cards["Date"].date(),
+                              .delivery = cards["DeliveryDate"].date(),
+                              .state = canceled ? statusName(qint32(LineState::Canceled))
+                                                : stateText(progress.value(number)),
+                              .amount = cards["AmountDue"].number(),
+                              .paid = cards["AmountPaid"].number()});
+         });
     return found;
 }
 
@@ -135,30 +131,28 @@ std::vector<Garment> garmentsOf(qint32 client)
 {
     std::vector<Garment> garments;
     QHash<QString, size_t> places;
-    ado::Recordset& lines = DE.rsJOBS_DETAIL2;
-    const auto closed = qScopeGuard([&lines] { lines.Close(); });
-    for (lines.Open(u"Select * from JOBS_DETAIL where ClintID="_s + QString::number(client) +
-                    u" order by Date desc, JobID desc, ItemSr"_s);
-         !lines.AtEOF(); lines.MoveNext()) {
-        const QString item = lines["ItemName"].text();
-        const auto place = places.constFind(item.toCaseFolded());
-        if (place == places.constEnd()) {
-            places.insert(item.toCaseFolded(), garments.size());
-            garments.push_back({item, {}, {}});
-        }
-        Order order{.code = lineCodeText(lines["JobID"].text(), lines["ItemSr"].text()),
-                    .booked = lines["Date"].date(),
-                    .values = {},
-                    .remark = lines["Remarks"].text(),
-                    .note = lines["ClientRemarks"].text(),
-                    .pictures = {}};
-        for (const char* column : {"Img1", "Img2"})
-            if (const QString link = lines[column].text(); !link.isEmpty())
-                if (const QString picture = shownPicture(link); !picture.isEmpty())
-                    order.pictures << picture;
-        add(garments[places.value(item.toCaseFolded())], std::move(order),
-            rowsOf(lines["ItemDetails"].text()), rowsOf(lines["ItemDetailsValue"].text()));
-    }
+    each(u"Select * from JOBS_DETAIL where ClintID="_s + QString::number(client) +
+             u" order by Date desc, JobID desc, ItemSr"_s,
+         [&](ado::Recordset& lines) {
+             const QString item = lines["ItemName"].text();
+             const auto place = places.constFind(item.toCaseFolded());
+             if (place == places.constEnd()) {
+                 places.insert(item.toCaseFolded(), garments.size());
+                 garments.push_back({item, {}, {}});
+             }
+             Order order{.code = lineCodeText(lines["JobID"].text(), lines["ItemSr"].text()),
+                         .booked = lines["Date"].date(),
+                         .values = {},
+                         .remark = lines["Remarks"].text(),
+                         .note = lines["ClientRemarks"].text(),
+                         .pictures = {}};
+             for (const char* column : {"Img1", "Img2"})
+                 if (const QString link = lines[column].text(); !link.isEmpty())
+                     if (const QString picture = shownPicture(link); !picture.isEmpty())
+                         order.pictures << picture;
+             add(garments[places.value(item.toCaseFolded())], std::move(order),
+                 rowsOf(lines["ItemDetails"].text()), rowsOf(lines["ItemDetailsValue"].text()));
+         });
     return garments;
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "messaging/modSMS.h"
 #include "platform/values/Dates.h"
@@ -59,16 +60,13 @@ QString daysAhead(const QDate& date) { return QString::number(session.WorkingDat
 void LineNames::readAll(const QString& query)
 {
     const QString lines = query.left(query.indexOf(u" order by "_s));
-    ado::Recordset& accounts = DE.rsaccounts;
     for (const char* who : {"ClintID", "WorkerID"}) {
-        for (accounts.Open(u"Select * from Accounts where ID in (Select %1 from (%2))"_s.arg(
-                 QLatin1String(who), lines));
-             !accounts.AtEOF(); accounts.MoveNext()) {
-            const qint32 id = accounts["ID"].integer();
-            m_accounts.insert(id, accounts["Title"].text());
-            m_contacts.insert(id, ContactOf(accounts));
-        }
-        accounts.Close();
+        each(u"Select * from Accounts where ID in (Select %1 from (%2))"_s.arg(QLatin1String(who), lines),
+             [&](ado::Recordset& accounts) {
+                 const qint32 id = accounts["ID"].integer();
+                 m_accounts.insert(id, accounts["Title"].text());
+                 m_contacts.insert(id, ContactOf(accounts));
+             });
     }
     if (!m_balancesUpTo.isValid())
         return;

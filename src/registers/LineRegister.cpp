@@ -2,6 +2,7 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "jobcards/frmEditWorkerAssign.h"
 #include "platform/forms/ComboBox.h"
@@ -191,11 +192,10 @@ void LineRegister::readLines(std::vector<forms::ListView::Row>& rows)
     SearchSql = searchText();
     LineNames names(m_criteria.balances ? period().to() : QDate());
     names.readAll(SearchSql);
-    ado::Recordset& lines = DE.rsJOBS_DETAIL;
-    const auto closed = qScopeGuard([&lines] { lines.Close(); }); // a line at fault leaves no lock behind
-    for (lines.Open(SearchSql); !lines.AtEOF(); lines.MoveNext())
+    each(SearchSql, [&](ado::Recordset& lines) {
         if (!m_inShop || isInShop(lines["DoneByWorker"].code<LineState>()))
             rows.push_back(rowOf(lines, names));
+    });
 }
 
 void LineRegister::keepLines(const std::function<bool(const QStringList&)>& stays)

@@ -1,12 +1,11 @@
 #include "registers/ShopFigures.h"
 
-#include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "core/store/SerialNumber.h"
 #include "core/store/Texts.h"
 
 #include <algorithm>
-#include <functional>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -19,20 +18,6 @@ constexpr int daysAhead = 14;
 constexpr int recentDays = 30;
 constexpr int weeks = 12;
 constexpr size_t largestDebtors = 10;
-
-void each(const QString& sql, const std::function<void(ado::Recordset& row)>& take)
-{
-    ado::Recordset rows(DE.connection());
-    for (rows.Open(sql); !rows.AtEOF(); rows.MoveNext())
-        take(rows);
-}
-
-qint32 one(const QString& sql)
-{
-    qint32 number = 0;
-    each(sql, [&](ado::Recordset& row) { number = row[0].integer(); });
-    return number;
-}
 
 QString state(LineState state) { return QString::number(qint32(state)); }
 

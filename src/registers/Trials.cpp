@@ -2,6 +2,7 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "messaging/modSMS.h"
@@ -57,9 +58,7 @@ std::vector<Trial> read(const QString& cards)
     };
     QHash<qint32, Client> clients;
     std::vector<Trial> found;
-    ado::Recordset& card = DE.rsJobs2;
-    const auto closed = qScopeGuard([&card] { card.Close(); });
-    for (card.Open(cards); !card.AtEOF(); card.MoveNext()) {
+    each(cards, [&](ado::Recordset& card) {
         const qint32 id = card["ClintID"].integer();
         auto client = clients.find(id);
         if (client == clients.end()) {
@@ -69,7 +68,7 @@ std::vector<Trial> read(const QString& cards)
         }
         found.push_back({card["ID"].integer(), client->title, card["TrialDate"].date(), statusText(card),
                          client->mobile});
-    }
+    });
     return found;
 }
 

@@ -1,6 +1,7 @@
 #include "registers/frmBirthDayRimenders.h"
 
 #include "core/store/DE.h"
+#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "platform/forms/Palette.h"
@@ -40,10 +41,9 @@ void frmBirthDayRimenders::resetDays() { ui->DateSel->setValue(session.WorkingDa
 std::vector<forms::ListView::Row> frmBirthDayRimenders::read()
 {
     std::vector<forms::ListView::Row> rows;
-    ado::Recordset& clients = DE.rsaccounts;
     const QDate day = ui->DateSel->value();
     bool anyDimmed = false;
-    for (clients.Open(figures::birthdaySearch(day)); !clients.AtEOF(); clients.MoveNext()) {
+    each(figures::birthdaySearch(day), [&](ado::Recordset& clients) {
         const QDate dob = clients["dob"].date();
         rows.push_back(
             {{clients["Title"].text(), dateText(dob), clients["Mobile"].text()}, clients["ID"].text()});
@@ -51,8 +51,7 @@ std::vector<forms::ListView::Row> frmBirthDayRimenders::read()
             dim(rows.back());
             anyDimmed = true;
         }
-    }
-    clients.Close();
+    });
     ui->lblHelp->setNotice(anyDimmed ? u"Dimmed: younger than a year, mostly the day of the entry"_s
                                      : QString());
     return rows;

@@ -3,6 +3,7 @@
 #include "accounts/frmAccountBook.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "platform/forms/ListView.h"
@@ -42,18 +43,15 @@ void frmDueRegister::Form_Activate() { ExcuteSQl(); }
 void frmDueRegister::ExcuteSQl()
 {
     std::vector<forms::ListView::Row> rows;
-    ado::Recordset& accounts = DE.rsaccounts;
-    for (accounts.Open(u"Select Accounts.ID, Title, sum(Amount) as Balance from Accounts, Postings"_s +
-                       whereType(AccountType::Client) + u" and accID=Accounts.ID and "_s +
-                       countsUpTo(session.WorkingDate) +
-                       u" group by Accounts.ID having sum(Amount)<0 order by Title"_s);
-         !accounts.AtEOF(); accounts.MoveNext()) {
-        const Currency balance = Currency::fromDouble(accounts["Balance"].number());
-        if (balance < Currency())
-            rows.push_back({{accounts["Title"].text(), moneyText((-balance).toDouble())},
-                            QString::number(accounts["ID"].integer())});
-    }
-    accounts.Close();
+    each(u"Select Accounts.ID, Title, sum(Amount) as Balance from Accounts, Postings"_s +
+             whereType(AccountType::Client) + u" and accID=Accounts.ID and "_s +
+             countsUpTo(session.WorkingDate) + u" group by Accounts.ID having sum(Amount)<0 order by Title"_s,
+         [&](ado::Recordset& accounts) {
+             const Currency balance = Currency::fromDouble(accounts["Balance"].number());
+             if (balance < Currency())
+                 rows.push_back({{accounts["Title"].text(), moneyText((-balance).toDouble())},
+                                 QString::number(accounts["ID"].integer())});
+         });
     ui->lvSummary->refreshRows(std::move(rows));
 }
 

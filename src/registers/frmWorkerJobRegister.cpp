@@ -2,6 +2,7 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "planning/frmWorkerReport2.h"
 #include "platform/report/ListKeys.h"
 #include "platform/values/Dates.h"
@@ -125,8 +126,7 @@ forms::ListView::Row frmWorkerJobRegister::rowOf(ado::Recordset& line, LineNames
 void frmWorkerJobRegister::fillDetails()
 {
     ui->lvDetails->Clear();
-    ado::Recordset& items = DE.rsITEMS;
-    for (items.Open(u"Select * from Items order by titlekey(Name)"_s); !items.AtEOF(); items.MoveNext()) {
+    each(u"Select * from Items order by titlekey(Name)"_s, [&](ado::Recordset& items) {
         qint32 count = 0;
         if (SearchMode == Search::Worker)
             GetItemWiseDetails(items["ID"].integer(), count);
@@ -134,8 +134,7 @@ void frmWorkerJobRegister::fillDetails()
             GetItemWiseDetails2(items["ID"].integer(), count);
         if (count > 0)
             ui->lvDetails->addRow({items["Name"].text(), QString::number(count)});
-    }
-    items.Close();
+    });
 }
 
 void frmWorkerJobRegister::GetItemWiseDetails(qint32 itemId, qint32& count)

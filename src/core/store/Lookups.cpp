@@ -1,6 +1,7 @@
 #include "core/store/Lookups.h"
 
 #include "core/store/DE.h"
+#include "core/store/Rows.h"
 #include "core/store/Texts.h"
 #include "platform/values/Dates.h"
 
@@ -109,11 +110,8 @@ QString GetItemName(qint32 id)
 QHash<qint32, QString> GetAccountTitles(const QString& accounts)
 {
     QHash<qint32, QString> titles;
-    ado::Recordset& rows = DE.rsaccounts;
-    for (rows.Open(u"Select ID, Title from Accounts where ID in ("_s + accounts + u')'); !rows.AtEOF();
-         rows.MoveNext())
-        titles.insert(rows[0].integer(), rows[1].text());
-    rows.Close();
+    each(u"Select ID, Title from Accounts where ID in ("_s + accounts + u')',
+         [&](ado::Recordset& rows) { titles.insert(rows[0].integer(), rows[1].text()); });
     return titles;
 }
 
@@ -160,12 +158,9 @@ double GetBalance(qint16 account, const QDate& date)
 QHash<qint32, double> GetBalances(const QString& accounts, const QDate& date)
 {
     QHash<qint32, double> balances;
-    ado::Recordset& rows = DE.rspostings;
-    for (rows.Open(u"Select accID, sum(Amount) from Postings where accID in (%1) and %2 group by accID"_s.arg(
-             accounts, countsUpTo(date)));
-         !rows.AtEOF(); rows.MoveNext())
-        balances.insert(rows[0].integer(), rows[1].number());
-    rows.Close();
+    each(u"Select accID, sum(Amount) from Postings where accID in (%1) and %2 group by accID"_s.arg(
+             accounts, countsUpTo(date)),
+         [&](ado::Recordset& rows) { balances.insert(rows[0].integer(), rows[1].number()); });
     return balances;
 }
 
