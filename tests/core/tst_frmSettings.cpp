@@ -1,4 +1,5 @@
 #include "core/shell/frmSettings.h"
+#include "core/store/Backup.h"
 #include "messaging/modSMS.h"
 #include "support/ShopTest.h"
 #include "ui/frmSelectFile.h"
@@ -136,6 +137,7 @@ private Q_SLOTS:
         inModal<frmSettings>([](frmSettings& screen) { click(screen, "Command5"); });
         shop->reopen();
         QCOMPARE(Shop::count("Select * from Accounts where Title='Asha'"), 0);
+        QCOMPARE(lastBackupDay(), QDate::currentDate()); // of the archive, which was made before it was noted
     }
 };
 

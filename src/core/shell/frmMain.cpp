@@ -143,8 +143,7 @@ void frmMain::showWhetherToday()
 /// The whole line is the way to the backup, by Alt+B too.
 void frmMain::showLastBackup()
 {
-    const QDate last = values::readDate(GetSetting(settings::LastBackup));
-    QString text = lastBackupText(last, QDate::currentDate()).replace(u"backup"_s, u"&backup"_s);
+    QString text = lastBackupText(lastBackupDay(), QDate::currentDate()).replace(u"backup"_s, u"&backup"_s);
     if (!session.CopyTrouble.isEmpty())
         text += u"  ·  No copy of the shop"_s;
     ui->cmdLastBackup->setText(text);

@@ -144,7 +144,7 @@ void frmSettings::checkShop()
 
 void frmSettings::showLastBackup()
 {
-    QString text = lastBackupText(values::readDate(GetSetting(settings::LastBackup)), QDate::currentDate());
+    QString text = lastBackupText(lastBackupDay(), QDate::currentDate());
     if (!session.CopyTrouble.isEmpty())
         text += u'\n' + session.CopyTrouble;
     ui->lblLastBackup->setText(text);

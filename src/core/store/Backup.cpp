@@ -3,9 +3,11 @@
 #include "core/store/Copies.h"
 #include "core/store/DE.h"
 #include "core/store/Session.h"
+#include "core/store/Settings.h"
 #include "core/store/Startup.h"
 #include "core/store/Texts.h"
 #include "platform/devices/Files.h"
+#include "platform/values/Dates.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -308,6 +310,16 @@ void clearLeftovers(const QString& backupFolder)
                << pictureFolder(backupFolder) + u'/' + files::unfinishedCopy;
     clearUnlessHeld(lockPath(), places);
     clearUnlessHeld(copies::lockPath(), {copies::folder() + u'/' + archive::unfinishedCopy});
+}
+
+QDate lastBackupDay()
+{
+    const QDate noted = values::readDate(GetSetting(settings::LastBackup));
+    if (noted.isValid())
+        return noted;
+    const QString folder = GetSetting(settings::BackupFolder);
+    const QString archive = folder.isEmpty() ? QString() : archive::find(folder);
+    return archive.isEmpty() ? QDate() : QFileInfo(archive).lastModified().date();
 }
 
 QString lastBackupText(const QDate& last, const QDate& today)

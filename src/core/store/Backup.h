@@ -70,5 +70,8 @@ private:
 /// folder. What another program is at stays.
 void clearLeftovers(const QString& backupFolder);
 
+/// The day of the last backup. A shop that was restored does not know of the archive that it came from: then
+/// the day of the archive in its backup folder. Invalid without either.
+QDate lastBackupDay();
 /// "Last backup: 12 days ago", "No backup yet": by the system's date, for the shop can move its own.
 QString lastBackupText(const QDate& last, const QDate& today);
