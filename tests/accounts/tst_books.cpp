@@ -2,6 +2,7 @@
 #include "accounts/frmAccountBook.h"
 #include "accounts/frmDayBook.h"
 #include "accounts/frmTransiction.h"
+#include "accounts/frmWorkerWagesRegister.h"
 #include "accounts/rptAccountsBooks.h"
 #include "core/shell/frmMenu.h"
 #include "jobcards/frmEditJOB.h"
@@ -11,6 +12,7 @@
 #include "registers/frmDueRegister.h"
 #include "support/Modem.h"
 #include "support/Pdf.h"
+#include "support/Refusal.h"
 #include "support/ShopTest.h"
 
 static QString texts(const std::vector<BookLine>& lines)
@@ -177,6 +179,7 @@ private Q_SLOTS:
 
     void whatCannotBeShownIsRefused()
     {
+        shop->addClient("Far");
         inModal<frmAccountBook>([&](frmAccountBook& book) {
             click(book, "Command2"); // nobody to write to
             for (const char* button : {"Command3", "Command4"}) {
@@ -197,6 +200,16 @@ private Q_SLOTS:
             QCOMPARE(combo(book, "cmbAccount").text(), "Asha");
             prompts->expect("Modem Com Port Error!\r\nSMS Sending has been Failed.");
             click(book, "Command2");
+            Shop::run("Update Accounts set ID=40000 where Title='Far'");
+            combo(book, "cmbAccount").setText("Far");
+            prompts->expect(refusal([&] { AccountBook(40000, day, day); }));
+            press(Qt::Key_V, Qt::AltModifier);
+            QCOMPARE(label(book, "lblShown"), ""); // never Asha's book under that name
+            QCOMPARE(rows(book).rowCount(), 0);
+            combo(book, "cmbAccount").setText("Asha");
+            onNextModal<frmWorkerWagesRegister>([](frmWorkerWagesRegister&) {});
+            click(book, "Command1"); // a payroll may have been made there
+            QVERIFY(rows(book).rowCount() > 0);
 
             // What stood behind a row, then the account itself, is gone meanwhile.
             prompts->expect("Voucher # 3 is no longer there.");

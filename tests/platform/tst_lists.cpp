@@ -117,6 +117,14 @@ private Q_SLOTS:
         view.Clear();
         QCOMPARE(view.selectedRow(), -1);
         QCOMPARE(moved.count(), 1);
+
+        const auto row = [](const char* text, const char* tag) { return ListView::Row{{text}, tag, {}}; };
+        view.setRows({row("Sales", "7|1"), row("Receipt", "7|1")}); // of one card
+        view.selectRow(1);
+        view.refreshRows({row("Payment", "3|2"), row("Sales", "7|1"), row("Receipt", "7|1")});
+        QCOMPARE(view.cell(view.selectedRow(), 0), "Receipt");
+        view.addRow({"loose\r\nlong"});
+        QCOMPARE(sheetOf(view).rows[3].cells[0], "loose long");
     }
 
     void listsLeaveTheProgram()
