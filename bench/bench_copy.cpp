@@ -1,7 +1,9 @@
 #include "FullShop.h"
 #include "core/store/Copies.h"
 #include "core/store/DE.h"
+#include "core/store/Schema.h"
 #include "core/store/Session.h"
+#include "jobcards/Differences.h"
 #include "platform/devices/Files.h"
 
 #include <QCoreApplication>
@@ -43,11 +45,44 @@ void copyProvedAndInPlace(benchmark::State& state)
     }
 }
 
+/// A copy opened to be looked at, and the living shop again.
+void look(benchmark::State& state)
+{
+    copies::finishDay();
+    const QString copy = copies::inFolder(copies::folder()).first().path;
+    for (auto _ : state) {
+        DE.openToLook(copy, QStringLiteral("No."));
+        DE.open(session.databasePath());
+    }
+}
+
+/// Two openings of a file with its key.
+void lookFloor(benchmark::State& state)
+{
+    for (auto _ : state)
+        for (int i = 0; i < 2; ++i)
+            DE.open(session.databasePath());
+}
+
+/// All cards and vouchers of two full shops compared.
+void compareShops(benchmark::State& state)
+{
+    copies::finishDay();
+    ado::Connection then;
+    then.open(copies::inFolder(copies::folder()).first().path, databasePassword(),
+              ado::Connection::Mode::ReadOnly);
+    for (auto _ : state)
+        state.counters["differences"] = double(differences::between(then, DE.connection()).size());
+}
+
 } // namespace
 
 BENCHMARK(copyPages)->Unit(benchmark::kMillisecond);
 BENCHMARK(copyPagesFloor)->Unit(benchmark::kMillisecond);
 BENCHMARK(copyProvedAndInPlace)->Unit(benchmark::kMillisecond);
+BENCHMARK(look)->Unit(benchmark::kMillisecond);
+BENCHMARK(lookFloor)->Unit(benchmark::kMillisecond);
+BENCHMARK(compareShops)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char* argv[])
 {

@@ -324,5 +324,5 @@ void frmEditWorkerAssign::toggleWages()
 {
     const bool shown = !ui->fWorkerDetails->isVisible();
     showWages(shown);
-    SetSetting(settings::WorkerDetailsShown, QString::number(int(shown)));
+    RememberSetting(settings::WorkerDetailsShown, QString::number(int(shown)));
 }

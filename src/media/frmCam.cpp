@@ -58,7 +58,7 @@ void frmCam::Form_Unload() { ui->swSnap1->CloseCam(); }
 void frmCam::rememberCamera()
 {
     if (ui->cmbList->ListIndex() >= 0)
-        SetSetting(settings::WebcamDriver, QString::number(ui->cmbList->ListIndex()));
+        RememberSetting(settings::WebcamDriver, QString::number(ui->cmbList->ListIndex()));
 }
 
 void frmCam::startCam()

@@ -40,7 +40,7 @@ frmSearchClient::frmSearchClient()
     onKeyPress(ui->lvResults, chooseOnEnter);
     on(ui->lvResults, &forms::ListView::dblClicked, &frmSearchClient::choose);
     on(ui->opShowAllUndel, &QCheckBox::clicked,
-       [this] { SetSetting(settings::UndeliveredClientsOnly, allJobs() ? u"1"_s : u"0"_s); });
+       [this] { RememberSetting(settings::UndeliveredClientsOnly, allJobs() ? u"1"_s : u"0"_s); });
     on(ui->Command1, &QPushButton::clicked, &frmSearchClient::choose);
     on(ui->Command2, &QPushButton::clicked, &frmSearchClient::unload);
 }

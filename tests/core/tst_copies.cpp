@@ -1,8 +1,14 @@
 #include "core/shell/CopyAtStart.h"
+#include "core/shell/Look.h"
+#include "core/shell/frmDifferences.h"
+#include "core/shell/frmMain.h"
 #include "core/shell/frmSettings.h"
 #include "core/store/Backup.h"
 #include "core/store/Copies.h"
 #include "core/store/Schema.h"
+#include "core/store/Texts.h"
+#include "masters/frmEditClients.h"
+#include "planning/frmRatings.h"
 #include "platform/devices/Files.h"
 #include "support/Refusal.h"
 #include "support/ShopTest.h"
@@ -229,39 +235,158 @@ private Q_SLOTS:
         QCOMPARE(names(shop->folder() + "/unplugged/SEcopies").size(), 1);
     }
 
-    /// The backup page lists what holds the shop as it was, and puts it back.
-    void copyIsRestored()
+    /// A copy opens as the shop itself does, and takes nothing; then the living shop goes on.
+    void shopOfACopyIsLookedAt()
     {
+        shop->addJob(7);
+        shop->addJobLine(5, 1, shop->addWorker("Ravi"), "Score=4");
+        SetSetting(settings::WorkingDate, "2024-02-09");
+        SetSetting(settings::SystemDateAtStart, "1");
         copies::finishDay();
-        QVERIFY(QFile::rename(copiesThere().first(),
-                              copies::folder() + '/' + copies::fileName({2024, 2, 1}, {2024, 2, 2})));
-        QByteArray cut = contents(copiesThere().first());
-        cut.truncate(cut.size() / 2);
-        layCopy({2024, 1, 31}, cut);
+        const QString copy = copiesThere().first();
+        const QByteArray before = contents(copy);
         shop->addClient("Bala");
-        shop->addJob(1);
-        writeFile(shop->folder() + "/data.before-restore.mdb", "no shop");
-        inModal<frmSettings>([this](frmSettings& screen) {
-            QTRY_COMPARE(listView(screen, "lvCopies").cell(2, 2), "damaged");
-            QVERIFY(rowText(screen, 0, "lvCopies").startsWith("01-Feb-2024|02-Feb-2024|0|0|"));
-            QVERIFY(rowText(screen, 1, "lvCopies").startsWith("31-Jan-2024|31-Jan-2024|damaged|"));
-            QVERIFY(rowText(screen, 2, "lvCopies").startsWith("data.before-restore ("));
-            prompts.reset(); // the engine's words differ by fault
-            for (const int damaged : {1, 2}) {
-                listView(screen, "lvCopies").selectRow(damaged);
-                onNextModal<QMessageBox>([](QMessageBox& box) {
-                    QVERIFY(box.text().startsWith("Nothing has been restored. The shop is as it was."));
-                });
-                click(screen, "cmdRestoreCopy");
-            }
-            prompts = std::make_unique<Prompts>();
-            prompts->expect("Database restored.\r\nPlease restart application.");
-            listView(screen, "lvCopies").selectRow(0);
-            click(screen, "cmdRestoreCopy");
+        Shop::run("Delete * from Jobs");
+        const QByteArray living = contents(session.databasePath());
+        const QString sentence = "This is the shop as it was on " + dateText(QDate::currentDate()) +
+                                 ", only to be looked at: nothing in it can be changed.";
+        const auto look = [&](frmMain& main) {
+            QCOMPARE(label(main, "lblBand"), "The shop as it was on " + dateText(QDate::currentDate()) +
+                                                 ", only to be looked at: nothing can be changed.");
+            QVERIFY(control<QLabel>(main, "lblBand").isVisible());
+            QCOMPARE(clientsOf(copy), Shop::rows("Select Title from Accounts where Type=0 order by Id"));
+            QCOMPARE(Shop::count("Select * from Jobs where id=7"), 1);
+            QCOMPARE(session.WorkingDate, QDate(2024, 2, 9));
+            const std::function<void()> writes[] = {[] { Shop::run("Delete * from Jobs"); },
+                                                    [] { Shop::run("Drop table Jobs"); },
+                                                    [] { SetSetting(settings::TagLine, "new"); },
+                                                    [this] { shop->addClient("Chand"); },
+                                                    [this] { shop->addVoucher(1, 1, 2, 5); },
+                                                    [] {
+                                                        JobCard card;
+                                                        card.SaveNew(Shop::head(8, "Asha", 100));
+                                                    },
+                                                    [] {
+                                                        JobCard card;
+                                                        card.CurrentJobID = 7;
+                                                        card.Delete();
+                                                    }};
+            for (const auto& write : writes)
+                QCOMPARE(refusal(write), sentence);
+            RememberSetting(settings::WebcamDriver, "1");
+            prompts->expect(sentence);
+            onNextModal<frmEditClients>([](frmEditClients& client) {
+                save();
+                QCOMPARE(field(client, "txtName").text(), "Chand");
+            });
+            QString added;
+            frmEditClients().AddNewFromJobCard(added, "Chand");
+            QCOMPARE(added, QString());
+            inModal<frmRatings>([](frmRatings& ratings) { QVERIFY(rowText(ratings, 0).contains("Ravi")); });
+            DE.connection().writeBatch([] { DE.connection().Execute("Delete * from accountbook"); });
+            Shop::add("tmpHead", {{"JOBID", 7},
+                                  {"Date", ""},
+                                  {"NAME", ""},
+                                  {"DELDATE", ""},
+                                  {"TrialDate", ""},
+                                  {"AMOUNTDUE", ""},
+                                  {"AMOUNTPAID", ""},
+                                  {"AMOUNT", ""}});
+            press(Qt::Key_Escape);
+        };
+        onNextModal<frmSettings>([&](frmSettings& screen) {
+            onNextModal<frmMain>(look);
+            press(Qt::Key_I, Qt::AltModifier);
+            QCOMPARE(focused(screen), "lvCopies");
+            press(Qt::Key_Return);
+            QCOMPARE(session.LookedAt, QString());
+            writeFile(shop->folder() + "/data.before-restore.mdb", "no shop at all");
         });
-        shop->reopen();
-        QCOMPARE(Shop::rows("Select Title from Accounts where Type=0"), QStringList({"Asha"}));
-        QCOMPARE(clientsOf(shop->folder() + "/data.before-restore-2.mdb"), QStringList({"Asha", "Bala"}));
+        frmSettings().ShowBackup();
+        QCOMPARE(Shop::count("Select * from Accounts where Title='Bala'"), 1);
+        QCOMPARE(Shop::count("Select * from Jobs"), 0);
+        QCOMPARE(Shop::count("Select * from tmpHead"), 0);
+        QCOMPARE(session.WorkingDate, QDate(2024, 2, 10));
+        QVERIFY(contents(copy) == before);
+        QVERIFY(contents(session.databasePath()) == living);
+        QVERIFY(refusal([this] {
+                    lookInto(shop->folder() + "/data.before-restore.mdb");
+                }).contains("data.before-restore.mdb"));
+        QCOMPARE(session.LookedAt, QString());
+        shop->addClient("Dina"); // and goes on
+        inModal<frmMain>([](frmMain& main) { QVERIFY(!main.findChild<QLabel*>("lblBand")); });
+    }
+
+    /// A card that was deleted is found in the newest copy and comes back by keys alone, with all that hangs
+    /// on it; a voucher too.
+    void whatIsGoneComesBack()
+    {
+        shop->addWorker("Ravi");
+        const qint32 gone = shop->addClient("Gopal");
+        JobCard card;
+        Shop::order(card.JobRows, "Shirt 1", 300);
+        Shop::order(card.JobRows, "Shirt 2", 200);
+        card.SaveNew(Shop::head(1, "Gopal", 500, 150));
+        Shop::run("Update Jobs_Detail set DoneByWorker=1, WorkerID=" + QString::number(GetAccountID("Ravi")));
+        JobCard stays;
+        Shop::order(stays.JobRows, "Shirt 1", 70);
+        stays.SaveNew(Shop::head(2, "Asha", 70));
+        shop->addVoucher(1, 4, 5, 90);
+        shop->addVoucher(2, 4, 5, 80);
+        const QString lines(
+            "Select ItemName, QNT, Amount, WorkerName, DoneByWorker from Jobs_Detail where JobID=");
+        const QStringList before = Shop::rows(lines + '1');
+        copies::finishDay();
+        card.Delete();
+        Shop::run("Delete * from Accounts where Title='Gopal'");
+        Shop::run("Delete * from Items where Name='Shirt 2'");
+        Shop::run("Update Jobs set Remark='in haste' where id=2");
+        Shop::run("Delete * from Postings where vid=1 and vtype=2");
+        shop->addClient("Bala");
+        shop->addVoucher(3, 4, 5, 60);
+
+        prompts->expect("Bring back Job card 1 (Gopal) into the living shop, as a new one?", Answer::Yes);
+        prompts->expect("It is Job card 3 of the living shop now.");
+        prompts->expect("Bring back Voucher 1 (Receipt: Cash, Asha) into the living shop, as a new one?",
+                        Answer::Yes);
+        prompts->expect("It is Voucher 4 of the living shop now.");
+        prompts->expect("Voucher 3 was not there on that day: it is in the living shop.");
+        onNextModal<frmSettings>([](frmSettings& screen) {
+            onNextModal<frmMain>([](frmMain&) {
+                onNextModal<frmDifferences>([](frmDifferences& list) {
+                    QStringList told;
+                    for (int row = 0; row < listView(list, "lvSummary").rowCount(); ++row)
+                        told << rowText(list, row);
+                    QCOMPARE(told,
+                             QStringList({"deleted since|Job card 1|10-Feb-2024|Gopal|500.00",
+                                          "deleted since|Voucher 1|10-Feb-2024|Receipt: Cash, Asha|90.00",
+                                          "changed since|Job card 2|10-Feb-2024|Asha|70.00",
+                                          "added since|Voucher 3|10-Feb-2024|Receipt: Cash, Asha|60.00"}));
+                    press(Qt::Key_Return);
+                    press(Qt::Key_Down);
+                    press(Qt::Key_Return);
+                    press(Qt::Key_End);
+                    press(Qt::Key_Return);
+                });
+                press(Qt::Key_B, Qt::AltModifier);
+                QCOMPARE(Shop::count("Select * from Jobs"), 2); // the look goes on
+            });
+            press(Qt::Key_I, Qt::AltModifier);
+            QCOMPARE(focused(screen), "lvCopies");
+            press(Qt::Key_Return);
+        });
+        frmSettings().ShowBackup();
+        QCOMPARE(Shop::rows("Select Id, ClintName from Jobs order by Id"),
+                 QStringList({"2 Asha", "3 Gopal"}));
+        QCOMPARE(Shop::rows(lines + '3'), before);
+        QVERIFY(GetAccountID("Gopal") != gone);
+        QCOMPARE(GetBalance(qint16(GetAccountID("Gopal")), session.WorkingDate), -350.0);
+        QCOMPARE(Shop::rows("Select Remark, Amount from Postings where vid=3 and vtype=1 and sr=1"),
+                 QStringList({"Job Card # :3 -500"}));
+        QCOMPARE(Shop::rows("Select vid from Postings where vtype=2 and sr=1 order by vid"),
+                 QStringList({"2", "3", "4"}));
+        QCOMPARE(Shop::value("Select sum(Amount) from Postings").toDouble(), 0.0);
+        QCOMPARE(Shop::count("Select * from Items where Name='Shirt 2'"), 1);
     }
 
     /// The program dies in the middle of its copies, again and again: each copy that has its name is whole,
@@ -305,6 +430,42 @@ private Q_SLOTS:
         QCOMPARE(names(shop->folder()).filter("data.").join(' '),
                  "data.before-restore-2.mdb data.mdb data.mdb-journal");
         QCOMPARE(names(copies::folder()).size(), 1);
+    }
+
+    /// The backup page lists what holds the shop as it was, and puts it back. The last one: the restore ends
+    /// the program, and no screen waits after that.
+    void copyIsRestored()
+    {
+        copies::finishDay();
+        QVERIFY(QFile::rename(copiesThere().first(),
+                              copies::folder() + '/' + copies::fileName({2024, 2, 1}, {2024, 2, 2})));
+        QByteArray cut = contents(copiesThere().first());
+        cut.truncate(cut.size() / 2);
+        layCopy({2024, 1, 31}, cut);
+        shop->addClient("Bala");
+        shop->addJob(1);
+        writeFile(shop->folder() + "/data.before-restore.mdb", "no shop");
+        inModal<frmSettings>([this](frmSettings& screen) {
+            QTRY_COMPARE(listView(screen, "lvCopies").cell(2, 2), "damaged");
+            QVERIFY(rowText(screen, 0, "lvCopies").startsWith("01-Feb-2024|02-Feb-2024|0|0|"));
+            QVERIFY(rowText(screen, 1, "lvCopies").startsWith("31-Jan-2024|31-Jan-2024|damaged|"));
+            QVERIFY(rowText(screen, 2, "lvCopies").startsWith("data.before-restore ("));
+            prompts.reset(); // the engine's words differ by fault
+            for (const int damaged : {1, 2}) {
+                listView(screen, "lvCopies").selectRow(damaged);
+                onNextModal<QMessageBox>([](QMessageBox& box) {
+                    QVERIFY(box.text().startsWith("Nothing has been restored. The shop is as it was."));
+                });
+                click(screen, "cmdRestoreCopy");
+            }
+            prompts = std::make_unique<Prompts>();
+            prompts->expect("Database restored.\r\nPlease restart application.");
+            listView(screen, "lvCopies").selectRow(0);
+            click(screen, "cmdRestoreCopy");
+        });
+        shop->reopen();
+        QCOMPARE(Shop::rows("Select Title from Accounts where Type=0"), QStringList({"Asha"}));
+        QCOMPARE(clientsOf(shop->folder() + "/data.before-restore-2.mdb"), QStringList({"Asha", "Bala"}));
     }
 };
 

@@ -57,6 +57,10 @@ void CopyAtStart::begin()
 
 void CopyAtStart::step()
 {
+    if (!session.LookedAt.isEmpty()) { // the living shop is closed; it is begun anew behind that
+        m_making.reset();
+        return;
+    }
     const QString trouble = textOf([&] {
         if (!m_making && copies::isDue())
             m_making = std::make_unique<copies::Making>(workingDayOfLastChange());

@@ -1,6 +1,7 @@
 #include "core/shell/frmMain.h"
 
 #include "core/shell/CopyAtStart.h"
+#include "core/shell/Look.h"
 #include "core/shell/Wallpaper.h"
 #include "core/shell/frmAbout.h"
 #include "core/shell/frmLogin.h"
@@ -46,6 +47,7 @@ bool frmMain::start()
 
 frmMain::frmMain()
     : ui(std::make_unique<Ui::frmMain>())
+    , m_looks(!session.LookedAt.isEmpty())
 {
     ui->setupUi(this);
     setWindowFlags(Qt::Window);
@@ -61,7 +63,8 @@ frmMain::frmMain()
     on(ui->Command5, &QPushButton::clicked, [] { frmShopINFO().showModal(); });
     on(ui->Command7, &QPushButton::clicked, [] { frmSettings().showModal(); });
     on(ui->Command4, &QPushButton::clicked, [] { frmAbout().showModal(); });
-    on(ui->cmdLastBackup, &QPushButton::clicked, [] { frmSettings().ShowBackup(); });
+    on(ui->cmdLastBackup, &QPushButton::clicked,
+       [this] { m_looks ? showDifferences(this) : frmSettings().ShowBackup(); });
     on(m_copyAtStart, &CopyAtStart::ended, &frmMain::showLastBackup);
     on(ui->TodayDate, &forms::DatePicker::changed, &frmMain::changeWorkingDate);
     on(ui->TodayDate, &forms::DatePicker::calendarClosed, [this] {
@@ -100,14 +103,15 @@ void frmMain::RefershINFO()
     ado::Recordset& shop = DE.rsSHOP;
     shop.Open(u"Select * from Shop"_s);
     if (shop.RecordCount() < 1) {
-        DE.connection().writeBatch([&shop] {
-            shop.Open(u"Select * from Shop"_s); // another first start may have been quicker
-            if (shop.RecordCount() > 0)
-                return;
-            shop.AddNew();
-            shop["Name"] = u"KORVANE"_s;
-            shop.UpdateBatch();
-        });
+        if (!m_looks)
+            DE.connection().writeBatch([&shop] {
+                shop.Open(u"Select * from Shop"_s); // another first start may have been quicker
+                if (shop.RecordCount() > 0)
+                    return;
+                shop.AddNew();
+                shop["Name"] = u"KORVANE"_s;
+                shop.UpdateBatch();
+            });
         ui->lblShopName->setText(u"KORVANE"_s);
     } else {
         const auto copy = [&shop](const char* field, QString& line) {
@@ -143,6 +147,11 @@ void frmMain::showWhetherToday()
 /// The whole line is the way to the backup, by Alt+B too.
 void frmMain::showLastBackup()
 {
+    if (m_looks) {
+        ui->cmdLastBackup->setText(u"What differs from today, to &bring back"_s);
+        ui->cmdLastBackup->setToolTip({});
+        return;
+    }
     QString text = lastBackupText(lastBackupDay(), QDate::currentDate()).replace(u"backup"_s, u"&backup"_s);
     if (!session.CopyTrouble.isEmpty())
         text += u"  ·  No copy of the shop"_s;
@@ -158,6 +167,10 @@ void frmMain::Form_KeyPress(int& key)
     if (key != forms::key::Escape)
         return;
     key = 0;
+    if (m_looks) {
+        unload();
+        return;
+    }
     if (!ShowMsg(u"Are you sure to exit?"_s, 2))
         return;
     if (unsavedCards.isEmpty() ||
@@ -232,8 +245,12 @@ void frmMain::changeWorkingDate()
 {
     session.TodayDate = ui->TodayDate->value();
     session.WorkingDate = session.TodayDate;
-    SetSetting(settings::WorkingDate, values::CStr(session.WorkingDate));
+    RememberSetting(settings::WorkingDate, values::CStr(session.WorkingDate));
     showWhetherToday();
 }
 
-void frmMain::Form_Unload() { QCoreApplication::quit(); }
+void frmMain::Form_Unload()
+{
+    if (!m_looks)
+        QCoreApplication::quit();
+}

@@ -40,6 +40,7 @@ private:
     bool takesCodeFromDate();
 
     std::unique_ptr<Ui::frmMain> ui;
+    const bool m_looks; ///< at the shop as it was: leaving it ends nothing
     Wallpaper* MyWall;
     CopyAtStart* m_copyAtStart;
     QString m_scanned;        ///< of a line's code, so far

@@ -3,6 +3,7 @@
 #include "core/shell/CopyList.h"
 #include "core/store/DE.h"
 #include "core/store/SerialNumber.h"
+#include "core/store/Session.h"
 #include "core/store/Settings.h"
 #include "messaging/modSMS.h"
 #include "platform/forms/MessageBox.h"
@@ -52,6 +53,8 @@ frmSettings::frmSettings()
     on(ui->Command4, &QPushButton::clicked, &frmSettings::backUp);
     on(ui->Command5, &QPushButton::clicked, &frmSettings::restore);
     m_copies = new CopyList(ui->lvCopies);
+    onOpened(ui->lvCopies, &frmSettings::look);
+    on(ui->cmdLook, &QPushButton::clicked, &frmSettings::look);
     on(ui->cmdRestoreCopy, &QPushButton::clicked, &frmSettings::restoreCopy);
     on(ui->cmdCheck, &QPushButton::clicked, &frmSettings::checkShop);
 }
@@ -85,6 +88,8 @@ void frmSettings::Form_Load()
     showDraft(*ui->txtSMS3, GetSetting(settings::SmsDueBalance, DefaultDueBalanceDraft()));
     showLastBackup();
     m_copies->fill();
+    // A backup is of the living shop.
+    ui->SSTab1->setTabEnabled(ui->SSTab1->indexOf(ui->pageBackup), session.LookedAt.isEmpty());
 }
 
 void frmSettings::ShowBackup()

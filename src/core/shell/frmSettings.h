@@ -44,7 +44,9 @@ private:
     QString chosenBackupFolder();
     void backUp();
     void restore();
+    void look();
     void restoreCopy();
+    QString chosenCopy();
     void restoreFrom(const QString& archive);
     void checkShop();
     void showLastBackup();

@@ -1,6 +1,7 @@
 #include "core/shell/frmSettings.h"
 
 #include "core/shell/CopyList.h"
+#include "core/shell/Look.h"
 #include "core/shell/frmCheckShop.h"
 #include "core/store/Backup.h"
 #include "core/store/Session.h"
@@ -106,12 +107,24 @@ void frmSettings::restore()
     restoreFrom(archive);
 }
 
-void frmSettings::restoreCopy()
+/// The file; empty, and said so, when none is chosen.
+QString frmSettings::chosenCopy()
 {
     const QString copy = m_copies->chosen();
     if (copy.isEmpty())
         forms::criticalMessage(this, u"Please choose a copy in the list!"_s);
-    else
+    return copy;
+}
+
+void frmSettings::look()
+{
+    if (const QString copy = chosenCopy(); !copy.isEmpty())
+        lookInto(copy);
+}
+
+void frmSettings::restoreCopy()
+{
+    if (const QString copy = chosenCopy(); !copy.isEmpty())
         restoreFrom(copy);
 }
 

@@ -29,17 +29,6 @@ constexpr auto everyFile = QDir::Files | QDir::Hidden | QDir::System;
 /// When the shop's file was changed last: each write of the engine changes its time.
 QDateTime lastChange() { return QFileInfo(session.databasePath()).lastModified(); }
 
-Copy read(const QFileInfo& file)
-{
-    Copy copy;
-    copy.path = file.filePath();
-    copy.changed = file.lastModified();
-    copy.size = file.size();
-    if (const auto named = readFileName(file.fileName()))
-        std::tie(copy.day, copy.workingDay) = *named;
-    return copy;
-}
-
 bool isNewer(const Copy& one, const Copy& other)
 {
     return std::pair(one.day, one.changed) > std::pair(other.day, other.changed);
@@ -50,7 +39,7 @@ QList<Copy> filesIn(const QString& folder, const QString& pattern)
     QList<Copy> found;
     for (const QFileInfo& file : QDir(folder).entryInfoList({pattern}, everyFile, QDir::Name))
         if (file.isFile())
-            found << read(file);
+            found << read(file.filePath());
     std::sort(found.begin(), found.end(), isNewer);
     return found;
 }
@@ -120,6 +109,18 @@ std::optional<std::pair<QDate, QDate>> readFileName(const QString& name)
     if (!day.isValid() || !workingDay.isValid())
         return {};
     return std::pair(day, workingDay);
+}
+
+Copy read(const QString& path)
+{
+    const QFileInfo file(path);
+    Copy copy;
+    copy.path = path;
+    copy.changed = file.lastModified();
+    copy.size = file.size();
+    if (const auto named = readFileName(file.fileName()))
+        std::tie(copy.day, copy.workingDay) = *named;
+    return copy;
 }
 
 QList<Copy> inFolder(const QString& folder) { return filesIn(folder, u"*.mdb"_s); }

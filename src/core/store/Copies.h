@@ -34,6 +34,8 @@ QString fileName(const QDate& day, const QDate& workingDay);
 /// Reads such a name; nothing for any other.
 std::optional<std::pair<QDate, QDate>> readFileName(const QString& name);
 
+/// One file, by its path.
+Copy read(const QString& path);
 /// The copies in a folder, the newest first; those of other names behind them.
 QList<Copy> inFolder(const QString& folder);
 /// The shop's files that a restore has put aside, the newest first.

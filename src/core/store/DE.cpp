@@ -8,6 +8,12 @@ DataEnvironment DE;
 
 void DataEnvironment::open(const QString& path) { m_connection.open(path, databasePassword()); }
 
+void DataEnvironment::openToLook(const QString& path, const QString& refusal)
+{
+    m_connection.openToLook(path, databasePassword(), refusal);
+    makeTemporaryTables(m_connection);
+}
+
 void DataEnvironment::close() { m_connection.close(); }
 
 void DataEnvironment::ensureIndexes()

@@ -15,6 +15,9 @@ class DataEnvironment
 public:
     /// Opens the database file. Throws ado::DatabaseError, whose text names the file.
     void open(const QString& path);
+    /// Opens a file that holds the shop as it was, to be looked at: each write is refused with this sentence,
+    /// but into the tables that lists and papers are put together in.
+    void openToLook(const QString& path, const QString& refusal);
     void close();
     ado::Connection& connection() { return m_connection; }
 

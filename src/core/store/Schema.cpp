@@ -195,13 +195,13 @@ QString declaration(const Column& column)
     return text;
 }
 
-void createTable(const Table& table)
+void createTable(ado::Connection& connection, const Table& table, const QString& kind = u"TABLE"_s)
 {
     QStringList declarations;
     for (const Column& column : table.columns)
         declarations << declaration(column);
-    DE.connection().Execute(
-        u"CREATE TABLE %1 (%2)"_s.arg(QLatin1String(table.name), declarations.join(", "_L1)));
+    connection.Execute(
+        u"CREATE %1 %2 (%3)"_s.arg(kind, QLatin1String(table.name), declarations.join(", "_L1)));
 }
 
 void addBuiltInAccounts()
@@ -237,6 +237,15 @@ QStringList tableNames()
     return names;
 }
 
+void makeTemporaryTables(ado::Connection& connection)
+{
+    static const QStringList staging{u"tmpHead"_s, u"tmpBody"_s, u"rank"_s, u"wagesregister"_s,
+                                     u"accountbook"_s};
+    for (const Table& table : tables())
+        if (staging.contains(QLatin1String(table.name)))
+            createTable(connection, table, u"TEMP TABLE"_s);
+}
+
 void CreateDatabase()
 {
     const QString path = session.databasePath();
@@ -260,7 +269,7 @@ void CreateDatabase()
         DE.connection().create(building, databasePassword());
         DE.connection().writeBatch([] {
             for (const Table& table : tables())
-                createTable(table);
+                createTable(DE.connection(), table);
             SetSetting(settings::DatabaseVersion, QString::number(DatabaseVersion));
             addBuiltInAccounts();
         });

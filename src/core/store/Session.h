@@ -20,6 +20,9 @@ struct Session
     QString ShopAddress3;
     QString ShopContacts;
 
+    /// The day of the shop that is looked at, as the operator reads it; empty in the living shop.
+    QString LookedAt;
+
     QString CopyTrouble; ///< why the last day's copy of the shop is not where it should be; empty when it is
 
     QString ShownShopName; ///< as the main screen has it

@@ -1,6 +1,7 @@
 #include "core/store/Settings.h"
 
 #include "core/store/DE.h"
+#include "core/store/Session.h"
 
 using namespace Qt::StringLiterals;
 
@@ -42,3 +43,9 @@ QString GetSetting(const Setting& setting, const QString& otherwise)
 }
 
 void SetSetting(const Setting& setting, const QString& value) { SetSetting(setting.number, value); }
+
+void RememberSetting(const Setting& setting, const QString& value)
+{
+    if (session.LookedAt.isEmpty())
+        SetSetting(setting, value);
+}

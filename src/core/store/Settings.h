@@ -53,4 +53,6 @@ QString GetSetting(const Setting& setting);
 QString GetSetting(const Setting& setting, const QString& otherwise);
 QString GetSetting(qint32 number, const QString& otherwise);
 void SetSetting(const Setting& setting, const QString& value);
+/// Sets what the program remembers by itself; a shop that is only looked at remembers nothing.
+void RememberSetting(const Setting& setting, const QString& value);
 void SetSetting(qint32 number, const QString& value);

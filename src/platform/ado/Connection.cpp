@@ -80,6 +80,8 @@ bool Connection::Private::step(Prepared& statement)
 
 QString Connection::Private::named(const QString& text, int code) const
 {
+    if ((code & 0xFF) == SQLITE_READONLY && !refusal.isEmpty())
+        return refusal;
     switch (code & 0xFF) {
     case SQLITE_BUSY:
     case SQLITE_READONLY:
@@ -201,6 +203,12 @@ void Connection::open(const QString& path, const QString& password, Mode mode)
     openFile(path, password, mode == Mode::ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
 }
 
+void Connection::openToLook(const QString& path, const QString& password, const QString& refusal)
+{
+    open(path, password, Mode::ReadOnly);
+    d->refusal = refusal;
+}
+
 void Connection::openFile(const QString& path, const QString& password, int flags)
 {
     const int code =
@@ -238,6 +246,7 @@ void Connection::close()
     sqlite3_close(d->database);
     d->database = nullptr;
     d->path.clear();
+    d->refusal.clear();
     d->fileIdentity.clear();
 }
 
@@ -266,7 +275,8 @@ void Connection::writeBatch(const std::function<void()>& work, const QString& re
         return;
     }
     try {
-        d->run(u"BEGIN IMMEDIATE"_s);
+        // A file that is looked at takes no lock for a write: what only fills temporary tables goes through.
+        d->run(d->refusal.isEmpty() ? u"BEGIN IMMEDIATE"_s : u"BEGIN"_s);
         d->inBatch = true;
         work();
         d->refuseIfLost();
@@ -275,7 +285,7 @@ void Connection::writeBatch(const std::function<void()>& work, const QString& re
         d->inBatch = false;
     } catch (OperatorError& error) {
         d->rollBack();
-        if (!refused.isEmpty())
+        if (!refused.isEmpty() && d->refusal.isEmpty())
             error.putBefore(refused);
         throw;
     } catch (...) {

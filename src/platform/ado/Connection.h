@@ -39,6 +39,9 @@ public:
     /// the file, if it is missing, empty, damaged or of another password; nothing is ever written to such a
     /// file.
     void open(const QString& path, const QString& password, Mode mode = Mode::ReadWrite);
+    /// Opens a file that is only to be looked at, as open() does: each write into it is refused with this
+    /// sentence, and the file stays as it is. Temporary tables can be made and written.
+    void openToLook(const QString& path, const QString& password, const QString& refusal);
     /// Closes the handle; recordsets still open on it are closed. No fault if it is not open.
     void close();
     bool isOpen() const;

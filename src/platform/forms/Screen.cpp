@@ -35,6 +35,12 @@ std::vector<Screen*>& chain()
     return screens;
 }
 
+QString& band()
+{
+    static QString text;
+    return text;
+}
+
 void closePopups()
 {
     while (QWidget* popup = QApplication::activePopupWidget()) {
@@ -146,12 +152,30 @@ void Screen::present()
     }
     if (!focusWidget())
         focusNextPrevChild(true);
+    showBand();
     if (!testAttribute(Qt::WA_Resized))
         adjustSize();
     fitDisplay();
     show();
     activateWindow();
     activate();
+}
+
+/// The band takes the place of a menu bar: above the content, from edge to edge.
+void Screen::showBand()
+{
+    if (!layout() || (band().isEmpty() && !m_band))
+        return;
+    if (!m_band) {
+        m_band = new QLabel(this);
+        m_band->setObjectName(u"lblBand"_s);
+        m_band->setTextFormat(Qt::PlainText);
+        m_band->setAlignment(Qt::AlignCenter);
+        m_band->setWordWrap(true);
+        layout()->setMenuBar(m_band);
+    }
+    m_band->setText(band());
+    m_band->setVisible(!band().isEmpty());
 }
 
 /// Makes the screen no larger than the display; content that needs more room moves into a scrolling area.
@@ -167,6 +191,7 @@ void Screen::fitDisplay()
         m_scroller->setWidgetResizable(true);
         QWidget* focused = focusWidget(); // a control that moves loses the focus
         auto* content = new QWidget;
+        layout()->setMenuBar(nullptr);
         m_scroller->setWidget(content);
         content->setLayout(layout()); // and the controls with it
         content->setAutoFillBackground(false);
@@ -174,6 +199,7 @@ void Screen::fitDisplay()
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins({});
         column->addWidget(m_scroller);
+        column->setMenuBar(m_band);
         column->activate(); // the content's least size is the screen's no longer
         if (focused)
             focused->setFocus();
@@ -230,6 +256,8 @@ void Screen::Form_KeyPress(int& key)
 }
 
 void Screen::leaveChain() { std::erase(chain(), this); }
+
+void Screen::setBand(const QString& text) { band() = text; }
 
 Screen* Screen::front() { return chain().empty() ? nullptr : chain().back(); }
 

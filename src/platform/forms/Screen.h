@@ -11,6 +11,7 @@
 #include <vector>
 
 class QEventLoop;
+class QLabel;
 class QScrollArea;
 
 namespace forms {
@@ -91,6 +92,9 @@ public:
     /// Closes the screen. Safe to call from its own event procedures.
     void unload();
     bool isLoaded() const { return m_loaded; }
+
+    /// What stands across the top of every screen that is shown from now on; empty: nothing.
+    static void setBand(const QString& text);
 
     /// The screen in front, or null.
     static Screen* front();
@@ -175,6 +179,7 @@ private:
     };
 
     void present();
+    void showBand();
     void fitDisplay();
     QSize shareOfDisplay() const;
     void activate();
@@ -196,6 +201,7 @@ private:
     QPointer<QEventLoop> m_loop;
     QPointer<QWidget> m_focused;
     QScrollArea* m_scroller = nullptr;
+    QLabel* m_band = nullptr;
     std::vector<ControlEvents> m_events;
 };
 

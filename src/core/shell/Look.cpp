@@ -1,0 +1,120 @@
+#include "core/shell/Look.h"
+
+#include "core/shell/frmDifferences.h"
+#include "core/shell/frmMain.h"
+#include "core/store/Copies.h"
+#include "core/store/DE.h"
+#include "core/store/Schema.h"
+#include "core/store/Session.h"
+#include "core/store/Startup.h"
+#include "core/store/Texts.h"
+#include "jobcards/UnsavedCards.h"
+#include "platform/ado/Integrity.h"
+#include "platform/forms/Aside.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What is looked at.
+copies::Copy& current()
+{
+    static copies::Copy copy;
+    return copy;
+}
+
+/// The program turned to another shop for a while. What belongs to the living one is kept meanwhile.
+class Aside
+{
+public:
+    Aside()
+        : m_session(session)
+        , m_unsaved(std::exchange(unsavedCards, {}))
+    {
+        DE.close();
+    }
+
+    /// Opens the living shop again. Throws ado::DatabaseError.
+    void end()
+    {
+        forms::Screen::setBand({});
+        m_session.CopyTrouble = session.CopyTrouble;
+        session = m_session;
+        session.RefreshLists = true;
+        unsavedCards = std::move(m_unsaved);
+        DE.open(session.databasePath());
+    }
+
+private:
+    Session m_session;
+    UnsavedCards m_unsaved;
+};
+
+void openFile()
+{
+    DE.openToLook(current().path,
+                  u"This is the shop as it was on %1, only to be looked at: nothing in it can be "
+                  "changed."_s.arg(session.LookedAt));
+}
+
+void openToLook(const copies::Copy& copy)
+{
+    current() = copy;
+    session.LookedAt = dateText(copy.day.isValid() ? copy.day : copy.changed.date());
+    openFile();
+    if (!CheckDatabaseVersion())
+        throw OperatorError(u"%1 is a shop of another version of this program."_s.arg(copy.path));
+    LoadSessionDefaults();
+    session.WorkingDate = StoredWorkingDate();
+    forms::Screen::setBand(
+        u"The shop as it was on %1, only to be looked at: nothing can be changed."_s.arg(session.LookedAt));
+}
+
+} // namespace
+
+void lookInto(const QString& path)
+{
+    const copies::Copy copy = copies::read(path);
+    Aside aside;
+    try {
+        openToLook(copy);
+        frmMain().showModal();
+    } catch (...) {
+        aside.end();
+        throw;
+    }
+    aside.end();
+}
+
+void showDifferences(QWidget* parent)
+{
+    std::vector<differences::Difference> found;
+    forms::runAside(parent, u"What Differs From Today"_s, [&found](const Watch& watch) {
+        watch.step(u"comparing both shops"_s, [&] {
+            ado::Connection then;
+            ado::Connection now;
+            then.open(current().path, databasePassword(), ado::Connection::Mode::ReadOnly);
+            now.open(session.databasePath(), databasePassword(), ado::Connection::Mode::ReadOnly);
+            ado::endWhenAsked(then, watch.stop);
+            ado::endWhenAsked(now, watch.stop);
+            found = differences::between(then, now);
+        });
+    });
+    frmDifferences(std::move(found)).showModal();
+}
+
+qint32 bringToLivingShop(const differences::Difference& difference)
+{
+    const differences::Kept kept = differences::read(DE.connection(), difference);
+    DE.close();
+    qint32 number = 0;
+    try {
+        DE.open(session.databasePath());
+        number = differences::bringBack(kept);
+    } catch (...) {
+        openFile();
+        throw;
+    }
+    openFile();
+    return number;
+}
