@@ -60,10 +60,10 @@ private Q_SLOTS:
         QStringList settings;
         for (const qint32 number : {0, 12, 2, 3, 4, 5, 6, 10, 11, 13, 14, 15, 19, 22, 23, 24, 25, 26})
             settings << stored(number);
-        QCOMPARE(settings, QStringList({"Hindi", "Yes", "No", "Yes", "4", "/home/shop/logo.png", "Stitched By Hand",
-                                        "Rangoli Ta", "/home/shop/wall.png", "3", "1", "0", "none", "1", "1",
-                                        DefaultJobRegisteredDraft() + "\rThanks", DefaultJobFinishedDraft(),
-                                        DefaultDueBalanceDraft()}));
+        QCOMPARE(settings, QStringList({"Hindi", "Yes", "No", "Yes", "4", "/home/shop/logo.png",
+                                        "Stitched By Hand", "Rangoli Ta", "/home/shop/wall.png", "3", "1",
+                                        "0", "none", "1", "1", DefaultJobRegisteredDraft() + "\rThanks",
+                                        DefaultJobFinishedDraft(), DefaultDueBalanceDraft()}));
     }
 
     void keepsWhatIsStored()
