@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 WageList::WageList(QWidget* parent)
     : ListView(parent)
 {
-    setColumns({{u"Date"_s, 10, Qt::AlignLeft, 110},
+    setColumns({{u"Date"_s, 10, Qt::AlignLeft, 118},
                 {u"JOB ID"_s, 10, Qt::AlignLeft, 92},
                 {u"Client Name"_s, 20, Qt::AlignLeft, 130},
                 {u"Item Name"_s, 12, Qt::AlignLeft, 110},

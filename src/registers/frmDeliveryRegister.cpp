@@ -24,8 +24,8 @@ frmDeliveryRegister::frmDeliveryRegister()
                  .find = ui->Command8,
                  .help = ui->lblHelp});
     DateField = u"JobDelDate"_s;
-    ui->lvSummary->setColumns({{u"Del. Date"_s, 11, Qt::AlignLeft, 106},
-                               {u"Date"_s, 11, Qt::AlignLeft, 106},
+    ui->lvSummary->setColumns({{u"Del. Date"_s, 11, Qt::AlignLeft, 118},
+                               {u"Date"_s, 11, Qt::AlignLeft, 118},
                                {u"Days"_s, 11, Qt::AlignLeft, 128},
                                {u"JOB ID"_s, 7, Qt::AlignLeft, 78},
                                {u"Client Name"_s, 15, Qt::AlignLeft, 126},
