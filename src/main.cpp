@@ -36,7 +36,7 @@ int main(int argc, char* argv[])
                                              {.name = u"Loose cable"_s, .picturesLeft = 60},
                                              {.name = u"Taken camera"_s, .fault = u"In use elsewhere"_s}}));
     if (const QString notice = qEnvironmentVariable("SEAMWISE_NOTICE"); !notice.isEmpty()) {
-        forms::criticalMessage(nullptr, notice); // whoever starts the program could not
+        forms::criticalMessage(nullptr, notice); // the script that starts the program has no window for it
         return 1;
     }
     const int result = Main() ? QApplication::exec() : 1;

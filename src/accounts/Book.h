@@ -6,8 +6,9 @@
 #include "ui/Period.h"
 
 /// Opens what stands behind a row of a book: the job card, or the entry screen of a voucher. True when it
-/// came back saved, and also when the ledger no longer has it, which the operator is told: either way the
-/// book is to be made anew. A row of a total opens nothing. `posting` tells entries of the same number apart.
+/// came back saved, and also when the ledger no longer has it (a message says so): either way the
+/// book is to be made anew. A row of a total opens nothing. `posting` is the row among entries of the same
+/// number.
 bool openVoucher(QWidget* screen, const QString& tag, qint32 posting = 0);
 
 /// Base of the books: a list of vouchers over some days, each of which opens on Enter.

@@ -12,7 +12,7 @@ class frmAccountBook;
 
 /// The ledger of one account over some days: where the shop looks up what a client owes, what a worker is
 /// owed, what went through a ledger account. From here vouchers are entered and opened, the statement is
-/// printed and the client told of the balance.
+/// printed and the client informed of the balance by SMS.
 class frmAccountBook : public Book
 {
     Q_OBJECT

@@ -136,7 +136,7 @@ void frmWorkerWagesRegister::ExecuteSQL()
 
 void frmWorkerWagesRegister::showLines()
 {
-    session.RefreshLists = false; // also if it fails: once told, the fault isn't told at each activation
+    session.RefreshLists = false; // also if it fails: the message comes once, not at each activation
     ui->lvSummary->setLines({});
     ui->lblTotal->clear();
     if (ListSql.isEmpty())

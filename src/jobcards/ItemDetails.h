@@ -11,7 +11,7 @@ class swTextBox;
 /// The measurements of one garment: a scrolling column of captions with a box beside each. Rows are numbered
 /// from 0 and are made as they are added; row 0 is always there, hidden while Count() is 0.
 ///
-/// Heights, positions and the scroll bar are reckoned in twips.
+/// Heights, positions and the scroll bar are counted in twips.
 class ItemDetails : public QWidget
 {
     Q_OBJECT

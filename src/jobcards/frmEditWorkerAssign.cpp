@@ -217,7 +217,7 @@ QString frmEditWorkerAssign::chosenWorker() const
     return ui->cmbWorker->List(ui->cmbWorker->findText(ui->cmbWorker->text(), Qt::MatchFixedString));
 }
 
-/// A worker is looked up once, however many keys leave him in the box: so is a failure told.
+/// Looks a worker up once, however many keys leave him in the box; a failure is then also shown once.
 void frmEditWorkerAssign::RateWorker()
 {
     const QString worker = chosenWorker();

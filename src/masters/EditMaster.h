@@ -39,7 +39,7 @@ protected:
         QPushButton* remove;
     };
 
-    /// `recordset` is the shared recordset to borrow for `kind.table`.
+    /// `recordset` is the shared recordset to use for `kind.table`.
     EditMaster(Kind kind, ado::Recordset& recordset);
     /// To be called once the controls stand.
     void setControls(const Controls& controls);

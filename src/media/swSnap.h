@@ -20,8 +20,8 @@ public:
     void CloseCam();
     /// Lets the operator choose in which size and rate the camera works.
     void FormatCam();
-    /// Writes what the camera sees to the file, closes the camera and shows the file. A picture that can't be
-    /// written is not told.
+    /// Writes what the camera sees to the file, closes the camera and shows the file. Says nothing
+    /// when the picture can't be written.
     void SaveImage();
 
     bool isConnected() const { return CamWindow != nullptr; }

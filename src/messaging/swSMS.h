@@ -18,13 +18,13 @@ public:
 
     /// Sends one message and returns as soon as it stands in the port's buffer. Of the number the leading
     /// digits go out, without a "+" or zeros before them. Any failure, also a port that an earlier message
-    /// left open, is told in one plain box with the system's text; the caller cannot tell it from success.
+    /// left open, is shown in one plain box with the system's text; the caller cannot tell it from success.
     void SendSMS(qint16 port, const QString& number, const QString& message);
 
     QWidget* screen() const { return m_screen; }
     bool isOpen() const { return m_port.isOpen(); }
 
-    /// Where the ports' devices stand; "/dev" unless told.
+    /// Where the ports' devices stand; "/dev" unless set.
     void setDeviceFolder(const QString& folder) { m_deviceFolder = folder; }
 
 private:

@@ -175,7 +175,7 @@ void LineRegister::ExecuteSQL()
     m_criteria.period.order();
     m_criteria.help->setNotice(m_inShop ? u"Only what is still in the shop: Alt+V shows all"_s : QString());
     explainEmpty({});
-    session.RefreshLists = false; // also if it fails: once told, the fault isn't told at each activation
+    session.RefreshLists = false; // also if it fails: the message comes once, not at each activation
     std::vector<forms::ListView::Row> rows;
     try {
         readLines(rows);

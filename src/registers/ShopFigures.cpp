@@ -138,14 +138,14 @@ void readDues(Shop& shop, const QDate& day)
              const Currency due = Currency::fromDouble(row["Due"].number());
              if (due <= Currency())
                  return;
-             Currency told;
+             Currency counted;
              int age = 0;
              for (const char* since : {"Since30", "Since60", "Since90"}) {
                  const Currency upTo = std::min(due, Currency::fromDouble(row[since].number()));
-                 shop.dues.byAge[age++] += upTo - told;
-                 told = upTo;
+                 shop.dues.byAge[age++] += upTo - counted;
+                 counted = upTo;
              }
-             shop.dues.byAge[age] += due - told;
+             shop.dues.byAge[age] += due - counted;
              ++shop.dues.clients;
              shop.dues.largest.push_back({row["Title"].text(), due});
          });

@@ -80,7 +80,7 @@ void frmClientFolder::Form_Load()
     ui->lvGarments->setFocus();
 }
 
-/// Whoever comes back from a card sees it as it is now.
+/// Back from a card the folder shows it as it is now.
 void frmClientFolder::Form_Activate()
 {
     const qint32 id = GetAccountID(m_client);

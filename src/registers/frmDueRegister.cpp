@@ -37,7 +37,7 @@ void frmDueRegister::Form_Load()
     ui->lvSummary->setFocus();
 }
 
-/// Whoever comes back from an account reads what is owed now, on the client that was opened.
+/// Back from an account the list shows what is owed now, on the client that was opened.
 void frmDueRegister::Form_Activate() { ExcuteSQl(); }
 
 void frmDueRegister::ExcuteSQl()

@@ -7,7 +7,7 @@
 #include <Qt>
 #include <vector>
 
-/// Types keys for the operator. A text in the familiar notation stands for them: "+" holds Shift, "^" Ctrl
+/// Types keys for the operator. A text stands for them: "+" holds Shift, "^" Ctrl
 /// and "%" Alt for the next key or the next group in "(" and ")"; "~" is Enter; a name in curly brackets is a
 /// named key ("{TAB}"), or a character that has a meaning of its own ("{+}"), and a number behind a blank
 /// repeats it ("{TAB 3}").

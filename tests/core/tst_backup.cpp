@@ -20,19 +20,19 @@ constexpr auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDo
 
 QStringList names(const QString& folder) { return QDir(folder).entryList(all, QDir::Name); }
 
-void backUp(const QString& folder, const Watch& watch = {})
+void backUp(const QString& folder, const Progress& progress = {})
 {
     Backup backup(folder);
-    backup.run(watch);
-    backup.copyPictures(watch);
+    backup.run(progress);
+    backup.copyPictures(progress);
 }
 
-void restore(const QString& folder, const Watch& watch = {})
+void restore(const QString& folder, const Progress& progress = {})
 {
     Restore restore(archive::find(folder));
-    restore.unpack(watch);
-    restore.copyPictures(watch);
-    restore.takePlace(watch);
+    restore.unpack(progress);
+    restore.copyPictures(progress);
+    restore.takePlace(progress);
 }
 
 /// The tables of an archive. Throws when it is not whole.
@@ -74,14 +74,14 @@ int live(const QString& what, const QString& folder, const QString& backups, int
 {
     session.appFolder = folder;
     DE.open(session.databasePath());
-    const Watch watch{{}, [&deadlyStep](const QString&) {
-                          if (--deadlyStep == 0)
-                              std::raise(SIGKILL);
-                      }};
+    const Progress progress{{}, [&deadlyStep](const QString&) {
+                                if (--deadlyStep == 0)
+                                    std::raise(SIGKILL);
+                            }};
     if (what == "--back-up")
-        backUp(backups, watch);
+        backUp(backups, progress);
     else if (what == "--restore")
-        restore(backups, watch);
+        restore(backups, progress);
     else
         for (;;)
             DE.connection().writeBatch([] {
@@ -359,12 +359,12 @@ private Q_SLOTS:
             const QStringList beside = names(folder);
             std::stop_source impatience;
             int left = step;
-            const Watch watch{impatience.get_token(), [&](const QString&) {
-                                  if (--left == 0)
-                                      impatience.request_stop();
-                              }};
+            const Progress progress{impatience.get_token(), [&](const QString&) {
+                                        if (--left == 0)
+                                            impatience.request_stop();
+                                    }};
             if (work == "--back-up") {
-                const QString told = refusal([&] { backUp(folder, watch); });
+                const QString told = refusal([&] { backUp(folder, progress); });
                 QVERIFY2(left > 0 || told.isEmpty() || told.contains("given up"), qPrintable(told));
                 QVERIFY(!names(folder).contains("SEbackup.gz.new"));
             }

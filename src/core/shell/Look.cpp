@@ -10,7 +10,7 @@
 #include "core/store/Texts.h"
 #include "jobcards/UnsavedCards.h"
 #include "platform/ado/Integrity.h"
-#include "platform/forms/Aside.h"
+#include "platform/forms/BackgroundTask.h"
 
 using namespace Qt::StringLiterals;
 
@@ -89,14 +89,14 @@ void lookInto(const QString& path)
 void showDifferences(QWidget* parent)
 {
     std::vector<differences::Difference> found;
-    forms::runAside(parent, u"What Differs From Today"_s, [&found](const Watch& watch) {
-        watch.step(u"comparing both shops"_s, [&] {
+    forms::runInBackground(parent, u"What Differs From Today"_s, [&found](const Progress& progress) {
+        progress.step(u"comparing both shops"_s, [&] {
             ado::Connection then;
             ado::Connection now;
             then.open(current().path, databasePassword(), ado::Connection::Mode::ReadOnly);
             now.open(session.databasePath(), databasePassword(), ado::Connection::Mode::ReadOnly);
-            ado::endWhenAsked(then, watch.stop);
-            ado::endWhenAsked(now, watch.stop);
+            ado::endWhenAsked(then, progress.stop);
+            ado::endWhenAsked(now, progress.stop);
             found = differences::between(then, now);
         });
     });

@@ -1,6 +1,6 @@
 #include "core/shell/frmCheckShop.h"
 
-#include "platform/forms/Aside.h"
+#include "platform/forms/BackgroundTask.h"
 #include "platform/forms/MessageBox.h"
 #include "ui/modLang.h"
 #include "ui_frmCheckShop.h"
@@ -70,8 +70,8 @@ void frmCheckShop::mend()
         return;
     shopcheck::mend(finding);
     ++m_mended;
-    forms::runAside(this, u"Check the Shop"_s,
-                    [this](const Watch& watch) { m_report = shopcheck::run(watch); });
+    forms::runInBackground(this, u"Check the Shop"_s,
+                           [this](const Progress& progress) { m_report = shopcheck::run(progress); });
     showReport(row);
     ui->lvSummary->setFocus();
 }

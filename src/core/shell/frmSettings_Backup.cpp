@@ -6,7 +6,7 @@
 #include "core/store/Backup.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
-#include "platform/forms/Aside.h"
+#include "platform/forms/BackgroundTask.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/values/Dates.h"
 #include "ui_frmSettings.h"
@@ -82,9 +82,9 @@ void frmSettings::backUp()
     QString pictures;
     {
         Backup backup(folder);
-        forms::runAside(this, u"Backup Database"_s, [&](const Watch& watch) {
-            backup.run(watch);
-            pictures = shortfall([&] { backup.copyPictures(watch); });
+        forms::runInBackground(this, u"Backup Database"_s, [&](const Progress& progress) {
+            backup.run(progress);
+            pictures = shortfall([&] { backup.copyPictures(progress); });
         });
     }
     SetSetting(settings::LastBackup, values::CStr(QDate::currentDate()));
@@ -134,9 +134,9 @@ void frmSettings::restoreFrom(const QString& archive)
     QString pictures;
     {
         Restore restore(archive);
-        forms::runAside(this, u"Restore Database"_s, [&](const Watch& watch) {
-            restore.unpack(watch);
-            pictures = shortfall([&] { restore.copyPictures(watch); });
+        forms::runInBackground(this, u"Restore Database"_s, [&](const Progress& progress) {
+            restore.unpack(progress);
+            pictures = shortfall([&] { restore.copyPictures(progress); });
         });
         restore.takePlace({});
     }
@@ -150,8 +150,8 @@ void frmSettings::restoreFrom(const QString& archive)
 void frmSettings::checkShop()
 {
     shopcheck::Report report;
-    forms::runAside(this, u"Check the Shop"_s,
-                    [&report](const Watch& watch) { report = shopcheck::run(watch); });
+    forms::runInBackground(this, u"Check the Shop"_s,
+                           [&report](const Progress& progress) { report = shopcheck::run(progress); });
     frmCheckShop(std::move(report)).showModal();
 }
 

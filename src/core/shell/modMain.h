@@ -1,6 +1,6 @@
 #pragma once
 
 /// The program's start: makes the database on a first run, proves it, takes up the session, shows the main
-/// screen (after the login, where one is set). Returns false when the program is to end instead; the operator
-/// has been told why. `session.appFolder` stands before.
+/// screen (after the login, where one is set). Returns false when the program is to end instead; a
+/// message has said why. `session.appFolder` stands before.
 bool Main();

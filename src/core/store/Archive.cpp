@@ -47,10 +47,10 @@ void refuseUnlessOurs(ado::Connection& connection)
 {
     ado::Recordset version(connection);
     version.Open(u"Select * from Settings where SETTING='%1'"_s.arg(settings::DatabaseVersion.number));
-    const QString told = version.AtEOF() ? settings::DatabaseVersion.standard : version["value"].text();
-    if (values::Val(told) != DatabaseVersion)
+    const QString found = version.AtEOF() ? settings::DatabaseVersion.standard : version["value"].text();
+    if (values::Val(found) != DatabaseVersion)
         throw OperatorError(
-            u"It is a database of version %1. This program works with version %2 alone."_s.arg(told).arg(
+            u"It is a database of version %1. This program works with version %2 alone."_s.arg(found).arg(
                 DatabaseVersion));
 }
 

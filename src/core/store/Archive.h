@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/values/Watch.h"
+#include "platform/values/Progress.h"
 
 #include <QMap>
 #include <QStringList>
@@ -45,7 +45,7 @@ private:
 };
 
 /// Packs the shop's database into the file. These block their thread. They throw OperatorError, and
-/// GivenUp.
+/// Cancelled.
 void pack(const QString& into, const std::stop_token& stop);
 /// Unpacks an archive into the file: all of it, and nothing but it. A file of the shop's that is not packed
 /// is copied.
@@ -56,7 +56,7 @@ using Counts = QMap<QString, qint64>;
 Counts countRows(ado::Connection& connection);
 
 /// Opens an unpacked database, reads all of it, and gives back its tables. Throws OperatorError when it is
-/// not whole, or none of this program's, or of another version; and GivenUp.
+/// not whole, or none of this program's, or of another version; and Cancelled.
 Counts prove(const QString& database, const std::stop_token& stop);
 
 /// Tells a shop's database, from the day that it was made, from that of any other shop.

@@ -48,13 +48,13 @@ void orSay(const QString& whatStands, const std::function<void()>& work)
 
 bool sameFile(const QFileInfo& copy, const QFileInfo& original)
 {
-    constexpr qint64 coarsest = 2; // seconds: how well a memory stick keeps times
+    constexpr qint64 coarsest = 2; // seconds: the finest difference of times on a memory stick
     return copy.size() == original.size() && copy.lastModified().addSecs(coarsest) >= original.lastModified();
 }
 
 /// Copies the files of a folder that `isWanted`, by the original and the place of its copy. A file that
 /// cannot be copied stops none of the others.
-void copyFiles(const QString& from, const QString& to, const Watch& watch,
+void copyFiles(const QString& from, const QString& to, const Progress& progress,
                const std::function<bool(const QFileInfo& original, const QFileInfo& copy)>& isWanted)
 {
     QList<QFileInfo> wanted;
@@ -65,9 +65,9 @@ void copyFiles(const QString& from, const QString& to, const Watch& watch,
     QStringList failed;
     for (qsizetype i = 0; i < wanted.size(); ++i)
         try {
-            watch.step(u"copying the pictures, %1 of %2"_s.arg(i + 1).arg(wanted.size()),
-                       [&] { files::copyWhole(wanted[i].filePath(), to + u'/' + wanted[i].fileName()); });
-        } catch (const GivenUp&) {
+            progress.step(u"copying the pictures, %1 of %2"_s.arg(i + 1).arg(wanted.size()),
+                          [&] { files::copyWhole(wanted[i].filePath(), to + u'/' + wanted[i].fileName()); });
+        } catch (const Cancelled&) {
             throw;
         } catch (const OperatorError& error) {
             failed << error.text();
@@ -108,8 +108,8 @@ void clearUnlessHeld(const QString& lockPath, const QStringList& paths)
     }
 }
 
-/// Sees to it that no program is in the middle of a write, and that what a dead one has left half-written is
-/// undone. A file too damaged for that is replaced all the same.
+/// Makes sure that no program is in the middle of a write, and undoes what a killed one has left
+/// half-written. A file too damaged for that is replaced all the same.
 void holdAlone()
 {
     try {
@@ -174,33 +174,33 @@ Backup::Backup(const QString& folder)
 
 Backup::~Backup() = default;
 
-void Backup::run(const Watch& watch)
+void Backup::run(const Progress& progress)
 {
     orSay(earlierStands, [&] {
         std::unique_ptr<archive::Scratch> packed;
         const QString place = m_folder + u'/' + archive::fileName;
-        watch.step(u"packing the database"_s, [&] {
+        progress.step(u"packing the database"_s, [&] {
             packed = std::make_unique<archive::Scratch>(packedPath(m_folder));
-            archive::pack(packed->path(), watch.stop);
+            archive::pack(packed->path(), progress.stop);
         });
         {
             const archive::Scratch unpacked(proofPath());
-            watch.step(u"unpacking it again for a proof"_s,
-                       [&] { archive::unpack(packed->path(), unpacked.path(), watch.stop); });
-            watch.step(u"comparing it with the shop"_s, [&] {
-                if (archive::prove(unpacked.path(), watch.stop) != m_counts)
+            progress.step(u"unpacking it again for a proof"_s,
+                          [&] { archive::unpack(packed->path(), unpacked.path(), progress.stop); });
+            progress.step(u"comparing it with the shop"_s, [&] {
+                if (archive::prove(unpacked.path(), progress.stop) != m_counts)
                     throw OperatorError(u"It holds other records than the shop."_s);
             });
         }
         m_hold.reset();
-        watch.step(u"putting it in its place"_s, [&] { files::replace(place, packed->path()); });
+        progress.step(u"putting it in its place"_s, [&] { files::replace(place, packed->path()); });
         for (const QString& path : archive::spellings(m_folder)) // the same archive, an earlier one
             if (QFileInfo(path).fileName() != archive::fileName)
                 QFile::remove(path);
     });
 }
 
-void Backup::copyPictures(const Watch& watch) const
+void Backup::copyPictures(const Progress& progress) const
 {
     orSay(u"The database is backed up, but not all pictures are."_s, [&] {
         const QString to = pictureFolder(m_folder);
@@ -209,7 +209,7 @@ void Backup::copyPictures(const Watch& watch) const
         if (!QDir().mkpath(to))
             throw OperatorError(u"The folder %1 cannot be made."_s.arg(QDir::toNativeSeparators(to)));
         files::keepPrivate(to);
-        copyFiles(session.imagesFolder(), to, watch, [](const QFileInfo& original, const QFileInfo& copy) {
+        copyFiles(session.imagesFolder(), to, progress, [](const QFileInfo& original, const QFileInfo& copy) {
             return !copy.exists() || !sameFile(copy, original);
         });
     });
@@ -224,15 +224,15 @@ Restore::Restore(const QString& archive)
     orSay(shopStands, [this] { takeTurn(m_lock); });
 }
 
-void Restore::unpack(const Watch& watch)
+void Restore::unpack(const Progress& progress)
 {
     orSay(shopStands, [&] {
-        watch.step(u"unpacking the archive"_s, [&] {
+        progress.step(u"unpacking the archive"_s, [&] {
             m_unpacked = std::make_unique<archive::Scratch>(restoringPath());
-            archive::unpack(m_archive, m_unpacked->path(), watch.stop);
+            archive::unpack(m_archive, m_unpacked->path(), progress.stop);
         });
-        watch.step(u"proving the archive"_s, [&] {
-            archive::prove(m_unpacked->path(), watch.stop);
+        progress.step(u"proving the archive"_s, [&] {
+            archive::prove(m_unpacked->path(), progress.stop);
             refuseOtherShop();
         });
     });
@@ -246,31 +246,31 @@ void Restore::refuseOtherShop() const
                             "restore it, start the program in a folder without a shop."_s);
 }
 
-void Restore::copyPictures(const Watch& watch) const
+void Restore::copyPictures(const Progress& progress) const
 {
     orSay(u"Not all pictures could be brought back."_s, [&] {
         MakeImagesFolder();
         copyFiles(
-            pictureFolder(QFileInfo(m_archive).path()), session.imagesFolder(), watch,
+            pictureFolder(QFileInfo(m_archive).path()), session.imagesFolder(), progress,
             [](const QFileInfo&, const QFileInfo& copy) { return !copy.exists() && !copy.isSymLink(); });
     });
 }
 
-void Restore::takePlace(const Watch& watch)
+void Restore::takePlace(const Progress& progress)
 {
     const QString database = session.databasePath();
     const QString aside = freeName();
     bool kept = false;
     orSay(shopStands, [&] {
         try {
-            watch.step(u"keeping the shop's file under another name"_s, [&] {
+            progress.step(u"keeping the shop's file under another name"_s, [&] {
                 holdAlone();
                 kept = files::addName(database, aside);
                 if (!kept && QFileInfo::exists(database))
                     throw OperatorError(u"%1 cannot be made."_s.arg(QDir::toNativeSeparators(aside)));
                 files::sync(session.appFolder);
             });
-            watch.step(u"putting the restored file in its place"_s, [&] {
+            progress.step(u"putting the restored file in its place"_s, [&] {
                 // The journal that a damaged file may have would be played back into this one.
                 if (QFileInfo(database + journal).size() > 0)
                     QFile::rename(database + journal, aside + journal);

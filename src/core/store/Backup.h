@@ -11,9 +11,9 @@
 ///
 /// Each comes in two parts: what is slow blocks its thread, so that a screen can let it run aside; the rest
 /// belongs to the thread of the shop's connection. All of it throws OperatorError whose text says which step
-/// failed and what stands; and GivenUp.
+/// failed and what stands; and Cancelled.
 
-/// Makes a backup. Whatever fails, or is given up, leaves an earlier archive as it was and nothing beside it.
+/// Makes a backup. A failure or a cancel leaves an earlier archive as it was and nothing beside it.
 class Backup
 {
 public:
@@ -23,10 +23,10 @@ public:
 
     /// Packs the database, unpacks it again, compares it with the live one, and only then gives it the
     /// archive's name. Slow.
-    void run(const Watch& watch);
+    void run(const Progress& progress);
 
     /// Brings the pictures beside the archive up to date: new and changed ones. Slow.
-    void copyPictures(const Watch& watch) const;
+    void copyPictures(const Progress& progress) const;
 
 private:
     class Hold;
@@ -45,15 +45,15 @@ public:
     explicit Restore(const QString& archive);
 
     /// Unpacks the archive beside the shop and proves it. Slow.
-    void unpack(const Watch& watch);
+    void unpack(const Progress& progress);
 
     /// Brings back the pictures that the shop lacks from beside the archive. Slow.
-    void copyPictures(const Watch& watch) const;
+    void copyPictures(const Progress& progress) const;
 
     /// Keeps the shop's file under another name, "data.before-restore.mdb" or with a number, and puts the
     /// restored one in its place; a power cut leaves the one or the other there, whole. The connection is
     /// closed then. For its thread.
-    void takePlace(const Watch& watch);
+    void takePlace(const Progress& progress);
 
 private:
     void refuseOtherShop() const;

@@ -83,11 +83,11 @@ private:
     std::unique_ptr<ado::FileCopy> m_copy;
 };
 
-/// Sees to it that the backup folder has the newest copy, and no older one of this shop, in `SEcopies`. Slow;
+/// Makes sure that the backup folder has the newest copy, and no older one of this shop, in `SEcopies`. Slow;
 /// for any thread. Throws OperatorError. Nothing to do for an empty folder.
 void bringTo(const QString& backupFolder);
 
-/// The whole work at the end of the program: what fails here is tried again, and told, at the next start.
+/// The whole work at the end of the program: what fails here is tried again, and reported, at the next start.
 void finishDay();
 
 } // namespace copies

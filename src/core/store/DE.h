@@ -6,7 +6,7 @@
 
 /// The one owner of the connection to the shop's database and of the recordsets that all screens share.
 ///
-/// A screen borrows the recordset it needs: Open (which closes it first), read or write, Close. Recordsets
+/// A screen uses the recordset it needs: Open (which closes it first), read or write, Close. Recordsets
 /// are lent strictly one at a time; nobody may count on one staying open across a call of another operation.
 class DataEnvironment
 {
@@ -21,7 +21,7 @@ public:
     void close();
     ado::Connection& connection() { return m_connection; }
 
-    /// Makes the indexes that the look-ups lean on, where they are missing. They carry no rule: a file that
+    /// Makes the indexes that speed the look-ups, where they are missing. They carry no rule: a file that
     /// cannot be written goes without them, only slower.
     void ensureIndexes();
 

@@ -71,21 +71,21 @@ private:
 class Reader
 {
 public:
-    explicit Reader(const Watch& watch)
-        : m_watch(watch)
+    explicit Reader(const Progress& progress)
+        : m_progress(progress)
     {
     }
 
     Report look()
     {
-        m_watch.step(u"Reading the whole file"_s, [this] { readFile(); });
+        m_progress.step(u"Reading the whole file"_s, [this] { readFile(); });
         if (m_unreadable)
             return std::move(m_report);
-        m_watch.step(u"Looking at accounts and items"_s, [this] { ask(recordChecks()); });
-        m_watch.step(u"Looking at the job cards"_s, [this] { ask(cardChecks()); });
-        m_watch.step(u"Looking at the books"_s, [this] { ask(bookChecks()); });
-        m_watch.step(u"Looking at the wages"_s, [this] { ask(wageChecks()); });
-        m_watch.step(u"Looking for the pictures"_s, [this] { attempt([this] { lookAtPictures(); }); });
+        m_progress.step(u"Looking at accounts and items"_s, [this] { ask(recordChecks()); });
+        m_progress.step(u"Looking at the job cards"_s, [this] { ask(cardChecks()); });
+        m_progress.step(u"Looking at the books"_s, [this] { ask(bookChecks()); });
+        m_progress.step(u"Looking at the wages"_s, [this] { ask(wageChecks()); });
+        m_progress.step(u"Looking for the pictures"_s, [this] { attempt([this] { lookAtPictures(); }); });
         return std::move(m_report);
     }
 
@@ -94,7 +94,7 @@ private:
     {
         m_connection = std::make_unique<ado::Connection>();
         m_connection->open(session.databasePath(), databasePassword(), ado::Connection::Mode::ReadOnly);
-        ado::endWhenAsked(*m_connection, m_watch.stop);
+        ado::endWhenAsked(*m_connection, m_progress.stop);
         m_connection->Execute(u"BEGIN"_s); // all that is read is of one moment
     }
 
@@ -127,7 +127,7 @@ private:
         try {
             question();
         } catch (ado::DatabaseError&) {
-            if (!m_damaged || m_watch.stop.stop_requested())
+            if (!m_damaged || m_progress.stop.stop_requested())
                 throw;
             open();
         }
@@ -169,8 +169,8 @@ private:
         ado::Recordset row(*m_connection);
         for (row.Open(u"Select JobID, ItemSr, Img1, Img2 from JOBS_DETAIL where Img1<>'' or Img2<>''"_s);
              !row.AtEOF(); row.MoveNext()) {
-            if (m_watch.stop.stop_requested())
-                throw GivenUp();
+            if (m_progress.stop.stop_requested())
+                throw Cancelled();
             for (const char* column : {"Img1", "Img2"})
                 lookAtPicture(row, row[column].text(), findings);
         }
@@ -187,7 +187,7 @@ private:
                  u"\"Restore Database\" brings back pictures that a backup has. Or open the card, press Enter on the garment, take the picture anew or press Clear, then OK, and save."_s});
     }
 
-    const Watch& m_watch;
+    const Progress& m_progress;
     std::unique_ptr<ado::Connection> m_connection;
     Report m_report;
     bool m_damaged = false;
@@ -208,7 +208,7 @@ bool stillFinds(const Finding& finding)
 
 bool Finding::canBeMended() const { return check && !check->mend.isEmpty(); }
 
-Report run(const Watch& watch) { return Reader(watch).look(); }
+Report run(const Progress& progress) { return Reader(progress).look(); }
 
 void mend(const Finding& finding)
 {

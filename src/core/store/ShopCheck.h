@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/values/Watch.h"
+#include "platform/values/Progress.h"
 
 #include <QString>
 #include <QStringList>
@@ -35,8 +35,8 @@ struct Report
 inline constexpr int mostOfAKind = 20;
 
 /// Slow: two seconds in a full shop. For any thread. A damaged file is a finding, and what can still be read
-/// of it is looked over; nothing of it can be mended. Throws OperatorError and GivenUp.
-Report run(const Watch& watch);
+/// of it is looked over; nothing of it can be mended. Throws OperatorError and Cancelled.
+Report run(const Progress& progress);
 
 /// Does what the finding's remedy says, whole or not at all. Throws OperatorError, with nothing written, when
 /// the shop is no longer as it was found.

@@ -105,8 +105,8 @@ QString Connection::Private::named(const QString& text, int code) const
 void Connection::Private::fail(const QString& text)
 {
     const bool open = sqlite3_get_autocommit(database) == 0;
-    if (inBatch && !open && lostBy.isEmpty())
-        lostBy = text;
+    if (inBatch && !open && rollbackText.isEmpty())
+        rollbackText = text;
     if (!inBatch && open)
         sqlite3_exec(database, "ROLLBACK", nullptr, nullptr, nullptr);
     throw DatabaseError(text);
@@ -115,8 +115,8 @@ void Connection::Private::fail(const QString& text)
 /// A write behind a batch that the engine has taken back would stand alone.
 void Connection::Private::refuseIfLost() const
 {
-    if (!lostBy.isEmpty())
-        throw DatabaseError(lostBy);
+    if (!rollbackText.isEmpty())
+        throw DatabaseError(rollbackText);
 }
 
 /// The engine would go on writing into the file that it has open, or into the one that stands in its place.
@@ -132,7 +132,7 @@ void Connection::Private::refuseIfReplaced() const
 void Connection::Private::rollBack()
 {
     inBatch = false;
-    lostBy.clear();
+    rollbackText.clear();
     closeRecordsets();
     if (database && sqlite3_get_autocommit(database) == 0)
         sqlite3_exec(database, "ROLLBACK", nullptr, nullptr, nullptr);
@@ -256,8 +256,8 @@ sqlite3* Connection::handle() const { return d->database; }
 
 int Connection::Execute(const QString& sql)
 {
-    const dialect::Statement words = dialect::translate(sql);
-    const std::unique_ptr<Prepared> compiled = d->prepare(words.sql);
+    const dialect::Statement translated = dialect::translate(sql);
+    const std::unique_ptr<Prepared> compiled = d->prepare(translated.sql);
     Prepared& statement = *compiled;
     const bool writes = sqlite3_stmt_readonly(statement.handle()) == 0;
     if (writes)

@@ -23,7 +23,7 @@ struct Connection::Private
     QString refusal; // of each write, when the file is only looked at
 
     bool inBatch = false;
-    QString lostBy; // the engine's text, when it took back the open batch on its own
+    QString rollbackText; // the engine's text, when it took back the open batch on its own
 
     /// The handle; throws DatabaseError when the connection is closed.
     sqlite3* openHandle() const;

@@ -1,7 +1,7 @@
 #include "platform/ado/Dialect.h"
 
 #include "platform/ado/DatabaseError.h"
-#include "platform/ado/Words.h"
+#include "platform/ado/Tokens.h"
 
 #include <algorithm>
 #include <array>
@@ -15,32 +15,32 @@ namespace {
 
 constexpr size_t none = std::numeric_limits<size_t>::max();
 
-/// Where the clauses of a select begin, and what is known of it. Words in brackets belong to none.
+/// Where the clauses of a select begin, and what is known of it. Tokens in brackets belong to none.
 struct Clauses
 {
-    explicit Clauses(const Words& words)
+    explicit Clauses(const Tokens& tokens)
     {
         int depth = 0;
-        for (size_t i = 0; i < words.size(); ++i) {
-            const Word& word = words[i];
-            if (word.is("("_L1))
+        for (size_t i = 0; i < tokens.size(); ++i) {
+            const Token& token = tokens[i];
+            if (token.is("("_L1))
                 ++depth;
-            else if (word.is(")"_L1))
+            else if (token.is(")"_L1))
                 --depth;
             else if (depth == 0)
-                note(words, i);
+                note(tokens, i);
         }
-        end = std::min({where, order, words.size()});
+        end = std::min({where, order, tokens.size()});
         bool named = from != none && from + 1 < end;
         if (named) {
-            const Word& table = words[from + 1];
-            named = table.kind == Word::Kind::Name || table.kind == Word::Kind::QuotedName;
+            const Token& table = tokens[from + 1];
+            named = table.kind == Token::Kind::Name || table.kind == Token::Kind::QuotedName;
             for (size_t i = from + 2; i < end; ++i)
-                named = named && words[i].kind != Word::Kind::Symbol && !words[i].is("join"_L1);
+                named = named && tokens[i].kind != Token::Kind::Symbol && !tokens[i].is("join"_L1);
         }
         plain = named && !combined;
-        all = plain && from == 2 && words[1].is("*"_L1);
-        body = std::min(order, words.size());
+        all = plain && from == 2 && tokens[1].is("*"_L1);
+        body = std::min(order, tokens.size());
     }
 
     size_t from = none;
@@ -52,28 +52,28 @@ struct Clauses
     bool all = false;   ///< and the result has all columns
 
 private:
-    void note(const Words& words, size_t i)
+    void note(const Tokens& tokens, size_t i)
     {
         static constexpr std::array combining = {"distinct", "group",  "having",
                                                  "union",    "except", "intersect"};
         static constexpr std::array aggregates = {"sum", "count", "avg", "min", "max", "total"};
-        const Word& word = words[i];
-        const auto isWord = [&word](const char* name) { return word.is(QLatin1StringView(name)); };
+        const Token& token = tokens[i];
+        const auto isToken = [&token](const char* name) { return token.is(QLatin1StringView(name)); };
         const auto first = [i](size_t& place) {
             if (place == none)
                 place = i;
         };
-        const bool called = i + 1 < words.size() && words[i + 1].is("("_L1);
-        const bool ordering = i + 1 < words.size() && words[i + 1].is("by"_L1);
-        if (isWord("from"))
+        const bool called = i + 1 < tokens.size() && tokens[i + 1].is("("_L1);
+        const bool ordering = i + 1 < tokens.size() && tokens[i + 1].is("by"_L1);
+        if (isToken("from"))
             first(from);
-        else if (isWord("where"))
+        else if (isToken("where"))
             first(where);
-        else if (isWord("order") && ordering)
+        else if (isToken("order") && ordering)
             first(order);
-        else if (from == none && called && std::any_of(aggregates.begin(), aggregates.end(), isWord))
+        else if (from == none && called && std::any_of(aggregates.begin(), aggregates.end(), isToken))
             combined = true;
-        else if (std::any_of(combining.begin(), combining.end(), isWord))
+        else if (std::any_of(combining.begin(), combining.end(), isToken))
             combined = true;
     }
 
@@ -81,99 +81,100 @@ private:
 };
 
 /// The terms of an ORDER BY, each turned round.
-QString reversedOrder(const Words& words, size_t first)
+QString reversedOrder(const Tokens& tokens, size_t first)
 {
     QStringList terms;
     int depth = 0;
     size_t begin = first;
-    for (size_t i = first; i <= words.size(); ++i) {
-        const bool atEnd = i == words.size();
-        if (!atEnd && words[i].is("("_L1))
+    for (size_t i = first; i <= tokens.size(); ++i) {
+        const bool atEnd = i == tokens.size();
+        if (!atEnd && tokens[i].is("("_L1))
             ++depth;
-        else if (!atEnd && words[i].is(")"_L1))
+        else if (!atEnd && tokens[i].is(")"_L1))
             --depth;
-        if (!atEnd && !(depth == 0 && words[i].is(","_L1)))
+        if (!atEnd && !(depth == 0 && tokens[i].is(","_L1)))
             continue;
         size_t end = i;
         QString direction = u" DESC"_s;
-        if (end > begin && words[end - 1].is("desc"_L1)) {
+        if (end > begin && tokens[end - 1].is("desc"_L1)) {
             direction.clear();
             --end;
-        } else if (end > begin && words[end - 1].is("asc"_L1)) {
+        } else if (end > begin && tokens[end - 1].is("asc"_L1)) {
             --end;
         }
-        terms << join(words, begin, end) + direction;
+        terms << join(tokens, begin, end) + direction;
         begin = i + 1;
     }
     return terms.join(u", "_s);
 }
 
-Statement translateSelect(const Words& words)
+Statement translateSelect(const Tokens& tokens)
 {
-    const Clauses clauses(words);
+    const Clauses clauses(tokens);
     Statement statement;
     statement.isSelect = true;
     if (!clauses.plain) {
-        statement.sql = join(words);
+        statement.sql = join(tokens);
         statement.countSql = u"SELECT count(*) FROM ("_s + statement.sql + u')';
         return statement;
     }
-    QString head = join(words, 0, clauses.body);
+    QString head = join(tokens, 0, clauses.body);
     if (clauses.all) {
-        statement.table = words[clauses.from + 1].unquoted();
-        head = u"SELECT rowid, * "_s + join(words, clauses.from, clauses.body);
+        statement.table = tokens[clauses.from + 1].unquoted();
+        head = u"SELECT rowid, * "_s + join(tokens, clauses.from, clauses.body);
     }
     // Equals come in order of insertion too, whatever index serves the order.
     const bool ordered = clauses.order != none;
-    statement.sql = head + u' ' +
-                    (ordered ? join(words, clauses.order, words.size()) + u", rowid"_s : u"ORDER BY rowid"_s);
-    const QString turned = ordered ? reversedOrder(words, clauses.order + 2) + u", "_s : QString();
+    statement.sql =
+        head + u' ' +
+        (ordered ? join(tokens, clauses.order, tokens.size()) + u", rowid"_s : u"ORDER BY rowid"_s);
+    const QString turned = ordered ? reversedOrder(tokens, clauses.order + 2) + u", "_s : QString();
     statement.reversed = head + u" ORDER BY "_s + turned + u"rowid DESC LIMIT 1"_s;
-    statement.countSql = u"SELECT count(*) "_s + join(words, clauses.from, clauses.body);
+    statement.countSql = u"SELECT count(*) "_s + join(tokens, clauses.from, clauses.body);
     return statement;
 }
 
-Words wordsOf(const QString& sql)
+Tokens tokensOf(const QString& sql)
 {
-    Words words = split(sql);
-    while (!words.empty() && words.back().is(";"_L1))
-        words.pop_back();
-    if (words.empty())
+    Tokens tokens = split(sql);
+    while (!tokens.empty() && tokens.back().is(";"_L1))
+        tokens.pop_back();
+    if (tokens.empty())
         throw DatabaseError(u"The statement is empty."_s);
-    return words;
+    return tokens;
 }
 
 } // namespace
 
 Statement translate(const QString& sql)
 {
-    Words words = wordsOf(sql);
-    if (words[0].is("select"_L1))
-        return translateSelect(words);
-    if (words[0].is("delete"_L1) && words.size() > 1 && words[1].is("*"_L1))
-        words.erase(words.begin() + 1);
+    Tokens tokens = tokensOf(sql);
+    if (tokens[0].is("select"_L1))
+        return translateSelect(tokens);
+    if (tokens[0].is("delete"_L1) && tokens.size() > 1 && tokens[1].is("*"_L1))
+        tokens.erase(tokens.begin() + 1);
     Statement statement;
-    statement.sql = join(words);
+    statement.sql = join(tokens);
     return statement;
 }
 
 QString expandTableName(const QString& command)
 {
-    const Words words = wordsOf(command);
-    const bool table = words.size() == 1 && words[0].kind != Word::Kind::Symbol;
+    const Tokens tokens = tokensOf(command);
+    const bool table = tokens.size() == 1 && tokens[0].kind != Token::Kind::Symbol;
     return table ? u"SELECT * FROM "_s + command : command;
 }
 
 QString withCondition(const QString& select, const QString& condition)
 {
-    const Words words = wordsOf(select);
-    const Clauses clauses(words);
+    const Tokens tokens = tokensOf(select);
+    const Clauses clauses(tokens);
     if (!clauses.plain)
-        return u"SELECT * FROM (%1) WHERE %2"_s.arg(join(words), condition);
-    QString sql = join(words, 0, clauses.end) + u" WHERE "_s + condition;
+        return u"SELECT * FROM (%1) WHERE %2"_s.arg(join(tokens), condition);
+    QString sql = join(tokens, 0, clauses.end) + u" WHERE "_s + condition;
     if (clauses.where != none)
-        sql += u" AND ("_s + join(words, clauses.where + 1, clauses.body) + u')';
-    return sql + u' ' + join(words, clauses.body, words.size());
+        sql += u" AND ("_s + join(tokens, clauses.where + 1, clauses.body) + u')';
+    return sql + u' ' + join(tokens, clauses.body, tokens.size());
 }
 
 } // namespace ado::dialect

@@ -6,7 +6,7 @@
 /// The one place that knows how the system's SQL differs from the engine's.
 namespace ado::dialect {
 
-/// A statement in the engine's words.
+/// A statement in the engine's dialect.
 struct Statement
 {
     QString sql;      ///< for the engine; a select without an order gets one by insertion
@@ -18,7 +18,7 @@ struct Statement
 };
 
 /// Translates `#...#` dates, "Delete * from", a number that runs into the next word ("5and"), and the like.
-/// Throws DatabaseError for a text that cannot be cut into words (an open quote, a date that is none).
+/// Throws DatabaseError for a text that cannot be cut into tokens (an open quote, a date that is none).
 Statement translate(const QString& sql);
 
 /// A statement as it stands, or the select of all rows where the text is the mere name of a table.

@@ -17,13 +17,13 @@ class Connection;
 /// writes meanwhile lets the copy begin anew by itself.
 ///
 /// The copy opens with the same password and begins with the same bytes as the original, which tell a file
-/// and its copies from any other. It is given up when the object goes, or the connection is closed, before
+/// and its copies from any other. It is cancelled when the object goes, or the connection is closed, before
 /// its last step. All in the thread of the connection.
 class FileCopy
 {
 public:
-    /// Begins a copy into the empty file at `path`. Nothing of the copy is safe from a power cut: whoever
-    /// gives the file its final name brings it to the disk. Throws DatabaseError.
+    /// Begins a copy into the empty file at `path`. The copy is not yet safe from a power cut: the
+    /// caller writes it to the disk before it gives the file its final name. Throws DatabaseError.
     FileCopy(Connection& source, const QString& path, const QString& password);
     ~FileCopy();
     FileCopy(const FileCopy&) = delete;

@@ -32,13 +32,13 @@ const QVariant& Recordset::Private::value(int column)
     const auto place = static_cast<size_t>(column);
     asked.resize(current->values.size());
     asked[place] = true;
-    if (!current->untaken.empty() && current->untaken[place]) {
+    if (!current->deferred.empty() && current->deferred[place]) {
         current->values[place] = statement->column(column + hiddenColumns);
-        current->untaken[place] = false;
+        current->deferred[place] = false;
     }
-    if (current->unread && !current->isChanged(place)) {
+    if (current->defaultsUnread && !current->isChanged(place)) {
         auto rereading =
-            base().prepare(u"SELECT rowid, * FROM "_s + quotedName(words.table) + u" WHERE rowid=?"_s);
+            base().prepare(u"SELECT rowid, * FROM "_s + quotedName(translated.table) + u" WHERE rowid=?"_s);
         rereading->bind(1, QVariant(current->key));
         if (base().step(*rereading)) {
             RowPtr stored = readRow(*rereading);
@@ -48,7 +48,7 @@ const QVariant& Recordset::Private::value(int column)
             }
         }
         base().statements.giveBack(std::move(rereading));
-        current->unread = false;
+        current->defaultsUnread = false;
     }
     return current->values[place];
 }
@@ -94,16 +94,16 @@ void Recordset::Private::insert(Row& row)
         names << quotedName(column(i).name);
         marks << u"?"_s;
     }
-    const QString target = u"INSERT INTO "_s + quotedName(words.table);
+    const QString target = u"INSERT INTO "_s + quotedName(translated.table);
     auto inserting = base().prepare(names.isEmpty() ? QString(target + u" DEFAULT VALUES"_s)
                                                     : QString(target + u'(' + names.join(u',') +
                                                               u") VALUES("_s + marks.join(u',') + u')'));
     bindChanged(*inserting, row);
-    base().beforeWrite(words.table);
+    base().beforeWrite(translated.table);
     base().step(*inserting);
     base().statements.giveBack(std::move(inserting));
     row.key = sqlite3_last_insert_rowid(base().database);
-    row.unread = true;
+    row.defaultsUnread = true;
 }
 
 void Recordset::Private::update(Row& row)
@@ -113,11 +113,11 @@ void Recordset::Private::update(Row& row)
         if (row.isChanged(i))
             terms << quotedName(column(i).name) + u"=?"_s;
     }
-    auto updating = base().prepare(u"UPDATE "_s + quotedName(words.table) + u" SET "_s + terms.join(u',') +
-                                   u" WHERE rowid=?"_s);
+    auto updating = base().prepare(u"UPDATE "_s + quotedName(translated.table) + u" SET "_s +
+                                   terms.join(u',') + u" WHERE rowid=?"_s);
     bindChanged(*updating, row);
     updating->bind(static_cast<int>(terms.size()) + 1, QVariant(row.key));
-    base().beforeWrite(words.table);
+    base().beforeWrite(translated.table);
     base().step(*updating);
     base().statements.giveBack(std::move(updating));
     if (sqlite3_changes(base().database) == 0)
@@ -138,10 +138,10 @@ void Recordset::Open(const QString& sql)
     Close();
     const QString select = dialect::expandTableName(sql);
     d->shape = dialect::parseShape(select);
-    d->words = dialect::translate(d->shape ? d->shape->parentSql : select);
-    if (!d->words.isSelect)
+    d->translated = dialect::translate(d->shape ? d->shape->parentSql : select);
+    if (!d->translated.isSelect)
         throw DatabaseError(u"A recordset opens on a select only: "_s + sql);
-    d->hiddenColumns = d->words.table.isEmpty() ? 0 : 1;
+    d->hiddenColumns = d->translated.table.isEmpty() ? 0 : 1;
     d->runQuery();
     d->open = true;
     d->base().recordsets.push_back(this);

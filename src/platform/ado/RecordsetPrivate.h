@@ -12,11 +12,11 @@ namespace ado {
 /// One row: its values as they are stored, and which of them are still to be written.
 struct Row
 {
-    qint64 key = 0;      ///< the engine's row number; 0 for a row not yet written
-    bool unread = false; ///< defaults of a row just added are read when one is asked for
+    qint64 key = 0;              ///< the engine's row number; 0 for a row not yet written
+    bool defaultsUnread = false; ///< defaults of a row just added are read when one is asked for
     std::vector<QVariant> values;
-    std::vector<bool> changed; ///< empty while nothing is
-    std::vector<bool> untaken; ///< left with the engine until asked for; empty while nothing is
+    std::vector<bool> changed;  ///< empty while nothing is
+    std::vector<bool> deferred; ///< left with the engine until asked for; empty while nothing is
 
     bool isChanged(size_t column) const { return !changed.empty() && changed[column]; }
 };
@@ -39,7 +39,7 @@ struct Recordset::Private
     QString command;
 
     bool open = false;
-    dialect::Statement words;
+    dialect::Statement translated;
     std::optional<dialect::Shape> shape;
     std::shared_ptr<const Columns> columns;
     int hiddenColumns = 0;               ///< the row's key stands in front of the columns

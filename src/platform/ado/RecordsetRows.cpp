@@ -46,7 +46,7 @@ void Recordset::Private::requireOpen() const
 
 void Recordset::Private::requireWritable() const
 {
-    if (words.table.isEmpty())
+    if (translated.table.isEmpty())
         throw DatabaseError(u"The rows of this query cannot be written."_s);
 }
 
@@ -74,7 +74,7 @@ void Recordset::Private::runQuery()
     at = At::Unread;
     current.reset();
     std::erase_if(added, [](const RowPtr& row) { return row->key != 0; });
-    statement = base().prepare(words.sql);
+    statement = base().prepare(translated.sql);
     columns = statement->columns();
 }
 
@@ -136,24 +136,24 @@ RowPtr Recordset::Private::nextOfStream()
     if (hiddenColumns > 0)
         row->key = statement->column(0).toLongLong();
     row->values.resize(visible);
-    row->untaken.resize(visible);
+    row->deferred.resize(visible);
     for (size_t i = 0; i < visible; ++i) {
         if (asked[i])
             row->values[i] = statement->column(static_cast<int>(i) + hiddenColumns);
         else
-            row->untaken[i] = true;
+            row->deferred[i] = true;
     }
     return row;
 }
 
 void Recordset::Private::takeInCurrent()
 {
-    if (!current || current->untaken.empty())
+    if (!current || current->deferred.empty())
         return;
-    for (size_t i = 0; i < current->untaken.size(); ++i)
-        if (current->untaken[i])
+    for (size_t i = 0; i < current->deferred.size(); ++i)
+        if (current->deferred[i])
             current->values[i] = statement->column(static_cast<int>(i) + hiddenColumns);
-    current->untaken.clear();
+    current->deferred.clear();
 }
 
 RowPtr Recordset::Private::readRow(const Prepared& source) const
@@ -183,8 +183,8 @@ void Recordset::Private::leaveQuery()
 
 void Recordset::Private::takeInRest(const QString& table)
 {
-    if (!statement ||
-        (!table.isEmpty() && !words.table.isEmpty() && table.compare(words.table, Qt::CaseInsensitive) != 0))
+    if (!statement || (!table.isEmpty() && !translated.table.isEmpty() &&
+                       table.compare(translated.table, Qt::CaseInsensitive) != 0))
         return;
     readBlock();
     if (at == At::Stream) {
@@ -266,7 +266,7 @@ void Recordset::Private::moveLast()
         standOnAdded(added.size() - 1);
         return;
     }
-    if (!blockIsWhole && words.reversed.isEmpty())
+    if (!blockIsWhole && translated.reversed.isEmpty())
         takeInRest({});
     if (blockIsWhole) {
         if (block.empty())
@@ -276,7 +276,7 @@ void Recordset::Private::moveLast()
         return;
     }
     leaveQuery();
-    auto turned = base().prepare(words.reversed);
+    auto turned = base().prepare(translated.reversed);
     RowPtr last = base().step(*turned) ? readRow(*turned) : nullptr;
     base().statements.giveBack(std::move(turned));
     standOn(last ? At::Last : At::End, 0, last);
@@ -288,7 +288,7 @@ int Recordset::Private::count()
     if (blockIsWhole && blockHasFirst)
         return static_cast<int>(block.size() + added.size());
     if (!countInFile) {
-        auto counting = base().prepare(words.countSql);
+        auto counting = base().prepare(translated.countSql);
         base().step(*counting);
         const auto written =
             std::count_if(added.begin(), added.end(), [](const RowPtr& row) { return row->key != 0; });

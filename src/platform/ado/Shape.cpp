@@ -1,7 +1,7 @@
 #include "platform/ado/Dialect.h"
 
 #include "platform/ado/DatabaseError.h"
-#include "platform/ado/Words.h"
+#include "platform/ado/Tokens.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,13 +9,13 @@ namespace ado::dialect {
 
 namespace {
 
-/// Reads a SHAPE query word by word.
+/// Reads a SHAPE query token by token.
 class ShapeReader
 {
 public:
     explicit ShapeReader(const QString& sql)
         : m_sql(sql)
-        , m_words(split(sql))
+        , m_tokens(split(sql))
     {
     }
 
@@ -26,7 +26,7 @@ public:
         const QString alias = readAlias();
         Shape shape = accept("append") ? readAppend(first) : readCompute(first, alias);
         accept(";");
-        if (m_at != m_words.size())
+        if (m_at != m_tokens.size())
             fail();
         return shape;
     }
@@ -81,7 +81,7 @@ private:
     QString readBraces()
     {
         const qsizetype begin = expect("{").end;
-        while (m_at < m_words.size() && !m_words[m_at].is("}"_L1))
+        while (m_at < m_tokens.size() && !m_tokens[m_at].is("}"_L1))
             ++m_at;
         const qsizetype end = expect("}").begin;
         return m_sql.mid(begin, end - begin).trimmed();
@@ -91,29 +91,29 @@ private:
 
     QString readName()
     {
-        if (m_at >= m_words.size() || m_words[m_at].kind == Word::Kind::Symbol)
+        if (m_at >= m_tokens.size() || m_tokens[m_at].kind == Token::Kind::Symbol)
             fail();
-        return m_words[m_at++].unquoted();
+        return m_tokens[m_at++].unquoted();
     }
 
     bool accept(const char* wanted)
     {
-        const bool found = m_at < m_words.size() && m_words[m_at].is(QLatin1StringView(wanted));
+        const bool found = m_at < m_tokens.size() && m_tokens[m_at].is(QLatin1StringView(wanted));
         m_at += found ? 1 : 0;
         return found;
     }
 
-    const Word& expect(const char* wanted)
+    const Token& expect(const char* wanted)
     {
         if (!accept(wanted))
             fail();
-        return m_words[m_at - 1];
+        return m_tokens[m_at - 1];
     }
 
     [[noreturn]] void fail() const { throw DatabaseError(u"Syntax error in SHAPE command: %1"_s.arg(m_sql)); }
 
     const QString m_sql;
-    const Words m_words;
+    const Tokens m_tokens;
     size_t m_at = 0;
 };
 

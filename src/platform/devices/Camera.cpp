@@ -33,9 +33,9 @@ QString CameraFormat::text() const
         .arg(coding);
 }
 
-QString cameraName(const QString& told, qsizetype index)
+QString cameraName(const QString& description, qsizetype index)
 {
-    const QString name = told.trimmed();
+    const QString name = description.trimmed();
     return name.isEmpty() ? u"Camera %1"_s.arg(index + 1) : name;
 }
 

@@ -39,8 +39,8 @@ Q_SIGNALS:
     void failed(const QString& reason);
 };
 
-/// What a camera is called in a list; one that tells no name has one made up from its place there.
-QString cameraName(const QString& told, qsizetype index);
+/// What a camera is called in a list; one without a name is numbered by its place there.
+QString cameraName(const QString& description, qsizetype index);
 
 class Cameras
 {

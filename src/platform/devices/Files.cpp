@@ -96,7 +96,7 @@ bool sync(const QString& path)
 
 bool renameUnlessTaken(const QString& from, const QString& to)
 {
-    // A second name is never given over an existing one, whoever comes between.
+    // A second name is never given over an existing one, also when another program makes it in between.
     if (::link(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0)
         return ::unlink(QFile::encodeName(from).constData()) == 0;
     const bool noLinksHere = errno == EPERM || errno == EOPNOTSUPP; // a memory stick's file system

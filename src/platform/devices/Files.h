@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// What QFile leaves out: privacy, safety at a power cut, and which file a name stands for.
+/// What QFile leaves out: files for the owner alone, safety at a power cut, and which file a name stands for.
 namespace files {
 
 /// Lets only the owner use the file (0600) or folder (0700) from now on. One that can't be changed stays.
@@ -19,8 +19,8 @@ bool renameUnlessTaken(const QString& from, const QString& to);
 /// unless something has it already. False then, and on any other refusal.
 bool addName(const QString& path, const QString& name);
 
-/// Puts a file in the place of another of the same folder, or in a free one: whoever looks meets the one or
-/// the other, also after a power cut. Throws OperatorError with the system's reason.
+/// Puts a file in the place of another of the same folder, or in a free one, in one step: a reader
+/// finds the old file or the new one, also after a power cut. Throws OperatorError with the system's reason.
 void replace(const QString& path, const QString& with);
 
 /// Makes an empty file for the owner alone. Throws OperatorError with the system's reason.

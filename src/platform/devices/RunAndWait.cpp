@@ -38,8 +38,8 @@ void RunAndWait(const Command& command, const std::stop_token& stop)
         complaint.truncate(longestComplaint);
     };
     const auto refuse = [&](const QString& otherwise) {
-        const QString told = complaint.trimmed();
-        throw OperatorError(told.isEmpty() ? otherwise : told);
+        const QString text = complaint.trimmed();
+        throw OperatorError(text.isEmpty() ? otherwise : text);
     };
     const QString name = QDir::toNativeSeparators(command.program);
     if (!process.waitForStarted())
@@ -48,7 +48,7 @@ void RunAndWait(const Command& command, const std::stop_token& stop)
         listen();
         if (stop.stop_requested()) {
             end(process);
-            throw GivenUp();
+            throw Cancelled();
         }
     }
     listen();

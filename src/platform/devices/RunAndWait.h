@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/values/Watch.h"
+#include "platform/values/Progress.h"
 
 #include <QStringList>
 
@@ -17,8 +17,8 @@ struct Command
 };
 
 /// Runs a program and returns when it has ended well. Blocks its thread. Throws OperatorError with the
-/// program's own complaint when it cannot be started or ends in any other way; GivenUp when `stop` was asked
-/// for, and the program has been ended then.
+/// program's own complaint when it cannot be started or ends in any other way; Cancelled when `stop` was
+/// asked for, and the program has been ended then.
 void RunAndWait(const Command& command, const std::stop_token& stop);
 
 } // namespace devices

@@ -3,7 +3,7 @@
 #include <QSerialPort>
 #include <QString>
 
-/// What hangs on the computer: serial ports.
+/// The computer's serial ports.
 namespace devices {
 
 /// The system's name of serial port `number` (1, 2, ...). On Windows COMn; elsewhere the first that stands in

@@ -8,7 +8,7 @@ namespace devices {
 struct TestCamera
 {
     QString name = {};
-    QString fault = {};    ///< told instead of the first picture; empty: none
+    QString fault = {};    ///< reported in place of the first picture; empty: none
     int timeToOpen = 0;    ///< milliseconds until the first picture
     int picturesLeft = -1; ///< then it counts as pulled out; -1: never
 };

@@ -253,7 +253,7 @@ void BarChart::leaveEvent(QEvent*)
         choose(-1);
 }
 
-/// The keys have somewhere to begin.
+/// The first arrow key chooses from here.
 void BarChart::focusInEvent(QFocusEvent* event)
 {
     QWidget::focusInEvent(event);

@@ -7,7 +7,7 @@
 namespace forms {
 
 /// Groups of bars, stacked or side by side, each with a label below it. One group at a time can be chosen, by
-/// the pointer or the arrow keys: what it stands for is told above the bars; a click or Enter leads to it.
+/// the pointer or the arrow keys: its meaning stands above the bars; a click or Enter leads to it.
 /// The series differ in lightness, so that a black and white print tells them apart.
 class BarChart : public QWidget
 {
@@ -23,7 +23,7 @@ public:
     {
         QString label;
         std::vector<double> values; ///< one for each series; a negative one has no bar
-        QString meaning;            ///< what is told when it is chosen
+        QString meaning;            ///< stands above the bars when it is chosen
         bool apart = false;         ///< its label stands out
     };
 

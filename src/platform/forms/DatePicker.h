@@ -14,7 +14,7 @@ class Calendar;
 
 /// A date box with a drop-down calendar (F4, Alt+Down or its arrow); English month names whatever the locale,
 /// "dd-MMM-yyyy" by default. Its line is free text: a date is typed in any usual form (values::readTypedDate)
-/// and judged when the field is left, or at Enter and the function keys; what is no date leaves what stood,
+/// and read when the field is left, or at Enter and the function keys; what is no date leaves what stood,
 /// with a beep. A click chooses a part of the date, Left and Right the part beside it, also while one is
 /// being typed; Up and Down step the part at the caret.
 class DatePicker : public QLineEdit

@@ -73,7 +73,7 @@ private:
     {
         const Control* control;
         double growth = 0; ///< beyond its designed height
-        double shift = 0;  ///< pushed down by what grew above it
+        double shift = 0;  ///< pushed down by longer texts above it
     };
 
     std::vector<Placed> controlsFromTop() const;
@@ -147,7 +147,7 @@ PlacedBand BandLayout::run()
     return std::move(m_band);
 }
 
-/// Places one control and returns by how much it outgrew its design.
+/// Places one control and returns by how much it is taller than designed.
 double BandLayout::place(const Control& control, double top)
 {
     if (const auto* label = dynamic_cast<const Label*>(&control))

@@ -22,10 +22,10 @@ namespace {
 constexpr int twipsPerPixel = 15;
 constexpr QSize finestPicture{4096, 4096};
 
-/// Failures to be told, the first of them now.
+/// Failures to report; the first of them is on the screen.
 QStringList waiting;
 
-/// Failures are told one after the other, each once, however many come meanwhile.
+/// Failures are reported one after the other, each once, however many come meanwhile.
 void tellFailure(const QString& text)
 {
     if (waiting.contains(text))

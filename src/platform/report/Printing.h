@@ -18,8 +18,8 @@ struct PrintJob
 };
 
 /// Hands paper to the print system's own program and returns at once; the printing outlives the screen that
-/// asked for it. No printer, a refusal, or a print system that does not answer within some seconds is told in
-/// a plain box over the screen then in front. Nothing is told of success: that is the printer's to say.
+/// asked for it. No printer, a refusal, or a print system that does not answer within some seconds is
+/// reported in a plain box over the screen then in front. Success is not reported: the paper shows it.
 void print(const PrintJob& job);
 
 /// Prints a report on the default printer without asking anything.
@@ -34,7 +34,7 @@ void printPicture(const QString& path, int left, int top);
 /// not answer; it is never called once `context` has gone.
 void askPrinters(QObject* context, std::function<void(const QStringList& printers)> answer);
 
-/// Waits until all paper has been handed over, or its failure told. For the end of the program.
+/// Waits until all paper has been handed over, or its failure reported. For the end of the program.
 void finishPrinting();
 
 /// How long the print system may take, in milliseconds. For tests.

@@ -12,8 +12,8 @@ namespace report {
 
 namespace {
 
-constexpr int lastWait = 500;            ///< for a program that has been told to stop
-constexpr qsizetype mostOutput = 65'536; ///< of a program in its right mind
+constexpr int lastWait = 500;            ///< for a program that has been asked to stop
+constexpr qsizetype mostOutput = 65'536; ///< more than that from one program is a fault
 
 QList<SpoolerRun*>& runs()
 {

@@ -5,7 +5,7 @@
 #include <QString>
 #include <stdexcept>
 
-/// An error whose text is meant for the operator's eyes: whoever catches it shows `text()` as it stands.
+/// An error whose text is meant for the operator: the code that catches it shows `text()` unchanged.
 class OperatorError : public std::runtime_error
 {
 public:

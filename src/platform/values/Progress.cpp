@@ -1,18 +1,18 @@
-#include "platform/values/Watch.h"
+#include "platform/values/Progress.h"
 
 using namespace Qt::StringLiterals;
 
-void Watch::step(const QString& name, const std::function<void()>& work) const
+void Progress::step(const QString& name, const std::function<void()>& work) const
 {
     if (stop.stop_requested())
-        throw GivenUp();
+        throw Cancelled();
     if (tell)
         tell(name);
     try {
         work();
     } catch (OperatorError& error) {
         if (stop.stop_requested())
-            throw GivenUp();
+            throw Cancelled();
         error.putBefore(u"It failed at this step: %1."_s.arg(name));
         throw;
     }

@@ -1,4 +1,4 @@
-#include "platform/forms/Aside.h"
+#include "platform/forms/BackgroundTask.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -19,13 +19,13 @@ constexpr int margin = 24;
 
 } // namespace
 
-void runAside(QWidget* parent, const QString& title, const std::function<void(const Watch&)>& work)
+void runInBackground(QWidget* parent, const QString& title, const std::function<void(const Progress&)>& work)
 {
-    AsideBox box(parent, title);
+    ProgressBox box(parent, title);
     std::exception_ptr thrown;
-    const std::unique_ptr<QThread> thread(QThread::create([&, watch = box.watch()] {
+    const std::unique_ptr<QThread> thread(QThread::create([&, progress = box.progress()] {
         try {
-            work(watch);
+            work(progress);
         } catch (...) {
             thrown = std::current_exception();
         }
@@ -44,12 +44,12 @@ void runAside(QWidget* parent, const QString& title, const std::function<void(co
         std::rethrow_exception(thrown);
 }
 
-AsideBox::AsideBox(QWidget* parent, const QString& title)
+ProgressBox::ProgressBox(QWidget* parent, const QString& title)
     : QDialog(parent)
     , lblStep(new QLabel(title))
     , cmdCancel(new QPushButton(u"Cancel"_s))
 {
-    setObjectName(u"AsideBox"_s);
+    setObjectName(u"ProgressBox"_s);
     setWindowTitle(title);
     setWindowModality(Qt::ApplicationModal);
     lblStep->setObjectName(u"lblStep"_s);
@@ -64,19 +64,19 @@ AsideBox::AsideBox(QWidget* parent, const QString& title)
     column->addWidget(bar);
     column->addWidget(cmdCancel, 0, Qt::AlignRight);
     setFixedWidth(boxWidth);
-    connect(cmdCancel, &QPushButton::clicked, this, &AsideBox::reject);
-    connect(this, &AsideBox::stepBegins, this, [this](const QString& name) {
+    connect(cmdCancel, &QPushButton::clicked, this, &ProgressBox::reject);
+    connect(this, &ProgressBox::stepBegins, this, [this](const QString& name) {
         if (!m_stop.stop_requested())
             lblStep->setText(name.left(1).toUpper() + name.mid(1) + QChar(0x2026));
     });
 }
 
-Watch AsideBox::watch()
+Progress ProgressBox::progress()
 {
     return {m_stop.get_token(), [this](const QString& step) { Q_EMIT stepBegins(step); }};
 }
 
-void AsideBox::reject()
+void ProgressBox::reject()
 {
     m_stop.request_stop();
     cmdCancel->setEnabled(false);

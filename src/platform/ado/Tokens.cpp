@@ -1,4 +1,4 @@
-#include "platform/ado/Words.h"
+#include "platform/ado/Tokens.h"
 
 #include "platform/ado/DatabaseError.h"
 #include "platform/ado/StoredForm.h"
@@ -57,38 +57,38 @@ QString dateText(const QString& marked)
     return u'\'' + *date + u'\'';
 }
 
-Word wordAt(const QString& sql, qsizetype begin)
+Token wordAt(const QString& sql, qsizetype begin)
 {
     const QChar first = sql[begin];
-    const auto word = [&](Word::Kind kind, qsizetype end) {
-        return Word{kind, sql.mid(begin, end - begin), false, begin, end};
+    const auto token = [&](Token::Kind kind, qsizetype end) {
+        return Token{kind, sql.mid(begin, end - begin), false, begin, end};
     };
     if (beginsName(first)) {
         qsizetype end = begin + 1;
         while (end < sql.size() && continuesName(sql[end]))
             ++end;
-        return word(Word::Kind::Name, end);
+        return token(Token::Kind::Name, end);
     }
     if (isDigit(first) || (first == u'.' && begin + 1 < sql.size() && isDigit(sql[begin + 1])))
-        return word(Word::Kind::Number, numberEnd(sql, begin));
+        return token(Token::Kind::Number, numberEnd(sql, begin));
     if (first == u'\'')
-        return word(Word::Kind::Text, closing(sql, begin, first));
+        return token(Token::Kind::Text, closing(sql, begin, first));
     if (first == u'`' || first == u'"')
-        return word(Word::Kind::QuotedName, closing(sql, begin, first));
+        return token(Token::Kind::QuotedName, closing(sql, begin, first));
     if (first == u'[')
-        return word(Word::Kind::QuotedName, closing(sql, begin, u']'));
+        return token(Token::Kind::QuotedName, closing(sql, begin, u']'));
     if (first == u'#') {
-        Word date = word(Word::Kind::Text, closing(sql, begin, first));
+        Token date = token(Token::Kind::Text, closing(sql, begin, first));
         date.text = dateText(date.text);
         return date;
     }
-    return word(Word::Kind::Symbol, begin + 1);
+    return token(Token::Kind::Symbol, begin + 1);
 }
 
-bool isWordLike(const Word& word) { return word.kind != Word::Kind::Symbol; }
+bool isWordLike(const Token& token) { return token.kind != Token::Kind::Symbol; }
 
 /// Would the engine read the two as something else, if nothing stood between them?
-bool mustBeApart(const Word& left, const Word& right)
+bool mustBeApart(const Token& left, const Token& right)
 {
     if (isWordLike(left) && isWordLike(right))
         return true;
@@ -97,19 +97,19 @@ bool mustBeApart(const Word& left, const Word& right)
 
 } // namespace
 
-bool Word::is(QLatin1StringView wanted) const
+bool Token::is(QLatin1StringView wanted) const
 {
     return (kind == Kind::Name || kind == Kind::Symbol) && text.compare(wanted, Qt::CaseInsensitive) == 0;
 }
 
-QString Word::unquoted() const
+QString Token::unquoted() const
 {
     return kind == Kind::QuotedName || kind == Kind::Text ? text.mid(1, text.size() - 2) : text;
 }
 
-Words split(const QString& sql)
+Tokens split(const QString& sql)
 {
-    Words words;
+    Tokens tokens;
     bool spaced = false;
     for (qsizetype i = 0; i < sql.size();) {
         if (sql[i].isSpace()) {
@@ -117,21 +117,21 @@ Words split(const QString& sql)
             ++i;
             continue;
         }
-        words.push_back(wordAt(sql, i));
-        words.back().spaced = spaced;
+        tokens.push_back(wordAt(sql, i));
+        tokens.back().spaced = spaced;
         spaced = false;
-        i = words.back().end;
+        i = tokens.back().end;
     }
-    return words;
+    return tokens;
 }
 
-QString join(const Words& words, size_t first, size_t last)
+QString join(const Tokens& tokens, size_t first, size_t last)
 {
     QString text;
     for (size_t i = first; i < last; ++i) {
-        if (i > first && (words[i].spaced || mustBeApart(words[i - 1], words[i])))
+        if (i > first && (tokens[i].spaced || mustBeApart(tokens[i - 1], tokens[i])))
             text += u' ';
-        text += words[i].text;
+        text += tokens[i].text;
     }
     return text;
 }
