@@ -79,6 +79,7 @@ void AccountBook::addPostings(qint32 account, const QDate& from, const QDate& to
                                        debit ? moneyText(-amount) : blank, debit ? blank : moneyText(amount),
                                        posting["Remark"].text()},
                                       tagOf(posting),
+                                      amount,
                                       posting["ID"].integer()});
                  });
 }
@@ -92,6 +93,7 @@ std::vector<BookLine> daybook::read(const QDate& from, const QDate& to)
                          {{day, posting["VID"].text(), posting["particulars"].text(), title,
                            moneyText(std::abs(posting["Amount"].number())), posting["Remark"].text()},
                           tagOf(posting),
+                          posting["Amount"].number(),
                           posting["ID"].integer()});
                  });
     lines.push_back({{blank, blank, blank, u"Total Vouchers : %1"_s.arg(lines.size()), blank, blank}});
@@ -102,21 +104,21 @@ void stageStatement(const AccountBook& book)
 {
     DE.connection().writeBatch([&book] {
         DE.connection().Execute(u"Delete * from Accountbook"_s);
-        ado::Recordset& staged = DE.rsaccountbooks;
-        staged.Open(u"Select * from Accountbook"_s);
-        for (const BookLine& line : book.lines) {
-            if (!line.isPosting())
-                continue;
-            staged.AddNew();
-            staged["Date"] = line.cells[AccountBook::Date];
-            staged["VID"] = line.cells[AccountBook::Number];
-            staged["vaucher"] = line.cells[AccountBook::Voucher];
-            staged["particulars"] = line.cells[AccountBook::Particulars];
-            staged["debit"] = values::Val(line.cells[AccountBook::Debit]);
-            staged["credit"] = values::Val(line.cells[AccountBook::Credit]);
-            staged["Remark"] = line.cells[AccountBook::Remark];
-            staged.Update();
-        }
-        staged.Close();
+        withRows(u"Select * from Accountbook"_s, [&book](ado::Recordset& staged) {
+            for (const BookLine& line : book.lines) {
+                if (!line.isPosting())
+                    continue;
+                const double amount = shownMoney(line.amount);
+                staged.AddNew();
+                staged["Date"] = line.cells[AccountBook::Date];
+                staged["VID"] = line.cells[AccountBook::Number];
+                staged["vaucher"] = line.cells[AccountBook::Voucher];
+                staged["particulars"] = line.cells[AccountBook::Particulars];
+                staged["debit"] = amount < 0 ? -amount : 0.0;
+                staged["credit"] = amount < 0 ? 0.0 : amount;
+                staged["Remark"] = line.cells[AccountBook::Remark];
+                staged.Update();
+            }
+        });
     });
 }

@@ -10,6 +10,7 @@ struct BookLine
 {
     QStringList cells;
     QString tag = {};   ///< of its VoucherTag
+    double amount = 0;  ///< of a posting; negative: a debit
     qint32 posting = 0; ///< its own number in the ledger
 
     bool isPosting() const { return !tag.isEmpty(); }

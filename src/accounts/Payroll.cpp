@@ -2,12 +2,11 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "core/store/Texts.h"
 #include "core/store/Voucher.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Numbers.h"
-
-#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -19,21 +18,22 @@ void markPaid(const wages::Scope& scope, const std::vector<wages::Line>& lines, 
     QHash<qint32, const wages::Line*> listed;
     for (const wages::Line& line : lines)
         listed.insert(line.id, &line);
-    ado::Recordset& owed = DE.rsJOBS_DETAIL;
-    const auto closed = qScopeGuard([&owed] { owed.Close(); });
-    for (owed.Open(wages::linesOf(scope, wages::Which::Unpaid)); !owed.AtEOF(); owed.MoveNext()) {
-        const auto line = listed.constFind(owed["ID"].integer());
-        if (line == listed.cend() || (*line)->wage != owed["WorkerWagesDue"].money())
-            continue;
-        listed.erase(line);
-        owed["MarkAsPaid"] = 1;
-        owed["PayrollID"] = number;
-    }
-    for (const wages::Line& line : lines)
-        if (listed.contains(line.id))
-            throw OperatorError(u"Job %1 has been paid, changed or deleted since these lines were listed.\n"
-                                "View the lines again, then make the payroll."_s.arg(line.job));
-    owed.UpdateBatch();
+    withRows(wages::linesOf(scope, wages::Which::Unpaid), [&](ado::Recordset& owed) {
+        for (; !owed.AtEOF(); owed.MoveNext()) {
+            const auto line = listed.constFind(owed["ID"].integer());
+            if (line == listed.cend() || (*line)->wage != owed["WorkerWagesDue"].money())
+                continue;
+            listed.erase(line);
+            owed["MarkAsPaid"] = 1;
+            owed["PayrollID"] = number;
+        }
+        for (const wages::Line& line : lines)
+            if (listed.contains(line.id))
+                throw OperatorError(
+                    u"Job %1 has been paid, changed or deleted since these lines were listed.\n"
+                    "View the lines again, then make the payroll."_s.arg(line.job));
+        owed.UpdateBatch();
+    });
 }
 
 } // namespace
@@ -59,12 +59,8 @@ qint16 payroll::Create(const wages::Scope& scope, const std::vector<wages::Line>
 
 void payroll::Release(qint32 number)
 {
-    ado::Recordset& lines = DE.rsJOBS_DETAIL;
-    lines.Open(wages::linesOfPayroll(number));
-    for (; !lines.AtEOF(); lines.MoveNext()) {
-        lines["MarkAsPaid"] = 0;
-        lines["PayrollID"] = 0;
-    }
-    lines.UpdateBatch();
-    lines.Close();
+    changeRows(wages::linesOfPayroll(number), [](ado::Recordset& line) {
+        line["MarkAsPaid"] = 0;
+        line["PayrollID"] = 0;
+    });
 }

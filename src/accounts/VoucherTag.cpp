@@ -1,6 +1,6 @@
 #include "accounts/VoucherTag.h"
 
-#include "core/store/DE.h"
+#include "core/store/Rows.h"
 #include "platform/values/Literals.h"
 
 using namespace Qt::StringLiterals;
@@ -15,11 +15,8 @@ VoucherTag VoucherTag::of(const QString& text)
 
 bool VoucherTag::exists() const
 {
-    ado::Recordset& voucher = DE.rspostings;
-    voucher.Open(type == VoucherType::Job
-                     ? u"Select id from Jobs where id=%1"_s.arg(number)
-                     : u"Select id from Postings where vid=%1 and vtype=2 and sr=1"_s.arg(number));
-    const bool found = !voucher.AtEOF();
-    voucher.Close();
-    return found;
+    return any(type == VoucherType::Job
+                   ? u"Select id from Jobs where id=%1"_s.arg(number)
+                   : u"Select id from Postings where vid=%1 and vtype=%2 and sr=1"_s.arg(number).arg(
+                         qint32(VoucherType::Entry)));
 }

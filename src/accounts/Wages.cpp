@@ -77,13 +77,7 @@ std::vector<Line> read(const QString& statement)
     return lines;
 }
 
-QHash<qint32, qint32> itemCounts(const Scope& scope)
-{
-    QHash<qint32, qint32> counts;
-    each(u"Select ItemID, count(QNT) from JOBS_Detail where "_s + within(scope) + u"group by ItemID"_s,
-         [&](ado::Recordset& counted) { counts.insert(counted[0].integer(), counted[1].integer()); });
-    return counts;
-}
+std::vector<ItemCount> itemCounts(const Scope& scope) { return countByItem(within(scope)); }
 
 void stage(const std::vector<Line>& lines)
 {
@@ -91,16 +85,15 @@ void stage(const std::vector<Line>& lines)
                                               "wages", "balance", "completed", "Status"};
     DE.connection().writeBatch([&lines] {
         DE.connection().Execute(u"Delete * from wagesregister"_s);
-        ado::Recordset& staged = DE.rstmpWagesRegister;
-        staged.Open(u"Select * from wagesregister"_s);
-        for (const Line& line : lines) {
-            const QStringList cells = line.cells();
-            staged.AddNew();
-            for (int column = 0; column < cells.size(); ++column)
-                staged[columns[column]] = cells[column];
-            staged.Update();
-        }
-        staged.Close();
+        withRows(u"Select * from wagesregister"_s, [&lines](ado::Recordset& staged) {
+            for (const Line& line : lines) {
+                const QStringList cells = line.cells();
+                staged.AddNew();
+                for (int column = 0; column < cells.size(); ++column)
+                    staged[columns[column]] = cells[column];
+                staged.Update();
+            }
+        });
     });
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "jobcards/ItemCounts.h"
 #include "platform/values/Currency.h"
 
 #include <QDate>
-#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -47,8 +47,8 @@ QString linesOfPayroll(qint32 number);
 /// The lines that a statement finds. Throws ado::NoCurrentRecordError for a line whose item is gone.
 std::vector<Line> read(const QString& statement);
 
-/// How many lines of each item the worker made in the period, paid or not; by the item's id.
-QHash<qint32, qint32> itemCounts(const Scope& scope);
+/// How many lines of each item the worker made in the period, paid or not.
+std::vector<ItemCount> itemCounts(const Scope& scope);
 
 /// Puts the lines into the table that their paper is printed from, in place of what lay there.
 void stage(const std::vector<Line>& lines);

@@ -21,18 +21,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// 0 for an account that is gone.
-qint32 idOf(const QString& title)
-{
-    const QVariant id = FieldValueExists(title, u"Title"_s, u"ID"_s, u"Accounts"_s, DE.rsaccounts);
-    DE.rsaccounts.Close();
-    return qMax(0, id.toInt());
-}
-
-} // namespace
-
 frmAccountBook::frmAccountBook()
     : ui(std::make_unique<Ui::frmAccountBook>())
     , swSMS1(new swSMS(this))
@@ -108,7 +96,7 @@ void frmAccountBook::loadList()
 void frmAccountBook::ExecuteSQL()
 {
     const QString title = ComboFindIndex(*ui->cmbAccount) < 0 ? QString() : ui->cmbAccount->Text();
-    const qint32 id = title.isEmpty() ? 0 : idOf(title);
+    const qint32 id = title.isEmpty() ? 0 : idOfAccount(title);
     AccountBook book;
     try {
         if (id != 0)

@@ -1,10 +1,8 @@
 #include "accounts/frmEditAccount.h"
 
-#include "core/store/Codes.h"
-#include "core/store/DE.h"
+#include "accounts/LedgerAccount.h"
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
-#include "platform/values/Numbers.h"
 #include "platform/values/Titles.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/boxes.h"
@@ -36,16 +34,14 @@ void frmEditAccount::ShowAddNew()
 
 void frmEditAccount::ShowEdit(qint16 id)
 {
+    const LedgerAccount account = LedgerAccount::read(id);
     AccountID = id;
     AccountMode = RecordMode::Stored;
+    AccountTitle = account.title;
+    AccountReadOnly = account.isFixed ? 1 : 0;
     ui->lblTitle->setText(u"Edit Account"_s);
-    ado::Recordset& accounts = DE.rsaccounts;
-    accounts.Open(u"Select * from accounts where id=%1"_s.arg(id));
-    AccountTitle = accounts["Title"].text();
-    ui->txtName->setText(AccountTitle);
-    ui->cmbType->setListIndex(accounts["Nature"].integer());
-    AccountReadOnly = values::toInt16(accounts["ReadOnly"].integer(), u"Read-only mark"_s);
-    accounts.Close();
+    ui->txtName->setText(account.title);
+    ui->cmbType->setListIndex(account.nature);
     showModal();
 }
 
@@ -70,70 +66,32 @@ void frmEditAccount::save()
         ui->cmbType->setFocus();
         return;
     }
-    if (AccountMode == RecordMode::New)
-        saveNew();
-    else
-        saveEdit();
-}
-
-void frmEditAccount::saveNew()
-{
-    if (isDuplicate())
-        return;
-    qint16 id = 0;
-    DE.connection().writeBatch([&] {
-        ado::Recordset& accounts = DE.rsaccounts;
-        accounts.Open(u"Select * from accounts order by id"_s);
-        accounts.AddNew();
-        writeFields();
-        id = values::toInt16(accounts["ID"].integer(), u"Account number"_s); // else the row goes again
-        accounts.Close();
-    });
-    session.RefreshLists = true;
-    AccountID = id;
-    AccountTitle = ui->txtName->Text();
-    ShowMsg(u"New Account created."_s);
-    AccountMode = RecordMode::Stored;
-}
-
-void frmEditAccount::saveEdit()
-{
+    const bool isNew = AccountMode == RecordMode::New;
     if (AccountReadOnly == 1) {
         ShowMsg(u"Cant't Rename!"_s);
         return;
     }
-    if (values::foldedTitle(AccountTitle) != values::foldedTitle(ui->txtName->Text()) && isDuplicate())
+    const bool renamed = values::foldedTitle(AccountTitle) != values::foldedTitle(ui->txtName->Text());
+    if ((isNew || renamed) && isDuplicate())
         return;
-    DE.connection().writeBatch([&] {
-        DE.rsaccounts.Open(u"Select * from accounts where id=%1"_s.arg(AccountID));
-        writeFields();
-        DE.rsaccounts.Close();
-    });
+    LedgerAccount account{.id = AccountID, .title = ui->txtName->Text(), .nature = ui->cmbType->ListIndex()};
+    account.save();
+    AccountID = account.id;
+    AccountMode = RecordMode::Stored;
+    AccountTitle = account.title;
     session.RefreshLists = true;
-    AccountTitle = ui->txtName->Text();
-    ShowMsg(u"Account information edited."_s);
+    ShowMsg(isNew ? u"New Account created."_s : u"Account information edited."_s);
 }
 
 /// Tells the operator when the title is taken, by an account of any type: clients and workers are accounts
 /// too.
 bool frmEditAccount::isDuplicate()
 {
-    const QVariant id =
-        FieldValueExists(ui->txtName->Text(), u"Title"_s, u"ID"_s, u"Accounts"_s, DE.rsaccounts);
-    if (id.toLongLong() <= 0)
+    if (idOfAccount(ui->txtName->Text()) == 0)
         return false;
     ShowMsg(u"Duplicate!"_s);
     ui->txtName->setFocus();
     return true;
-}
-
-void frmEditAccount::writeFields()
-{
-    ado::Recordset& account = DE.rsaccounts;
-    account["Title"] = ui->txtName->Text();
-    account["Type"] = AccountType::Ledger;
-    account["Nature"] = ui->cmbType->ListIndex();
-    account.UpdateBatch();
 }
 
 void frmEditAccount::remove()
@@ -144,17 +102,12 @@ void frmEditAccount::remove()
     }
     if (AccountMode != RecordMode::Stored || !ShowMsg(u"Are you sure?"_s, 2))
         return;
-    int postings = 0;
-    for (const char* field : {"AccID", "RefID"}) {
-        DE.rspostings.Open(u"Select * from Postings where %1=%2"_s.arg(QLatin1String(field)).arg(AccountID));
-        postings += DE.rspostings.RecordCount();
-        DE.rspostings.Close();
-    }
-    if (postings > 0) {
+    const LedgerAccount account{.id = AccountID, .title = AccountTitle};
+    if (account.isInUse()) {
         ShowMsg(u"Cant't Delete!"_s);
         return;
     }
-    DE.connection().Execute(u"Delete from Accounts where id=%1"_s.arg(AccountID));
+    account.remove();
     ShowMsg(u"Deleted."_s);
     session.RefreshLists = true;
     unload();

@@ -29,10 +29,7 @@ protected:
 
 private:
     void save();
-    void saveNew();
-    void saveEdit();
     bool isDuplicate();
-    void writeFields();
     void remove();
 
     const std::unique_ptr<Ui::frmEditAccount> ui;

@@ -33,13 +33,6 @@ constexpr Sides allSides[] = {
     {"Wages", "To", "Cr", "By", "Dr"},
 };
 
-/// The id of a main account; 0 for one that has been deleted meanwhile.
-qint32 mainAccountID(const QString& title)
-{
-    const QVariant id = FieldValueExists(title, u"Title"_s, u"ID"_s, u"Accounts"_s, DE.rsaccounts);
-    return id.toLongLong() > 0 ? GetAccountID(title) : 0;
-}
-
 } // namespace
 
 frmTransiction::frmTransiction()
@@ -91,16 +84,15 @@ void frmTransiction::ShowEdit(qint32 vid, qint16& saved, qint32 posting)
     EntryID = vid;
     m_rows = Voucher(VoucherType::Entry, vid).Pair(posting);
 
-    ado::Recordset& line = DE.rspostings;
-    line.Open(u"Select * from Postings where id=%1"_s.arg(m_rows.first));
+    const StoredPair entry = Voucher::Read(m_rows);
     ui->txtVID->setText(QString::number(vid));
-    EntryAccount = GetAccountTitle(line["accID"].integer());
-    ui->cmbRefAcc->setText(GetAccountTitle(line["refID"].integer()));
-    ui->cmbParticulars->setText(line["particulars"].text());
-    ui->VcDate->setValue(line["Date"].date());
-    ui->txtRemark->setText(line["Remark"].text());
+    EntryAccount = GetAccountTitle(entry.pair.account);
+    ui->cmbRefAcc->setText(GetAccountTitle(entry.pair.opposite));
+    ui->cmbParticulars->setText(entry.pair.particulars);
+    ui->VcDate->setValue(entry.pair.date);
+    ui->txtRemark->setText(entry.pair.remark);
 
-    const Currency amount = line["Amount"].money();
+    const Currency amount = entry.pair.amount;
     const bool credit = amount > Currency();
     ui->lblMain->setText(credit ? u"To"_s : u"By"_s);
     ui->lblMainType->setText(credit ? u"Cr"_s : u"Dr"_s);
@@ -109,8 +101,7 @@ void frmTransiction::ShowEdit(qint32 vid, qint16& saved, qint32 posting)
     ui->txtAmount->setText((credit ? amount : -amount).toString());
     mirrorAmount();
 
-    EntryIsPayroll = line["isPayroll"].integer() > 0 ? -1 : 0;
-    line.Close();
+    EntryIsPayroll = entry.payroll ? -1 : 0;
     open(RecordMode::Stored, u"Edit Entry"_s);
     saved = EntrySaved;
 }
@@ -213,7 +204,7 @@ PostingPair frmTransiction::pair() const
     const Currency amount = Currency::fromDouble(values::Val(ui->txtAmount->Text()), u"Amount"_s);
     return {.particulars = ui->cmbParticulars->text(),
             .date = ui->VcDate->value(),
-            .account = mainAccountID(EntryAccount),
+            .account = idOfAccount(EntryAccount),
             .opposite = GetAccountID(ui->cmbRefAcc->text()),
             .amount = ui->lblMainType->text() == "Cr"_L1 ? amount : -amount,
             .remark = ui->txtRemark->Text()};

@@ -3,7 +3,6 @@
 #include "accounts/Payroll.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
-#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "jobcards/frmEditWorkerAssign.h"
@@ -97,8 +96,7 @@ std::optional<wages::Scope> frmWorkerWagesRegister::chosen() const
 {
     const int entry = ComboFindIndex(*ui->cmbClient);
     const QString title = entry < 0 ? QString() : ui->cmbClient->List(entry);
-    const qint32 worker = FieldValueExists(title, u"Title"_s, u"ID"_s, u"Accounts"_s, DE.rsaccounts).toInt();
-    DE.rsaccounts.Close();
+    const qint32 worker = idOfAccount(title);
     if (worker <= 0)
         return {};
     return wages::Scope{worker, m_period.from(), m_period.to()};
@@ -151,11 +149,8 @@ void frmWorkerWagesRegister::showLines()
 void frmWorkerWagesRegister::fillDetails()
 {
     ui->lvDetails->Clear();
-    const QHash<qint32, qint32> counts = wages::itemCounts(m_shown);
-    each(u"Select * from Items order by Name"_s, [&](ado::Recordset& items) {
-        if (const qint32 count = counts.value(items["ID"].integer()); count > 0)
-            ui->lvDetails->addRow({items["Name"].text(), QString::number(count)});
-    });
+    for (const ItemCount& count : wages::itemCounts(m_shown))
+        ui->lvDetails->addRow({count.item, QString::number(count.lines)});
 }
 
 void frmWorkerWagesRegister::view()

@@ -1,7 +1,7 @@
 #include "accounts/rptAccountsBooks.h"
 
 #include "accounts/BookLines.h"
-#include "core/store/DE.h"
+#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "jobcards/PaperDesign.h"
@@ -188,10 +188,8 @@ std::unique_ptr<Report> StatementPaper(const AccountBook& book, const QString& a
     else
         paper = std::make_unique<rptAccountsBooks>();
 
-    ado::Recordset& staged = DE.rsaccountbooks;
-    staged.Open(u"Select * from accountbook"_s);
-    paper->setDataSource(readRows(staged));
-    staged.Close();
+    withRows(u"Select * from accountbook"_s,
+             [&paper](ado::Recordset& staged) { paper->setDataSource(readRows(staged)); });
 
     paper->Subject = u"Account Statement %1 %2"_s.arg(account, period);
     Section& shop = paper->section(u"Section4"_s);

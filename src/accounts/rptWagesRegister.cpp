@@ -1,6 +1,6 @@
 #include "accounts/rptWagesRegister.h"
 
-#include "core/store/DE.h"
+#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "jobcards/PaperDesign.h"
 
@@ -96,10 +96,8 @@ std::unique_ptr<Report> wagesPaper(const std::vector<wages::Line>& lines, const 
 {
     wages::stage(lines);
     auto paper = std::make_unique<rptWagesRegister>();
-    ado::Recordset& staged = DE.rstmpWagesRegister;
-    staged.Open(u"Select * from wagesregister"_s);
-    paper->setDataSource(readRows(staged));
-    staged.Close();
+    withRows(u"Select * from wagesregister"_s,
+             [&paper](ado::Recordset& staged) { paper->setDataSource(readRows(staged)); });
     paper->Subject = u"Wages Register "_s + worker;
     Section& head = paper->section(u"Section2"_s);
     head.label(u"lblCompany"_s).Caption = session.ShopName;

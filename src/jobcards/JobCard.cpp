@@ -2,6 +2,7 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "core/store/SerialNumber.h"
 #include "core/store/Settings.h"
 #include "core/store/Voucher.h"
@@ -11,13 +12,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QString cardQuery(qint32 number) { return u"Select * from jobs where id="_s + QString::number(number); }
+
 void refuseTakenNumber(qint32 number)
 {
-    auto& jobs = DE.rsJOBS;
-    jobs.Open(u"Select * from JOBS where id="_s + QString::number(number));
-    const bool taken = !jobs.AtEOF();
-    jobs.Close();
-    if (taken)
+    if (any(cardQuery(number)))
         throw OperatorError(u"Job ID %1 is already taken by another job card."_s.arg(number));
 }
 
@@ -47,29 +46,22 @@ QString JobCardHead::dateNotice() const
 qint32 JobCard::GetNewNum()
 {
     qint32 last = values::CLng(values::Val(GetSetting(settings::FirstJobNumber)) - 1, u"First JOB ID"_s);
-    auto& jobs = DE.rsJOBS;
-    jobs.Open(u"Select * from JOBS order by ID"_s);
-    if (!jobs.AtEOF()) {
-        jobs.MoveLast();
-        last = jobs["ID"].integer();
-    }
-    jobs.Close();
+    lastRow(u"Select * from JOBS order by ID"_s,
+            [&last](ado::Recordset& job) { last = job["ID"].integer(); });
     return values::toInt32(qint64(last) + 1, u"Next JOB ID"_s);
 }
 
 void JobCard::LoadLines()
 {
-    auto& lines = DE.rsJOBS_DETAIL;
-    lines.Open(u"Select * from jobs_detail where JOBID="_s + number() + u" Order by ItemSr"_s);
-    for (; !lines.AtEOF(); lines.MoveNext()) {
-        const qint32 itemID = lines["ItemID"].integer();
-        JobRows.AddNewRow(lines["ID"].integer(), GetItemName(itemID), itemID, lines["QNT"].integer(),
-                          lines["Fees"].number(), lines["Amount"].number(), lines["Remarks"].text(),
-                          lines["ItemDetails"].text(), lines["ItemDetailsValue"].text(), 0, {}, {}, {}, {},
-                          {}, 0, 0, 0, {}, lines["img1"].text(), lines["img2"].text(), lines["Color"].text(),
-                          0, {}, lines["ClientRemarks"].text());
-    }
-    lines.Close();
+    each(u"Select * from jobs_detail where JOBID="_s + number() + u" Order by ItemSr"_s,
+         [this](ado::Recordset& line) {
+             const qint32 itemID = line["ItemID"].integer();
+             JobRows.AddNewRow(line["ID"].integer(), GetItemName(itemID), itemID, line["QNT"].integer(),
+                               line["Fees"].number(), line["Amount"].number(), line["Remarks"].text(),
+                               line["ItemDetails"].text(), line["ItemDetailsValue"].text(), 0, {}, {}, {}, {},
+                               {}, 0, 0, 0, {}, line["img1"].text(), line["img2"].text(),
+                               line["Color"].text(), 0, {}, line["ClientRemarks"].text());
+         });
 }
 
 void JobCard::RemoveLine(int row)
@@ -93,11 +85,10 @@ void JobCard::SaveNew(const JobCardHead& head)
             throw serialNumberRefused(u"JOB ID"_s);
         refuseTakenNumber(head.Number);
         const qint32 clientID = GetAccountID(head.Client);
-        auto& jobs = DE.rsJOBS;
-        jobs.Open(u"Select * from JOBS"_s);
-        jobs.AddNew();
-        jobs["ID"] = head.Number;
-        writeHead(head, clientID);
+        addRow(u"JOBS"_s, [&](ado::Recordset& job) {
+            job["ID"] = head.Number;
+            fillHead(job, head, clientID);
+        });
         CurrentJobID = head.Number;
         EditMode = RecordMode::Stored;
         for (int row = 1; row <= JobRows.RowCount(); ++row)
@@ -113,8 +104,7 @@ void JobCard::SaveEdit(const JobCardHead& head)
 {
     write([&] {
         const qint32 clientID = GetAccountID(head.Client);
-        DE.rsJOBS.Open(u"Select * from jobs where id="_s + number());
-        writeHead(head, clientID);
+        changeRow(cardQuery(CurrentJobID), [&](ado::Recordset& job) { fillHead(job, head, clientID); });
         for (int row = 1; row <= JobRows.RowCount(); ++row) {
             // A line added to a stored card keeps Sr 0: each further save adds it again.
             if (JobRows.Sr(row) > 0)
@@ -151,31 +141,26 @@ void JobCard::write(const std::function<void()>& work)
     }
 }
 
-/// Writes the head into the row on which `DE.rsJOBS` stands.
-void JobCard::writeHead(const JobCardHead& head, qint32 clientID)
+void JobCard::fillHead(ado::Recordset& job, const JobCardHead& head, qint32 clientID)
 {
-    auto& jobs = DE.rsJOBS;
-    jobs["Date"] = head.Date;
-    jobs["ClintID"] = clientID;
-    jobs["ClintName"] = head.Client;
-    jobs["DeliveryDate"] = head.DeliveryDate;
-    jobs["trialdate"] = head.TrialDate;
-    jobs["AmountDue"] = head.Total;
-    jobs["AmountPaid"] = head.Paid;
-    jobs["JOBFINISHED"] = int(head.Delivered);
-    jobs["Remark"] = head.Remark;
+    job["Date"] = head.Date;
+    job["ClintID"] = clientID;
+    job["ClintName"] = head.Client;
+    job["DeliveryDate"] = head.DeliveryDate;
+    job["trialdate"] = head.TrialDate;
+    job["AmountDue"] = head.Total;
+    job["AmountPaid"] = head.Paid;
+    job["JOBFINISHED"] = int(head.Delivered);
+    job["Remark"] = head.Remark;
     if (head.Paid > Currency())
-        jobs["CashAccID"] = GetAccountID(head.ReceiptAccount);
-    jobs["Status"] = int(head.Cancelled);
-    jobs["CancelReason"] = head.CancelReason;
-    jobs.Update();
-    jobs.Close();
+        job["CashAccID"] = GetAccountID(head.ReceiptAccount);
+    job["Status"] = int(head.Cancelled);
+    job["CancelReason"] = head.CancelReason;
 }
 
-/// Sets what a save always writes of a line, in the row on which `DE.rsJOBS_DETAIL` stands.
-void JobCard::writeLine(int row, const JobCardHead& head, qint32 clientID)
+/// Sets what a save always writes of a line.
+void JobCard::fillLine(ado::Recordset& line, int row, const JobCardHead& head, qint32 clientID) const
 {
-    auto& line = DE.rsJOBS_DETAIL;
     line["Date"] = head.Date;
     line["JobID"] = CurrentJobID;
     line["ItemSr"] = row;
@@ -199,35 +184,27 @@ void JobCard::writeLine(int row, const JobCardHead& head, qint32 clientID)
 /// Returns the number that the new line got.
 qint32 JobCard::addLine(int row, const JobCardHead& head, qint32 clientID)
 {
-    auto& line = DE.rsJOBS_DETAIL;
-    line.Open(u"Select * from jobs_detail"_s);
-    line.AddNew();
-    writeLine(row, head, clientID);
-    line["WorkerID"] = 0;
-    line["JobDelDate"] = head.DeliveryDate;
-    line["CompletedDate"] = ado::Null;
-    line["DelToCustDate"] = ado::Null;
-    line["AltDate"] = ado::Null;
-    line["DoneByWorker"] = LineState::Uncompleted;
-    // The catalogue's wage for one piece, whatever the quantity.
-    line["WorkerWagesDue"] = GetItemWorkerFees(JobRows.ItemName(row));
-    line["CuttingDate"] = head.Date;
-    line["CuttingStatus"] = CuttingMark::NotDone;
-    line.Update();
-    const qint32 id = line["ID"].integer();
-    line.Close();
-    return id;
+    return addRow(u"jobs_detail"_s, [&](ado::Recordset& line) {
+        fillLine(line, row, head, clientID);
+        line["WorkerID"] = 0;
+        line["JobDelDate"] = head.DeliveryDate;
+        line["CompletedDate"] = ado::Null;
+        line["DelToCustDate"] = ado::Null;
+        line["AltDate"] = ado::Null;
+        line["DoneByWorker"] = LineState::Uncompleted;
+        // The catalogue's wage for one piece, whatever the quantity.
+        line["WorkerWagesDue"] = GetItemWorkerFees(JobRows.ItemName(row));
+        line["CuttingDate"] = head.Date;
+        line["CuttingStatus"] = CuttingMark::NotDone;
+    });
 }
 
 /// Leaves alone what became of the line since it was taken: worker, dates, state, wage and payroll, place,
 /// feedback.
 void JobCard::updateLine(int row, const JobCardHead& head, qint32 clientID)
 {
-    auto& line = DE.rsJOBS_DETAIL;
-    line.Open(u"Select * from jobs_detail where id="_s + QString::number(JobRows.Sr(row)));
-    writeLine(row, head, clientID);
-    line.Update();
-    line.Close();
+    changeRow(u"Select * from jobs_detail where id="_s + QString::number(JobRows.Sr(row)),
+              [&](ado::Recordset& line) { fillLine(line, row, head, clientID); });
 }
 
 /// The sale, and the money taken with the order.
@@ -269,10 +246,38 @@ void JobCard::deleteRemovedLines()
 
 void JobCard::cancelLines()
 {
-    auto& lines = DE.rsJOBS_DETAIL;
-    lines.Open(u"Select * from jobs_detail where JobID="_s + number());
-    for (; !lines.AtEOF(); lines.MoveNext())
-        lines["DoneByWorker"] = LineState::Canceled;
-    lines.UpdateBatch();
-    lines.Close();
+    changeRows(u"Select * from jobs_detail where JobID="_s + number(),
+               [](ado::Recordset& line) { line["DoneByWorker"] = LineState::Canceled; });
+}
+
+StoredCard StoredCard::read(qint32 number)
+{
+    StoredCard card;
+    withRows(cardQuery(number), [&card](ado::Recordset& job) {
+        card.head.Date = job["Date"].date();
+        card.head.Client = GetAccountTitle(job["ClintID"].integer());
+        if (const qint32 account = job["CashAccID"].integer(); account > 0)
+            card.head.ReceiptAccount = GetAccountTitle(account);
+        card.head.DeliveryDate = job["DeliveryDate"].date();
+        card.head.TrialDate = job["trialdate"].date();
+        card.head.Total = job["AmountDue"].money();
+        card.head.Paid = job["AmountPaid"].money();
+        card.head.Delivered = job["JOBFINISHED"].integer() == 1;
+        card.head.Remark = job["Remark"].text();
+        card.head.Cancelled = job["Status"].integer() != 0;
+        card.head.CancelReason = job["CancelReason"].text();
+        card.handedOver = job["ClientDeliveryDate"].date();
+        card.trial = job["appeared"].code<TrialState>();
+        card.appeared = job["appearedDate"].date();
+    });
+    return card;
+}
+
+std::optional<Visit> Visit::last(qint32 client)
+{
+    std::optional<Visit> visit;
+    lastRow(u"Select * from Jobs where ClintID="_s + QString::number(client), [&visit](ado::Recordset& job) {
+        visit = Visit{job["ID"].text(), job["Date"].date()};
+    });
+    return visit;
 }

@@ -8,6 +8,11 @@
 #include <QDate>
 #include <QString>
 #include <functional>
+#include <optional>
+
+namespace ado {
+class Recordset;
+}
 
 /// The head of a job card as it is to be stored.
 struct JobCardHead
@@ -30,6 +35,28 @@ struct JobCardHead
     /// Which of the promised dates can hardly be meant: those before the card's own, and those more than ten
     /// months behind it. Empty when all are well.
     QString dateNotice() const;
+};
+
+/// A card as it stands in the file, without its lines.
+struct StoredCard
+{
+    JobCardHead head;
+    QDate handedOver; ///< to the client; invalid where that was not recorded
+    TrialState trial = TrialState::NotAppeared;
+    QDate appeared; ///< for the trial; invalid where that was not recorded
+
+    /// Throws ado::DatabaseError, and ado::NoCurrentRecordError for a card that is gone.
+    static StoredCard read(qint32 number);
+};
+
+/// An order of a client: number and day of its card.
+struct Visit
+{
+    QString job;
+    QDate day;
+
+    /// The latest entered; nothing for a client without one.
+    static std::optional<Visit> last(qint32 client);
 };
 
 /// The one job card that is open: its lines, and what its saves must know of them. A card is written as head,
@@ -66,8 +93,8 @@ public:
 
 private:
     void write(const std::function<void()>& work);
-    void writeHead(const JobCardHead& head, qint32 clientID);
-    void writeLine(int row, const JobCardHead& head, qint32 clientID);
+    static void fillHead(ado::Recordset& job, const JobCardHead& head, qint32 clientID);
+    void fillLine(ado::Recordset& line, int row, const JobCardHead& head, qint32 clientID) const;
     qint32 addLine(int row, const JobCardHead& head, qint32 clientID);
     void updateLine(int row, const JobCardHead& head, qint32 clientID);
     void writeVoucher(const JobCardHead& head, qint32 clientID);

@@ -15,12 +15,11 @@ void StageJobCard(qint32 JobID)
             DE.connection().Execute(u"Delete * from tmpHead"_s);
             DE.connection().Execute(u"Delete * from tmpbody"_s);
 
-            ado::Recordset& job = DE.rsJOBS;
-            job.Open(u"Select * from Jobs where id="_s + number);
-            AddPrintHead(JobID, job["Date"].date(), GetAccountTitle(job["ClintID"].integer()),
-                         job["DeliveryDate"].date(), job["trialdate"].date(), job["AmountDue"].money(),
-                         job["AmountPaid"].money());
-            job.Close();
+            withRows(u"Select * from Jobs where id="_s + number, [JobID](ado::Recordset& job) {
+                AddPrintHead(JobID, job["Date"].date(), GetAccountTitle(job["ClintID"].integer()),
+                             job["DeliveryDate"].date(), job["trialdate"].date(), job["AmountDue"].money(),
+                             job["AmountPaid"].money());
+            });
 
             each(u"Select * from Jobs_Detail where jobid="_s + number, [&](ado::Recordset& lines) {
                 AddPrintBody(JobID, lines["QNT"].integer(), GetItemName(lines["ItemID"].integer()),
@@ -33,33 +32,27 @@ void StageJobCard(qint32 JobID)
 void AddPrintHead(qint32 JobID, const QDate& date, const QString& name, const QDate& deliveryDate,
                   const QDate& trialDate, Currency due, Currency paid)
 {
-    ado::Recordset& head = DE.rsPrintHead;
-    head.Open(u"sELeCT * FROM TMPHEAD"_s);
-    head.AddNew();
-    head["Date"] = values::CStr(date);
-    head["JobID"] = JobID;
-    head["Name"] = name;
-    head["DelDate"] = values::CStr(deliveryDate);
-    head["trialdate"] = values::CStr(trialDate);
-    head["AmountDue"] = due.toString();
-    head["AmountPaid"] = paid.toString();
-    head["Amount"] = (due - paid).toString();
-    head.UpdateBatch();
-    head.Close();
+    addRow(u"TMPHEAD"_s, [&](ado::Recordset& head) {
+        head["Date"] = values::CStr(date);
+        head["JobID"] = JobID;
+        head["Name"] = name;
+        head["DelDate"] = values::CStr(deliveryDate);
+        head["trialdate"] = values::CStr(trialDate);
+        head["AmountDue"] = due.toString();
+        head["AmountPaid"] = paid.toString();
+        head["Amount"] = (due - paid).toString();
+    });
 }
 
 void AddPrintBody(qint32 JobID, qint32 quantity, const QString& itemName, const QString& remarks,
                   Currency fees, Currency amount)
 {
-    ado::Recordset& body = DE.rsPrintBody;
-    body.Open(u"sELeCT * FROM TMPbody"_s);
-    body.AddNew();
-    body["JobID"] = JobID;
-    body["QNT"] = quantity;
-    body["ItemName"] = itemName;
-    body["Remarks"] = remarks;
-    body["fess"] = fees.toString();
-    body["Amount"] = amount.toString();
-    body.UpdateBatch();
-    body.Close();
+    addRow(u"TMPbody"_s, [&](ado::Recordset& body) {
+        body["JobID"] = JobID;
+        body["QNT"] = quantity;
+        body["ItemName"] = itemName;
+        body["Remarks"] = remarks;
+        body["fess"] = fees.toString();
+        body["Amount"] = amount.toString();
+    });
 }

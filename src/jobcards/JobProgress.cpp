@@ -1,8 +1,20 @@
 #include "jobcards/JobProgress.h"
 
-#include "core/store/DE.h"
+#include "core/store/Rows.h"
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QString cardQuery(qint32 job) { return u"Select * from Jobs where id=%1"_s.arg(job); }
+
+bool allItemsInState(qint32 job, LineState state)
+{
+    return !any(
+        u"Select ID from Jobs_Detail where JobID=%1 and DoneByWorker<>%2"_s.arg(job).arg(qint32(state)));
+}
+
+} // namespace
 
 const char* dayColumn(LineState state)
 {
@@ -27,26 +39,22 @@ void enterState(ado::Recordset& line, LineState state, const QDate& day)
 
 void deliverCard(qint32 job, const QDate& day)
 {
-    ado::Recordset& card = DE.rsJobs2;
-    card.Open(u"Select * from Jobs where id=%1"_s.arg(job));
-    card["ClientDeliveryDate"] = day;
-    card["JOBFINISHED"] = 1;
-    card.Update();
-    card.Close();
-    ado::Recordset& lines = DE.rsJOBS_DETAIL;
-    lines.Open(u"Select * from jobs_detail where JobID=%1"_s.arg(job));
-    for (lines.MoveFirst(); !lines.AtEOF(); lines.MoveNext())
-        enterState(lines, LineState::Delivered, day);
-    lines.UpdateBatch();
-    lines.Close();
+    changeRow(cardQuery(job), [&day](ado::Recordset& card) {
+        card["ClientDeliveryDate"] = day;
+        card["JOBFINISHED"] = 1;
+    });
+    changeRows(u"Select * from jobs_detail where JobID=%1"_s.arg(job),
+               [&day](ado::Recordset& line) { enterState(line, LineState::Delivered, day); });
 }
 
 void closeCard(qint32 job, const QDate& day)
 {
-    ado::Recordset& card = DE.rsJOBS;
-    card.Open(u"Select * from jobs where id=%1"_s.arg(job));
-    card["DeliveryDate"] = day;
-    card["JOBFINISHED"] = 1;
-    card.Update();
-    card.Close();
+    changeRow(cardQuery(job), [&day](ado::Recordset& card) {
+        card["DeliveryDate"] = day;
+        card["JOBFINISHED"] = 1;
+    });
 }
+
+bool AllItemsCompleted(qint32 jobId) { return allItemsInState(jobId, LineState::Completed); }
+
+bool AllItemsDelivered(qint32 jobId) { return allItemsInState(jobId, LineState::Delivered); }

@@ -24,3 +24,8 @@ void deliverCard(qint32 job, const QDate& day);
 /// Closes the card whose last line was delivered on `day`: the promised day gives way to the real one. Throws
 /// ado::DatabaseError.
 void closeCard(qint32 job, const QDate& day);
+
+/// True when every line of the card is completed (delivered). A card without lines counts as both. Throw
+/// ado::DatabaseError.
+bool AllItemsCompleted(qint32 jobId);
+bool AllItemsDelivered(qint32 jobId);

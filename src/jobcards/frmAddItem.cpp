@@ -5,6 +5,7 @@
 #include "core/store/Session.h"
 #include "core/store/ShopPictures.h"
 #include "core/store/Startup.h"
+#include "jobcards/LastOrder.h"
 #include "jobcards/PictureFiles.h"
 #include "jobcards/clsJobCardData.h"
 #include "media/frmCam.h"
@@ -25,22 +26,6 @@ using namespace Qt::StringLiterals;
 using values::Val;
 
 namespace {
-
-const QString LineBreak = u"\r\n"_s;
-
-/// Names and values of a line's measurements, one of each to a row.
-struct Measurements
-{
-    QStringList names;
-    QStringList values;
-
-    static Measurements split(const QString& names, const QString& values)
-    {
-        if (names.isEmpty() && values.isEmpty())
-            return {};
-        return {names.split(LineBreak), values.split(LineBreak)};
-    }
-};
 
 Measurements readGrid(const ItemDetails& grid)
 {
@@ -175,23 +160,18 @@ void frmAddItem::chooseItem()
 
 void frmAddItem::LoadLastConfig(qint32 itemID, qint32 clientID)
 {
-    ado::Recordset& lines = DE.rsJOBS_DETAIL;
-    lines.Open(u"Select * from JOBS_DETAIL where ItemID=%1 and ClintID=%2"_s.arg(itemID).arg(clientID));
-    if (lines.AtEOF()) {
-        lines.Close();
+    const std::optional<LastOrder> last = LastOrder::of(itemID, clientID);
+    if (!last) {
         LoadEmptyItems(itemID);
         return;
     }
-    lines.MoveLast();
-    const auto last = Measurements::split(lines["ItemDetails"].text(), lines["ItemDetailsValue"].text());
-    ui->lblLast->setText(u"Previous JOB : "_s + values::Format(lines["Date"].date(), u"dd-MMM-yyyy"_s));
-    if (!lines["ClientRemarks"].isNull())
-        ui->txtClientRemark->setText(lines["ClientRemarks"].text());
-    lines.Close();
-
+    ui->lblLast->setText(u"Previous JOB : "_s + values::Format(last->day, u"dd-MMM-yyyy"_s));
+    if (last->clientRemark)
+        ui->txtClientRemark->setText(*last->clientRemark);
     ui->ItemDetails1->ClearList();
-    for (qsizetype i = 0; i < last.names.size(); ++i)
-        addPair(last.names[i] + u'=' + last.values.value(i));
+    const Measurements& all = last->measurements;
+    for (qsizetype i = 0; i < all.names.size(); ++i)
+        addPair(all.names[i] + u'=' + all.values.value(i));
 }
 
 void frmAddItem::LoadEmptyItems(qint32 itemID)
@@ -199,11 +179,7 @@ void frmAddItem::LoadEmptyItems(qint32 itemID)
     ui->ItemDetails1->ClearList();
     ui->ItemDetails1->setLanguage(QString());
     ui->lblLast->setText(u"No Previous record found!"_s);
-    ado::Recordset& items = DE.rsITEMS;
-    items.Open(u"Select * from Items where id=%1"_s.arg(itemID));
-    const QString measurements = items.AtEOF() ? QString() : items["ItemDetails"].text();
-    items.Close();
-    for (const QString& line : measurements.split(LineBreak, Qt::SkipEmptyParts))
+    for (const QString& line : measurementTemplate(itemID))
         addPair(line);
     ui->txtClientRemark->clear();
 }
@@ -373,8 +349,8 @@ void frmAddItem::writeRow()
     const double amount = Val(ui->txtQnt->text()) * fees;
     Currency::fromDouble(amount, u"Amount (quantity x fees)"_s); // throws for a sum that no table could take
     const Measurements grid = readGrid(*ui->ItemDetails1);
-    const QString details = grid.names.join(LineBreak);
-    const QString detailsValue = grid.values.join(LineBreak);
+    const QString details = grid.nameText();
+    const QString detailsValue = grid.valueText();
     const QString remarks = ui->txtRemark->text();
     const QString img1 = linkOf(*ui->picPath1);
     const QString img2 = linkOf(*ui->picPath2);

@@ -23,8 +23,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int AmountColumn = 4;
-
 bool matchesEntry(forms::ComboBox& combo) { return ComboFindIndex(combo) >= 0; }
 
 } // namespace
@@ -176,38 +174,23 @@ void frmEditJOB::showStoredCard(qint32 JobID)
 {
     m_card.CurrentJobID = JobID;
     m_card.EditMode = RecordMode::Stored;
-    auto& job = DE.rsJOBS;
-    job.Open(u"Select * from JOBS where id="_s + QString::number(JobID));
-    JobCardHead head;
-    head.Date = job["Date"].date();
-    head.Client = GetAccountTitle(job["ClintID"].integer());
-    if (const qint32 account = job["CashAccID"].integer(); account > 0)
-        head.ReceiptAccount = GetAccountTitle(account);
-    head.DeliveryDate = job["DeliveryDate"].date();
-    head.TrialDate = job["trialdate"].date();
-    head.Total = job["AmountDue"].money();
-    head.Paid = job["AmountPaid"].money();
-    head.Delivered = job["JOBFINISHED"].integer() == 1;
-    head.Remark = job["Remark"].text();
-    head.Cancelled = job["Status"].integer() != 0;
-    head.CancelReason = job["CancelReason"].text();
-    showHead(head);
+    const StoredCard card = StoredCard::read(JobID);
+    showHead(card.head);
     showMode();
-    if (head.Delivered && !job["ClientDeliveryDate"].isNull())
-        ui->lblDelDate->setText(u"Delivered to Client : "_s + dateText(job["ClientDeliveryDate"].date()));
-    switch (job["appeared"].integer()) {
-    case 0:
+    if (card.head.Delivered && card.handedOver.isValid())
+        ui->lblDelDate->setText(u"Delivered to Client : "_s + dateText(card.handedOver));
+    switch (card.trial) {
+    case TrialState::NotAppeared:
         ui->lblTrialInfo->setText(u"Not Appeared for Trial"_s);
         break;
-    case 1:
-        if (!job["appearedDate"].isNull())
-            ui->lblTrialInfo->setText(u"Appeared for Trial "_s + dateText(job["appearedDate"].date()));
+    case TrialState::Appeared:
+        if (card.appeared.isValid())
+            ui->lblTrialInfo->setText(u"Appeared for Trial "_s + dateText(card.appeared));
         break;
-    case 2:
+    case TrialState::Canceled:
         ui->lblTrialInfo->setText(u"Trial Canceled"_s);
         break;
     }
-    job.Close();
     m_card.LoadLines();
     showLines();
     showBalance();
@@ -303,26 +286,19 @@ void frmEditJOB::greetClient()
         return;
     const QString client = ui->cmbClient->text();
     const qint32 clientID = GetAccountID(client);
-    auto& visits = DE.rsJOBS;
-    visits.Open(u"Select * from Jobs where ClintID="_s + QString::number(clientID));
-    if (visits.AtEOF()) {
-        visits.Close();
+    const std::optional<Visit> visit = Visit::last(clientID);
+    if (!visit) {
         ui->picBanner->setText(u"Welcome "_s + client);
         return;
     }
-    visits.MoveLast();
-    const QDate lastVisit = visits["Date"].date();
-    const QString number = visits["ID"].text();
-    visits.Close();
-
     const double balance = GetBalance(values::toInt16(clientID, u"Client number"_s), session.WorkingDate);
-    QString greeting = u"Welcome back "_s + client + u", Your previous visit was: "_s + dateText(lastVisit) +
-                       u" ( "_s + DateDiffText(lastVisit, session.WorkingDate, false, true);
+    QString greeting = u"Welcome back "_s + client + u", Your previous visit was: "_s + dateText(visit->day) +
+                       u" ( "_s + DateDiffText(visit->day, session.WorkingDate, false, true);
     if (balance == 0) {
-        greeting += u"  ago )  , Job # "_s + number;
+        greeting += u"  ago )  , Job # "_s + visit->job;
     } else {
         // The sign is turned round either way, so that a credit shows with a minus.
-        greeting += u"  ago ) , Job # "_s + number + u" , Due Balance : "_s + moneyText(-balance) +
+        greeting += u"  ago ) , Job # "_s + visit->job + u" , Due Balance : "_s + moneyText(-balance) +
                     (balance < 0 ? u" Dr"_s : u" Cr"_s);
     }
     ui->picBanner->setText(greeting);
@@ -350,12 +326,12 @@ void frmEditJOB::DoTotal()
     showBalance();
 }
 
-/// What the lines of the list come to.
+/// What the lines come to, as their amounts stand in the list.
 double frmEditJOB::garments() const
 {
     double total = 0;
-    for (int row = 0; row < ui->lvItems->rowCount(); ++row)
-        total += values::Val(ui->lvItems->cell(row, AmountColumn));
+    for (int row = 1; row <= m_card.JobRows.RowCount(); ++row)
+        total += shownMoney(m_card.JobRows.Amount(row));
     return total;
 }
 

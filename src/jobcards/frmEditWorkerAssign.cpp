@@ -7,6 +7,7 @@
 #include "core/store/ShopPictures.h"
 #include "core/store/Texts.h"
 #include "jobcards/ItemColor.h"
+#include "jobcards/JobLine.h"
 #include "jobcards/JobProgress.h"
 #include "jobcards/MODPrintJOBCARD.h"
 #include "media/frmPreview.h"
@@ -38,12 +39,6 @@ void scrollTogether(QPlainTextEdit& one, QPlainTextEdit& other)
     };
     follow(one.verticalScrollBar(), other.verticalScrollBar());
     follow(other.verticalScrollBar(), one.verticalScrollBar());
-}
-
-ado::Recordset& openRow(ado::Recordset& rows, const char* select, qint32 id)
-{
-    rows.Open(QLatin1String(select) + QString::number(id));
-    return rows;
 }
 
 } // namespace
@@ -95,7 +90,6 @@ void frmEditWorkerAssign::ShowEdit(qint32 lineID)
     load();
     try {
         showLine();
-        showLastJob();
     } catch (...) {
         unload();
         throw;
@@ -117,58 +111,43 @@ void frmEditWorkerAssign::Form_Unload() { swSMS1.reset(); }
 
 void frmEditWorkerAssign::showLine()
 {
-    auto& line = openRow(DE.rsJOBS_DETAIL, "Select * from jobs_detail where ID=", LineID);
-    const qint32 workerID = line["WorkerID"].integer();
-    const QString worker = workerID == 0 ? noWorker : GetAccountTitle(workerID);
-    LineDate = line["Date"].date();
-    LineClientID = line["ClintID"].integer();
-    LineItemID = line["ItemID"].integer();
-    ui->txtClient->setText(GetAccountTitle(LineClientID));
-    ui->txtJOBID->setText(line["JobID"].text());
-    ui->txtItemName->setText(GetItemName(LineItemID));
-    ui->txtQuantity->setText(line["QNT"].text());
-    ui->txtLoc->setText(line["Loc"].text());
-    ui->txtRemark->setText(line["Remarks"].text());
-    ui->txtCap->setText(line["ItemDetails"].text());
-    ui->txtSize->setText(line["ItemDetailsValue"].text());
-
+    const JobLine line = JobLine::read(LineID);
+    const QString worker = line.worker == 0 ? noWorker : GetAccountTitle(line.worker);
+    ui->txtClient->setText(GetAccountTitle(line.client));
+    ui->txtJOBID->setText(line.job);
+    ui->txtItemName->setText(GetItemName(line.item));
+    ui->txtQuantity->setText(line.quantity);
+    ui->txtLoc->setText(line.location);
+    ui->txtRemark->setText(line.remark);
+    ui->txtCap->setText(line.measurementNames);
+    ui->txtSize->setText(line.measurementValues);
     for (const State& state : states()) {
-        if (state.state == line["DoneByWorker"].code<LineState>())
+        if (state.state == line.state)
             state.option->setChecked(true);
         if (state.date)
-            state.date->setText(dateText(line[dayColumn(state.state)].date()));
+            state.date->setText(dateText(line.dayOf(state.state)));
     }
-    ui->chCutting->setChecked(line["CuttingStatus"].code<CuttingMark>() == CuttingMark::Done);
-    ui->DtCutting->setValue(line["CuttingDate"].date());
-    const Currency wage = line["WorkerWagesDue"].money();
-    ui->txtWagesDue->setText(wage.toString());
-    ui->lblDelDate->setText(dateText(line["JobDelDate"].date()));
-    ui->lblBookDate->setText(dateText(LineDate));
-    ui->txtClientRemark->setText(line["ClientRemarks"].text());
-    ui->chMarkasPaid->setChecked(line["MarkAsPaid"].integer() == 1);
-    showPicture(*ui->pic1, *ui->Command5, Img1Path, line["img1"].text());
-    showPicture(*ui->pic2, *ui->Command6, Img2Path, line["img2"].text());
-    ui->picColor->setNumber(itemcolor::readNumber(line["Color"].text()));
-    const qint32 payrollID = line["PayrollID"].integer();
-    line.Close();
-
+    ui->chCutting->setChecked(line.cut);
+    ui->DtCutting->setValue(line.cutting);
+    ui->txtWagesDue->setText(line.wage.toString());
+    ui->lblDelDate->setText(dateText(line.promised));
+    ui->lblBookDate->setText(dateText(line.booked));
+    ui->txtClientRemark->setText(line.clientRemark);
+    ui->chMarkasPaid->setChecked(line.paid);
+    showPicture(*ui->pic1, *ui->Command5, Img1Path, line.picture1);
+    showPicture(*ui->pic2, *ui->Command6, Img2Path, line.picture2);
+    ui->picColor->setNumber(itemcolor::readNumber(line.colour));
     for (QLineEdit* box : {ui->txtClient, ui->txtItemName})
         box->setCursorPosition(0); // a long text shows from its beginning
-    showWagesPaid(wage, payrollID);
-    ui->cmbWorker->setText(worker);
-}
-
-/// What a payroll has paid for the line, and when.
-void frmEditWorkerAssign::showWagesPaid(Currency wage, qint32 payrollID)
-{
-    if (!ui->chMarkasPaid->isChecked() || payrollID == 0)
-        return;
-    auto& payroll = openRow(DE.rspostings, "Select * from Postings where vType=2 and VID=", payrollID);
-    if (!payroll.AtEOF()) {
-        ui->lblWagesPaid->setText(moneyText(wage.toDouble()));
-        ui->lblWagesPaidDate->setText(dateText(payroll["Date"].date()));
+    if (const QDate paidOn = line.paidOn(); paidOn.isValid()) {
+        ui->lblWagesPaid->setText(moneyText(line.wage.toDouble()));
+        ui->lblWagesPaidDate->setText(dateText(paidOn));
     }
-    payroll.Close();
+    ui->cmbWorker->setText(worker);
+    LineDate = line.booked;
+    LineItemID = line.item;
+    LineClientID = line.client;
+    showLastJob();
 }
 
 void frmEditWorkerAssign::showPicture(PictureBox& pic, QPushButton& print, QString& imgPath,
@@ -182,26 +161,17 @@ void frmEditWorkerAssign::showPicture(PictureBox& pic, QPushButton& print, QStri
     print.setEnabled(true);
 }
 
-/// The client's order of the same item before this one.
 void frmEditWorkerAssign::showLastJob()
 {
-    auto& lines = DE.rsJOBS_DETAIL;
-    lines.Open(
-        u"Select * from JOBS_DETAIL where DATE<#%1# and ItemID=%2 and ClintID=%3"_s.arg(dateText(LineDate))
-            .arg(LineItemID)
-            .arg(LineClientID));
-    if (lines.AtEOF()) {
+    const std::optional<EarlierOrder> before = EarlierOrder::find(LineDate, LineItemID, LineClientID);
+    if (!before) {
         ui->lblLastJob->setText(u"No last record found"_s);
-        lines.Close();
         return;
     }
-    lines.MoveLast();
-    const qint32 workerID = lines["WorkerID"].integer();
-    ui->lblLastJob->setText(
-        u"Last Job ID # "_s + lines["JobID"].text() + u"\r\nDate : "_s + dateText(lines["Date"].date()) +
-        u"\r\n"_s +
-        (workerID > 0 ? u"Job done by : "_s + GetAccountTitle(workerID) : u"No worker information found!"_s));
-    lines.Close();
+    ui->lblLastJob->setText(u"Last Job ID # "_s + before->job + u"\r\nDate : "_s + dateText(before->booked) +
+                            u"\r\n"_s +
+                            (before->worker > 0 ? u"Job done by : "_s + GetAccountTitle(before->worker)
+                                                : u"No worker information found!"_s));
 }
 
 qint32 frmEditWorkerAssign::jobID() const
@@ -270,28 +240,21 @@ void frmEditWorkerAssign::save()
         closeCard(jobID(), session.WorkingDate);
 }
 
-/// A line without a worker keeps the name of the one it had. A day once stamped stays when the state changes.
 void frmEditWorkerAssign::writeLine(const QString& worker)
 {
-    auto& line = openRow(DE.rsJOBS_DETAIL, "Select * from jobs_detail where id=", LineID);
-    if (worker == noWorker) {
-        line["WorkerID"] = 0;
-    } else {
-        line["WorkerID"] = GetAccountID(worker);
-        line["WorkerName"] = worker;
-    }
     const std::vector<State> all = states();
     const auto chosen =
         std::find_if(all.begin(), all.end(), [](const State& state) { return state.option->isChecked(); });
+    Assignment assignment{.worker = worker == noWorker ? QString() : worker,
+                          .state = {},
+                          .cut = ui->chCutting->isChecked(),
+                          .cutting = ui->DtCutting->value(),
+                          .wage = Currency::fromDouble(values::Val(ui->txtWagesDue->text()), u"Wages Due"_s),
+                          .paid = ui->chMarkasPaid->isChecked(),
+                          .location = ui->txtLoc->text()};
     if (chosen != all.end())
-        enterState(line, chosen->state, session.WorkingDate);
-    line["CuttingStatus"] = ui->chCutting->isChecked() ? CuttingMark::Done : CuttingMark::NotDone;
-    line["CuttingDate"] = ui->DtCutting->value();
-    line["WorkerWagesDue"] = Currency::fromDouble(values::Val(ui->txtWagesDue->text()), u"Wages Due"_s);
-    line["MarkAsPaid"] = int(ui->chMarkasPaid->isChecked());
-    line["Loc"] = ui->txtLoc->text();
-    line.Update();
-    line.Close();
+        assignment.state = chosen->state;
+    assignment.write(LineID, session.WorkingDate);
     if (chosen != all.end() && chosen->date)
         chosen->date->setText(dateText(session.WorkingDate));
 }

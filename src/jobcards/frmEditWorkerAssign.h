@@ -51,7 +51,6 @@ private:
     std::vector<State> states() const;
 
     void showLine();
-    void showWagesPaid(Currency wage, qint32 payrollID);
     static void showPicture(PictureBox& pic, QPushButton& print, QString& imgPath, const QString& link);
     void showLastJob();
     void showWages(bool shown);

@@ -1,7 +1,7 @@
 #include "masters/ClientFolder.h"
 
-#include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Rows.h"
 #include "core/store/Texts.h"
 
 using namespace Qt::StringLiterals;
@@ -20,12 +20,10 @@ void showClientFolder(const QString& client)
 {
     if (client.isEmpty() || !opener())
         return;
-    ado::Recordset& clients = DE.rsaccounts;
-    clients.Open(u"Select * from Accounts"_s + whereType(AccountType::Client) + u" and Title='"_s +
-                 sqlText(client) + u'\'');
-    const bool known = !clients.AtEOF();
-    const QString title = known ? clients["Title"].text() : QString();
-    clients.Close();
+    QString title;
+    const bool known = firstRow(u"Select * from Accounts"_s + whereType(AccountType::Client) +
+                                    u" and Title='"_s + sqlText(client) + u'\'',
+                                [&title](ado::Recordset& row) { title = row["Title"].text(); });
     if (known)
         opener()(title);
 }

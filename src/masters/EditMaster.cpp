@@ -119,11 +119,3 @@ void EditMaster::remove()
     session.RefreshLists = true;
     unload();
 }
-
-bool EditMaster::hasRows(ado::Recordset& recordset, const QString& sql)
-{
-    recordset.Open(sql);
-    const bool any = recordset.RecordCount() >= 1;
-    recordset.Close();
-    return any;
-}

@@ -57,8 +57,6 @@ protected:
     /// otherwise.
     virtual bool addsAnotherAfter(const QString& name);
 
-    static bool hasRows(ado::Recordset& recordset, const QString& sql);
-
 private:
     void show(RecordMode mode, const QString& title);
     void save();

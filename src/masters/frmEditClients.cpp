@@ -2,6 +2,7 @@
 
 #include "core/store/Codes.h"
 #include "core/store/DE.h"
+#include "core/store/References.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "masters/ClientFolder.h"
@@ -101,10 +102,7 @@ void frmEditClients::write(ado::Recordset& row)
     row["dob"] = dob.isValid() ? QVariant(dob) : ado::Null;
 }
 
-bool frmEditClients::isInUse(qint16 id)
-{
-    return hasRows(DE.rsJOBS_DETAIL, u"Select * from JOBS_DETAIL where ClintID=%1"_s.arg(id));
-}
+bool frmEditClients::isInUse(qint16 id) { return isClientInUse(id); }
 
 bool frmEditClients::addsAnotherAfter(const QString& name)
 {

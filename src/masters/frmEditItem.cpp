@@ -1,6 +1,7 @@
 #include "masters/frmEditItem.h"
 
 #include "core/store/DE.h"
+#include "core/store/References.h"
 #include "platform/values/Numbers.h"
 #include "ui_frmEditItem.h"
 
@@ -94,7 +95,4 @@ void frmEditItem::write(ado::Recordset& row)
     row["OpPendingOrders"] = numberText(*ui->txtPendingOrdersBal);
 }
 
-bool frmEditItem::isInUse(qint16 id)
-{
-    return hasRows(DE.rsJOBS_DETAIL, u"Select * from JOBS_DETAIL where ItemID=%1"_s.arg(id));
-}
+bool frmEditItem::isInUse(qint16 id) { return isItemInUse(id); }

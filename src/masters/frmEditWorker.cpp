@@ -2,6 +2,7 @@
 
 #include "core/store/Codes.h"
 #include "core/store/DE.h"
+#include "core/store/References.h"
 #include "ui_frmEditWorker.h"
 
 using namespace Qt::StringLiterals;
@@ -46,8 +47,4 @@ void frmEditWorker::write(ado::Recordset& row)
     row["Mobile"] = ui->txtMobile->Text();
 }
 
-bool frmEditWorker::isInUse(qint16 id)
-{
-    return hasRows(DE.rsJOBS_DETAIL, u"Select * from JOBS_DETAIL where WorkerID=%1"_s.arg(id)) ||
-           hasRows(DE.rspostings, u"Select * from Postings where AccID=%1"_s.arg(id));
-}
+bool frmEditWorker::isInUse(qint16 id) { return isWorkerInUse(id); }

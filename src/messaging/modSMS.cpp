@@ -1,9 +1,6 @@
 #include "messaging/modSMS.h"
 
-#include "core/store/Codes.h"
-#include "core/store/DE.h"
 #include "core/store/Settings.h"
-#include "core/store/Texts.h"
 #include "platform/values/Numbers.h"
 
 #include <QEventLoop>
@@ -19,18 +16,6 @@ QString jobSms(const Setting& setting, const QString& defaultDraft, qint32 jobId
     text.replace("%eid%"_L1, QString::number(jobId));
     text.replace("%amount%"_L1, values::CStr(amount));
     return text + u'\r' + GetSetting(settings::SmsTitle);
-}
-
-bool allItemsInState(qint32 jobId, LineState state)
-{
-    const QString all = u"Select * from Jobs_Detail where JobID="_s + QString::number(jobId);
-    auto& lines = DE.rsJOBS_DETAIL;
-    lines.Open(all);
-    const int count = lines.RecordCount();
-    lines.Open(all + u" and DoneByWorker="_s + QString::number(qint32(state)));
-    const int inState = lines.RecordCount();
-    lines.Close();
-    return inState == count;
 }
 
 } // namespace
@@ -71,46 +56,6 @@ QString TextAsSent(const QString& text)
         sent += letter < 256 ? QChar(char16_t(letter)) : u'?';
     return sent;
 }
-
-QString GetClientMobile(const QString& title, qint16 id)
-{
-    QString mobile;
-    auto& clients = DE.rsaccounts;
-    const auto read = [&](const QString& sql) {
-        clients.Open(sql);
-        if (!clients.AtEOF())
-            mobile = clients["Mobile"].text();
-        clients.Close();
-    };
-    if (!title.isEmpty()) {
-        read(u"Select * from Accounts where type=0 and  Title='"_s + sqlText(title) + u"'"_s);
-    }
-    if (id > 0)
-        read(u"Select * from Accounts where  type=0 and  ID="_s + QString::number(id));
-    return mobile;
-}
-
-QString GetClientContact(qint16 id)
-{
-    if (id <= 0)
-        return {};
-    auto& account = DE.rsaccounts;
-    account.Open(u"Select * from Accounts where ID="_s + QString::number(id));
-    const QString contact = account.AtEOF() ? QString() : ContactOf(account);
-    account.Close();
-    return contact;
-}
-
-QString ContactOf(ado::Recordset& account)
-{
-    const QString contact = account["Mobile"].text() + u"   "_s + account["Address"].text() + u"   "_s +
-                            account["City"].text() + u"    "_s;
-    return contact.trimmed().isEmpty() ? u"No Information Found"_s : contact;
-}
-
-bool AllItemsCompleted(qint32 jobId) { return allItemsInState(jobId, LineState::Completed); }
-
-bool AllItemsDelivered(qint32 jobId) { return allItemsInState(jobId, LineState::Delivered); }
 
 void RunAndWait(const QString& commandLine)
 {

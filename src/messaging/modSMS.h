@@ -1,11 +1,9 @@
 #pragma once
 
-#include "platform/ado/Recordset.h"
-
 #include <QString>
 
-/// The wording of the shop's text messages, and what a message needs to know of a client and of a card. Lines
-/// of a message end with a carriage return alone. Everything here throws ado::DatabaseError when the file
+/// The wording of the shop's text messages. Lines of a message end with a carriage return alone. Everything
+/// here throws ado::DatabaseError when the file
 /// refuses.
 
 /// The drafts that a shop begins with. "%eid%" stands for the card's number, "%amount%" for money.
@@ -23,19 +21,6 @@ QString MakeDueBalanceSms(const QString& amount);
 /// The text that arrives: the modem carries the letters of Latin-1 alone, every other one (a rupee sign,
 /// Hindi) becomes "?".
 QString TextAsSent(const QString& text);
-
-/// The mobile number of a client, by title, or by id where one is given (above 0); empty when there is no
-/// such client. Workers and ledger accounts are never found.
-QString GetClientMobile(const QString& title, qint16 id);
-/// Mobile, address and city of an account in one line, "No Information Found" when all three are empty; empty
-/// when there is no such account.
-QString GetClientContact(qint16 id);
-/// The same of the account in the current row.
-QString ContactOf(ado::Recordset& account);
-
-/// True when every line of the card is completed (delivered). A card without lines counts as both.
-bool AllItemsCompleted(qint32 jobId);
-bool AllItemsDelivered(qint32 jobId);
 
 /// Runs a program and returns when it has ended, or could not be started; the screens live on meanwhile.
 void RunAndWait(const QString& commandLine);

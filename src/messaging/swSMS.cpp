@@ -1,5 +1,6 @@
 #include "messaging/swSMS.h"
 
+#include "core/store/Contacts.h"
 #include "core/store/Settings.h"
 #include "messaging/modSMS.h"
 #include "platform/forms/MessageBox.h"

@@ -1,6 +1,6 @@
 #include "planning/PendingOrders.h"
 
-#include "core/store/DE.h"
+#include "core/store/Codes.h"
 #include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "platform/values/Dates.h"
@@ -12,10 +12,8 @@ namespace {
 
 void countLines(const QString& condition, qint32& count)
 {
-    ado::Recordset& lines = DE.rsJOBS_DETAIL2;
-    lines.Open(u"Select count(QNT) from Jobs_Detail where "_s + condition + u" and DoneByWorker=0"_s);
-    count = lines[0].integer();
-    lines.Close();
+    count = one(u"Select count(QNT) from Jobs_Detail where "_s + condition +
+                u" and DoneByWorker=%1"_s.arg(qint32(LineState::Uncompleted)));
 }
 
 } // namespace

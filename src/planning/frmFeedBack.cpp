@@ -1,7 +1,7 @@
 #include "planning/frmFeedBack.h"
 
-#include "core/store/DE.h"
 #include "core/store/Session.h"
+#include "planning/Feedback.h"
 #include "planning/Stars.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
@@ -42,23 +42,15 @@ QList<QLabel*> frmFeedBack::starPictures() const
     return {ui->img0, ui->img1, ui->img2, ui->img3, ui->img4, ui->img5};
 }
 
-ado::Recordset& frmFeedBack::openLine()
-{
-    ado::Recordset& line = DE.rsJOBS_DETAIL;
-    line.Open(u"Select * from Jobs_Detail where id="_s + QString::number(m_lineId));
-    return line;
-}
-
 void frmFeedBack::Form_Load()
 {
     SetFormLanguage(*this);
-    ado::Recordset& line = openLine();
-    if (const ado::Field score = line["Score"]; !score.isNull())
-        ui->cmbScore->setText(score.text());
+    const Feedback feedback = Feedback::of(m_lineId);
+    if (feedback.score)
+        ui->cmbScore->setText(*feedback.score);
     ComboSyncIndex(*ui->cmbScore); // from there the arrow keys walk on
-    if (const ado::Field feedback = line["ClientFeedBack"]; !feedback.isNull())
-        ui->txtFeedback->setText(feedback.text());
-    line.Close();
+    if (feedback.text)
+        ui->txtFeedback->setText(*feedback.text);
 }
 
 void frmFeedBack::ChangeStars()
@@ -73,11 +65,7 @@ void frmFeedBack::ChangeStars()
 void frmFeedBack::save()
 {
     const qint16 score = values::CInt(values::Val(ui->cmbScore->text()), u"Score"_s);
-    ado::Recordset& line = openLine();
-    line["Score"] = score;
-    line["ClientFeedBack"] = ui->txtFeedback->Text();
-    line.Update();
-    line.Close();
+    writeFeedback(m_lineId, score, ui->txtFeedback->Text());
     m_saved = score;
     session.RefreshLists = true;
     ShowMsg(u"Feedback saved!"_s);

@@ -31,7 +31,6 @@ protected:
 
 private:
     QList<QLabel*> starPictures() const;
-    ado::Recordset& openLine();
     void save();
 
     const std::unique_ptr<Ui::frmFeedBack> ui;

@@ -1,7 +1,5 @@
 #include "planning/frmRatings.h"
 
-#include "core/store/DE.h"
-#include "core/store/Rows.h"
 #include "planning/Ratings.h"
 #include "planning/Stars.h"
 #include "ui/modLang.h"
@@ -45,15 +43,13 @@ void frmRatings::GetRank()
     for (int rating = 0; rating <= 5; ++rating)
         ImageList1.push_back(stars(rating, heightOfStars));
     std::vector<forms::ListView::Row> rows;
-    each(u"Select * from Rank order by Score desc"_s, [&](ado::Recordset& ranks) {
+    for (const Rank& rank : readRanks()) {
         const QString position = QString::number(rows.size() + 1);
-        forms::ListView::Row row{
-            {position, position, ranks["Name"].text(), ranks["Score"].text(), QString()}};
-        const auto rating = size_t(ranks["Rating"].integer());
-        if (rating < ImageList1.size())
+        forms::ListView::Row row{{position, position, rank.worker, rank.score, QString()}};
+        if (const auto rating = size_t(rank.rating); rating < ImageList1.size())
             row.looks[RatingColumn].picture = ImageList1[rating];
         rows.push_back(std::move(row));
-    });
+    }
     ui->lvSummary->setRows(std::move(rows));
     ui->lvSummary->selectRow(0);
 }

@@ -1,7 +1,6 @@
 #include "planning/frmWorkerReport2.h"
 
-#include "core/store/DE.h"
-#include "platform/values/Numbers.h"
+#include "planning/Ratings.h"
 #include "ui/modLang.h"
 #include "ui_frmWorkerReport2.h"
 
@@ -42,25 +41,11 @@ void frmWorkerReport2::Form_Load()
 
 void frmWorkerReport2::fill()
 {
-    ado::Recordset& workers = DE.rsaccounts;
     std::vector<forms::ListView::Row> rows;
-    workers.Open(u"Select * from Accounts where type=%1 order by titlekey(Title)"_s.arg(1));
-    for (; !workers.AtEOF(); workers.MoveNext()) {
-        qint16 count = 0;
-        JobCount(values::toInt16(workers["ID"].integer(), u"Worker number"_s), count);
-        rows.push_back({{QString::number(rows.size() + 1), workers["Title"].text(), QString::number(count)}});
-    }
-    workers.Close();
+    for (const WorkerLines& counted : countByWorker(m_sql))
+        rows.push_back({{QString::number(rows.size() + 1), counted.worker, QString::number(counted.lines)}});
     ui->lvSummary->setRows(std::move(rows));
     ui->lvSummary->selectRow(0);
-}
-
-void frmWorkerReport2::JobCount(qint16 workerId, qint16& count) const
-{
-    ado::Recordset& lines = DE.rsJOBS_DETAIL2;
-    lines.Open(QString(m_sql).replace("%id"_L1, QString::number(workerId)));
-    count = values::toInt16(lines.RecordCount(), u"Number of lines"_s);
-    lines.Close();
 }
 
 void frmWorkerReport2::choose()

@@ -21,7 +21,6 @@ public:
     ~frmWorkerReport2() override;
 
     /// Counts the lines of one worker. Throws OverflowError beyond 16 bits.
-    void JobCount(qint16 workerId, qint16& count) const;
     /// The worker picked, or "-1000".
     QString chosen() const { return m_chosen; }
 

@@ -1,10 +1,9 @@
 #include "registers/JobLines.h"
 
-#include "core/store/DE.h"
+#include "core/store/Contacts.h"
 #include "core/store/Lookups.h"
 #include "core/store/Rows.h"
 #include "core/store/Session.h"
-#include "messaging/modSMS.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
 

@@ -71,10 +71,9 @@ void readDay(Shop& shop, const QDate& day)
              if (row["appeared"].code<TrialState>() == TrialState::NotAppeared)
                  shop.trials.notAppeared += cards;
          });
-    each(birthdaySearch(day), [&](ado::Recordset& row) {
-        if (!isUnderAYear(row["dob"].date(), day))
-            ++shop.birthdays;
-    });
+    const std::vector<Birthday> born = birthdays(day);
+    shop.birthdays =
+        int(std::count_if(born.begin(), born.end(), [](const auto& b) { return !b.underAYear; }));
     shop.newCards = one(u"Select count(*) from Jobs where Date="_s + sqlDate(day));
     each(u"Select min(Date), max(Date) from Jobs"_s, [&](ado::Recordset& row) {
         if (row[0].isNull())
@@ -122,36 +121,17 @@ void readMoney(Shop& shop, const QDate& day)
     });
 }
 
-/// A client's due is spread over what was booked to him, from the newest back.
-void readDues(Shop& shop, const QDate& day)
+void sumDues(Dues& dues, const QDate& day)
 {
-    const auto bookedSince = [&](int days) {
-        return u", -sum(case when Amount<0 and Date>=%1 then Amount else 0 end) as Since%2"_s
-            .arg(sqlDate(day.addDays(-days)))
-            .arg(days);
-    };
-    each(u"Select Title, -sum(Amount) as Due"_s + bookedSince(30) + bookedSince(60) + bookedSince(90) +
-             u" from Accounts, Postings"_s + whereType(AccountType::Client) +
-             u" and accID=Accounts.ID and "_s + countsUpTo(day) +
-             u" group by Accounts.ID having sum(Amount)<0"_s,
-         [&](ado::Recordset& row) {
-             const Currency due = Currency::fromDouble(row["Due"].number());
-             if (due <= Currency())
-                 return;
-             Currency counted;
-             int age = 0;
-             for (const char* since : {"Since30", "Since60", "Since90"}) {
-                 const Currency upTo = std::min(due, Currency::fromDouble(row[since].number()));
-                 shop.dues.byAge[age++] += upTo - counted;
-                 counted = upTo;
-             }
-             shop.dues.byAge[age] += due - counted;
-             ++shop.dues.clients;
-             shop.dues.largest.push_back({row["Title"].text(), due});
-         });
-    std::stable_sort(shop.dues.largest.begin(), shop.dues.largest.end(),
+    for (const Due& due : readDues(day)) {
+        for (size_t age = 0; age < due.byAge.size(); ++age)
+            dues.byAge[age] += due.byAge[age];
+        ++dues.clients;
+        dues.largest.push_back({due.title, due.amount});
+    }
+    std::stable_sort(dues.largest.begin(), dues.largest.end(),
                      [](const auto& left, const auto& right) { return left.due > right.due; });
-    shop.dues.largest.resize(std::min(shop.dues.largest.size(), largestDebtors));
+    dues.largest.resize(std::min(dues.largest.size(), largestDebtors));
 }
 
 void readWorkers(Shop& shop, const QDate& day)
@@ -205,7 +185,7 @@ Shop read(const QDate& day)
     readDue(shop, day);
     readDay(shop, day);
     readMoney(shop, day);
-    readDues(shop, day);
+    sumDues(shop.dues, day);
     readWorkers(shop, day);
     constexpr qint64 highestNumber = std::numeric_limits<qint16>::max();
     shop.lines = roomOf(u"JOBS_DETAIL"_s, highestNumber);
@@ -214,13 +194,18 @@ Shop read(const QDate& day)
     return shop;
 }
 
-bool isUnderAYear(const QDate& dob, const QDate& day) { return dob > day.addYears(-1); }
-
-QString birthdaySearch(const QDate& day)
+std::vector<Birthday> birthdays(const QDate& day)
 {
-    return u"select * from  Accounts"_s + whereType(AccountType::Client) +
-           u" and month(dob) between %1 and %1 and day(dob) between  %2 and %2"_s.arg(day.month())
-               .arg(day.day());
+    std::vector<Birthday> born;
+    each(u"select * from  Accounts"_s + whereType(AccountType::Client) +
+             u" and month(dob) between %1 and %1 and day(dob) between  %2 and %2"_s.arg(day.month())
+                 .arg(day.day()),
+         [&](ado::Recordset& client) {
+             const QDate dob = client["dob"].date();
+             born.push_back({client["ID"].integer(), client["Title"].text(), dob, client["Mobile"].text(),
+                             dob > day.addYears(-1)});
+         });
+    return born;
 }
 
 } // namespace figures

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/values/Currency.h"
+#include "registers/Dues.h"
 
 #include <QDate>
 #include <QString>
@@ -48,7 +49,7 @@ struct Week
     Currency taken;
 };
 
-/// What clients owe, by the age of what was booked last: a payment always settles the oldest.
+/// What all clients owe together.
 struct Dues
 {
     struct Debtor
@@ -56,8 +57,8 @@ struct Dues
         QString title;
         Currency due;
     };
-    static constexpr int ages = 4; ///< up to 30 days, 60 days, 90 days, and older
-    Currency byAge[ages];
+    static constexpr int ages = Due::ages;
+    std::array<Currency, ages> byAge;
     int clients = 0;
     std::vector<Debtor> largest; ///< ten at most
 };
@@ -105,10 +106,16 @@ struct Shop
 /// Reads them. Throws ado::DatabaseError.
 Shop read(const QDate& day);
 
-/// The clients born on this day of the year.
-QString birthdaySearch(const QDate& day);
-/// Whether such a date of birth is none to congratulate on: it is less than a year before the day, as where a
-/// client was entered without one and the day of the entry was stored.
-bool isUnderAYear(const QDate& dob, const QDate& day);
+/// A client born on a day of the year.
+struct Birthday
+{
+    qint32 id = 0;
+    QString client;
+    QDate dob;
+    QString mobile;
+    bool underAYear = false; ///< none to congratulate on: less than a year before the day, as where a client
+                             ///< was entered without one and the day of the entry was stored
+};
+std::vector<Birthday> birthdays(const QDate& day);
 
 } // namespace figures

@@ -1,29 +1,19 @@
 #include "registers/Trials.h"
 
-#include "core/store/DE.h"
+#include "core/store/Contacts.h"
 #include "core/store/Lookups.h"
 #include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
-#include "messaging/modSMS.h"
 #include "platform/values/Numbers.h"
 
 #include <QHash>
-#include <QScopeGuard>
-#include <functional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void write(qint32 job, const std::function<void(ado::Recordset& card)>& change)
-{
-    ado::Recordset& card = DE.rsJobs2;
-    const auto closed = qScopeGuard([&card] { card.Close(); });
-    card.Open(u"Select * from Jobs where id=%1"_s.arg(job));
-    change(card);
-    card.Update();
-}
+QString cardQuery(qint32 job) { return u"Select * from Jobs where id=%1"_s.arg(job); }
 
 void enterState(ado::Recordset& card, TrialState state)
 {
@@ -74,12 +64,12 @@ std::vector<Trial> read(const QString& cards)
 
 void setState(qint32 job, TrialState state)
 {
-    write(job, [state](ado::Recordset& card) { enterState(card, state); });
+    changeRow(cardQuery(job), [state](ado::Recordset& card) { enterState(card, state); });
 }
 
 void setDay(qint32 job, const QDate& day)
 {
-    write(job, [&day](ado::Recordset& card) {
+    changeRow(cardQuery(job), [&day](ado::Recordset& card) {
         enterState(card, TrialState::NotAppeared);
         card["TrialDate"] = day;
     });

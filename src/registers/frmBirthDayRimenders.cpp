@@ -1,7 +1,5 @@
 #include "registers/frmBirthDayRimenders.h"
 
-#include "core/store/DE.h"
-#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "platform/forms/Palette.h"
@@ -43,15 +41,13 @@ std::vector<forms::ListView::Row> frmBirthDayRimenders::read()
     std::vector<forms::ListView::Row> rows;
     const QDate day = ui->DateSel->value();
     bool anyDimmed = false;
-    each(figures::birthdaySearch(day), [&](ado::Recordset& clients) {
-        const QDate dob = clients["dob"].date();
-        rows.push_back(
-            {{clients["Title"].text(), dateText(dob), clients["Mobile"].text()}, clients["ID"].text()});
-        if (figures::isUnderAYear(dob, day)) {
+    for (const figures::Birthday& born : figures::birthdays(day)) {
+        rows.push_back({{born.client, dateText(born.dob), born.mobile}, QString::number(born.id)});
+        if (born.underAYear) {
             dim(rows.back());
             anyDimmed = true;
         }
-    });
+    }
     ui->lblHelp->setNotice(anyDimmed ? u"Dimmed: younger than a year, mostly the day of the entry"_s
                                      : QString());
     return rows;

@@ -1,6 +1,6 @@
 #include "registers/frmClientFolder.h"
 
-#include "core/store/DE.h"
+#include "core/store/Contacts.h"
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
@@ -85,15 +85,9 @@ void frmClientFolder::Form_Activate()
 {
     const qint32 id = GetAccountID(m_client);
     m_garments = history::garmentsOf(id);
-    ado::Recordset& client = DE.rsaccounts;
-    client.Open(u"Select * from Accounts where ID="_s + QString::number(id));
-    ui->lblClient->setText(client["Title"].text());
-    QStringList contact;
-    for (const char* field : {"Address", "City", "Mobile"})
-        if (const QString text = client[field].text().simplified(); !text.isEmpty())
-            contact << text;
-    client.Close();
-    ui->lblContact->setText(contact.join(u"  ·  "_s));
+    const AccountContact contact = AccountContact::of(id);
+    ui->lblClient->setText(contact.title);
+    ui->lblContact->setText(contact.lines.join(u"  ·  "_s));
     const double balance = GetBalances(QString::number(id), session.WorkingDate).value(id);
     ui->lblBalance->setText(u"Balance: "_s + balanceText(balance));
     showCards();

@@ -1,13 +1,10 @@
 #include "registers/frmDueRegister.h"
 
 #include "accounts/frmAccountBook.h"
-#include "core/store/DE.h"
-#include "core/store/Lookups.h"
-#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "platform/forms/ListView.h"
-#include "platform/values/Currency.h"
+#include "registers/Dues.h"
 #include "ui/modLang.h"
 #include "ui_frmDueRegister.h"
 
@@ -43,15 +40,8 @@ void frmDueRegister::Form_Activate() { ExcuteSQl(); }
 void frmDueRegister::ExcuteSQl()
 {
     std::vector<forms::ListView::Row> rows;
-    each(u"Select Accounts.ID, Title, sum(Amount) as Balance from Accounts, Postings"_s +
-             whereType(AccountType::Client) + u" and accID=Accounts.ID and "_s +
-             countsUpTo(session.WorkingDate) + u" group by Accounts.ID having sum(Amount)<0 order by Title"_s,
-         [&](ado::Recordset& accounts) {
-             const Currency balance = Currency::fromDouble(accounts["Balance"].number());
-             if (balance < Currency())
-                 rows.push_back({{accounts["Title"].text(), moneyText((-balance).toDouble())},
-                                 QString::number(accounts["ID"].integer())});
-         });
+    for (const Due& due : readDues(session.WorkingDate))
+        rows.push_back({{due.title, moneyText(due.amount.toDouble())}, QString::number(due.client)});
     ui->lvSummary->refreshRows(std::move(rows));
 }
 

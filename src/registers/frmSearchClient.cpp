@@ -1,10 +1,9 @@
 #include "registers/frmSearchClient.h"
 
-#include "core/store/DE.h"
 #include "core/store/Settings.h"
-#include "core/store/Texts.h"
 #include "masters/ClientFolder.h"
 #include "platform/values/Titles.h"
+#include "registers/ClientSearch.h"
 #include "ui/modLang.h"
 #include "ui_frmSearchClient.h"
 
@@ -70,14 +69,9 @@ void frmSearchClient::SearchText(const QString& text, const QString& field)
     ui->lvResults->Clear();
     if (text.isEmpty())
         return;
-    ado::Recordset& found = DE.rsaccounts;
-    found.Open(u"Select * from Accounts  where type=%1 and "_s.arg(0) + field + u" like '%"_s +
-               sqlText(text) + u"%'"_s);
     std::vector<forms::ListView::Row> rows;
-    for (; !found.AtEOF(); found.MoveNext())
-        rows.push_back(
-            {{found["Title"].text(), found["Address"].text(), found["City"].text(), found["Mobile"].text()}});
-    found.Close();
+    for (const FoundClient& client : searchClients(field, text))
+        rows.push_back({{client.title, client.address, client.city, client.mobile}});
     ui->lvResults->setRows(std::move(rows));
 }
 

@@ -2,7 +2,7 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
-#include "core/store/Rows.h"
+#include "jobcards/ItemCounts.h"
 #include "planning/frmWorkerReport2.h"
 #include "platform/report/ListKeys.h"
 #include "platform/values/Dates.h"
@@ -122,37 +122,17 @@ forms::ListView::Row frmWorkerJobRegister::rowOf(ado::Recordset& line, LineNames
     return row;
 }
 
-/// How many lines of each item the criteria meet.
+/// How many lines of each item the worker, or all, were given on these days.
 void frmWorkerJobRegister::fillDetails()
 {
     ui->lvDetails->Clear();
-    each(u"Select * from Items order by titlekey(Name)"_s, [&](ado::Recordset& items) {
-        qint32 count = 0;
-        if (SearchMode == Search::Worker)
-            GetItemWiseDetails(items["ID"].integer(), count);
-        else if (SearchMode == Search::AllWorkers)
-            GetItemWiseDetails2(items["ID"].integer(), count);
-        if (count > 0)
-            ui->lvDetails->addRow({items["Name"].text(), QString::number(count)});
-    });
-}
-
-void frmWorkerJobRegister::GetItemWiseDetails(qint32 itemId, qint32& count)
-{
-    countLines(u"%1and WorkerID=%2and date between "_s.arg(itemId).arg(GetAccountID(ViewedWorker)), count);
-}
-
-void frmWorkerJobRegister::GetItemWiseDetails2(qint32 itemId, qint32& count)
-{
-    countLines(u"%1and date between "_s.arg(itemId), count);
-}
-
-void frmWorkerJobRegister::countLines(const QString& condition, qint32& count)
-{
-    ado::Recordset& counting = DE.rsJOBS_DETAIL2;
-    counting.Open(u"Select count(QNT) from JOBS_Detail where ItemID="_s + condition + period().between());
-    count = counting[0].integer();
-    counting.Close();
+    if (SearchMode != Search::Worker && SearchMode != Search::AllWorkers)
+        return;
+    QString condition = u"date between "_s + period().between();
+    if (SearchMode == Search::Worker)
+        condition += u" and WorkerID=%1"_s.arg(GetAccountID(ViewedWorker));
+    for (const ItemCount& count : countByItem(condition))
+        ui->lvDetails->addRow({count.item, QString::number(count.lines)});
 }
 
 void frmWorkerJobRegister::applyCondition(const QString& condition)

@@ -23,9 +23,6 @@ public:
     /// Keep the lines of a cutting mark, with or without a worker; each takes the text of the condition.
     void RemoveUnwanted2(const QString& condition);
     void RemoveUnwanted3(const QString& condition);
-    /// The number of lines of an item within the dates, for the worker chosen and for all.
-    void GetItemWiseDetails(qint32 itemId, qint32& count);
-    void GetItemWiseDetails2(qint32 itemId, qint32& count);
     /// Delivers the whole card of the selected row, without a question.
     void DeliverJobCard();
 
@@ -45,7 +42,6 @@ private:
     // Filling
     QString workerSearch(const QString& workerId) const;
     void fillDetails();
-    void countLines(const QString& condition, qint32& count);
 
     // Criteria
     void showOverview();
@@ -64,7 +60,6 @@ private:
     qint32 selectedJob() const;
     QString askLocation();
     bool asked(const QString& question) const;
-    void writeLine(qint32 line, const std::function<void(ado::Recordset& row)>& write);
     void writeDelivered(qint32 job);
     void refreshAfterMark();
 

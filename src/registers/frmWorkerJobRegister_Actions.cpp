@@ -1,6 +1,7 @@
 #include "accounts/frmAccountBook.h"
 #include "core/store/DE.h"
 #include "core/store/Session.h"
+#include "jobcards/JobLine.h"
 #include "jobcards/JobProgress.h"
 #include "jobcards/frmEditJOB.h"
 #include "masters/ClientFolder.h"
@@ -76,26 +77,13 @@ QString frmWorkerJobRegister::askLocation()
 
 // The state of a line. None of the actions asks what it was before.
 
-/// Writes fields of a line and comes back to its row.
-void frmWorkerJobRegister::writeLine(qint32 line, const std::function<void(ado::Recordset&)>& write)
-{
-    ado::Recordset& row = DE.rsJOBS_DETAIL;
-    row.Open(u"Select * from jobs_detail where id=%1"_s.arg(line));
-    write(row);
-    row.Update();
-    row.Close();
-    refreshAfterMark();
-}
-
 void frmWorkerJobRegister::markCuttingDone()
 {
     const qint32 line = selectedLine();
     if (line == 0 || !asked(u"Mark Item as Cutting Done?"_s))
         return;
-    writeLine(line, [](ado::Recordset& row) {
-        row["CuttingStatus"] = CuttingMark::Done;
-        row["CuttingDate"] = session.WorkingDate;
-    });
+    markCut(line, session.WorkingDate);
+    refreshAfterMark();
 }
 
 void frmWorkerJobRegister::markCompleted()
@@ -103,12 +91,8 @@ void frmWorkerJobRegister::markCompleted()
     const qint32 line = selectedLine();
     if (line == 0 || !asked(u"Mark Item as Completed?"_s))
         return;
-    const QString location = askLocation();
-    writeLine(line, [&location](ado::Recordset& row) {
-        enterState(row, LineState::Completed, session.TodayDate);
-        if (!location.isEmpty())
-            row["Loc"] = location;
-    });
+    markState(line, LineState::Completed, session.TodayDate, askLocation());
+    refreshAfterMark();
 }
 
 void frmWorkerJobRegister::markAlteration()
@@ -116,12 +100,8 @@ void frmWorkerJobRegister::markAlteration()
     const qint32 line = selectedLine();
     if (line == 0 || !asked(u"Mark Item as Alteration?"_s))
         return;
-    const QString location = askLocation();
-    writeLine(line, [&location](ado::Recordset& row) {
-        if (!location.isEmpty())
-            row["Loc"] = location;
-        enterState(row, LineState::Alteration, session.TodayDate);
-    });
+    markState(line, LineState::Alteration, session.TodayDate, askLocation());
+    refreshAfterMark();
 }
 
 void frmWorkerJobRegister::markDelivered()
@@ -129,7 +109,8 @@ void frmWorkerJobRegister::markDelivered()
     const qint32 line = selectedLine();
     if (line == 0 || !asked(u"Mark Item as Delivered to Client?"_s))
         return;
-    writeLine(line, [](ado::Recordset& row) { enterState(row, LineState::Delivered, session.TodayDate); });
+    markState(line, LineState::Delivered, session.TodayDate);
+    refreshAfterMark();
 }
 
 // The whole card

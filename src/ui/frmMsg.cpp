@@ -1,5 +1,6 @@
 #include "ui/frmMsg.h"
 
+#include "core/store/HindiMessages.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
 #include "core/store/Texts.h"
@@ -93,12 +94,7 @@ void frmMsg::LoadHindiText(const QString& text, qint32)
 {
     QString hindiText;
     try {
-        ado::Connection language;
-        language.open(session.languageDatabasePath(), {}, ado::Connection::Mode::ReadOnly);
-        ado::Recordset messages(language);
-        messages.Open(u"Select * from messages where EngMessage='"_s + sqlText(text) + u'\'');
-        if (!messages.AtEOF())
-            hindiText = messages["HindiMessage"].text();
+        hindiText = hindiMessage(text);
     } catch (const OperatorError& error) {
         static QString toldLast;
         if (std::exchange(toldLast, session.languageDatabasePath()) != session.languageDatabasePath())

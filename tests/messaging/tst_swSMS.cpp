@@ -1,3 +1,5 @@
+#include "core/store/Contacts.h"
+#include "jobcards/JobProgress.h"
 #include "messaging/modSMS.h"
 #include "messaging/swSMS.h"
 #include "support/Modem.h"

@@ -24,10 +24,10 @@ copies::Copy& current()
 }
 
 /// The program turned to another shop for a while. What belongs to the living one is kept meanwhile.
-class Aside
+class ShopSwitch
 {
 public:
-    Aside()
+    ShopSwitch()
         : m_session(session)
         , m_unsaved(std::exchange(unsavedCards, {}))
     {
@@ -75,15 +75,15 @@ void openToLook(const copies::Copy& copy)
 void lookInto(const QString& path)
 {
     const copies::Copy copy = copies::read(path);
-    Aside aside;
+    ShopSwitch other;
     try {
         openToLook(copy);
         frmMain().showModal();
     } catch (...) {
-        aside.end();
+        other.end();
         throw;
     }
-    aside.end();
+    other.end();
 }
 
 void showDifferences(QWidget* parent)

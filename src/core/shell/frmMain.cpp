@@ -13,6 +13,7 @@
 #include "core/store/DE.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
+#include "core/store/ShopProfile.h"
 #include "core/store/Texts.h"
 #include "jobcards/frmEditJOB.h"
 #include "platform/forms/Icons.h"
@@ -100,34 +101,10 @@ void frmMain::SetWall()
 
 void frmMain::RefershINFO()
 {
-    ado::Recordset& shop = DE.rsSHOP;
-    shop.Open(u"Select * from Shop"_s);
-    if (shop.RecordCount() < 1) {
-        if (!m_looks)
-            DE.connection().writeBatch([&shop] {
-                shop.Open(u"Select * from Shop"_s); // another first start may have been quicker
-                if (shop.RecordCount() > 0)
-                    return;
-                shop.AddNew();
-                shop["Name"] = u"KORVANE"_s;
-                shop.UpdateBatch();
-            });
-        ui->lblShopName->setText(u"KORVANE"_s);
-    } else {
-        const auto copy = [&shop](const char* field, QString& line) {
-            if (!shop[field].isNull())
-                line = shop[field].text();
-        };
-        session.ShopName = shop["Name"].text();
-        copy("Contacts", session.ShopContacts);
-        copy("Address1", session.ShopAddress1);
-        copy("Address2", session.ShopAddress2);
-        copy("Address3", session.ShopAddress3);
-        ui->lblShopName->setText(session.ShopName);
-        ui->lblShopName->setToolTip(Qt::convertFromPlainText(session.ShopName)); // a long one is cut
-    }
-    session.ShownShopName = ui->lblShopName->text();
-    shop.Close();
+    const QString name = loadShopProfile();
+    ui->lblShopName->setText(name);
+    ui->lblShopName->setToolTip(Qt::convertFromPlainText(name)); // a long one is cut
+    session.ShownShopName = name;
     const QSignalBlocker quiet(ui->TodayDate);
     ui->TodayDate->setValue(session.WorkingDate);
     session.TodayDate = ui->TodayDate->value();

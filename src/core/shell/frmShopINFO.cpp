@@ -2,6 +2,7 @@
 
 #include "core/store/DE.h"
 #include "core/store/Settings.h"
+#include "core/store/ShopProfile.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
 #include "ui_frmShopINFO.h"
@@ -23,14 +24,12 @@ frmShopINFO::~frmShopINFO() = default;
 void frmShopINFO::Form_Load()
 {
     SetFormLanguage(*this);
-    ado::Recordset& shop = DE.rsSHOP;
-    shop.Open(u"Select * from Shop where id=1"_s);
-    ui->txtName->setText(shop["Name"].text());
-    ui->txtADDRESS1->setText(shop["Address1"].text());
-    ui->txtADDRESS2->setText(shop["Address2"].text());
-    ui->txtADDRESS3->setText(shop["Address3"].text());
-    ui->txtCONTACTS->setText(shop["Contacts"].text());
-    shop.Close();
+    const ShopProfile shop = ShopProfile::read();
+    ui->txtName->setText(shop.name);
+    ui->txtADDRESS1->setText(shop.address1);
+    ui->txtADDRESS2->setText(shop.address2);
+    ui->txtADDRESS3->setText(shop.address3);
+    ui->txtCONTACTS->setText(shop.contacts);
 
     ui->chShowPassword->setChecked(false);
     const bool locked = GetSetting(settings::LoginRequired) == "1"_L1;
@@ -64,15 +63,9 @@ void frmShopINFO::save()
         return;
     }
     DE.connection().writeBatch([this, locked] {
-        ado::Recordset& shop = DE.rsSHOP;
-        shop.Open(u"Select * from Shop where id=1"_s);
-        shop["Name"] = ui->txtName->text();
-        shop["Address1"] = ui->txtADDRESS1->text();
-        shop["Address2"] = ui->txtADDRESS2->text();
-        shop["Address3"] = ui->txtADDRESS3->text();
-        shop["Contacts"] = ui->txtCONTACTS->text();
-        shop.UpdateBatch();
-        shop.Close();
+        ShopProfile{ui->txtName->text(), ui->txtADDRESS1->text(), ui->txtADDRESS2->text(),
+                    ui->txtADDRESS3->text(), ui->txtCONTACTS->text()}
+            .write();
         SetSetting(settings::LoginRequired, locked ? u"1"_s : u"0"_s);
         SetSetting(settings::UserName, locked ? ui->txtUserName->text() : QString());
         SetSetting(settings::Password, locked ? ui->txtPassword->text() : QString());

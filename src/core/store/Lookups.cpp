@@ -11,18 +11,16 @@ namespace {
 
 /// Reads with `read` from the first row of the query.
 template <typename Read>
-auto firstRow(const QString& sql, Read read)
+auto fromFirst(const QString& sql, Read read)
 {
-    ado::Recordset& rows = DE.rsaccounts;
+    ado::Recordset rows(DE.connection());
     rows.Open(sql);
-    const auto result = read(rows);
-    rows.Close();
-    return result;
+    return read(rows);
 }
 
 QString textOfFirst(const QString& sql, const char* field)
 {
-    return firstRow(sql, [field](ado::Recordset& rows) { return rows[field].text(); });
+    return fromFirst(sql, [field](ado::Recordset& rows) { return rows[field].text(); });
 }
 
 /// Names go into these statements as they are. The engine refuses one with an apostrophe: what to do about it
@@ -43,12 +41,12 @@ auto byName(const QString& name, LookUp lookUp)
 
 qint32 integerOfFirst(const QString& sql, const char* field)
 {
-    return firstRow(sql, [field](ado::Recordset& rows) { return rows[field].integer(); });
+    return fromFirst(sql, [field](ado::Recordset& rows) { return rows[field].integer(); });
 }
 
 double numberOfFirst(const QString& sql, const char* field)
 {
-    return firstRow(sql, [field](ado::Recordset& rows) { return rows[field].number(); });
+    return fromFirst(sql, [field](ado::Recordset& rows) { return rows[field].number(); });
 }
 
 void fill(const QString& sql, ListTarget& control, ado::Recordset& recordset)
@@ -68,7 +66,7 @@ QString byTitle(const QString& field) { return u" order by titlekey("_s + field 
 /// A null sum, that of no rows, reads as 0.
 double sum(const QString& sql)
 {
-    return firstRow(sql, [](ado::Recordset& rows) { return rows[0].number(); });
+    return fromFirst(sql, [](ado::Recordset& rows) { return rows[0].number(); });
 }
 
 } // namespace
@@ -129,6 +127,12 @@ QVariant FieldValueExists(const QString& value, const QString& keyField, const Q
     }
     const ado::Field found = recordset[0];
     return found.isNull() ? QVariant(-1) : found.value();
+}
+
+qint32 idOfAccount(const QString& title)
+{
+    ado::Recordset accounts(DE.connection());
+    return qMax(0, FieldValueExists(title, u"Title"_s, u"ID"_s, u"Accounts"_s, accounts).toInt());
 }
 
 QString whereType(AccountType type) { return u" where Type=%1"_s.arg(qint32(type)); }

@@ -30,6 +30,10 @@ QHash<qint32, QString> GetAccountTitles(const QString& accounts);
 QVariant FieldValueExists(const QString& value, const QString& keyField, const QString& resultField,
                           const QString& table, ado::Recordset& recordset);
 
+/// The id of the account of this title; 0 for one that is gone, and for an empty title. Apostrophes are no
+/// trouble.
+qint32 idOfAccount(const QString& title);
+
 /// The condition of FillList for the accounts of one type.
 QString whereType(AccountType type);
 

@@ -1,6 +1,6 @@
 #include "core/store/Settings.h"
 
-#include "core/store/DE.h"
+#include "core/store/Rows.h"
 #include "core/store/Session.h"
 
 using namespace Qt::StringLiterals;
@@ -16,23 +16,20 @@ QString settingQuery(qint32 number)
 
 QString GetSetting(qint32 number, const QString& defaultValue)
 {
-    ado::Recordset& settings = DE.rsSettings;
-    settings.Open(settingQuery(number));
-    const QString value = settings.AtEOF() ? defaultValue : settings["value"].text();
-    settings.Close();
+    QString value = defaultValue;
+    firstRow(settingQuery(number), [&value](ado::Recordset& setting) { value = setting["value"].text(); });
     return value;
 }
 
 void SetSetting(qint32 number, const QString& value)
 {
-    ado::Recordset& settings = DE.rsSettings;
-    settings.Open(settingQuery(number));
-    if (settings.RecordCount() < 1)
-        settings.AddNew();
-    settings["Setting"] = QString::number(number);
-    settings["value"] = value;
-    settings.UpdateBatch();
-    settings.Close();
+    withRows(settingQuery(number), [&](ado::Recordset& setting) {
+        if (setting.AtEOF())
+            setting.AddNew();
+        setting["Setting"] = QString::number(number);
+        setting["value"] = value;
+        setting.Update();
+    });
 }
 
 QString GetSetting(const Setting& setting) { return GetSetting(setting, setting.standard); }

@@ -14,6 +14,8 @@ QString sqlDates(const QDate& from, const QDate& to) { return sqlDate(from) + u"
 
 QString moneyText(double amount) { return values::Format(amount, u"0.00"_s); }
 
+double shownMoney(double amount) { return values::Val(moneyText(amount)); }
+
 QString balanceText(double balance)
 {
     if (balance == 0)

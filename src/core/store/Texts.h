@@ -17,6 +17,8 @@ QString sqlDates(const QDate& from, const QDate& to);
 
 /// "12.50", "-3.00".
 QString moneyText(double amount);
+/// The amount that moneyText() shows: rounded to two decimals, as papers and totals add it up.
+double shownMoney(double amount);
 /// "12.50 Cr" (the shop owes), "12.50 Dr" (the account owes), "None".
 QString balanceText(double balance);
 

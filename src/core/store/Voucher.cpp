@@ -1,6 +1,7 @@
 #include "core/store/Voucher.h"
 
 #include "core/store/DE.h"
+#include "core/store/Rows.h"
 #include "core/store/Texts.h"
 #include "platform/values/Numbers.h"
 
@@ -11,10 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Sets what both lines of a pair share, and the side of one, on the current row of `DE.rspostings`.
-void setLine(const PostingPair& pair, bool first)
+/// Sets what both lines of a pair share, and the side of one.
+void setLine(ado::Recordset& line, const PostingPair& pair, bool first)
 {
-    ado::Recordset& line = DE.rspostings;
     line["particulars"] = pair.particulars;
     line["Date"] = pair.date;
     line["accID"] = first ? pair.account : pair.opposite;
@@ -26,14 +26,8 @@ void setLine(const PostingPair& pair, bool first)
 /// The value of a field in the last row of the query; 0 when there is none.
 qint32 lastOf(const QString& sql, const char* field)
 {
-    ado::Recordset& vouchers = DE.rspostings;
-    vouchers.Open(sql);
     qint32 last = 0;
-    if (!vouchers.AtEOF()) {
-        vouchers.MoveLast();
-        last = vouchers[field].integer();
-    }
-    vouchers.Close();
+    lastRow(sql, [&](ado::Recordset& voucher) { last = voucher[field].integer(); });
     return last;
 }
 
@@ -43,21 +37,19 @@ QString Voucher::where() const { return u" where vid=%1 and vtype=%2"_s.arg(m_nu
 
 PairRows Voucher::AddPair(const PostingPair& pair, PostingMarks marks)
 {
+    const auto add = [&](bool first) {
+        return addRow(u"Postings"_s, [&](ado::Recordset& line) {
+            line["VID"] = m_number;
+            line["vType"] = m_type;
+            line["Sr"] = ++m_lastLine;
+            setLine(line, pair, first);
+            line["Status"] = int(marks.cancelled);
+            line["isPayroll"] = int(marks.payroll);
+        });
+    };
     PairRows rows;
-    ado::Recordset& line = DE.rspostings;
-    line.Open(u"Select * from Postings order by ID"_s);
-    for (const bool first : {true, false}) {
-        line.AddNew();
-        line["VID"] = m_number;
-        line["vType"] = m_type;
-        line["Sr"] = ++m_lastLine;
-        setLine(pair, first);
-        line["Status"] = int(marks.cancelled);
-        line["isPayroll"] = int(marks.payroll);
-        line.Update();
-        (first ? rows.first : rows.second) = line["ID"].integer();
-    }
-    line.Close();
+    rows.first = add(true);
+    rows.second = add(false);
     return rows;
 }
 
@@ -65,20 +57,18 @@ PairRows Voucher::AddPair(const PostingPair& pair, PostingMarks marks)
 std::vector<PairRows> Voucher::pairs() const
 {
     std::vector<PairRows> found;
-    ado::Recordset& lines = DE.rspostings;
-    lines.Open(u"Select ID, Sr from Postings"_s + where() + u" and sr in (1, 2) order by ID"_s);
-    for (; !lines.AtEOF(); lines.MoveNext()) {
-        const qint32 id = lines["ID"].integer();
-        if (lines["Sr"].integer() == 1) {
-            found.push_back({.first = id});
-            continue;
-        }
-        const auto half =
-            std::find_if(found.begin(), found.end(), [](const PairRows& rows) { return rows.second == 0; });
-        if (half != found.end())
-            half->second = id;
-    }
-    lines.Close();
+    each(u"Select ID, Sr from Postings"_s + where() + u" and sr in (1, 2) order by ID"_s,
+         [&found](ado::Recordset& line) {
+             const qint32 id = line["ID"].integer();
+             if (line["Sr"].integer() == 1) {
+                 found.push_back({.first = id});
+                 return;
+             }
+             const auto half = std::find_if(found.begin(), found.end(),
+                                            [](const PairRows& rows) { return rows.second == 0; });
+             if (half != found.end())
+                 half->second = id;
+         });
     return found;
 }
 
@@ -91,15 +81,26 @@ PairRows Voucher::Pair(qint32 posting) const
     return all.empty() ? PairRows() : all.front();
 }
 
+StoredPair Voucher::Read(const PairRows& rows)
+{
+    StoredPair stored;
+    withRows(u"Select * from Postings where id=%1"_s.arg(rows.first), [&stored](ado::Recordset& line) {
+        stored.pair = {.particulars = line["particulars"].text(),
+                       .date = line["Date"].date(),
+                       .account = line["accID"].integer(),
+                       .opposite = line["refID"].integer(),
+                       .amount = line["Amount"].money(),
+                       .remark = line["Remark"].text()};
+        stored.payroll = line["isPayroll"].integer() > 0;
+    });
+    return stored;
+}
+
 void Voucher::ChangePair(const PairRows& rows, const PostingPair& pair)
 {
-    ado::Recordset& line = DE.rspostings;
-    for (const bool first : {true, false}) {
-        line.Open(u"Select * from Postings where id=%1"_s.arg(first ? rows.first : rows.second));
-        setLine(pair, first);
-        line.Update();
-        line.Close();
-    }
+    for (const bool first : {true, false})
+        changeRow(u"Select * from Postings where id=%1"_s.arg(first ? rows.first : rows.second),
+                  [&](ado::Recordset& line) { setLine(line, pair, first); });
 }
 
 void Voucher::Delete() { DE.connection().Execute(u"Delete from Postings"_s + where()); }
@@ -115,14 +116,11 @@ void Voucher::Delete(const PairRows& rows)
 
 QString Voucher::description() const
 {
-    ado::Recordset& line = DE.rspostings;
-    line.Open(u"Select * from Postings"_s + where());
     QString text;
-    if (!line.AtEOF()) {
+    firstRow(u"Select * from Postings"_s + where(), [&text](ado::Recordset& line) {
         const QString kind = line["isPayroll"].integer() > 0 ? u"payroll"_s : line["particulars"].text();
         text = u"a %1 of %2"_s.arg(kind, moneyText(std::abs(line["Amount"].number())));
-    }
-    line.Close();
+    });
     return text;
 }
 

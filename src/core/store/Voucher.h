@@ -32,6 +32,13 @@ struct PairRows
     qint32 second = 0;
 };
 
+/// A pair as it stands in the ledger.
+struct StoredPair
+{
+    PostingPair pair;
+    bool payroll = false; ///< it pays a worker's lines
+};
+
 /// The postings that share a number and a type: one pair, or the two of a job card (the sale, and the money
 /// taken with it). Each pair sums to zero, and so do all the shop's postings. Write within a write batch. All
 /// throw ado::DatabaseError.
@@ -49,6 +56,8 @@ public:
     /// The stored lines 1 and 2. A number can be given to more than one entry by hand: then those of the
     /// entry that has the posting, or of the one entered first.
     PairRows Pair(qint32 posting = 0) const;
+    /// What the first of these rows holds. Throws ado::NoCurrentRecordError when it is not there.
+    static StoredPair Read(const PairRows& rows);
     /// Writes the pair over these rows; number, type and marks stay. Throws ado::NoCurrentRecordError when
     /// one of them is not there.
     void ChangePair(const PairRows& rows, const PostingPair& pair);
