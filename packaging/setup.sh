@@ -1,12 +1,13 @@
-# Sourced by ./run and ./test: sees to it that the packages of debian-packages.txt are there. Nothing is asked and
-# nothing done when they all are.
+# shellcheck shell=bash
+# Sourced by ./run, ./test and ./package: installs the packages of debian-packages.txt that are missing. When all are there
+# it does nothing, and needs neither root nor sudo.
 
 say() { printf '%s\n' "$*" >&2; }
 fail() { say "$*"; exit 1; }
 
 missing_packages() {
   local package
-  for package in $(sed 's/#.*//' "$1"); do
+  sed 's/#.*//; /^ *$/d' "$1" | while read -r package; do
     [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || printf '%s ' "$package"
   done
 }

@@ -1,6 +1,7 @@
 #include "core/shell/modMain.h"
 #include "core/store/Copies.h"
 #include "core/store/Session.h"
+#include "core/store/Startup.h"
 #include "platform/ado/Connection.h"
 #include "platform/devices/TestCameras.h"
 #include "platform/forms/MessageBox.h"
@@ -22,8 +23,8 @@ int main(int argc, char* argv[])
     QApplication::setWindowIcon(QIcon(u":/icons/app.svg"_s));
     QApplication::setQuitOnLastWindowClosed(false);
 
-    session.appFolder = QCoreApplication::applicationDirPath();
-    forms::applyTheme(application, session.appFolder + u"/fonts"_s);
+    FindFolders(QCoreApplication::applicationDirPath());
+    forms::applyTheme(application, session.partsFolder + u"/fonts"_s);
     ado::setBusyNotice([](bool waiting) {
         waiting ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
     });
@@ -35,10 +36,6 @@ int main(int argc, char* argv[])
                                              {.name = u"Slow camera"_s, .timeToOpen = 4000},
                                              {.name = u"Loose cable"_s, .picturesLeft = 60},
                                              {.name = u"Taken camera"_s, .fault = u"In use elsewhere"_s}}));
-    if (const QString notice = qEnvironmentVariable("SEAMWISE_NOTICE"); !notice.isEmpty()) {
-        forms::criticalMessage(nullptr, notice); // the script that starts the program has no window for it
-        return 1;
-    }
     const int result = Main() ? QApplication::exec() : 1;
     report::finishPrinting();
     QGuiApplication::sync(); // no window waits for what follows

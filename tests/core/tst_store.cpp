@@ -1,5 +1,6 @@
 #include "core/store/Schema.h"
 #include "core/store/Startup.h"
+#include "support/Files.h"
 #include "support/Refusal.h"
 #include "support/Shop.h"
 
@@ -75,6 +76,42 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(path) && QFile::link(shop.folder() + "/unplugged.mdb", path));
         QVERIFY(refusal([] { CreateDatabase(); }).startsWith(path));
         QVERIFY(QFileInfo(path).isSymLink());
+    }
+
+    /// A program's shop lies beside it; that of an installed one, among its user's data.
+    void theShopsFolder()
+    {
+        const QTemporaryDir top;
+        const QString data = top.filePath("data"), parts = top.filePath("share/seamwise"),
+                      program = top.filePath("bin");
+        const auto before = qScopeGuard([kept = session, home = qgetenv("XDG_DATA_HOME")] {
+            session = kept;
+            home.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", home);
+        });
+        qputenv("XDG_DATA_HOME", data.toUtf8());
+        QVERIFY(QDir().mkpath(program));
+        FindFolders(program);
+        QCOMPARE(session.databasePath(), program + "/data.mdb");
+        QCOMPARE(session.languageDatabasePath(), program + "/Lang.mdb");
+
+        QVERIFY(QDir().mkpath(parts));
+        FindFolders(program);
+        QCOMPARE(session.databasePath(), data + "/seamwise/data.mdb");
+        QCOMPARE(session.languageDatabasePath(), parts + "/Lang.mdb");
+        writeFile(data, "no folder");
+        QVERIFY_THROWS_EXCEPTION(OperatorError, MakeShopFolder());
+        QVERIFY(QFile::remove(data));
+        MakeShopFolder();
+        QCOMPARE(QFile::permissions(session.appFolder) & ~QFile::Permissions(0x7700), QFile::Permissions());
+        QVERIFY(QFile::setPermissions(session.appFolder,
+                                      QFile::permissions(session.appFolder) | QFile::ReadGroup));
+        MakeShopFolder(); // a folder that its owner has opened to others stays as it is
+        QVERIFY(QFile::permissions(session.appFolder) & QFile::ReadGroup);
+
+        writeFile(program + "/data.mdb", "a shop");
+        FindFolders(program);
+        QCOMPARE(session.databasePath(), program + "/data.mdb");
+        QCOMPARE(session.languageDatabasePath(), parts + "/Lang.mdb");
     }
 
     void settingsAndSession()

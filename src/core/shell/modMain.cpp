@@ -20,6 +20,7 @@ namespace {
 
 bool openDatabase()
 {
+    MakeShopFolder();
     if (!QFileInfo(session.databasePath()).isFile())
         CreateDatabase();
     MakeImagesFolder();

@@ -27,13 +27,18 @@ struct Session
 
     QString ShownShopName; ///< as the main screen has it
 
-    /// The folder of the executable, without a slash at its end: the database, the Hindi texts and the
-    /// pictures lie in it.
+    /// The shop's folder, without a slash at its end: the database and the pictures lie in it.
     QString appFolder;
+    /// The folder of what comes with the program, the Hindi texts and the fonts. Empty where that is the
+    /// shop's folder too.
+    QString partsFolder;
 
     QString databasePath() const { return appFolder + u"/data.mdb"_s; }
     QString imagesFolder() const { return appFolder + u"/images"_s; }
-    QString languageDatabasePath() const { return appFolder + u"/Lang.mdb"_s; }
+    QString languageDatabasePath() const
+    {
+        return (partsFolder.isEmpty() ? appFolder : partsFolder) + u"/Lang.mdb"_s;
+    }
 };
 
 inline Session session;

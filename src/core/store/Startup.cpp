@@ -5,12 +5,38 @@
 #include "core/store/Settings.h"
 #include "platform/devices/Files.h"
 #include "platform/values/Dates.h"
+#include "platform/values/Errors.h"
 #include "platform/values/Numbers.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
+
+void FindFolders(const QString& programFolder)
+{
+    session.appFolder = programFolder;
+    session.partsFolder = programFolder;
+    const QString parts = QDir::cleanPath(programFolder + u"/../share/seamwise"_s);
+    if (!QFileInfo(parts).isDir())
+        return;
+    session.partsFolder = parts;
+    if (!QFileInfo(session.databasePath()).isFile())
+        session.appFolder =
+            QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/seamwise"_s;
+}
+
+void MakeShopFolder()
+{
+    if (QFileInfo(session.appFolder).isDir())
+        return;
+    if (!QDir().mkpath(session.appFolder))
+        throw OperatorError(
+            u"The folder %1 for the shop cannot be made."_s.arg(QDir::toNativeSeparators(session.appFolder)));
+    files::keepPrivate(session.appFolder);
+    files::sync(QFileInfo(session.appFolder).path());
+}
 
 void MakeImagesFolder()
 {
