@@ -46,36 +46,34 @@ void Book::Form_Load()
     period.set(session.WorkingDate, session.WorkingDate);
 }
 
-void Book::show(const std::vector<BookLine>& lines)
+void Book::show(const Lines& lines, QStringList (*cells)(const BookLine&))
 {
-    std::vector<forms::ListView::Row> rows;
-    rows.reserve(lines.size());
-    m_postings.clear();
-    for (const BookLine& line : lines) {
-        m_postings.push_back(line.posting);
-        forms::ListView::Row row{line.cells, line.tag};
-        row.apart = !line.isPosting();
-        if (row.apart) {
-            for (int column = 0; column < int(line.cells.size()) - 1; ++column)
-                row.looks[column].bold = true;
-        }
-        rows.push_back(std::move(row));
-    }
-    m_list->refreshRows(std::move(rows));
+    m_lines = lines;
+    m_list->refreshRows(int(lines->size()), [lines, cells](int row) {
+        const BookLine& line = (*lines)[size_t(row)];
+        forms::ListView::Row shown{cells(line), line.tag()};
+        shown.apart = !line.isPosting();
+        for (int column = 0; shown.apart && column < int(shown.cells.size()) - 1; ++column)
+            shown.looks[column].bold = true;
+        return shown;
+    });
 }
 
 void Book::select(const QString& tag)
 {
-    for (int row = 0; row < m_list->rowCount(); ++row) {
-        if (m_list->tag(row) == tag)
-            m_list->selectRow(row);
+    for (size_t row = 0; row < m_lines->size(); ++row) {
+        if ((*m_lines)[row].tag() == tag)
+            m_list->selectRow(int(row));
     }
 }
 
 void Book::openSelected()
 {
     const int row = m_list->selectedRow();
-    if (row >= 0 && openVoucher(this, m_list->tag(row), m_postings[size_t(row)]))
+    if (row < 0)
+        return;
+    const BookLine& line = (*m_lines)[size_t(row)];
+    if (openVoucher(this, line.tag(), line.posting))
         refresh();
 }
 

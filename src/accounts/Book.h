@@ -5,6 +5,8 @@
 #include "platform/forms/Screen.h"
 #include "ui/Period.h"
 
+#include <memory>
+
 /// Opens what stands behind a row of a book: the job card, or the entry screen of a voucher. True when it
 /// came back saved, and also when the ledger no longer has it (a message says so): either way the
 /// book is to be made anew. A row of a total opens nothing. `posting` is the row among entries of the same
@@ -25,9 +27,10 @@ protected:
     /// Takes 97% of the display's height; both days are the working date.
     void Form_Load() override;
 
-    /// Puts the lines on the list, the rows of totals apart from the others. The voucher that was selected
-    /// stays so; when it has gone, the row in its place.
-    void show(const std::vector<BookLine>& lines);
+    /// Puts the lines on the list, the rows of totals apart from the others; `cells` makes the texts of one.
+    /// The voucher that was selected stays so; when it has gone, the row in its place.
+    using Lines = std::shared_ptr<const std::vector<BookLine>>;
+    void show(const Lines& lines, QStringList (*cells)(const BookLine& line));
     /// Selects the row of a voucher, if the list has it.
     void select(const QString& tag);
     /// Opens what stands behind the selected row.
@@ -39,5 +42,5 @@ protected:
 
 private:
     forms::ListView* m_list = nullptr;
-    std::vector<qint32> m_postings; ///< behind the rows
+    Lines m_lines = std::make_shared<std::vector<BookLine>>(); ///< on the list
 };

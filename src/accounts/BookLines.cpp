@@ -1,6 +1,5 @@
 #include "accounts/BookLines.h"
 
-#include "accounts/VoucherTag.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/Rows.h"
@@ -13,29 +12,27 @@ namespace {
 
 const QString blank = u" "_s;
 
-/// Reads postings: `add` appends the line of each. `account` is the column of the account that the line
-/// names; one that is gone has an empty title.
-void readPostings(
-    const QString& condition, const QString& order, const char* account,
-    const std::function<void(ado::Recordset& posting, const QString& day, const QString& title)>& add)
+/// Reads postings. `account` is the column of the account that a line names; one that is gone has an empty
+/// title.
+void readPostings(std::vector<BookLine>& lines, const QString& condition, const QString& order,
+                  const char* account)
 {
-    const QString column = QLatin1String(account);
     const QHash<qint32, QString> titles =
-        GetAccountTitles(u"Select "_s + column + u" from Postings where "_s + condition);
-    QHash<QDate, QString> days;
-    each(u"Select * from Postings where "_s + condition + order, [&](ado::Recordset& postings) {
-        const QDate date = postings["Date"].date();
-        QString& day = days[date];
-        if (day.isNull())
-            day = dateText(date);
-        add(postings, day, titles.value(postings[account].integer()));
+        GetAccountTitles(u"Select "_s + QLatin1String(account) + u" from Postings where "_s + condition);
+    each(u"Select * from Postings where "_s + condition + order, [&](ado::Recordset& posting) {
+        BookLine line{.posting = posting["ID"].integer(),
+                      .voucher = {posting["VID"].integer(), posting["vType"].code<VoucherType>()},
+                      .date = posting["Date"].date(),
+                      .kind = posting["particulars"].text(),
+                      .title = titles.value(posting[account].integer()),
+                      .remark = posting["Remark"].text()};
+        const double amount = posting["Amount"].number();
+        (amount < 0 ? line.debit : line.credit) = std::abs(amount);
+        lines.push_back(std::move(line));
     });
 }
 
-QString tagOf(ado::Recordset& posting)
-{
-    return VoucherTag{posting["VID"].integer(), posting["vType"].code<VoucherType>()}.text();
-}
+QString figure(const std::optional<double>& amount) { return amount ? moneyText(*amount) : blank; }
 
 } // namespace
 
@@ -44,11 +41,12 @@ AccountBook::AccountBook(qint32 account, const QDate& from, const QDate& to)
     const qint16 id = values::toInt16(account, u"The number of the account"_s);
     OpeningBalance = GetBalance(id, from.addDays(-1));
     addBalance(u"Balance B/F "_s, OpeningBalance);
-    addPostings(account, from, to);
+    readPostings(lines, u"status=0 and AccID=%1 and date between "_s.arg(account) + sqlDates(from, to),
+                 u"    order by date,vid"_s, "refID");
     PeriodNegative = GetNegativeTotal(id, from, to);
     PeriodPositive = GetPositiveTotal(id, from, to);
-    lines.push_back({{blank, blank, blank, u"Current Total "_s, moneyText(-PeriodNegative),
-                      moneyText(PeriodPositive), blank}});
+    lines.push_back(
+        {.kind = blank, .title = u"Current Total "_s, .debit = -PeriodNegative, .credit = PeriodPositive});
     ClosingBalance = GetBalance(id, to);
     addBalance(u"Balance C/F "_s, ClosingBalance);
 }
@@ -58,46 +56,40 @@ void AccountBook::addBalance(const QString& particulars, double balance)
 {
     if (balance == 0)
         return;
-    const bool debit = balance < 0;
-    lines.push_back({{blank,
-                      blank,
-                      {},
-                      particulars,
-                      debit ? moneyText(-balance) : blank,
-                      debit ? blank : moneyText(balance),
-                      blank}});
+    BookLine line{.title = particulars};
+    (balance < 0 ? line.debit : line.credit) = std::abs(balance);
+    lines.push_back(line);
 }
 
-void AccountBook::addPostings(qint32 account, const QDate& from, const QDate& to)
+QStringList AccountBook::cells(const BookLine& line)
 {
-    readPostings(u"status=0 and AccID=%1 and date between "_s.arg(account) + sqlDates(from, to),
-                 u"    order by date,vid"_s, "refID",
-                 [this](ado::Recordset& posting, const QString& day, const QString& title) {
-                     const double amount = posting["Amount"].number();
-                     const bool debit = amount < 0;
-                     lines.push_back({{day, posting["VID"].text(), posting["particulars"].text(), title,
-                                       debit ? moneyText(-amount) : blank, debit ? blank : moneyText(amount),
-                                       posting["Remark"].text()},
-                                      tagOf(posting),
-                                      amount,
-                                      posting["ID"].integer()});
-                 });
+    if (!line.isPosting())
+        return {blank, blank, line.kind, line.title, figure(line.debit), figure(line.credit), blank};
+    return {dateText(line.date), QString::number(line.voucher.number),
+            line.kind,           line.title,
+            figure(line.debit),  figure(line.credit),
+            line.remark};
 }
 
 std::vector<BookLine> daybook::read(const QDate& from, const QDate& to)
 {
     std::vector<BookLine> lines;
-    readPostings(u"status=0 and sr=1 and date between "_s + sqlDates(from, to), u"  order by date,vid "_s,
-                 "accID", [&lines](ado::Recordset& posting, const QString& day, const QString& title) {
-                     lines.push_back(
-                         {{day, posting["VID"].text(), posting["particulars"].text(), title,
-                           moneyText(std::abs(posting["Amount"].number())), posting["Remark"].text()},
-                          tagOf(posting),
-                          posting["Amount"].number(),
-                          posting["ID"].integer()});
-                 });
-    lines.push_back({{blank, blank, blank, u"Total Vouchers : %1"_s.arg(lines.size()), blank, blank}});
+    readPostings(lines, u"status=0 and sr=1 and date between "_s + sqlDates(from, to),
+                 u"  order by date,vid "_s, "accID");
+    lines.push_back({.title = u"Total Vouchers : %1"_s.arg(lines.size())});
     return lines;
+}
+
+QStringList daybook::cells(const BookLine& line)
+{
+    if (!line.isPosting())
+        return {blank, blank, blank, line.title, blank, blank};
+    return {dateText(line.date),
+            QString::number(line.voucher.number),
+            line.kind,
+            line.title,
+            moneyText(line.debit.value_or(line.credit.value_or(0))),
+            line.remark};
 }
 
 void stageStatement(const AccountBook& book)
@@ -108,15 +100,14 @@ void stageStatement(const AccountBook& book)
             for (const BookLine& line : book.lines) {
                 if (!line.isPosting())
                     continue;
-                const double amount = shownMoney(line.amount);
                 staged.AddNew();
-                staged["Date"] = line.cells[AccountBook::Date];
-                staged["VID"] = line.cells[AccountBook::Number];
-                staged["vaucher"] = line.cells[AccountBook::Voucher];
-                staged["particulars"] = line.cells[AccountBook::Particulars];
-                staged["debit"] = amount < 0 ? -amount : 0.0;
-                staged["credit"] = amount < 0 ? 0.0 : amount;
-                staged["Remark"] = line.cells[AccountBook::Remark];
+                staged["Date"] = dateText(line.date);
+                staged["VID"] = line.voucher.number;
+                staged["vaucher"] = line.kind;
+                staged["particulars"] = line.title;
+                staged["debit"] = shownMoney(line.debit.value_or(0));
+                staged["credit"] = shownMoney(line.credit.value_or(0));
+                staged["Remark"] = line.remark;
                 staged.Update();
             }
         });

@@ -1,24 +1,32 @@
 #pragma once
 
+#include "accounts/VoucherTag.h"
+
 #include <QDate>
 #include <QString>
 #include <QStringList>
+#include <optional>
 #include <vector>
 
-/// A row of a book: the texts of its columns, and the voucher behind it. A row of a total has no voucher.
+/// A row of a book: a posting and the voucher behind it, or a total, which has no voucher.
 struct BookLine
 {
-    QStringList cells;
-    QString tag = {};   ///< of its VoucherTag
-    double amount = 0;  ///< of a posting; negative: a debit
-    qint32 posting = 0; ///< its own number in the ledger
+    qint32 posting = 0; ///< its number in the ledger; 0: a total
+    VoucherTag voucher{};
+    QDate date{};
+    QString kind{};                ///< "Sales", "Receipt" ...
+    QString title;                 ///< of the account that it names, or what the total is of
+    std::optional<double> debit{}; ///< a positive figure, as is the next
+    std::optional<double> credit{};
+    QString remark{};
 
-    bool isPosting() const { return !tag.isEmpty(); }
+    bool isPosting() const { return posting != 0; }
+    /// Empty for a total.
+    QString tag() const { return isPosting() ? voucher.text() : QString(); }
 };
 
 /// The book of one account over some days: what was brought forward, the postings, their totals, what is
-/// carried forward. A negative amount stands in the debit column, a positive one in the credit column, both
-/// as positive figures.
+/// carried forward. A negative amount is a debit, a positive one a credit.
 class AccountBook
 {
 public:
@@ -35,12 +43,14 @@ public:
     double PeriodPositive = 0; ///< the sum of the credits
     std::vector<BookLine> lines;
 
+    /// The texts of a line, a column each.
+    static QStringList cells(const BookLine& line);
+
 private:
     void addBalance(const QString& particulars, double balance);
-    void addPostings(qint32 account, const QDate& from, const QDate& to);
 };
 
-/// Puts the postings of a book, as its lines tell them, in place of what is staged for the statement. One
+/// Puts the postings of a book, in place of what is staged for the statement. One
 /// write batch. Throws ado::DatabaseError.
 void stageStatement(const AccountBook& book);
 
@@ -51,5 +61,6 @@ namespace daybook {
 enum Column { Date, Number, Voucher, Particulars, Amount, Remark };
 
 std::vector<BookLine> read(const QDate& from, const QDate& to);
+QStringList cells(const BookLine& line);
 
 } // namespace daybook

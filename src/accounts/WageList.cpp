@@ -21,12 +21,12 @@ WageList::WageList(QWidget* parent)
 
 void WageList::setLines(std::vector<wages::Line> lines)
 {
+    Clear(); // the rows are made of the lines
     m_lines = std::move(lines);
-    std::vector<Row> rows;
-    rows.reserve(m_lines.size());
-    for (const wages::Line& line : m_lines)
-        rows.push_back({line.cells(), QString::number(line.id), {}});
-    setRows(std::move(rows));
+    setRows(int(m_lines.size()), [this](int row) {
+        const wages::Line& line = m_lines[size_t(row)];
+        return Row{line.cells(), QString::number(line.id), {}};
+    });
 }
 
 QString WageList::total() const

@@ -114,10 +114,10 @@ void frmAccountBook::ExecuteSQL()
 
 void frmAccountBook::showBook(AccountBook book, const QString& account)
 {
-    m_book = std::move(book);
+    m_book = std::make_shared<AccountBook>(std::move(book));
     m_account = account;
     m_period = period.text();
-    show(m_book.lines);
+    show(Lines(m_book, &m_book->lines), AccountBook::cells);
     ui->lblShown->setText(account.isEmpty() ? QString() : account + u'\n' + m_period);
 }
 
@@ -198,7 +198,7 @@ void frmAccountBook::printStatement()
 {
     const bool withRemark = ShowMsg(u"Print Account Statement with Remark?"_s, 2);
     const bool shown = !m_account.isEmpty();
-    const auto paper = StatementPaper(m_book, shown ? m_account : ui->cmbAccount->Text(),
+    const auto paper = StatementPaper(*m_book, shown ? m_account : ui->cmbAccount->Text(),
                                       shown ? m_period : period.text(), withRemark);
     report::Preview(*paper).showModal();
     ui->lvSummary->setFocus();

@@ -44,7 +44,7 @@ private:
 
     const std::unique_ptr<Ui::frmAccountBook> ui;
     swSMS* const swSMS1;
-    AccountBook m_book; ///< on the list, with its balances
+    std::shared_ptr<AccountBook> m_book = std::make_shared<AccountBook>(); ///< on the list, with its balances
 
     // What the book on the list is of; empty before the first view.
     QString m_account;

@@ -49,4 +49,7 @@ void frmDayBook::view()
     ui->lvSummary->setFocus();
 }
 
-void frmDayBook::ExecuteSQL() { show(daybook::read(period.from(), period.to())); }
+void frmDayBook::ExecuteSQL()
+{
+    show(std::make_shared<std::vector<BookLine>>(daybook::read(period.from(), period.to())), daybook::cells);
+}

@@ -94,3 +94,36 @@ const QString& LineNames::balance(qint32 client)
 }
 
 const QString& LineNames::date(const QDate& day) { return knownOr(m_dates, day, dateText); }
+
+void LineNames::know(const RegisterLine& line)
+{
+    account(line.client);
+    item(line.item);
+    worker(line.worker);
+    if (!tellsBalances())
+        return;
+    balance(line.client);
+    contact(line.client);
+    if (line.worker != 0)
+        contact(line.worker);
+}
+
+void readLines(const QString& query, LineNames& names, const std::function<void(RegisterLine)>& take)
+{
+    names.readAll(query);
+    each(query, [&](ado::Recordset& row) {
+        RegisterLine line{.id = row["ID"].integer(),
+                          .code = {row["JobID"].integer(), row["ItemSr"].integer()},
+                          .booked = row["Date"].date(),
+                          .promised = row["JobDelDate"].date(),
+                          .client = row["ClintID"].integer(),
+                          .item = row["ItemID"].integer(),
+                          .worker = row["WorkerID"].integer(),
+                          .state = markOf(row["DoneByWorker"]),
+                          .cutting = markOf(row["CuttingStatus"]),
+                          .remark = row["Remarks"].text(),
+                          .location = row["Loc"].isNull() ? QString() : row["Loc"].text()};
+        names.know(line);
+        take(std::move(line));
+    });
+}

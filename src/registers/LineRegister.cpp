@@ -2,7 +2,6 @@
 
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
-#include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "jobcards/frmEditWorkerAssign.h"
 #include "platform/forms/ComboBox.h"
@@ -169,39 +168,41 @@ QString LineRegister::searchText() const
     return allLines + between + period().betweenShort() + order();
 }
 
-/// What the rows had when a line is at fault is shown without a total.
+/// The lines before one at fault are shown without a total.
 void LineRegister::ExecuteSQL()
 {
     m_criteria.period.order();
     m_criteria.help->setNotice(m_inShop ? u"Only what is still in the shop: Alt+V shows all"_s : QString());
     explainEmpty({});
     session.RefreshLists = false; // also if it fails: the message comes once, not at each activation
-    std::vector<forms::ListView::Row> rows;
+    m_shown = std::make_shared<Shown>();
+    m_shown->names = LineNames(m_criteria.balances ? period().to() : QDate());
     try {
-        readLines(rows);
+        SearchSql = searchText();
+        readLines(SearchSql, m_shown->names, [this](RegisterLine line) {
+            if (!m_inShop || isInShop(LineState(line.state)))
+                m_shown->lines.push_back(std::move(line));
+        });
     } catch (...) {
-        m_criteria.list->setRows(std::move(rows));
+        showLines(false);
         throw;
     }
-    rows.push_back(totalRow(rows.size()));
-    m_criteria.list->setRows(std::move(rows));
+    showLines(true);
 }
 
-void LineRegister::readLines(std::vector<forms::ListView::Row>& rows)
+void LineRegister::showLines(bool withTotal)
 {
-    SearchSql = searchText();
-    LineNames names(m_criteria.balances ? period().to() : QDate());
-    names.readAll(SearchSql);
-    each(SearchSql, [&](ado::Recordset& lines) {
-        if (!m_inShop || isInShop(lines["DoneByWorker"].code<LineState>()))
-            rows.push_back(rowOf(lines, names));
+    const size_t count = m_shown->lines.size();
+    m_criteria.list->setRows(int(count) + int(withTotal), [this, shown = m_shown, count](int row) {
+        return size_t(row) < count ? rowOf(shown->lines[size_t(row)], shown->names) : totalRow(count);
     });
 }
 
-void LineRegister::keepLines(const std::function<bool(const QStringList&)>& stays)
+void LineRegister::keepLines(const std::function<bool(const RegisterLine&)>& stays)
 {
-    m_criteria.list->keepRows([&stays](const forms::ListView::Row& row) { return stays(row.cells); });
-    m_criteria.list->addRow(totalRow(size_t(m_criteria.list->rowCount())));
+    m_criteria.list->Clear();
+    std::erase_if(m_shown->lines, [&stays](const RegisterLine& line) { return !stays(line); });
+    showLines(true);
 }
 
 forms::ListView::Row LineRegister::totalRow(size_t lines) const
@@ -217,7 +218,7 @@ forms::ListView::Row LineRegister::totalRow(size_t lines) const
 
 void LineRegister::RemoveUnwanted(const QString& condition)
 {
-    keepLines([&](const QStringList& cells) { return cells.value(m_criteria.statusColumn) == condition; });
+    keepLines([&](const RegisterLine& line) { return statusName(line.state) == condition; });
 }
 
 void LineRegister::applyCondition(const QString& condition) { RemoveUnwanted(condition); }
@@ -231,7 +232,7 @@ void LineRegister::conditionStep()
     }
     forms::ListView& list = *m_criteria.list;
     list.setTopRow(std::exchange(m_topRow, -1));
-    if (ReturnIndex >= 1 && tagOf(list, ReturnIndex - 1) != 0)
+    if (isLine(ReturnIndex - 1))
         list.selectRow(ReturnIndex - 1);
 }
 
@@ -264,7 +265,7 @@ void LineRegister::enterList()
 {
     forms::ListView& list = *m_criteria.list;
     list.setFocus();
-    if (list.selectedRow() < 0 && tagOf(list, 0) != 0)
+    if (list.selectedRow() < 0 && isLine(0))
         list.selectRow(0);
 }
 
@@ -309,7 +310,7 @@ void LineRegister::findJob()
         QApplication::beep();
         m_criteria.help->setNotice(u"There is no line %1: nothing is chosen"_s.arg(typed));
     }
-    if (line < 0 || tagOf(list, line) == 0) {
+    if (!isLine(line)) {
         m_criteria.jobId->setFocus();
         m_criteria.jobId->selectAll();
         return;
@@ -324,9 +325,8 @@ int LineRegister::rowOfCode(const QString& typed) const
     const std::optional<LineCode> code = readLineCode(typed);
     if (!code)
         return -1;
-    const QString name = lineCodeText(QString::number(code->job), QString::number(code->item));
-    int row = m_criteria.list->rowCount() - 1;
-    while (row >= 0 && m_criteria.list->cell(row, m_criteria.jobColumn) != name)
+    int row = int(m_shown->lines.size()) - 1;
+    while (row >= 0 && m_shown->lines[size_t(row)].code != *code)
         --row;
     return row;
 }
@@ -343,7 +343,17 @@ void LineRegister::leaveCard()
 
 // The selected row
 
-qint32 LineRegister::selectedLine() const { return tagOf(*m_criteria.list, m_criteria.list->selectedRow()); }
+const RegisterLine* LineRegister::selected() const
+{
+    const int row = m_criteria.list->selectedRow();
+    return isLine(row) ? &m_shown->lines[size_t(row)] : nullptr;
+}
+
+qint32 LineRegister::selectedLine() const
+{
+    const RegisterLine* line = selected();
+    return line ? line->id : 0;
+}
 
 /// Opens the line in the workshop's screen.
 void LineRegister::openLine()

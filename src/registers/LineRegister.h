@@ -3,15 +3,15 @@
 #include "platform/forms/ListView.h"
 #include "platform/forms/Screen.h"
 #include "platform/values/Literals.h"
+#include "registers/JobLines.h"
 #include "ui/Period.h"
 
+#include <memory>
+#include <vector>
+
 class HelpLine;
-class LineNames;
 class QLineEdit;
 class QPushButton;
-namespace ado {
-class Recordset;
-}
 namespace forms {
 class ComboBox;
 }
@@ -26,7 +26,7 @@ QPixmap statusDot(qint32 state);
 inline const QString allLines = u"Select * from JOBS_Detail where "_s;
 
 /// Base of the registers of job lines: criteria over a list with a row for each line and a total row. The
-/// list is built anew, whole, from the criteria; the condition then works on the texts of its rows. A
+/// list is built anew, whole, from the criteria; the condition then takes lines off it. A
 /// register that comes back to the front does so when the session says that its list may be out of date.
 class LineRegister : public forms::Screen
 {
@@ -54,8 +54,6 @@ protected:
     struct Criteria
     {
         forms::ListView* list;
-        int jobColumn;
-        int statusColumn;
         Period period;
         QLineEdit* jobId;
         forms::ComboBox* worker;
@@ -81,8 +79,8 @@ protected:
     virtual QString searchText() const;
     /// The order of the lines, with "order by".
     virtual QString order() const = 0;
-    /// The row of the line on which `line` stands.
-    virtual forms::ListView::Row rowOf(ado::Recordset& line, LineNames& names) const = 0;
+    /// The row of a line.
+    virtual forms::ListView::Row rowOf(const RegisterLine& line, LineNames& names) const = 0;
     /// How the operator gets at a client's lines of other days, for a list that has none of these.
     virtual QString otherDaysHint() const = 0;
     /// Takes the lines off the list that the condition does not want: those of other states.
@@ -92,8 +90,8 @@ protected:
 
     /// Keeps the lines of a state; takes the text of the condition.
     void RemoveUnwanted(const QString& condition);
-    /// Keeps the lines that `stays` wants, and counts them anew. The total row itself is asked too.
-    void keepLines(const std::function<bool(const QStringList& cells)>& stays);
+    /// Keeps the lines that `stays` wants, and counts them anew.
+    void keepLines(const std::function<bool(const RegisterLine& line)>& stays);
 
     /// Rebuilds the list under its condition and comes back to the row kept in ReturnIndex. Where the last
     /// line has left the list none is selected: a key must not work on a line that nobody chose.
@@ -108,8 +106,11 @@ protected:
     void keepPosition();
     /// Opens another screen that works on the selected row's line, and refreshes the list after it, once.
     void openOnRow(const std::function<void()>& open);
-    /// The line of the selected row; 0 for the total row, and for none.
+    /// The line of the selected row; null for the total row, and for none.
+    const RegisterLine* selected() const;
+    /// Its number; 0 for none.
     qint32 selectedLine() const;
+    LineNames& names() const { return m_shown->names; }
     /// "with the job date 10-Feb-2024": which lines the days mean.
     QString daysText() const;
     Period period() const { return m_criteria.period; }
@@ -128,11 +129,19 @@ private:
     void leaveCard();
     void openLine();
     void explainEmpty(const QString& condition);
-    void readLines(std::vector<forms::ListView::Row>& rows);
+    void showLines(bool withTotal);
+    bool isLine(int row) const { return row >= 0 && size_t(row) < m_shown->lines.size(); }
     forms::ListView::Row totalRow(size_t lines) const;
 
     Criteria m_criteria{};
     Beginning m_beginning;
+    /// What is on the list, without the total. Its rows are made of this, and keep it until others come.
+    struct Shown
+    {
+        std::vector<RegisterLine> lines{};
+        LineNames names{{}};
+    };
+    std::shared_ptr<Shown> m_shown = std::make_shared<Shown>();
     bool m_inShop = false;  ///< lines that are delivered or canceled are left out
     int m_topRow = -1;      ///< of the list as it stood on the screen; -1: from its beginning
     bool m_opening = false; ///< the refresh after a screen above is under way already

@@ -14,8 +14,6 @@ frmDeliveryRegister::frmDeliveryRegister()
 {
     ui->setupUi(this);
     setCriteria({.list = ui->lvSummary,
-                 .jobColumn = JobColumn,
-                 .statusColumn = StatusColumn,
                  .period = {ui->DateFrom, ui->DateTo, Period::Of::PromisedDays},
                  .jobId = ui->txtSearchID,
                  .worker = ui->cmbClient,
@@ -50,20 +48,17 @@ void frmDeliveryRegister::Form_Activate()
 
 QString frmDeliveryRegister::order() const { return u" order by JobDelDate,id"_s; }
 
-forms::ListView::Row frmDeliveryRegister::rowOf(ado::Recordset& line, LineNames& names) const
+forms::ListView::Row frmDeliveryRegister::rowOf(const RegisterLine& line, LineNames& names) const
 {
-    const QDate delivery = line["JobDelDate"].date();
-    const qint32 state = markOf(line["DoneByWorker"]);
     forms::ListView::Row row;
-    row.cells << names.date(delivery) << names.date(line["Date"].date()) << daysAhead(delivery) + " Days"_L1
-              << lineCodeText(line["JobID"].text(), line["ItemSr"].text())
-              << names.account(line["ClintID"].integer()) << names.item(line["ItemID"].integer())
-              << line["Remarks"].text() << names.worker(line["WorkerID"].integer());
-    if (state != qint32(LineState::Canceled)) { // a canceled line is nobody's to deliver
-        row.cells << statusName(state);
-        row.looks[StatusColumn].picture = statusDot(state);
+    row.cells << names.date(line.promised) << names.date(line.booked) << daysAhead(line.promised) + " Days"_L1
+              << lineCodeText(line.code) << names.account(line.client) << names.item(line.item) << line.remark
+              << names.worker(line.worker);
+    if (!line.isIn(LineState::Canceled)) { // a canceled line is nobody's to deliver
+        row.cells << statusName(line.state);
+        row.looks[StatusColumn].picture = statusDot(line.state);
     }
-    row.tag = line["ID"].text();
+    row.tag = QString::number(line.id);
     return row;
 }
 

@@ -20,12 +20,12 @@ protected:
     void Form_Activate() override;
     void Form_KeyPress(int& key) override;
     QString order() const override;
-    forms::ListView::Row rowOf(ado::Recordset& line, LineNames& names) const override;
+    forms::ListView::Row rowOf(const RegisterLine& line, LineNames& names) const override;
     void quickFind() override;
     QString otherDaysHint() const override;
 
 private:
-    enum Column { JobColumn = 3, StatusColumn = 8 };
+    enum Column { StatusColumn = 8 };
 
     void chooseDays(int mode);
 

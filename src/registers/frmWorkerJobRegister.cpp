@@ -1,6 +1,6 @@
 #include "registers/frmWorkerJobRegister.h"
 
-#include "core/store/DE.h"
+#include "core/store/Codes.h"
 #include "core/store/Lookups.h"
 #include "jobcards/ItemCounts.h"
 #include "planning/frmWorkerReport2.h"
@@ -25,8 +25,6 @@ frmWorkerJobRegister::frmWorkerJobRegister()
 {
     ui->setupUi(this);
     setCriteria({.list = ui->lvSummary,
-                 .jobColumn = JobColumn,
-                 .statusColumn = StatusColumn,
                  .period = {ui->DateFrom, ui->DateTo},
                  .jobId = ui->txtSearchID,
                  .worker = ui->cmbClient,
@@ -97,28 +95,25 @@ void frmWorkerJobRegister::ExecuteSQL()
     fillDetails();
 }
 
-/// One line's row. A mark outside its code has no cell of its own: what follows moves up.
-forms::ListView::Row frmWorkerJobRegister::rowOf(ado::Recordset& line, LineNames& names) const
+/// A mark outside its code has no cell of its own: what follows moves up.
+forms::ListView::Row frmWorkerJobRegister::rowOf(const RegisterLine& line, LineNames& names) const
 {
-    const qint32 client = line["ClintID"].integer();
-    const qint32 worker = line["WorkerID"].integer();
-    const QDate delivery = line["JobDelDate"].date();
-    const qint32 state = markOf(line["DoneByWorker"]);
     forms::ListView::Row row;
-    row.cells << names.date(line["Date"].date()) << lineCodeText(line["JobID"].text(), line["ItemSr"].text())
-              << names.account(client) << names.item(line["ItemID"].integer()) << line["Remarks"].text()
-              << names.date(delivery) + " ("_L1 + daysAhead(delivery) + " D)"_L1 << names.worker(worker);
-    row.looks[ClientColumn].toolTip = names.contact(client);
-    if (worker != 0)
-        row.looks[WorkerColumn].toolTip = names.contact(worker);
-    if (const QString cutting = cuttingName(markOf(line["CuttingStatus"])); !cutting.isNull())
+    row.cells << names.date(line.booked) << lineCodeText(line.code) << names.account(line.client)
+              << names.item(line.item) << line.remark
+              << names.date(line.promised) + " ("_L1 + daysAhead(line.promised) + " D)"_L1
+              << names.worker(line.worker);
+    row.looks[ClientColumn].toolTip = names.contact(line.client);
+    if (line.worker != 0)
+        row.looks[WorkerColumn].toolTip = names.contact(line.worker);
+    if (const QString cutting = cuttingName(line.cutting); !cutting.isNull())
         row.cells << cutting;
-    if (const QString status = statusName(state); !status.isNull()) {
-        row.looks[int(row.cells.size())].picture = statusDot(state);
+    if (const QString status = statusName(line.state); !status.isNull()) {
+        row.looks[int(row.cells.size())].picture = statusDot(line.state);
         row.cells << status;
     }
-    row.cells << (line["Loc"].isNull() ? blank : line["Loc"].text()) << names.balance(client);
-    row.tag = line["ID"].text();
+    row.cells << (line.location.isNull() ? blank : line.location) << names.balance(line.client);
+    row.tag = QString::number(line.id);
     return row;
 }
 
@@ -147,18 +142,14 @@ void frmWorkerJobRegister::applyCondition(const QString& condition)
 
 void frmWorkerJobRegister::RemoveUnwanted2(const QString& condition)
 {
-    const QString mark = cuttingName(condition == u"Cutting Done" ? 1 : 0);
-    keepLines([&](const QStringList& cells) { return cells.value(CuttingColumn) == mark; });
+    const CuttingMark mark = condition == u"Cutting Done" ? CuttingMark::Done : CuttingMark::NotDone;
+    keepLines([mark](const RegisterLine& line) { return line.cutting == qint32(mark); });
 }
 
 void frmWorkerJobRegister::RemoveUnwanted3(const QString& condition)
 {
-    if (condition == u"Assigned")
-        keepLines([](const QStringList& cells) {
-            return cells.value(WorkerColumn) != noWorker && cells.value(JobColumn) != blank;
-        });
-    else
-        keepLines([](const QStringList& cells) { return cells.value(WorkerColumn) == noWorker; });
+    const bool assigned = condition == u"Assigned";
+    keepLines([assigned](const RegisterLine& line) { return (line.worker != 0) == assigned; });
 }
 
 // Criteria

@@ -31,13 +31,13 @@ protected:
     void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
     QString searchText() const override;
     QString order() const override;
-    forms::ListView::Row rowOf(ado::Recordset& line, LineNames& names) const override;
+    forms::ListView::Row rowOf(const RegisterLine& line, LineNames& names) const override;
     void applyCondition(const QString& condition) override;
     void quickFind() override;
     QString otherDaysHint() const override;
 
 private:
-    enum Column { JobColumn = 1, ClientColumn = 2, WorkerColumn = 6, CuttingColumn = 7, StatusColumn = 8 };
+    enum Column { ClientColumn = 2, WorkerColumn = 6 };
 
     // Filling
     QString workerSearch(const QString& workerId) const;

@@ -61,11 +61,11 @@ void frmWorkerJobRegister::askMenu(int row, const QPoint& place)
 
 // The selected row
 
-/// The number before the "/"; 0 on the total row.
+/// The number of its card; 0 on the total row.
 qint32 frmWorkerJobRegister::selectedJob() const
 {
-    return values::CLng(values::Val(ui->lvSummary->cell(ui->lvSummary->selectedRow(), JobColumn)),
-                        u"Job ID"_s);
+    const RegisterLine* line = selected();
+    return line ? line->code.job : 0;
 }
 
 bool frmWorkerJobRegister::asked(const QString& question) const { return ShowMsg(question, 2); }
@@ -158,7 +158,8 @@ void frmWorkerJobRegister::openJobCard()
 /// Of the selected row; empty on the total row.
 QString frmWorkerJobRegister::selectedClient() const
 {
-    return selectedLine() == 0 ? QString() : ui->lvSummary->cell(ui->lvSummary->selectedRow(), ClientColumn);
+    const RegisterLine* line = selected();
+    return line ? names().account(line->client) : QString();
 }
 
 void frmWorkerJobRegister::openClientAccount()

@@ -25,6 +25,11 @@ QString balanceText(double balance)
 
 QString lineCodeText(const QString& job, const QString& item) { return job + u'/' + item; }
 
+QString lineCodeText(const LineCode& code)
+{
+    return lineCodeText(QString::number(code.job), QString::number(code.item));
+}
+
 std::optional<LineCode> readLineCode(const QString& text)
 {
     const QStringList parts = text.trimmed().split(u'/');

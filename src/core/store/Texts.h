@@ -25,9 +25,12 @@ QString balanceText(double balance);
 /// A line of a job card as the lists name it and its barcode holds it: "1436/2".
 struct LineCode
 {
-    qint32 job;
-    qint32 item; ///< from 1, within the card
+    qint32 job = 0;
+    qint32 item = 0; ///< from 1, within the card
+
+    bool operator==(const LineCode&) const = default;
 };
+QString lineCodeText(const LineCode& code);
 QString lineCodeText(const QString& job, const QString& item);
 /// Reads one, blanks around it left out; nothing for any other text.
 std::optional<LineCode> readLineCode(const QString& text);

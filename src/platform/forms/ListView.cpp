@@ -4,6 +4,7 @@
 #include "platform/forms/Palette.h"
 
 #include <QAbstractTableModel>
+#include <QCache>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -23,6 +24,7 @@ namespace {
 constexpr int heightOfRow = 32;
 constexpr int paddingOfCell = 18; // left and right of the text
 constexpr int gapOfPicture = 6;
+constexpr int rowsKept = 256; // of those made one by one: more than any view shows
 constexpr qsizetype longestTip = 1000;
 constexpr qsizetype longestShown = 300; // more than any column has room for
 
@@ -74,7 +76,9 @@ public:
 
     int rowCount(const QModelIndex& parent = {}) const override
     {
-        return parent.isValid() ? 0 : int(m_rows.size());
+        if (parent.isValid())
+            return 0;
+        return m_make ? m_count : int(m_rows.size());
     }
     int columnCount(const QModelIndex& parent = {}) const override
     {
@@ -84,17 +88,17 @@ public:
     {
         if (!has(index.row()) || index.column() < 0 || index.column() >= columnCount())
             return {};
-        if (role == Qt::DisplayRole)
-            return oneLine(m_rows[size_t(index.row())].cells.value(index.column()));
         if (role == Qt::TextAlignmentRole)
             return alignment(index.column());
         if (role == Qt::SizeHintRole)
             return QSize(0, heightOfRow);
-        if (role == Qt::BackgroundRole && m_rows[size_t(index.row())].apart)
+        const Row& shown = *row(index.row());
+        if (role == Qt::DisplayRole)
+            return oneLine(shown.cells.value(index.column()));
+        if (role == Qt::BackgroundRole && shown.apart)
             return QBrush(QColor(palette::shade));
-        const QMap<int, Look>& looks = m_rows[size_t(index.row())].looks;
-        const auto look = looks.constFind(index.column());
-        return look == looks.cend() ? QVariant() : data(*look, role);
+        const auto look = shown.looks.constFind(index.column());
+        return look == shown.looks.cend() ? QVariant() : data(*look, role);
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
@@ -111,18 +115,35 @@ public:
     void setColumns(const std::vector<Column>& columns)
     {
         beginResetModel();
-        m_rows.clear();
+        clear();
         m_columns = columns;
         endResetModel();
     }
-    bool isEmpty() const
-    {
-        return std::all_of(m_rows.begin(), m_rows.end(), [](const Row& row) { return row.total; });
-    }
+    /// Whether there is nothing but a total.
+    bool isEmpty() const { return rowCount() == 0 || (rowCount() == 1 && row(0)->total); }
     bool has(int row) const { return row >= 0 && row < rowCount(); }
-    Row* row(int row) { return has(row) ? &m_rows[size_t(row)] : nullptr; }
+    /// Null outside the list. What it points to stays until another row is asked for.
+    const Row* row(int row) const
+    {
+        if (!has(row))
+            return nullptr;
+        if (!m_make)
+            return &m_rows[size_t(row)];
+        if (const Row* made = m_made.object(row))
+            return made;
+        auto* made = new Row(m_make(row));
+        m_made.insert(row, made);
+        return made;
+    }
+    /// For a change; the rows that were to be made are all made then.
+    Row* rowToChange(int row)
+    {
+        makeAll();
+        return has(row) ? &m_rows[size_t(row)] : nullptr;
+    }
     int add(Row&& row)
     {
+        makeAll();
         const int number = rowCount();
         beginInsertRows({}, number, number);
         m_rows.push_back(std::move(row));
@@ -132,6 +153,7 @@ public:
     void changed(int row) { Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1)); }
     void remove(int row)
     {
+        makeAll();
         beginRemoveRows({}, row, row);
         m_rows.erase(m_rows.begin() + row);
         endRemoveRows();
@@ -139,17 +161,36 @@ public:
     void replace(std::vector<Row>&& rows)
     {
         beginResetModel();
+        clear();
         m_rows = std::move(rows);
         endResetModel();
     }
-    void keep(const std::function<bool(const Row&)>& stays)
+    void replace(int count, std::function<Row(int row)>&& make)
     {
         beginResetModel();
-        std::erase_if(m_rows, [&stays](const Row& row) { return !stays(row); });
+        clear();
+        m_count = count;
+        m_make = std::move(make);
         endResetModel();
     }
 
 private:
+    void clear()
+    {
+        m_rows.clear();
+        m_made.clear();
+        m_make = nullptr;
+    }
+    void makeAll()
+    {
+        if (!m_make)
+            return;
+        m_rows.reserve(size_t(m_count));
+        for (int row = 0; row < m_count; ++row)
+            m_rows.push_back(m_make(row));
+        m_made.clear();
+        m_make = nullptr;
+    }
     static QString oneLine(QString text)
     {
         return text.contains(u'\n') ? text.remove(u'\r').replace(u'\n', u' ') : text;
@@ -178,7 +219,10 @@ private:
     }
 
     std::vector<Column> m_columns;
-    std::vector<Row> m_rows;
+    std::vector<Row> m_rows; ///< empty while rows are made one by one
+    int m_count = 0;         ///< of the rows that `m_make` makes
+    std::function<Row(int)> m_make;
+    mutable QCache<int, Row> m_made{rowsKept};
 };
 
 ListView::ListView(QWidget* parent)
@@ -218,35 +262,57 @@ void ListView::setRows(std::vector<Row> rows)
     anew([&] { m_rows->replace(std::move(rows)); });
 }
 
+void ListView::setRows(int count, std::function<Row(int)> make)
+{
+    anew([&] { m_rows->replace(count, std::move(make)); });
+}
+
 void ListView::refreshRows(std::vector<Row> rows)
+{
+    refresh([&] { setRows(std::move(rows)); });
+}
+
+void ListView::refreshRows(int count, std::function<Row(int)> make)
+{
+    refresh([&] { setRows(count, std::move(make)); });
+}
+
+/// Rows of the same tag stand together: the second of them stays the second.
+void ListView::refresh(const std::function<void()>& change)
 {
     const int position = selectedRow();
     const QString selected = tag(position);
-    int row = std::min(position, int(rows.size()) - 1);
-    if (!selected.isEmpty()) {
-        int before = 0; // rows of the same tag above it
-        for (int above = 0; above < position; ++above)
-            before += tag(above) == selected ? 1 : 0;
-        for (int each = 0; each < int(rows.size()) && before >= 0; ++each)
-            if (rows[size_t(each)].tag == selected) {
-                row = each;
-                --before;
-            }
-    }
-    setRows(std::move(rows));
+    int before = 0;
+    while (!selected.isEmpty() && position > before && tag(position - before - 1) == selected)
+        ++before;
+    change();
     if (position >= 0)
-        selectRow(row);
+        selectRow(rowLike(selected, before, std::min(position, rowCount() - 1)));
+}
+
+/// The row of the tag that is nearest to `position`, of several together the one with so many before it; else
+/// the row there.
+int ListView::rowLike(const QString& wanted, int before, int position) const
+{
+    const auto isIt = [&](int row) { return m_rows->has(row) && tag(row) == wanted; };
+    for (int distance = 0; !wanted.isEmpty() && distance < rowCount(); ++distance) {
+        for (int row : {position - distance, position + distance}) {
+            if (!isIt(row))
+                continue;
+            while (isIt(row - 1))
+                --row;
+            while (before-- > 0 && isIt(row + 1))
+                ++row;
+            return row;
+        }
+    }
+    return position;
 }
 
 void ListView::showMenu(QMenu& menu, const QPoint& place)
 {
     menu.popup(place);
     menu.setActiveAction(menu.actions().value(0));
-}
-
-void ListView::keepRows(const std::function<bool(const Row&)>& stays)
-{
-    anew([&] { m_rows->keep(stays); });
 }
 
 /// Changes the rows as a whole; the selection goes with them.
@@ -260,7 +326,7 @@ void ListView::anew(const std::function<void()>& change)
 
 void ListView::setRow(int row, const QStringList& cells)
 {
-    if (Row* found = m_rows->row(row)) {
+    if (Row* found = m_rows->rowToChange(row)) {
         found->cells = cells;
         m_rows->changed(row);
     }
@@ -268,7 +334,7 @@ void ListView::setRow(int row, const QStringList& cells)
 
 void ListView::setCell(int row, int column, const QString& text)
 {
-    Row* found = m_rows->row(row);
+    Row* found = m_rows->rowToChange(row);
     if (!found || column < 0 || column >= m_rows->columnCount())
         return;
     while (found->cells.size() <= column)
@@ -291,7 +357,7 @@ QString ListView::tag(int row) const
 
 void ListView::setTag(int row, const QString& tag)
 {
-    if (Row* found = m_rows->row(row))
+    if (Row* found = m_rows->rowToChange(row))
         found->tag = tag;
 }
 
@@ -303,7 +369,7 @@ ListView::Look ListView::look(int row, int column) const
 
 void ListView::setLook(int row, int column, const Look& look)
 {
-    if (Row* found = m_rows->row(row)) {
+    if (Row* found = m_rows->rowToChange(row)) {
         found->looks[column] = look;
         m_rows->changed(row);
     }

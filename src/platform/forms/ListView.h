@@ -13,7 +13,7 @@ class QMenu;
 namespace forms {
 
 /// A list in report view: columns with titles, rows of cells, a tag on each row. Rows are selected whole and
-/// not edited. Its model is light: 30,000 rows are no trouble.
+/// not edited.
 class ListView : public QTreeView
 {
     Q_OBJECT
@@ -60,11 +60,14 @@ public:
     int addRow(Row row);
     /// Puts other rows in place of all, at once; none is selected then.
     void setRows(std::vector<Row> rows);
+    /// Puts `count` rows in place of all, each made when it is shown, searched or leaves the list: a list of
+    /// every line of six years opens at once. `make` gets the row's number. It must not throw, and say the
+    /// same each time; what it reads lives until the list gets other rows.
+    void setRows(int count, std::function<Row(int row)> make);
     /// The same, but the row that was selected stays so, by its tag, the second of a tag the second; where
     /// the tag is gone or empty, the one in its place.
     void refreshRows(std::vector<Row> rows);
-    /// Removes, at once, the rows that `stays` does not want; none is selected then.
-    void keepRows(const std::function<bool(const Row& row)>& stays);
+    void refreshRows(int count, std::function<Row(int row)> make);
     void setRow(int row, const QStringList& cells);
     void setCell(int row, int column, const QString& text);
     /// Empty outside the list, as is the tag.
@@ -113,6 +116,8 @@ protected:
 private:
     class Model;
     void anew(const std::function<void()>& change);
+    void refresh(const std::function<void()>& change);
+    int rowLike(const QString& wanted, int before, int position) const;
     void askMenuAtSelection();
     QString tipFor(const QModelIndex& index) const;
     void layOutColumns();
