@@ -8,12 +8,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr double heightOfScreen = 0.97;
-
-} // namespace
-
 bool openVoucher(QWidget* screen, const QString& tag, qint32 posting)
 {
     const VoucherTag voucher = VoucherTag::of(tag);
@@ -42,7 +36,7 @@ void Book::setBook(forms::ListView* list, const Period& days)
 
 void Book::Form_Load()
 {
-    useScreenHeight(heightOfScreen);
+    useScreenHeight();
     period.set(session.WorkingDate, session.WorkingDate);
 }
 

@@ -4,12 +4,6 @@
 #include "ui/modLang.h"
 #include "ui_frmPayrollDetails.h"
 
-namespace {
-
-constexpr double heightOfScreen = 0.97;
-
-} // namespace
-
 frmPayrollDetails::frmPayrollDetails()
     : ui(std::make_unique<Ui::frmPayrollDetails>())
 {
@@ -22,7 +16,7 @@ frmPayrollDetails::~frmPayrollDetails() = default;
 void frmPayrollDetails::Form_Load()
 {
     SetFormLanguage(*this);
-    useScreenHeight(heightOfScreen);
+    useScreenHeight();
     session.RefreshLists = true;
     ui->lvSummary->setFocus();
 }

@@ -16,12 +16,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr double heightOfScreen = 0.97;
-
-} // namespace
-
 frmWorkerWagesRegister::frmWorkerWagesRegister()
     : ui(std::make_unique<Ui::frmWorkerWagesRegister>())
 {
@@ -63,7 +57,7 @@ frmWorkerWagesRegister::~frmWorkerWagesRegister() = default;
 void frmWorkerWagesRegister::Form_Load()
 {
     SetFormLanguage(*this);
-    useScreenHeight(heightOfScreen);
+    useScreenHeight();
     session.RefreshLists = true;
     m_period.set(session.WorkingDate, session.WorkingDate);
     FillList(u"title"_s, u"Accounts"_s, whereType(AccountType::Worker), *ui->cmbClient, DE.rsaccounts);
@@ -76,7 +70,7 @@ void frmWorkerWagesRegister::Form_Load()
 
 void frmWorkerWagesRegister::Form_Activate()
 {
-    if (session.RefreshLists)
+    if (session.RefreshLists.count() != m_filledAt)
         ExecuteSQL();
 }
 
@@ -135,6 +129,7 @@ void frmWorkerWagesRegister::ExecuteSQL()
 void frmWorkerWagesRegister::showLines()
 {
     session.RefreshLists = false; // also if it fails: the message comes once, not at each activation
+    m_filledAt = session.RefreshLists.count();
     ui->lvSummary->setLines({});
     ui->lblTotal->clear();
     if (ListSql.isEmpty())

@@ -50,6 +50,7 @@ private:
 
     wages::Scope m_shown;    ///< what the list is about, whatever stands in the boxes by now
     QString m_shownWorker;   ///< the worker's title; empty before a first view
+    quint64 m_filledAt = 0;  ///< count of the changes that the list shows
     bool m_daysSeen = false; ///< the keys have been on the days
     QString ListSql;         ///< of the list
     bool UnpaidView = false; ///< the list has the unpaid lines

@@ -4,7 +4,7 @@
 #include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
-#include "jobcards/PaperDesign.h"
+#include "platform/report/PaperDesign.h"
 #include "platform/values/Numbers.h"
 
 using namespace Qt::StringLiterals;
@@ -72,9 +72,7 @@ rptAccountsBooks::rptAccountsBooks(bool withRemark)
     designPosting();
     designTotals();
     Section& foot = addSection(u"Section5"_s, Band::PageFoot, 320);
-    Label& number = paper::caption(foot, u"lblPage"_s, u"Page %p of %P"_s, 0, 60, Width);
-    number.CountsPages = true;
-    number.Alignment = Qt::AlignRight;
+    paper::pageNumber(foot, u"Page %p of %P"_s, 0, 60, Width).FontSize = 9;
 }
 
 void rptAccountsBooks::designShop()
@@ -86,12 +84,7 @@ void rptAccountsBooks::designShop()
     address.Color = palette::ink;
     address.Alignment = Qt::AlignHCenter;
     address.CanGrow = true;
-    Label& title = shop.addLabel(u"lblReport"_s, Title);
-    title.place(0, 860, Width, 340);
-    title.FontSize = 13;
-    title.Bold = true;
-    title.Color = palette::quietInk;
-    title.Alignment = Qt::AlignHCenter;
+    paper::subtitle(shop, u"lblReport"_s, Title, 860, Width, 13).Bold = true;
     shop.Height = 1280;
 }
 

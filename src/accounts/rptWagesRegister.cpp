@@ -2,7 +2,7 @@
 
 #include "core/store/Rows.h"
 #include "core/store/Session.h"
-#include "jobcards/PaperDesign.h"
+#include "platform/report/PaperDesign.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,27 +17,16 @@ constexpr int Margin = 620;
 constexpr int Width = mm(210) - 2 * Margin;
 constexpr int Gap = 70;
 
-struct Column
-{
-    const char* title;
-    const char* caption;
-    const char* field;
-    const char* dataField;
-    int left;
-    int width;
-    QString format;
-};
-
 /// The money stands right-aligned, with room to what follows it.
-const Column columns[] = {
-    {"Label2", "Date", "txtDate", "date", Gap, 1280, Day},
-    {"Label3", "JOB ID", "txtJobID", "Jobid", 1410, 930, {}},
-    {"Label4", "Client Name", "txtClient", "client", 2360, 1680, {}},
-    {"Label5", "Item", "txtItem", "item", 4070, 1430, {}},
-    {"Label6", "Amount", "txtWages", "wages", 5510, 940, Money},
-    {"Label7", "Balance", "txtBalance", "balance", 6470, 1200, Money},
-    {"Label8", "Completed Date", "txtCompleted", "completed", 7830, 1480, {}},
-    {"Label9", "Paid  Unpaid", "txtStatus", "status", 9360, Width - 9360, {}},
+const std::vector<paper::Column> columns = {
+    {u"Label2"_s, u"Date"_s, u"txtDate"_s, u"date"_s, Gap, 1280, Day},
+    {u"Label3"_s, u"JOB ID"_s, u"txtJobID"_s, u"Jobid"_s, 1410, 930},
+    {u"Label4"_s, u"Client Name"_s, u"txtClient"_s, u"client"_s, 2360, 1680},
+    {u"Label5"_s, u"Item"_s, u"txtItem"_s, u"item"_s, 4070, 1430},
+    {u"Label6"_s, u"Amount"_s, u"txtWages"_s, u"wages"_s, 5510, 940, Money, Qt::AlignRight},
+    {u"Label7"_s, u"Balance"_s, u"txtBalance"_s, u"balance"_s, 6470, 1200, Money, Qt::AlignRight},
+    {u"Label8"_s, u"Completed Date"_s, u"txtCompleted"_s, u"completed"_s, 7830, 1480},
+    {u"Label9"_s, u"Paid  Unpaid"_s, u"txtStatus"_s, u"status"_s, 9360, Width - 9360},
 };
 
 } // namespace
@@ -50,11 +39,7 @@ rptWagesRegister::rptWagesRegister()
 
     Section& head = addSection(u"Section2"_s, Band::PageHead, 1980);
     paper::company(head, 0, 0, Width, 16);
-    Label& title = head.addLabel(u"lblTitle"_s, Title);
-    title.place(0, 440, Width, 300);
-    title.FontSize = 11;
-    title.Color = palette::quietInk;
-    title.Alignment = Qt::AlignHCenter;
+    paper::subtitle(head, u"lblTitle"_s, Title, 440, Width, 11);
     paper::rule(head, u"Line1"_s, 0, 820, Width, palette::ink).Weight = 20;
     paper::caption(head, u"Label1"_s, u"Worker Name :"_s, Gap, 980, 1350);
     Label& worker = head.addLabel(u"lblWorkerName"_s, {});
@@ -68,27 +53,11 @@ rptWagesRegister::rptWagesRegister()
     head.Height = titles + 440;
 
     Section& line = addSection(u"Section1"_s, Band::Detail, 330);
-    for (const Column& column : columns) {
-        const bool isMoney = column.format == Money;
-        Label& caption = head.addLabel(QLatin1String(column.title), QLatin1String(column.caption));
-        caption.place(column.left, titles + 80, column.width, 240);
-        caption.FontSize = 8;
-        caption.Bold = true;
-        caption.Color = palette::ink;
-        Field& field = paper::value(line, QLatin1String(column.field), QLatin1String(column.dataField),
-                                    column.left, 50, column.width, column.format);
-        field.FontSize = 9;
-        field.CanGrow = true;
-        if (isMoney)
-            caption.Alignment = field.Alignment = Qt::AlignRight;
-    }
+    paper::table(head, line, columns, {.titleTop = titles + 80, .fieldTop = 50, .titleSize = 8});
     paper::rule(line, u"Line2"_s, 0, 330, Width);
 
     Section& pageFoot = addSection(u"Section3"_s, Band::PageFoot, 260);
-    Label& number = paper::caption(pageFoot, u"lblPage"_s, {}, 0, 0, Width);
-    number.CountsPages = true;
-    number.FontSize = 8;
-    number.Alignment = Qt::AlignRight;
+    paper::pageNumber(pageFoot, {}, 0, 0, Width);
     addSection(u"Section5"_s, Band::ReportFoot);
 }
 

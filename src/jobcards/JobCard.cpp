@@ -45,7 +45,7 @@ QString JobCardHead::dateNotice() const
 
 qint32 JobCard::GetNewNum()
 {
-    qint32 last = values::CLng(values::Val(GetSetting(settings::FirstJobNumber)) - 1, u"First JOB ID"_s);
+    qint32 last = values::CLng(GetNumber(settings::FirstJobNumber) - 1, u"First JOB ID"_s);
     lastRow(u"Select * from JOBS order by ID"_s,
             [&last](ado::Recordset& job) { last = job["ID"].integer(); });
     return values::toInt32(qint64(last) + 1, u"Next JOB ID"_s);

@@ -6,12 +6,13 @@
 #include "core/store/Settings.h"
 #include "core/store/Texts.h"
 #include "jobcards/JobCardStaging.h"
-#include "jobcards/PaperDesign.h"
+#include "jobcards/LineCodeBars.h"
 #include "jobcards/rptJOBCARD.h"
 #include "jobcards/rptLabel.h"
 #include "jobcards/rptWorkerJobCard.h"
 #include "platform/forms/Pictures.h"
 #include "platform/report/Pages.h"
+#include "platform/report/PaperDesign.h"
 #include "platform/report/Preview.h"
 #include "platform/report/Printing.h"
 #include "platform/values/Errors.h"
@@ -99,7 +100,7 @@ std::unique_ptr<report::Report> JobCardPaper(qint32 JobID)
 std::unique_ptr<report::Report> WorkerSlipPaper(qint32 LineID)
 {
     auto slip = std::make_unique<rptWorkerJobCard>();
-    if (GetSetting(settings::Language) == "Hindi"_L1 && GetSetting(settings::HindiSlip) == "Yes"_L1)
+    if (GetSetting(settings::Language) == "Hindi"_L1 && IsOn(settings::HindiSlip))
         slip->useHindi();
     slip->setLine(readLine(LineID));
     slip->section(u"Section2"_s).label(u"lblCompany"_s).Caption = session.ShopName;

@@ -155,8 +155,7 @@ void frmEditJOB::openWith(const std::function<void()>& fill)
 
 void frmEditJOB::showNewCard()
 {
-    const qint32 margin =
-        values::CLng(values::Val(GetSetting(settings::DeliveryMargin)), u"Delivery margin"_s);
+    const qint32 margin = values::CLng(GetNumber(settings::DeliveryMargin), u"Delivery margin"_s);
     JobCardHead head;
     head.Date = session.WorkingDate;
     head.DeliveryDate = session.WorkingDate.addDays(margin);

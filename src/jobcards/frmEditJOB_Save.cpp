@@ -31,7 +31,7 @@ void frmEditJOB::save()
     }
     if (isNew()) {
         SaveNew();
-        if (values::Val(GetSetting(settings::PrintAfterSave)) == 1)
+        if (IsOn(settings::PrintAfterSave))
             print();
     } else {
         SaveEdit();
@@ -98,7 +98,7 @@ void frmEditJOB::SaveEdit()
 
 void frmEditJOB::offerSms()
 {
-    if (GetSetting(settings::SmsAfterRegistration) == u"No"_s)
+    if (!IsOn(settings::SmsAfterRegistration))
         return;
     if (!ShowMsg(u"This Job has been registered.\r\nWould you like to Inform Client via SMS?"_s, 2))
         return;

@@ -102,7 +102,7 @@ void frmEditWorkerAssign::Form_Load()
     SetFormLanguage(*this);
     FillList(u"Title"_s, u"Accounts"_s, whereType(AccountType::Worker), *ui->cmbWorker, DE.rsaccounts);
     ui->cmbWorker->insertItem(0, noWorker);
-    showWages(GetSetting(settings::WorkerDetailsShown) != "0"_L1);
+    showWages(IsOn(settings::WorkerDetailsShown));
     swSMS1 = std::make_unique<swSMS>(this);
     swSMS1->setObjectName(u"swSMS1"_s);
 }

@@ -1,6 +1,6 @@
 #include "jobcards/rptJOBCARD.h"
 
-#include "jobcards/PaperDesign.h"
+#include "platform/report/PaperDesign.h"
 
 #include <algorithm>
 
@@ -54,10 +54,7 @@ rptJOBCARD::rptJOBCARD()
     designLine();
     designFoot();
     Section& pageFoot = addSection(u"Section3"_s, Band::PageFoot, 260);
-    Label& number = paper::caption(pageFoot, u"lblPage"_s, {}, Left, 0, Width);
-    number.CountsPages = true;
-    number.FontSize = 8;
-    number.Alignment = Qt::AlignRight;
+    paper::pageNumber(pageFoot, {}, Left, 0, Width);
     addSection(u"Section5"_s, Band::ReportFoot);
 }
 

@@ -1,6 +1,7 @@
 #include "jobcards/rptLabel.h"
 
-#include "jobcards/PaperDesign.h"
+#include "jobcards/LineCodeBars.h"
+#include "platform/report/PaperDesign.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,9 @@
 #include "jobcards/rptWorkerJobCard.h"
 
 #include "jobcards/HindiWords.h"
-#include "jobcards/PaperDesign.h"
+#include "jobcards/LineCodeBars.h"
 #include "platform/report/BandLayout.h"
+#include "platform/report/PaperDesign.h"
 
 #include <algorithm>
 

@@ -54,8 +54,9 @@ void SummaryList::Form_Load()
 
 void SummaryList::Form_Activate()
 {
-    if (!session.RefreshLists)
+    if (session.RefreshLists.count() == m_filledAt)
         return;
+    m_filledAt = session.RefreshLists.count();
     forms::ListBox& list = *ui->lstSummary;
     const QString selected = list.Text();
     fill(list);

@@ -55,4 +55,5 @@ private:
 
     const Kind m_kind;
     const std::unique_ptr<Ui::SummaryList> ui;
+    quint64 m_filledAt = 0; ///< count of the changes that the list shows
 };

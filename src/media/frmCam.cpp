@@ -16,7 +16,7 @@ namespace {
 qint16 chosenCamera()
 {
     constexpr double highest = std::numeric_limits<qint16>::max();
-    return qint16(std::clamp(values::Val(GetSetting(settings::WebcamDriver)), 0.0, highest));
+    return qint16(std::clamp(GetNumber(settings::WebcamDriver), 0.0, highest));
 }
 
 } // namespace

@@ -25,7 +25,6 @@ namespace {
 
 const QString allWorkers = u"*All"_s;
 constexpr int totalColumn = 2;
-constexpr double heightOfScreen = 0.97;
 
 /// Of the dots: waiting, ready, gone, back on the table, void.
 constexpr QRgb stateColours[] = {palette::amber, palette::green, palette::grey, palette::rust,
@@ -110,7 +109,7 @@ void LineRegister::ShowLines(const Beginning& beginning)
 void LineRegister::Form_Load()
 {
     SetFormLanguage(*this);
-    useScreenHeight(heightOfScreen);
+    useScreenHeight();
     session.RefreshLists = true;
     resetCriteria();
     m_criteria.list->setFocus();
@@ -137,7 +136,7 @@ void LineRegister::resetCriteria()
 
 void LineRegister::Form_Activate()
 {
-    if (!session.RefreshLists || m_opening)
+    if (session.RefreshLists.count() == m_filledAt || m_opening)
         return;
     keepPosition();
     conditionStep();
@@ -175,6 +174,7 @@ void LineRegister::ExecuteSQL()
     m_criteria.help->setNotice(m_inShop ? u"Only what is still in the shop: Alt+V shows all"_s : QString());
     explainEmpty({});
     session.RefreshLists = false; // also if it fails: the message comes once, not at each activation
+    m_filledAt = session.RefreshLists.count();
     m_shown = std::make_shared<Shown>();
     m_shown->names = LineNames(m_criteria.balances ? period().to() : QDate());
     try {

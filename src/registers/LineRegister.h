@@ -142,6 +142,7 @@ private:
         LineNames names{{}};
     };
     std::shared_ptr<Shown> m_shown = std::make_shared<Shown>();
+    quint64 m_filledAt = 0; ///< count of the changes that the list shows
     bool m_inShop = false;  ///< lines that are delivered or canceled are left out
     int m_topRow = -1;      ///< of the list as it stood on the screen; -1: from its beginning
     bool m_opening = false; ///< the refresh after a screen above is under way already

@@ -12,7 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double heightOfScreen = 0.97;
 constexpr int numberColumn = 2;
 
 } // namespace
@@ -35,7 +34,7 @@ void ReminderScreen::setControls(const Controls& controls)
 void ReminderScreen::Form_Load()
 {
     SetFormLanguage(*this);
-    useScreenHeight(heightOfScreen);
+    useScreenHeight();
     resetDays();
     m_controls.message->setText(GetSetting(m_text, m_default));
     m_controls.list->setFocus();

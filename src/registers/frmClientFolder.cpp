@@ -20,7 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double heightOfScreen = 0.97;
 constexpr size_t ordersShown = 60; ///< of one garment, beside each other
 constexpr int ordersOnPaper = 6;
 constexpr size_t picturesShown = 8;
@@ -76,7 +75,7 @@ void frmClientFolder::ShowClient(const QString& title)
 void frmClientFolder::Form_Load()
 {
     SetFormLanguage(*this);
-    useScreenHeight(heightOfScreen);
+    useScreenHeight();
     ui->lvGarments->setFocus();
 }
 

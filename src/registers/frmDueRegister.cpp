@@ -10,12 +10,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr double heightOfScreen = 0.97;
-
-} // namespace
-
 frmDueRegister::frmDueRegister()
     : ui(std::make_unique<Ui::frmDueRegister>())
 {
@@ -30,7 +24,7 @@ frmDueRegister::~frmDueRegister() = default;
 void frmDueRegister::Form_Load()
 {
     SetFormLanguage(*this);
-    useScreenHeight(heightOfScreen);
+    useScreenHeight();
     ui->lvSummary->setFocus();
 }
 

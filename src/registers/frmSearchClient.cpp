@@ -49,7 +49,7 @@ frmSearchClient::~frmSearchClient() = default;
 void frmSearchClient::Form_Load()
 {
     SetFormLanguage(*this);
-    ui->opShowAllUndel->setChecked(GetSetting(settings::UndeliveredClientsOnly) == "1"_L1);
+    ui->opShowAllUndel->setChecked(IsOn(settings::UndeliveredClientsOnly));
 }
 
 void frmSearchClient::Form_KeyDown(int& key, Qt::KeyboardModifiers)

@@ -7,6 +7,8 @@ namespace Ui {
 class ctlInfo;
 }
 
+/// Part of the system's definition; no screen uses it today.
+///
 /// A small panel with a contact's details; a click on its picture puts it away.
 class ctlInfo : public QWidget
 {

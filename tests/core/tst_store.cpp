@@ -1,4 +1,5 @@
 #include "core/store/Schema.h"
+#include "core/store/SchemaSteps.h"
 #include "core/store/Startup.h"
 #include "support/Files.h"
 #include "support/Refusal.h"
@@ -37,6 +38,32 @@ private Q_SLOTS:
     }
 
     /// What a lost database has left behind does the new one no harm, and nothing of the making stays.
+    void aFileOfAnEarlierVersion()
+    {
+        const Shop shop;
+        SetSetting(settings::DatabaseVersion, "10");
+        const auto run = [](const QString& sql) {
+            return [sql](ado::Connection& file) { file.Execute(sql); };
+        };
+        const SchemaStep adds{10, run("Create table Racks (Id INTEGER)")};
+        const QString kept = shop.folder() + "/data.before-restore.mdb";
+
+        QVERIFY(!bringUpToDate()); // no step leads from there
+        QVERIFY(!bringUpToDate({adds}));
+        const std::vector<SchemaStep> broken{adds, {11, run("Insert into Nowhere values (1)")}};
+        QVERIFY_THROWS_EXCEPTION(ado::DatabaseError, bringUpToDate(broken));
+        QCOMPARE(Shop::count("Select * from sqlite_master where name='Racks'"), 0);
+        QVERIFY(!QFile::exists(kept) && !QFile::exists(shop.folder() + "/data.restoring.mdb"));
+
+        const std::vector<SchemaStep> steps{
+            {9, run("nonsense")}, adds, {11, run("Insert into Racks values (7)")}};
+        QVERIFY(bringUpToDate(steps) && CheckDatabaseVersion());
+        QCOMPARE(Shop::value("Select Id from Racks"), "7");
+        DE.close();
+        DE.open(kept);
+        QCOMPARE(GetSetting(16, {}), "10");
+    }
+
     void creationAmongRemains()
     {
         const Shop shop;

@@ -29,10 +29,7 @@ QString textOf(const std::function<void()>& work)
 }
 
 /// Invalid for a shop that works on the system's date: the day of the change itself then.
-QDate workingDayOfLastChange()
-{
-    return GetSetting(settings::SystemDateAtStart) == "1"_L1 ? QDate() : StoredWorkingDate();
-}
+QDate workingDayOfLastChange() { return IsOn(settings::SystemDateAtStart) ? QDate() : StoredWorkingDate(); }
 
 } // namespace
 

@@ -3,7 +3,7 @@
 #include "core/shell/GlanceTexts.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
-#include "jobcards/PaperDesign.h"
+#include "platform/report/PaperDesign.h"
 
 #include <QLocale>
 #include <algorithm>
@@ -58,9 +58,7 @@ Label& GlancePaper::addText(const QString& text, int left, int top, int width, d
 void GlancePaper::addHead(const QDate& day)
 {
     paper::company(m_head, 0, 0, width(), 16).Caption = session.ShopName;
-    Label& title = addText(Title + u"  ·  "_s + longDay(day), 0, 440, width(), 11);
-    title.Alignment = Qt::AlignHCenter;
-    title.Color = palette::quietInk;
+    paper::subtitle(m_head, newName(), Title + u"  ·  "_s + longDay(day), 440, width(), 11);
     paper::rule(m_head, newName(), 0, 780, width(), palette::ink).Weight = 20;
 }
 

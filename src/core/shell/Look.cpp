@@ -95,8 +95,8 @@ void showDifferences(QWidget* parent)
             ado::Connection now;
             then.open(current().path, databasePassword(), ado::Connection::Mode::ReadOnly);
             now.open(session.databasePath(), databasePassword(), ado::Connection::Mode::ReadOnly);
-            ado::endWhenAsked(then, progress.stop);
-            ado::endWhenAsked(now, progress.stop);
+            then.endWhenAsked(progress.stop);
+            now.endWhenAsked(progress.stop);
             found = differences::between(then, now);
         });
     });

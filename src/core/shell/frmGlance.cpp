@@ -27,12 +27,6 @@
 using namespace Qt::StringLiterals;
 using namespace glance;
 
-namespace {
-
-constexpr double heightOfScreen = 0.97;
-
-} // namespace
-
 frmGlance::frmGlance()
     : ui(std::make_unique<Ui::frmGlance>())
 {
@@ -75,7 +69,7 @@ frmGlance::~frmGlance() = default;
 void frmGlance::Form_Load()
 {
     SetFormLanguage(*this);
-    useScreenHeight(heightOfScreen);
+    useScreenHeight();
     ui->cmdDue->setFocus();
 }
 

@@ -37,7 +37,7 @@ constexpr qint64 scannerPause = 1000; // ms, the longest between two characters
 
 bool frmMain::start()
 {
-    if (values::Val(GetSetting(settings::LoginRequired)) == 1 && !frmLogin().Login())
+    if (IsOn(settings::LoginRequired) && !frmLogin().Login())
         return false;
     auto* screen = new frmMain;
     connect(qApp, &QCoreApplication::aboutToQuit, screen, [screen] { delete screen; });

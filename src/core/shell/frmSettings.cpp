@@ -64,9 +64,7 @@ frmSettings::~frmSettings() = default;
 void frmSettings::Form_Load()
 {
     SetFormLanguage(*this);
-    const auto check = [](QCheckBox& box, const Setting& setting) {
-        box.setChecked(values::Val(GetSetting(setting)) == 1);
-    };
+    const auto check = [](QCheckBox& box, const Setting& setting) { box.setChecked(IsOn(setting)); };
     ui->cmbSendAutoSMS->setText(GetSetting(settings::SmsWhenFinished));
     ui->cmbSMSJobID->setText(GetSetting(settings::SmsAfterRegistration));
     ui->cmbSMSPort->setText(GetSetting(settings::ModemPort));
@@ -78,7 +76,7 @@ void frmSettings::Form_Load()
     check(*ui->chPrintAfterSave, settings::PrintAfterSave);
     check(*ui->chPreview, settings::PrintPreview);
     ui->cmbLanguage->setText(GetSetting(settings::Language));
-    ui->chHindiSlip->setChecked(GetSetting(settings::HindiSlip) == "Yes"_L1);
+    ui->chHindiSlip->setChecked(IsOn(settings::HindiSlip));
     showWhetherHindi();
     ui->txtBackuppath->setText(GetSetting(settings::BackupFolder));
     check(*ui->opChangeDateAuto, settings::SystemDateAtStart);

@@ -32,7 +32,7 @@ void frmShopINFO::Form_Load()
     ui->txtCONTACTS->setText(shop.contacts);
 
     ui->chShowPassword->setChecked(false);
-    const bool locked = GetSetting(settings::LoginRequired) == "1"_L1;
+    const bool locked = IsOn(settings::LoginRequired);
     ui->Check1->setChecked(locked);
     ui->Frame1->setEnabled(locked);
     if (locked) {

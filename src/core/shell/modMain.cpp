@@ -4,6 +4,7 @@
 #include "core/store/Backup.h"
 #include "core/store/DE.h"
 #include "core/store/Schema.h"
+#include "core/store/SchemaSteps.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
 #include "core/store/Startup.h"
@@ -26,7 +27,7 @@ bool openDatabase()
     MakeImagesFolder();
     DE.open(session.databasePath());
     files::keepPrivate(session.databasePath()); // its journal takes after it
-    if (!CheckDatabaseVersion()) {
+    if (!bringUpToDate()) {
         forms::plainMessage(nullptr, u"Invalid Database!\r\nSeamwise Can not Run with this Database!"_s);
         return false;
     }

@@ -21,7 +21,6 @@ namespace archive {
 
 namespace {
 
-const QString journal = u"-journal"_s;
 constexpr qsizetype birthMarkLength = 16; ///< bytes: the engine's salt, drawn when the file is made
 
 QString gzipOrRefuse()
@@ -93,7 +92,7 @@ Scratch::~Scratch() { clear(); }
 void Scratch::clear() const
 {
     QFile::remove(m_path);
-    QFile::remove(m_path + journal);
+    QFile::remove(ado::journalOf(m_path));
 }
 
 void pack(const QString& into, const std::stop_token& stop)
@@ -149,7 +148,7 @@ Counts prove(const QString& database, const std::stop_token& stop)
                         "damaged."_s);
         throw;
     }
-    ado::endWhenAsked(connection, stop);
+    connection.endWhenAsked(stop);
     if (const QString found = ado::damage(connection); !found.isEmpty())
         throw OperatorError(u"The database in it is damaged.\r\n"_s + found);
     const Counts counts = countRows(connection);

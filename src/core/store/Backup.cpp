@@ -15,17 +15,12 @@
 #include <QFileInfo>
 #include <algorithm>
 
-#include <sqlcipher/sqlite3.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString earlierStands = u"No backup has been made. An earlier one is as it was."_s;
 const QString shopStands = u"Nothing has been restored. The shop is as it was."_s;
-
-/// What the engine puts behind a file's name to call its journal.
-const QString journal = u"-journal"_s;
 
 // Their files while they are not finished.
 QString restoringPath() { return session.appFolder + u"/data.restoring.mdb"_s; }
@@ -104,27 +99,8 @@ void clearUnlessHeld(const QString& lockPath, const QStringList& paths)
         return;
     for (const QString& path : paths) {
         QFile::remove(path);
-        QFile::remove(path + journal);
+        QFile::remove(ado::journalOf(path));
     }
-}
-
-/// Makes sure that no program is in the middle of a write, and undoes what a killed one has left
-/// half-written. A file too damaged for that is replaced all the same.
-void holdAlone()
-{
-    try {
-        DE.connection().Execute(u"BEGIN EXCLUSIVE"_s);
-    } catch (const ado::DatabaseError&) {
-        if (sqlite3_errcode(DE.connection().handle()) == SQLITE_BUSY)
-            throw;
-    }
-}
-
-/// Ends what holdAlone() or a read transaction has begun.
-void letGo()
-{
-    if (sqlite3* handle = DE.connection().handle(); handle && sqlite3_get_autocommit(handle) == 0)
-        DE.connection().Execute(u"ROLLBACK"_s);
 }
 
 /// A shop without a single record, as a first start makes it.
@@ -142,6 +118,19 @@ bool isNewShop()
     }
 }
 
+/// Where the shop's file is kept: a name that nothing has.
+QString freeName()
+{
+    const auto name = [](int number) -> QString {
+        return session.appFolder +
+               (number == 1 ? u"/data.before-restore.mdb"_s : u"/data.before-restore-%1.mdb"_s.arg(number));
+    };
+    int number = 1;
+    while (QFileInfo::exists(name(number)) || QFileInfo(name(number)).isSymLink())
+        ++number;
+    return name(number);
+}
+
 } // namespace
 
 /// A read transaction: no program changes the file while it lasts, and all that is read is of one moment.
@@ -149,7 +138,7 @@ class Backup::Hold
 {
 public:
     Hold() { DE.connection().Execute(u"BEGIN"_s); }
-    ~Hold() { letGo(); }
+    ~Hold() { DE.connection().letGo(); }
     Q_DISABLE_COPY_MOVE(Hold)
 };
 
@@ -256,7 +245,9 @@ void Restore::copyPictures(const Progress& progress) const
     });
 }
 
-void Restore::takePlace(const Progress& progress)
+void Restore::takePlace(const Progress& progress) { replaceShop(m_unpacked->path(), progress); }
+
+void replaceShop(const QString& proved, const Progress& progress)
 {
     const QString database = session.databasePath();
     const QString aside = freeName();
@@ -264,7 +255,7 @@ void Restore::takePlace(const Progress& progress)
     orSay(shopStands, [&] {
         try {
             progress.step(u"keeping the shop's file under another name"_s, [&] {
-                holdAlone();
+                DE.connection().holdAlone();
                 kept = files::addName(database, aside);
                 if (!kept && QFileInfo::exists(database))
                     throw OperatorError(u"%1 cannot be made."_s.arg(QDir::toNativeSeparators(aside)));
@@ -272,31 +263,18 @@ void Restore::takePlace(const Progress& progress)
             });
             progress.step(u"putting the restored file in its place"_s, [&] {
                 // The journal that a damaged file may have would be played back into this one.
-                if (QFileInfo(database + journal).size() > 0)
-                    QFile::rename(database + journal, aside + journal);
-                files::replace(database, m_unpacked->path());
+                if (QFileInfo(ado::journalOf(database)).size() > 0)
+                    QFile::rename(ado::journalOf(database), ado::journalOf(aside));
+                files::replace(database, proved);
             });
         } catch (...) {
             if (kept)
                 QFile::remove(aside);
-            letGo();
+            DE.connection().letGo();
             throw;
         }
     });
     DE.close();
-}
-
-/// Where the shop's file is kept: a name that nothing has.
-QString Restore::freeName() const
-{
-    const auto name = [](int number) -> QString {
-        return session.appFolder +
-               (number == 1 ? u"/data.before-restore.mdb"_s : u"/data.before-restore-%1.mdb"_s.arg(number));
-    };
-    int number = 1;
-    while (QFileInfo::exists(name(number)) || QFileInfo(name(number)).isSymLink())
-        ++number;
-    return name(number);
 }
 
 void clearLeftovers(const QString& backupFolder)

@@ -57,7 +57,6 @@ public:
 
 private:
     void refuseOtherShop() const;
-    QString freeName() const;
 
     QLockFile m_lock;
     QString m_archive;
@@ -65,6 +64,11 @@ private:
     bool m_isNew; ///< the shop has no records yet
     std::unique_ptr<archive::Scratch> m_unpacked;
 };
+
+/// Puts a proved file in the place of the shop's, which is kept as `data.before-restore.mdb` (then `-2` and
+/// so on), and closes the connection. At any time, also after a power cut, one of both stands under the
+/// shop's name. Throws OperatorError: the shop is as it was then.
+void replaceShop(const QString& proved, const Progress& progress = {});
 
 /// Removes what a backup, a restore or a copy that was killed has left, beside the shop and in the backup
 /// folder. What another program is at stays.

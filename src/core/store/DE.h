@@ -6,8 +6,10 @@
 
 /// The one owner of the connection to the shop's database and of the recordsets that all screens share.
 ///
-/// A screen uses the recordset it needs: Open (which closes it first), read or write, Close. Recordsets
-/// are lent strictly one at a time; nobody may count on one staying open across a call of another operation.
+/// The shared recordsets are part of the system's definition. What the program itself reads and writes goes
+/// through core/store/Rows.h, with a recordset of its own each time; the lists of names (FillList) and the
+/// tests still take the shared ones: Open (which closes it first), read or write, Close. Some have no user
+/// today (`rsItems2`, `rsReport2_Grouping`, and those of the staged papers).
 class DataEnvironment
 {
     ado::Connection m_connection;

@@ -34,8 +34,6 @@ constexpr const char* Integer = "INTEGER";
 constexpr const char* Money = "MONEY";
 constexpr const char* Double = "DOUBLE";
 constexpr const char* Date = "DATE";
-/// What the engine puts behind a file's name to call its journal.
-const QString journal = u"-journal"_s;
 
 constexpr int longestMaking = 20000; // milliseconds
 
@@ -262,7 +260,7 @@ void CreateDatabase()
     const auto clearAway = [&] {
         DE.close();
         QFile::remove(building);
-        QFile::remove(building + journal);
+        QFile::remove(ado::journalOf(building));
     };
     clearAway();
     try {
@@ -275,7 +273,7 @@ void CreateDatabase()
         });
         DE.close();
         // The journal of a database that is gone would be played back into this one.
-        QFile::rename(path + journal, path + u".lost"_s + journal);
+        QFile::rename(ado::journalOf(path), ado::journalOf(path + u".lost"_s));
         files::keepPrivate(building);
         if (!files::renameUnlessTaken(building, path))
             throw ado::DatabaseError(path + u": the file cannot be given its name."_s);

@@ -2,6 +2,7 @@
 
 #include "core/store/Rows.h"
 #include "core/store/Session.h"
+#include "platform/values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -46,3 +47,11 @@ void RememberSetting(const Setting& setting, const QString& value)
     if (session.LookedAt.isEmpty())
         SetSetting(setting, value);
 }
+
+bool IsOn(const Setting& setting)
+{
+    const QString value = GetSetting(setting);
+    return value == "Yes"_L1 || values::Val(value) == 1;
+}
+
+double GetNumber(const Setting& setting) { return values::Val(GetSetting(setting)); }

@@ -46,6 +46,11 @@ inline constexpr Setting LastBackup{29, ""_L1};              ///< the day of it,
 
 } // namespace settings
 
+/// Whether a switch is on: "Yes" or "1".
+bool IsOn(const Setting& setting);
+/// The number at the beginning of an option's text; 0 for a text without one.
+double GetNumber(const Setting& setting);
+
 /// The value of an option, or its standard when it was never written; `otherwise` for an option whose
 /// standard only its reader can make. These use the shared recordset `DE.rsSettings` and throw
 /// ado::DatabaseError.

@@ -94,7 +94,7 @@ private:
     {
         m_connection = std::make_unique<ado::Connection>();
         m_connection->open(session.databasePath(), databasePassword(), ado::Connection::Mode::ReadOnly);
-        ado::endWhenAsked(*m_connection, m_progress.stop);
+        m_connection->endWhenAsked(m_progress.stop);
         m_connection->Execute(u"BEGIN"_s); // all that is read is of one moment
     }
 

@@ -46,7 +46,7 @@ void MakeImagesFolder()
         files::keepPrivate(session.imagesFolder());
 }
 
-bool CheckDatabaseVersion() { return values::Val(GetSetting(settings::DatabaseVersion)) == DatabaseVersion; }
+bool CheckDatabaseVersion() { return GetNumber(settings::DatabaseVersion) == DatabaseVersion; }
 
 QDate StoredWorkingDate()
 {
@@ -58,6 +58,6 @@ void LoadSessionDefaults()
 {
     session.Language = GetSetting(settings::Language);
     session.WorkingDate = StoredWorkingDate();
-    if (GetSetting(settings::SystemDateAtStart) == "1"_L1)
+    if (IsOn(settings::SystemDateAtStart))
         session.WorkingDate = QDate::currentDate();
 }

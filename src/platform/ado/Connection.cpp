@@ -252,6 +252,32 @@ void Connection::close()
 
 bool Connection::isOpen() const { return d->database != nullptr; }
 
+void Connection::endWhenAsked(const std::stop_token& stop)
+{
+    constexpr int often = 1000; // instructions of the engine
+    d->stop = stop;
+    sqlite3_progress_handler(
+        d->openHandle(), often,
+        [](void* token) { return int(static_cast<const std::stop_token*>(token)->stop_requested()); },
+        &d->stop);
+}
+
+void Connection::holdAlone()
+{
+    try {
+        Execute(u"BEGIN EXCLUSIVE"_s);
+    } catch (const DatabaseError&) {
+        if (sqlite3_errcode(d->database) == SQLITE_BUSY)
+            throw;
+    }
+}
+
+void Connection::letGo()
+{
+    if (d->database && sqlite3_get_autocommit(d->database) == 0)
+        Execute(u"ROLLBACK"_s);
+}
+
 sqlite3* Connection::handle() const { return d->database; }
 
 int Connection::Execute(const QString& sql)

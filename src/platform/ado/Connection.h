@@ -8,6 +8,7 @@
 #include <QVariant>
 #include <functional>
 #include <memory>
+#include <stop_token>
 
 struct sqlite3;
 
@@ -16,6 +17,9 @@ struct sqlite3;
 namespace ado {
 
 class Recordset;
+
+/// The file beside a database in which the engine keeps what a write replaces, until the write is whole.
+inline QString journalOf(const QString& database) { return database + u"-journal"_s; }
 
 /// Is called with true when a statement begins to wait for another program's lock, and with false when the
 /// wait is over; it lasts 5 seconds at most.
@@ -56,7 +60,17 @@ public:
     /// batch inside a batch is part of the outer one. No event loop may run inside.
     void writeBatch(const std::function<void()>& work, const QString& refused = u"Nothing has been saved."_s);
 
-    /// The engine's handle, for code that knows what it does (backup, benches, tests). Null when not open.
+    /// Ends a long statement with an error once `stop` is asked for. For a connection that is open.
+    void endWhenAsked(const std::stop_token& stop);
+
+    /// Makes sure that no program is in the middle of a write, and undoes what a killed one has left
+    /// half-written; nobody else can write until letGo(). A file too damaged for locks is taken as it is.
+    /// Throws DatabaseError while another program is at work.
+    void holdAlone();
+    /// Ends holdAlone(), or a transaction that was begun by a statement.
+    void letGo();
+
+    /// The engine's handle, for its benches and tests. Null when not open.
     sqlite3* handle() const;
 
 private:

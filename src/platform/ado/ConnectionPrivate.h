@@ -20,7 +20,8 @@ struct Connection::Private
     std::vector<Recordset*> recordsets; // those open
     std::vector<FileCopy*> copies;      // those being made
 
-    QString refusal; // of each write, when the file is only looked at
+    std::stop_token stop; // ends a long statement
+    QString refusal;      // of each write, when the file is only looked at
 
     bool inBatch = false;
     QString rollbackText; // the engine's text, when it took back the open batch on its own

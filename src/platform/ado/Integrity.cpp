@@ -22,13 +22,4 @@ QString damage(Connection& connection)
     return report == "ok\n"_L1 ? QString() : report.trimmed();
 }
 
-void endWhenAsked(Connection& connection, const std::stop_token& stop)
-{
-    constexpr int often = 1000; // instructions of the engine
-    sqlite3_progress_handler(
-        connection.handle(), often,
-        [](void* token) { return int(static_cast<const std::stop_token*>(token)->stop_requested()); },
-        const_cast<std::stop_token*>(&stop));
-}
-
 } // namespace ado

@@ -181,8 +181,8 @@ void Screen::showBand()
 /// Makes the screen no larger than the display; content that needs more room moves into a scrolling area.
 void Screen::fitDisplay()
 {
-    const QSize room = m_heightShare > 0 ? shareOfDisplay() : screen()->availableSize() * largestShare;
-    const QSize wanted = m_heightShare > 0 ? room : size().expandedTo(minimumSizeHint()).boundedTo(room);
+    const QSize room = m_usesScreenHeight ? shareOfDisplay() : screen()->availableSize() * largestShare;
+    const QSize wanted = m_usesScreenHeight ? room : size().expandedTo(minimumSizeHint()).boundedTo(room);
     const bool fits = minimumSizeHint().boundedTo(room) == minimumSizeHint();
     if (!fits && !m_scroller && layout()) {
         m_scroller = new QScrollArea(this);
@@ -214,7 +214,7 @@ QSize Screen::shareOfDisplay() const
     const QSize display = screen()->availableSize();
     const QWindow* below = windowHandle() ? windowHandle()->transientParent() : nullptr;
     const QMargins frame = below ? below->frameMargins() : QMargins();
-    return QSize(display.width(), int(display.height() * m_heightShare)).shrunkBy(frame);
+    return QSize(display.width(), int(display.height() * largestShare)).shrunkBy(frame);
 }
 
 void Screen::activate()

@@ -153,9 +153,8 @@ protected:
     void onGotFocus(QWidget* control, std::function<void()> procedure);
     void onLostFocus(QWidget* control, std::function<void()> procedure);
 
-    /// Gives the screen, with its frame, the display's full width and this share of its height. For
-    /// Form_Load.
-    void useScreenHeight(double share) { m_heightShare = share; }
+    /// Gives the screen, with its frame, the display's full width and nearly its height. For Form_Load.
+    void useScreenHeight() { m_usesScreenHeight = true; }
     /// Makes the screen a notice: when it closes, the screen below isn't activated, as after a plain message
     /// box.
     void setNotice(bool notice) { m_notice = notice; }
@@ -197,7 +196,7 @@ private:
 
     bool m_loaded = false;
     bool m_notice = false;
-    double m_heightShare = 0; ///< of the display's height; 0: the screen is as large as its content
+    bool m_usesScreenHeight = false; ///< else it is as large as its content
     QPointer<QEventLoop> m_loop;
     QPointer<QWidget> m_focused;
     QScrollArea* m_scroller = nullptr;

@@ -2,6 +2,7 @@
 
 #include "platform/forms/ListSheet.h"
 #include "platform/forms/Palette.h"
+#include "platform/report/PaperDesign.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -84,12 +85,8 @@ std::unique_ptr<Report> listPaper(const forms::ListSheet& sheet)
     criteria.FontSize = typeSize;
     criteria.Color = palette::quietInk;
     criteria.CanGrow = true;
-    if (!sheet.titles().isEmpty()) {
-        Shape& bar = head.addShape(u"Shape1"_s);
-        bar.place(0, 740, paper->width(), 360);
-        bar.Frame = true;
-        bar.Fill = bar.Color = palette::shade;
-    }
+    if (!sheet.titles().isEmpty())
+        paper::bar(head, u"Shape1"_s, 0, 740, paper->width(), 360);
 
     Section& line = paper->addSection(u"Row"_s, Band::Detail, rowHeight);
     int left = 0;
@@ -112,18 +109,10 @@ std::unique_ptr<Report> listPaper(const forms::ListSheet& sheet)
         left += widths[column];
     }
     head.Height = sheet.titles().isEmpty() ? 760 : 1150;
-    Shape& rule = line.addShape(u"Line1"_s);
-    rule.place(0, rowHeight, paper->width(), 0);
-    rule.Weight = 10;
-    rule.Color = palette::hairline;
+    paper::rule(line, u"Line1"_s, 0, rowHeight, paper->width());
 
-    Section& foot = paper->addSection(u"Foot"_s, Band::PageFoot, 300);
-    Label& number = foot.addLabel(u"lblPage"_s, sheet.title + u" · %p of %P"_s);
-    number.place(0, 60, paper->width(), 240);
-    number.FontSize = 8;
-    number.Color = palette::quietInk;
-    number.Alignment = Qt::AlignRight;
-    number.CountsPages = true;
+    paper::pageNumber(paper->addSection(u"Foot"_s, Band::PageFoot, 300), sheet.title + u" · %p of %P"_s, 0,
+                      60, paper->width());
 
     std::vector<Row> rows;
     for (const forms::ListSheet::Row& each : sheet.rows) {

@@ -18,7 +18,6 @@ namespace report {
 
 namespace {
 
-constexpr double shareOfScreen = 0.97;
 constexpr double zoomStep = 1.25;
 constexpr int iconButtonWidth = 38;
 constexpr int labelGap = 14;
@@ -87,7 +86,7 @@ Preview::Preview(const Report& report, QWidget* parent)
     forms::applyIcons(*this, forms::iconInk);
     first->setIcon(forms::lineIcon(u"print"_s, forms::iconLight));
     connect(m_view, &PageView::viewChanged, this, &Preview::refresh);
-    useScreenHeight(shareOfScreen);
+    useScreenHeight();
 }
 
 QPushButton* Preview::addButton(const QString& name, const QString& text, const QString& icon,

@@ -1,4 +1,4 @@
-#include "jobcards/PaperDesign.h"
+#include "platform/report/PaperDesign.h"
 
 using namespace Qt::StringLiterals;
 
@@ -7,6 +7,7 @@ namespace paper {
 namespace {
 
 constexpr int LineHeight = 260;
+constexpr int TitleHeight = 240;
 constexpr double CaptionSize = 9;
 constexpr double ValueSize = 10;
 constexpr int BaseLineGap = 18; ///< between the tops of the two sizes, for one base line
@@ -65,22 +66,49 @@ report::Shape& bar(report::Section& section, const QString& name, int left, int 
     return shape;
 }
 
-void codeFoot(report::Report& paper, int width)
+report::Label& subtitle(report::Section& section, const QString& name, const QString& text, int top,
+                        int width, double fontSize)
 {
-    constexpr int gap = report::mm(1.5);
-    constexpr int height = report::mm(10);
-    report::Section& foot = paper.addSection(u"SectionCode"_s, report::Band::PageFoot, gap + height);
-    foot.addBarcode(u"barLine"_s, lineCode).place(0, gap, width, height);
+    constexpr double lineHeight = 27; // twips a point
+    report::Label& label = section.addLabel(name, text);
+    label.place(0, top, width, int(fontSize * lineHeight));
+    label.FontSize = fontSize;
+    label.Color = palette::quietInk;
+    label.Alignment = Qt::AlignHCenter;
+    return label;
+}
+
+void table(report::Section& titles, report::Section& lines, const std::vector<Column>& columns,
+           const Table& table)
+{
+    for (const Column& column : columns) {
+        report::Label& title = titles.addLabel(column.titleName, column.title);
+        title.place(column.left, table.titleTop, column.width, TitleHeight);
+        title.FontSize = table.titleSize;
+        title.Bold = true;
+        title.Color = palette::ink;
+        report::Field& field = value(lines, column.fieldName, column.dataField, column.left, table.fieldTop,
+                                     column.width, column.format);
+        field.FontSize = table.fieldSize;
+        field.CanGrow = true;
+        title.Alignment = field.Alignment = column.alignment;
+    }
+}
+
+report::Label& pageNumber(report::Section& foot, const QString& text, int left, int top, int width)
+{
+    report::Label& number = caption(foot, u"lblPage"_s, text, left, top, width);
+    number.CountsPages = true;
+    number.FontSize = 8;
+    number.Alignment = Qt::AlignRight;
+    return number;
 }
 
 void numberPages(report::Report& paper, const QString& what)
 {
     constexpr int gap = 60;
     report::Section& foot = paper.addSection(u"Section3"_s, report::Band::PageFoot, gap + 240);
-    report::Label& number = caption(foot, u"lblPage"_s, what + u" · %p of %P"_s, 0, gap, paper.width());
-    number.CountsPages = true;
-    number.FontSize = 8;
-    number.Alignment = Qt::AlignRight;
+    pageNumber(foot, what + u" · %p of %P"_s, 0, gap, paper.width());
 }
 
 } // namespace paper
