@@ -3,6 +3,7 @@
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
+#include "masters/frmBringIn.h"
 #include "platform/values/Numbers.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
@@ -36,6 +37,7 @@ SummaryList::SummaryList(const Kind& kind)
     on(ui->lstSummary, &forms::ListBox::dblClicked, &SummaryList::openSelected);
     on(ui->Command1, &QPushButton::clicked, [this] { addRecord(); });
     on(ui->Command2, &QPushButton::clicked, [this] { unload(); });
+    ui->cmdBringIn->hide();
 }
 
 SummaryList::~SummaryList() = default;
@@ -82,6 +84,15 @@ void SummaryList::search(const QString& text)
 }
 
 void SummaryList::setHelp(const QString& help) { ui->lblHelp->setText(help); }
+
+void SummaryList::offerBringIn(bringin::Kind records)
+{
+    ui->cmdBringIn->show();
+    on(ui->cmdBringIn, &QPushButton::clicked, [this, records] { frmBringIn::choose(this, records); });
+    ui->lstSummary->setProperty(
+        "emptyText", u"Nothing here yet: Ctrl+A adds the first %1, Alt+I brings them in from a file"_s.arg(
+                         m_kind.oneRecord));
+}
 
 QString SummaryList::selectedTitle() const
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "masters/BringIn.h"
 #include "platform/forms/Screen.h"
 #include "platform/values/ListTarget.h"
 
@@ -38,6 +39,8 @@ protected:
     void setButtonCaptions(const QString& add, const QString& back);
     /// What the list's keys do, at the foot of the screen.
     void setHelp(const QString& help);
+    /// Lets records of this kind be brought in from a file, by a button.
+    void offerBringIn(bringin::Kind records);
     /// The title of the selected record; empty without one.
     QString selectedTitle() const;
 

@@ -11,6 +11,7 @@ frmClients::frmClients()
     : SummaryList(
           {u"frmClients"_s, u"Clients"_s, u"client"_s, u"Accounts"_s, u"Title"_s, SearchFrom::SecondEntry})
 {
+    offerBringIn(bringin::Kind::Clients);
     setHelp(u"Ctrl+A new client  ·  Enter opens  ·  F3 client’s folder  ·  Esc close"_s);
 }
 

@@ -1,11 +1,11 @@
 #include "masters/frmEditClients.h"
 
-#include "core/store/Codes.h"
 #include "core/store/DE.h"
 #include "core/store/References.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "masters/ClientFolder.h"
+#include "masters/Records.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/boxes.h"
 #include "ui_frmEditClients.h"
@@ -92,14 +92,10 @@ void frmEditClients::read(ado::Recordset& row)
 
 void frmEditClients::write(ado::Recordset& row)
 {
-    row["Type"] = AccountType::Client;
-    row["Address"] = ui->txtAddress->Text();
-    row["City"] = ui->txtCity->Text();
-    row["State"] = ui->txtState->Text();
-    row["Mobile"] = ui->txtMobile->Text();
     ui->dateDob->settle(); // a date that is still being typed is chosen, too
-    const QDate dob = ui->dateDob->value();
-    row["dob"] = dob.isValid() ? QVariant(dob) : ado::Null;
+    ClientFields{ui->txtAddress->Text(), ui->txtCity->Text(), ui->txtState->Text(), ui->txtMobile->Text(),
+                 ui->dateDob->value()}
+        .writeTo(row);
 }
 
 bool frmEditClients::isInUse(qint16 id) { return isClientInUse(id); }

@@ -2,17 +2,13 @@
 
 #include "core/store/DE.h"
 #include "core/store/References.h"
+#include "masters/Records.h"
 #include "platform/values/Numbers.h"
 #include "ui_frmEditItem.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString LineBreak = u"\r\n"_s;
-
-/// A number typed into a box, as the text columns keep it: letters are 0.
-QString numberText(const swTextBox& box) { return values::CStr(values::Val(box.Text())); }
 
 Currency money(const swTextBox& box, const QString& field)
 {
@@ -36,7 +32,7 @@ frmEditItem::frmEditItem()
     setControls({ui->lblTitle, ui->txtName, ui->Command1, ui->Command2});
     onKeyDown(ui->txtItemDetails, [this](int& key) { templateKey(key); });
     onGotFocus(ui->txtItemDetails, [this] { m_afterEnter = false; });
-    onLostFocus(ui->txtItemDetails, [this] { tidyTemplate(); });
+    onLostFocus(ui->txtItemDetails, [this] { tidyTemplateBox(); });
 }
 
 frmEditItem::~frmEditItem() = default;
@@ -79,20 +75,14 @@ void frmEditItem::templateKey(int& key)
     }
 }
 
-/// Drops the blank lines. Blanks inside the lines stay: they belong to the names.
-void frmEditItem::tidyTemplate()
-{
-    const QStringList lines = ui->txtItemDetails->Text().split(LineBreak, Qt::SkipEmptyParts);
-    ui->txtItemDetails->setText(lines.join(LineBreak));
-}
+void frmEditItem::tidyTemplateBox() { ui->txtItemDetails->setText(tidyTemplate(ui->txtItemDetails->Text())); }
 
 void frmEditItem::write(ado::Recordset& row)
 {
-    row["Fees"] = money(*ui->txtFees, u"Fees"_s);
-    row["WorkerFees"] = money(*ui->txtWorkerFees, u"Worker's Fees"_s);
-    row["ItemDetails"] = ui->txtItemDetails->Text();
-    row["ProdcutionCap"] = numberText(*ui->txtProductionCap);
-    row["OpPendingOrders"] = numberText(*ui->txtPendingOrdersBal);
+    ItemFields{money(*ui->txtFees, u"Fees"_s), money(*ui->txtWorkerFees, u"Worker's Fees"_s),
+               ui->txtItemDetails->Text(), numberText(ui->txtProductionCap->Text()),
+               numberText(ui->txtPendingOrdersBal->Text())}
+        .writeTo(row);
 }
 
 bool frmEditItem::isInUse(qint16 id) { return isItemInUse(id); }

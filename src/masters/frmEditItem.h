@@ -27,7 +27,7 @@ private:
     bool isInUse(qint16 id) override;
 
     void templateKey(int& key);
-    void tidyTemplate();
+    void tidyTemplateBox();
 
     const std::unique_ptr<Ui::frmEditItem> ui;
     bool m_afterEnter = false; ///< the last key in the template box was Enter

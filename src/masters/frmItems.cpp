@@ -9,6 +9,7 @@ using namespace Qt::StringLiterals;
 frmItems::frmItems()
     : SummaryList({u"frmItems"_s, u"Items"_s, u"item"_s, u"Items"_s, u"Name"_s, SearchFrom::SecondEntry})
 {
+    offerBringIn(bringin::Kind::Items);
 }
 
 void frmItems::fill(ListTarget& list) { FillCombo(u"Name"_s, u"Items"_s, list, DE.rsITEMS); }

@@ -7,6 +7,7 @@
 #include "core/store/Copies.h"
 #include "core/store/Schema.h"
 #include "core/store/Texts.h"
+#include "masters/frmBringIn.h"
 #include "masters/frmEditClients.h"
 #include "planning/frmRatings.h"
 #include "platform/devices/Files.h"
@@ -261,6 +262,8 @@ private Q_SLOTS:
                                                     [] { Shop::run("Drop table Jobs"); },
                                                     [] { SetSetting(settings::TagLine, "new"); },
                                                     [this] { shop->addClient("Chand"); },
+                                                    [] { frmBringIn::choose(nullptr, bringin::Kind::Items); },
+                                                    [] { bringin::take({}, {}); },
                                                     [this] { shop->addVoucher(1, 1, 2, 5); },
                                                     [] {
                                                         JobCard card;

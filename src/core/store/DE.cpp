@@ -6,15 +6,26 @@ using namespace Qt::StringLiterals;
 
 DataEnvironment DE;
 
-void DataEnvironment::open(const QString& path) { m_connection.open(path, databasePassword()); }
+void DataEnvironment::open(const QString& path)
+{
+    m_connection.open(path, databasePassword());
+    m_refusal.clear();
+}
 
 void DataEnvironment::openToLook(const QString& path, const QString& refusal)
 {
     m_connection.openToLook(path, databasePassword(), refusal);
+    m_refusal = refusal;
     makeTemporaryTables(m_connection);
 }
 
 void DataEnvironment::close() { m_connection.close(); }
+
+void DataEnvironment::refuseIfLookedAt() const
+{
+    if (!m_refusal.isEmpty())
+        throw ado::DatabaseError(m_refusal);
+}
 
 void DataEnvironment::ensureIndexes()
 {

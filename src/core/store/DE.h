@@ -13,6 +13,7 @@
 class DataEnvironment
 {
     ado::Connection m_connection;
+    QString m_refusal; ///< of a file that is only looked at
 
 public:
     /// Opens the database file. Throws ado::DatabaseError, whose text names the file.
@@ -21,6 +22,9 @@ public:
     /// but into the tables that lists and papers are put together in.
     void openToLook(const QString& path, const QString& refusal);
     void close();
+    /// Throws ado::DatabaseError with that sentence when the file is only looked at: for work that would
+    /// begin long before its first write.
+    void refuseIfLookedAt() const;
     ado::Connection& connection() { return m_connection; }
 
     /// Makes the indexes that speed the look-ups, where they are missing. They carry no rule: a file that
