@@ -5,10 +5,10 @@
 #include "core/store/Texts.h"
 #include "core/store/Voucher.h"
 #include "jobcards/JobCard.h"
+#include "jobcards/WageOfReturned.h"
 #include "platform/values/Numbers.h"
 
 #include <QCryptographicHash>
-#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -173,24 +173,20 @@ private:
     QMap<qint32, qint32> m_items;
 };
 
-bool payrollStands(qint32 number)
-{
-    ado::Recordset payroll(DE.connection());
-    payroll.Open(u"Select Id from postings where VID=%1 and Vtype=2 and isPayroll=1"_s.arg(number));
-    return !payroll.AtEOF();
-}
-
-void addLine(Row line, const Kept& kept, qint32 card, Numbers& numbers)
+/// Returns whether it counts as paid in another way than then.
+bool addLine(Row line, const Kept& kept, qint32 card, Numbers& numbers)
 {
     line[u"jobid"_s] = card;
     line[u"clintid"_s] = numbers.account(line[u"clintid"_s]);
     line[u"itemid"_s] = numbers.item(line[u"itemid"_s]);
     line[u"workerid"_s] = numbers.account(line[u"workerid"_s]);
-    if (kept.change != Change::Deleted || !payrollStands(line[u"payrollid"_s].toInt())) {
-        line[u"markaspaid"_s] = 0;
-        line[u"payrollid"_s] = 0;
-    }
+    const Payment payment = paymentOf(line, kept);
+    const bool paidSince = payment.paid && (line[u"markaspaid"_s].toInt() == 0 ||
+                                            line[u"payrollid"_s].toInt() != payment.payroll);
+    line[u"markaspaid"_s] = int(payment.paid);
+    line[u"payrollid"_s] = payment.payroll;
     addRow(u"JOBS_DETAIL"_s, line);
+    return paidSince;
 }
 
 void addPosting(Row posting, const Kept& kept, qint32 number, Numbers& numbers)
@@ -236,10 +232,12 @@ Kept read(ado::Connection& then, const Difference& difference)
     takeNamed(then, kept.lines, {u"clintid"_s, u"workerid"_s}, u"Accounts"_s, kept.accounts);
     takeNamed(then, kept.postings, {u"accid"_s, u"refid"_s}, u"Accounts"_s, kept.accounts);
     takeNamed(then, kept.lines, {u"itemid"_s}, u"ITEMS"_s, kept.items);
+    for (const Row& payroll : rowsOf(then, u"Select VID from postings where Vtype=2 and isPayroll=1"_s))
+        kept.payrolls << payroll[u"vid"_s].toInt();
     return kept;
 }
 
-qint32 bringBack(const Kept& kept)
+Returned bringBack(const Kept& kept)
 {
     if (kept.kind == Kind::Payroll)
         throw OperatorError(
@@ -247,8 +245,10 @@ qint32 bringBack(const Kept& kept)
             "the Wages Register takes them."_s);
     if (kept.postings.empty() && kept.cards.empty())
         throw OperatorError(u"It was not there then."_s);
-    qint32 number = 0;
+    Returned returned;
     DE.connection().writeBatch([&] {
+        returned = {};
+        qint32& number = returned.number;
         Numbers numbers(kept);
         number = kept.kind == Kind::Card ? JobCard::GetNewNum() : Voucher::NextEntryNumber();
         for (Row card : kept.cards) {
@@ -258,11 +258,11 @@ qint32 bringBack(const Kept& kept)
             addRow(u"JOBS"_s, card, false);
         }
         for (const Row& line : kept.lines)
-            addLine(line, kept, number, numbers);
+            returned.paidSince += int(addLine(line, kept, number, numbers));
         for (const Row& posting : kept.postings)
             addPosting(posting, kept, number, numbers);
     });
-    return number;
+    return returned;
 }
 
 } // namespace differences

@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QMap>
+#include <QSet>
 #include <QString>
 #include <QVariant>
 #include <vector>
@@ -46,14 +47,22 @@ struct Kept
     std::vector<Row> postings;
     QMap<qint32, Row> accounts;
     QMap<qint32, Row> items;
+    QSet<qint32> payrolls; ///< all that there were then
 };
 Kept read(ado::Connection& then, const Difference& difference);
 
-/// Writes it into the shop that `DE` has open, as a new card or voucher with the next number, which it
-/// returns; whole or not at all. Accounts and items are found by their names; one that is gone is added again
-/// as it was. A line's state, worker and wage come with it; a wage that a payroll covers which is still there
-/// stays paid when the card was deleted since. Throws OperatorError, for a payroll always: its lines are
-/// unpaid again, and a new payroll takes them.
-qint32 bringBack(const Kept& kept);
+/// What has come back.
+struct Returned
+{
+    qint32 number = 0;
+    int paidSince = 0; ///< its lines that are marked as paid now and were not then, or not without a payroll
+};
+
+/// Writes it into the shop that `DE` has open, as a new card or voucher with the next number; whole or not at
+/// all. Accounts and items are found by their names; one that is gone is added again as it was. A line's
+/// state, worker and wage come with it; what the shop has paid its worker stays paid (WageOfReturned.h), and
+/// nothing is posted for it. Throws OperatorError, for a payroll always: its lines are unpaid again, and a
+/// new payroll takes them.
+Returned bringBack(const Kept& kept);
 
 } // namespace differences

@@ -20,14 +20,21 @@ PictureBox::PictureBox(QWidget* parent)
 void PictureBox::load(const QString& path)
 {
     m_picture = forms::loadPicture(path, LargestShown);
-    m_unreadable = m_picture.isNull();
+    m_words = m_picture.isNull() ? u"No preview"_s : QString();
     update();
 }
 
 void PictureBox::clear()
 {
     m_picture = {};
-    m_unreadable = false;
+    m_words.clear();
+    update();
+}
+
+void PictureBox::showMissing(bool missing)
+{
+    m_picture = {};
+    m_words = missing ? u"The picture is gone"_s : QString();
     update();
 }
 
@@ -38,8 +45,7 @@ void PictureBox::paintEvent(QPaintEvent* event)
     QFrame::paintEvent(event);
     QPainter painter(this);
     const QRect place = contentsRect().adjusted(4, 4, -4, -4);
-    if (m_unreadable)
-        painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, u"No preview"_s);
+    painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, m_words);
     if (m_picture.isNull())
         return;
     QRect shown({}, m_picture.size().scaled(place.size(), Qt::KeepAspectRatio));

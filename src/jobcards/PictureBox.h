@@ -13,6 +13,9 @@ public:
     /// Shows the picture of a file; says so when it is too large or damaged to be shown.
     void load(const QString& path);
     void clear();
+    /// Says that a picture was taken and its file is gone; false: that none was taken.
+    void showMissing(bool missing);
+    const QString& words() const { return m_words; }
     const QPixmap& picture() const { return m_picture; }
 
 Q_SIGNALS:
@@ -24,5 +27,5 @@ protected:
 
 private:
     QPixmap m_picture;
-    bool m_unreadable = false;
+    QString m_words; ///< in place of a picture
 };

@@ -1,5 +1,6 @@
 #include "jobcards/PictureFiles.h"
 
+#include "core/store/LivingShop.h"
 #include "core/store/Session.h"
 #include "core/store/ShopPictures.h"
 #include "core/store/Startup.h"
@@ -41,6 +42,7 @@ QString timeText(const QDateTime& time)
 
 QString newPath(const QString& client, const QDateTime& now, int picture)
 {
+    requireLivingShop();
     constexpr int timesToTell = 600;
     const QString start = session.imagesFolder() + u'/' + fileNameOf(client) + u'_' +
                           values::Format(now.date(), u"DD_MM_YYYY"_s) + u'_';
@@ -55,6 +57,7 @@ QString newPath(const QString& client, const QDateTime& now, int picture)
 
 void copy(const QString& source, const QString& target)
 {
+    requireLivingShop();
     if (!forms::isPicture(source))
         throw OperatorError(u"%1 is not a picture that can be shown."_s.arg(source));
     MakeImagesFolder();
@@ -75,6 +78,7 @@ void copy(const QString& source, const QString& target)
 
 void remove(const QString& link)
 {
+    requireLivingShop();
     QFile file(shopPicture(link));
     if (!file.fileName().isEmpty() && !file.remove())
         throw OperatorError(

@@ -3,7 +3,8 @@
 #include <QDateTime>
 #include <QString>
 
-/// The picture files of job lines, in the folder of pictures beside the executable.
+/// The picture files of job lines, in the folder of pictures beside the executable. They are the living
+/// shop's: a shop that is only looked at makes and deletes none, and gets an OperatorError.
 namespace picturefiles {
 
 /// A path that no file has yet: the folder, the client's name, the day as DD_MM_YYYY, then weekday (1 is

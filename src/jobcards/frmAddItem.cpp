@@ -1,6 +1,7 @@
 #include "jobcards/frmAddItem.h"
 
 #include "core/store/DE.h"
+#include "core/store/LivingShop.h"
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "core/store/ShopPictures.h"
@@ -238,6 +239,7 @@ void frmAddItem::chooseColor()
 /// A camera that gave nothing leaves the place as it is.
 void frmAddItem::takePicture(PictureBox& pic, QLabel& picPath, int number)
 {
+    requireLivingShop();
     const QString target = newPicture(number);
     bool cancelled = true;
     frmCam().TakeSnap(target, cancelled);
@@ -248,6 +250,7 @@ void frmAddItem::takePicture(PictureBox& pic, QLabel& picPath, int number)
 /// A picture that is there already is drawn on.
 void frmAddItem::drawNote()
 {
+    requireLivingShop();
     const QString target = ui->picPath1->text().isEmpty() ? newPicture(1) : ui->picPath1->text();
     bool cancelled = true;
     frmHandNote().TakeSnap(target, cancelled);
@@ -266,6 +269,7 @@ QString frmAddItem::newPicture(int number) const
 /// The picture goes to the second place; its file is named as the first's are.
 void frmAddItem::selectSecondPicture()
 {
+    requireLivingShop();
     frmSelectFile picker;
     const QString source = picker.SelFile();
     if (source.isEmpty() || source == "Cancel"_L1)
@@ -283,13 +287,13 @@ void frmAddItem::clearPicture(PictureBox& pic, QLabel& picPath)
     m_lostLinks.remove(&picPath);
 }
 
-/// A picture that is not there leaves the place as it is; its link stays with the line, as the file may come
-/// back.
+/// The place of a picture that is not there says so; its link stays with the line, as the file may come back.
 void frmAddItem::showPicture(PictureBox& pic, QLabel& picPath, const QString& link)
 {
     const QString file = shownPicture(link);
     if (file.isEmpty()) {
         m_lostLinks.insert(&picPath, link);
+        pic.showMissing(!link.isEmpty());
         return;
     }
     pic.load(file);

@@ -154,8 +154,10 @@ void frmEditWorkerAssign::showPicture(PictureBox& pic, QPushButton& print, QStri
                                       const QString& link)
 {
     const QString file = shownPicture(link);
-    if (file.isEmpty())
+    if (file.isEmpty()) {
+        pic.showMissing(!link.isEmpty());
         return;
+    }
     pic.load(file);
     imgPath = file;
     print.setEnabled(true);

@@ -1,6 +1,7 @@
 #include "messaging/swSMS.h"
 
 #include "core/store/Contacts.h"
+#include "core/store/LivingShop.h"
 #include "core/store/Settings.h"
 #include "messaging/modSMS.h"
 #include "platform/forms/MessageBox.h"
@@ -45,6 +46,7 @@ void swSMS::SendSMS(qint16 port, const QString& number, const QString& message)
 
 bool SendSmsToNumber(swSMS& sms, const QString& number, const QString& text)
 {
+    requireLivingShop();
     const QString port = GetSetting(settings::ModemPort);
     if (number.isEmpty()) {
         ShowMsg(u"Mobile Number Not Found!\r\nSMS Sending has been Failed."_s);

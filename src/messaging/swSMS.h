@@ -35,7 +35,8 @@ private:
 
 /// The step by which every screen tells a client something: refuses with a message when the number or the
 /// modem's port (setting 4) is missing, the number first; shows a message that would arrive changed and asks
-/// whether to send it; sends. Returns whether it came to sending.
+/// whether to send it; sends. Returns whether it came to sending. Throws OperatorError in a shop that is only
+/// looked at.
 bool SendSmsToNumber(swSMS& sms, const QString& number, const QString& text);
 /// The same to the mobile number of a client, by title or by id as GetClientMobile takes them.
 bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString& text);

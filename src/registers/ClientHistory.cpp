@@ -148,8 +148,7 @@ std::vector<Garment> garmentsOf(qint32 client)
                          .pictures = {}};
              for (const char* column : {"Img1", "Img2"})
                  if (const QString link = lines[column].text(); !link.isEmpty())
-                     if (const QString picture = shownPicture(link); !picture.isEmpty())
-                         order.pictures << picture;
+                     order.pictures << shownPicture(link);
              add(garments[places.value(item.toCaseFolded())], std::move(order),
                  rowsOf(lines["ItemDetails"].text()), rowsOf(lines["ItemDetailsValue"].text()));
          });

@@ -26,7 +26,7 @@ struct Order
     QStringList values; ///< one for each of the garment's measurements; empty where it had none
     QString remark;
     QString note;         ///< of the client
-    QStringList pictures; ///< paths of those that are there
+    QStringList pictures; ///< paths; empty for one that was taken and is gone
 };
 
 struct Garment

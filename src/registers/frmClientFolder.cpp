@@ -188,7 +188,12 @@ void frmClientFolder::showPictures(const history::Garment& garment)
             auto* button = new QPushButton;
             button->setProperty("figure", true);
             button->setIconSize({pictureSize, pictureSize});
-            button->setIcon(QIcon(forms::loadPicture(path, {pictureSize, pictureSize})));
+            if (path.isEmpty()) {
+                button->setText(u"gone"_s);
+                button->setEnabled(false);
+            } else {
+                button->setIcon(QIcon(forms::loadPicture(path, {pictureSize, pictureSize})));
+            }
             button->setToolTip(order.code + u"  "_s + dateText(order.booked));
             button->setAccessibleName(u"Picture of "_s + order.code);
             on(button, &QPushButton::clicked, [path] { frmPreview().ShowImage(path); });

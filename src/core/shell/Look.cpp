@@ -4,6 +4,7 @@
 #include "core/shell/frmMain.h"
 #include "core/store/Copies.h"
 #include "core/store/DE.h"
+#include "core/store/LivingShop.h"
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
 #include "core/store/Startup.h"
@@ -50,12 +51,7 @@ private:
     UnsavedCards m_unsaved;
 };
 
-void openFile()
-{
-    DE.openToLook(current().path,
-                  u"This is the shop as it was on %1, only to be looked at: nothing in it can be "
-                  "changed."_s.arg(session.LookedAt));
-}
+void openFile() { DE.openToLook(current().path, lookRefusal()); }
 
 void openToLook(const copies::Copy& copy)
 {
@@ -67,7 +63,8 @@ void openToLook(const copies::Copy& copy)
     LoadSessionDefaults();
     session.WorkingDate = StoredWorkingDate();
     forms::Screen::setBand(
-        u"The shop as it was on %1, only to be looked at: nothing can be changed."_s.arg(session.LookedAt));
+        u"The shop as it was on %1, only to be looked at: nothing can be changed. Pictures are as they are "
+        "today."_s.arg(session.LookedAt));
 }
 
 } // namespace
@@ -88,6 +85,10 @@ void lookInto(const QString& path)
 
 void showDifferences(QWidget* parent)
 {
+    if (archive::birthMark(current().path) != archive::birthMark(session.databasePath()))
+        throw OperatorError(
+            u"This is a copy of another shop: it cannot be compared with this one, and nothing "
+            "of it comes back into it."_s);
     std::vector<differences::Difference> found;
     forms::runInBackground(parent, u"What Differs From Today"_s, [&found](const Progress& progress) {
         progress.step(u"comparing both shops"_s, [&] {
@@ -103,18 +104,18 @@ void showDifferences(QWidget* parent)
     frmDifferences(std::move(found)).showModal();
 }
 
-qint32 bringToLivingShop(const differences::Difference& difference)
+differences::Returned bringToLivingShop(const differences::Difference& difference)
 {
     const differences::Kept kept = differences::read(DE.connection(), difference);
     DE.close();
-    qint32 number = 0;
+    differences::Returned returned;
     try {
         DE.open(session.databasePath());
-        number = differences::bringBack(kept);
+        returned = differences::bringBack(kept);
     } catch (...) {
         openFile();
         throw;
     }
     openFile();
-    return number;
+    return returned;
 }

@@ -11,9 +11,10 @@ class QWidget;
 /// the living shop open again, when that screen is left. Throws OperatorError when the file is no shop's.
 void lookInto(const QString& path);
 
-/// Compares the shop that is looked at with the living one, and shows what differs.
+/// Compares the shop that is looked at with the living one, and shows what differs. Throws OperatorError for
+/// a copy of another shop.
 void showDifferences(QWidget* parent);
 
-/// Brings a card or voucher of the shop that is looked at into the living one; its new number. The look goes
-/// on. Throws OperatorError, with nothing brought back.
-qint32 bringToLivingShop(const differences::Difference& difference);
+/// Brings a card or voucher of the shop that is looked at into the living one. The look goes on. Throws
+/// OperatorError, with nothing brought back.
+differences::Returned bringToLivingShop(const differences::Difference& difference);

@@ -6,34 +6,30 @@
 #include "ui/modLang.h"
 #include "ui_frmDifferences.h"
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString changeText(differences::Change change)
+/// By the order of differences::Change and differences::Kind.
+constexpr std::array changes{"deleted since"_L1, "changed since"_L1, "added since"_L1};
+constexpr std::array kinds{"Job card"_L1, "Voucher"_L1, "Payroll"_L1};
+
+QString changeText(differences::Change change) { return changes.at(size_t(change)); }
+QString nameText(differences::Kind kind, qint32 number)
 {
-    switch (change) {
-    case differences::Change::Deleted:
-        return u"deleted since"_s;
-    case differences::Change::Changed:
-        return u"changed since"_s;
-    case differences::Change::Added:
-        break;
-    }
-    return u"added since"_s;
+    return kinds.at(size_t(kind)) + u' ' + QString::number(number);
 }
 
-QString kindText(differences::Kind kind)
+/// What the operator reads of wages that the shop has paid already; empty for none.
+QString wagesText(int lines)
 {
-    switch (kind) {
-    case differences::Kind::Card:
-        return u"Job card"_s;
-    case differences::Kind::Payroll:
-        return u"Payroll"_s;
-    case differences::Kind::Voucher:
-        break;
-    }
-    return u"Voucher"_s;
+    if (lines == 0)
+        return {};
+    return lines == 1
+               ? u"\nThe wage of one garment was paid already: it is marked as paid."_s
+               : u"\nThe wages of %1 garments were paid already: they are marked as paid."_s.arg(lines);
 }
 
 } // namespace
@@ -59,8 +55,7 @@ void frmDifferences::Form_Load()
     std::vector<forms::ListView::Row> rows;
     for (const differences::Difference& difference : m_found)
         rows.push_back(
-            {{changeText(difference.change),
-              kindText(difference.kind) + u' ' + QString::number(difference.number),
+            {{changeText(difference.change), nameText(difference.kind, difference.number),
               dateText(difference.date), difference.who, moneyText(difference.amount.toDouble())}});
     ui->lvSummary->setRows(std::move(rows));
     ui->lvSummary->selectRow(0);
@@ -78,10 +73,16 @@ void frmDifferences::bringBack()
         forms::plainMessage(this, u"%1 was not there on that day: it is in the living shop."_s.arg(what));
         return;
     }
+    if (m_back.contains(row)) {
+        forms::plainMessage(this, u"%1 is %2 already."_s.arg(what, ui->lvSummary->cell(row, 0)));
+        return;
+    }
     if (!forms::askPlain(this,
                          u"Bring back %1 (%2) into the living shop, as a new one?"_s.arg(what, chosen.who)))
         return;
-    const QString now = kindText(chosen.kind) + u' ' + QString::number(bringToLivingShop(chosen));
+    const differences::Returned returned = bringToLivingShop(chosen);
+    const QString now = nameText(chosen.kind, returned.number);
+    m_back << row;
     ui->lvSummary->setCell(row, 0, u"back as "_s + now);
-    forms::plainMessage(this, u"It is %1 of the living shop now."_s.arg(now));
+    forms::plainMessage(this, u"It is %1 of the living shop now."_s.arg(now) + wagesText(returned.paidSince));
 }

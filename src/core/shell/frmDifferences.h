@@ -26,4 +26,5 @@ private:
 
     const std::unique_ptr<Ui::frmDifferences> ui;
     const std::vector<differences::Difference> m_found;
+    QSet<int> m_back; ///< the rows that have been brought back
 };

@@ -77,8 +77,7 @@ void copyFiles(const QString& from, const QString& to, const Progress& progress,
 /// One program at a time makes or restores a backup of the shop.
 void takeTurn(QLockFile& lock)
 {
-    lock.setStaleLockTime(0); // it may take hours; that of a dead program is known by its number
-    if (lock.tryLock())
+    if (files::takeLock(lock))
         return;
     throw OperatorError(lock.error() == QLockFile::LockFailedError
                             ? u"Another program is at a backup of this shop."_s
@@ -94,8 +93,7 @@ void clearUnlessHeld(const QString& lockPath, const QStringList& paths)
     if (std::none_of(paths.begin(), paths.end(), [](const QString& path) { return QFileInfo::exists(path); }))
         return;
     QLockFile lock(lockPath);
-    lock.setStaleLockTime(0);
-    if (!lock.tryLock())
+    if (!files::takeLock(lock))
         return;
     for (const QString& path : paths) {
         QFile::remove(path);

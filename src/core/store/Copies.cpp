@@ -161,8 +161,7 @@ Making::Making(const QDate& workingDay)
     : m_lock(lockPath())
     , m_workingDay(workingDay)
 {
-    m_lock.setStaleLockTime(0); // that of a dead program is known by its number
-    if (!m_lock.tryLock())
+    if (!files::takeLock(m_lock))
         throw OperatorError(u"Another program is at a copy of this shop, or the shop's folder cannot be "
                             "written: "_s +
                             QDir::toNativeSeparators(session.appFolder));
@@ -240,8 +239,8 @@ void bringTo(const QString& backupFolder)
 
 void finishDay()
 {
-    if (!DE.connection().isOpen())
-        return; // the shop's file has been exchanged
+    if (!DE.connection().isOpen() || !session.LookedAt.isEmpty())
+        return; // the shop's file has been exchanged, or the open one is not the living shop's
     try {
         const QString backupFolder = GetSetting(settings::BackupFolder);
         if (isDue()) {

@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <filesystem>
 
 #ifdef Q_OS_UNIX
@@ -72,6 +73,18 @@ void copyWhole(const QString& from, const QString& to)
         QFile::remove(unfinished);
         throw;
     }
+}
+
+bool takeLock(QLockFile& lock)
+{
+    constexpr qint64 writingTakes = 2; // seconds, at most
+    lock.setStaleLockTime(0);
+    if (lock.tryLock())
+        return true;
+    const QFileInfo file(lock.fileName());
+    const bool isNobodys = file.isFile() && file.size() == 0 &&
+                           qAbs(file.lastModified().secsTo(QDateTime::currentDateTime())) >= writingTakes;
+    return isNobodys && QFile::remove(file.filePath()) && lock.tryLock();
 }
 
 void keepPrivate(const QString& path)

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class QLockFile;
+
 /// What QFile leaves out: files for the owner alone, safety at a power cut, and which file a name stands for.
 namespace files {
 
@@ -31,6 +33,11 @@ inline constexpr QLatin1StringView unfinishedCopy(".unfinished-copy");
 /// Copies a file so that under its new name it is whole or not there, and of the same time. A file of that
 /// name is replaced. Throws OperatorError with the system's reason.
 void copyWhole(const QString& from, const QString& to);
+
+/// Takes a lock that may be held for hours; false while another program that lives holds it. That of a dead
+/// program is known by the number in its file; it is none's, too, when the program died before it had written
+/// the number.
+bool takeLock(QLockFile& lock);
 
 /// Tells the file that the name stands for now from any other; empty when there is none.
 QByteArray identity(const QString& path);
