@@ -14,7 +14,24 @@ std::function<void(const QString&)>& opener()
     return show;
 }
 
+std::function<void(const QString&, const QString&)>& booksOpener()
+{
+    static std::function<void(const QString&, const QString&)> show;
+    return show;
+}
+
 } // namespace
+
+void showOldBooks(const QString& file, const QString& client)
+{
+    if (booksOpener())
+        booksOpener()(file, client);
+}
+
+void setOldBooks(std::function<void(const QString&, const QString&)> show)
+{
+    booksOpener() = std::move(show);
+}
 
 void showClientFolder(const QString& client)
 {

@@ -177,6 +177,11 @@ void readWorkers(Shop& shop, const QDate& day)
 
 Room roomOf(const QString& table, qint64 limit) { return {one(u"Select max(ID) from "_s + table), limit}; }
 
+constexpr qint64 highestNumber = std::numeric_limits<qint16>::max();
+Room roomOfLines() { return roomOf(u"JOBS_DETAIL"_s, highestNumber); }
+Room roomOfAccounts() { return roomOf(u"Accounts"_s, highestNumber); }
+Room roomOfPostings() { return roomOf(u"Postings"_s, HighestSerialNumber); }
+
 } // namespace
 
 Shop read(const QDate& day)
@@ -187,11 +192,18 @@ Shop read(const QDate& day)
     readMoney(shop, day);
     sumDues(shop.dues, day);
     readWorkers(shop, day);
-    constexpr qint64 highestNumber = std::numeric_limits<qint16>::max();
-    shop.lines = roomOf(u"JOBS_DETAIL"_s, highestNumber);
-    shop.accounts = roomOf(u"Accounts"_s, highestNumber);
-    shop.postings = roomOf(u"Postings"_s, HighestSerialNumber);
+    shop.lines = roomOfLines();
+    shop.accounts = roomOfAccounts();
+    shop.postings = roomOfPostings();
     return shop;
+}
+
+Room scarcestRoom()
+{
+    const Room rooms[] = {roomOfLines(), roomOfAccounts(), roomOfPostings()};
+    return *std::max_element(std::begin(rooms), std::end(rooms), [](const Room& left, const Room& right) {
+        return left.percent() < right.percent();
+    });
 }
 
 std::vector<Birthday> birthdays(const QDate& day)

@@ -103,6 +103,9 @@ struct Shop
     QDate lastDay;
 };
 
+/// How much is used of the scarcest numbers: those of lines, accounts or postings. Quick.
+Room scarcestRoom();
+
 /// Reads them. Throws ado::DatabaseError.
 Shop read(const QDate& day);
 

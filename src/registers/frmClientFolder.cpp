@@ -1,10 +1,12 @@
 #include "registers/frmClientFolder.h"
 
 #include "core/store/Contacts.h"
+#include "core/store/Copies.h"
 #include "core/store/Lookups.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "jobcards/frmEditJOB.h"
+#include "masters/ClientFolder.h"
 #include "media/frmPreview.h"
 #include "platform/forms/ListSheet.h"
 #include "platform/forms/Palette.h"
@@ -61,6 +63,7 @@ frmClientFolder::frmClientFolder()
     });
     onOpened(ui->lvCards, &frmClientFolder::openCard);
     on(ui->cmdPrint, &QPushButton::clicked, &frmClientFolder::print);
+    on(ui->cmdOldBooks, &QPushButton::clicked, [this] { showOldBooks(m_oldBooks, m_client); });
 }
 
 frmClientFolder::~frmClientFolder() = default;
@@ -87,10 +90,22 @@ void frmClientFolder::Form_Activate()
     const AccountContact contact = AccountContact::of(id);
     ui->lblClient->setText(contact.title);
     ui->lblContact->setText(contact.lines.join(u"  ·  "_s));
+    showWhetherOlder();
     const double balance = GetBalances(QString::number(id), session.WorkingDate).value(id);
     ui->lblBalance->setText(u"Balance: "_s + balanceText(balance));
     showCards();
     showGarments();
+}
+
+/// Orders of before the new books are in the old ones.
+void frmClientFolder::showWhetherOlder()
+{
+    const QList<copies::Copy> books = session.LookedAt.isEmpty() ? copies::oldBooks() : QList<copies::Copy>();
+    ui->cmdOldBooks->setVisible(!books.isEmpty());
+    m_oldBooks = books.isEmpty() ? QString() : books.front().path;
+    if (!books.isEmpty())
+        ui->cmdOldBooks->setText(
+            u"&Older Orders: books to %1"_s.arg(dateText(copies::lastDayOfBooks(m_oldBooks))));
 }
 
 void frmClientFolder::showCards()

@@ -29,6 +29,7 @@ protected:
 
 private:
     const history::Garment* chosenGarment() const;
+    void showWhetherOlder();
     void showCards();
     void showGarments();
     void showMeasurements();
@@ -41,4 +42,5 @@ private:
     QString m_client;
     std::vector<history::Garment> m_garments;
     std::vector<QPushButton*> m_pictures;
+    QString m_oldBooks; ///< the file of the newest; empty: there are none
 };

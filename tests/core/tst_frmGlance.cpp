@@ -215,7 +215,7 @@ private Q_SLOTS:
             click(screen, "cmdTrials");
             onNextModal<frmBirthDayRimenders>([](frmBirthDayRimenders&) {});
             click(screen, "cmdBirthdays");
-            QCOMPARE(label(screen, "lblRoom"), u"The shop's file is nearly full:"_s);
+            QCOMPARE(label(screen, "lblRoom"), u"Nearly full: New Books (Settings, Backup) make room."_s);
             QCOMPARE(control<QAbstractButton>(screen, "cmdLines").text(), u"Lines 29,491 of 32,767 (90%)"_s);
             onNextModal<frmWorkerJobRegister>([](frmWorkerJobRegister& list) { QCOMPARE(lines(list), 1); });
             click(screen, "cmdLines");

@@ -1,3 +1,4 @@
+#include "core/shell/frmNewBooks.h"
 #include "core/shell/frmSettings.h"
 #include "core/store/Backup.h"
 #include "messaging/modSMS.h"
@@ -138,6 +139,60 @@ private Q_SLOTS:
         shop->reopen();
         QCOMPARE(Shop::count("Select * from Accounts where Title='Asha'"), 0);
         QCOMPARE(lastBackupDay(), QDate::currentDate()); // of the archive, which was made before it was noted
+    }
+
+    /// By keys: who stays behind is seen and changed; the old books open from the client's folder.
+    void makesNewBooks()
+    {
+        shop->addClient("Asha");
+        shop->addItem("Shirt");
+        JobCard card;
+        Shop::order(card.JobRows, "Shirt", 300);
+        JobCardHead head = Shop::head(1, "Asha", 300);
+        head.Delivered = true;
+        card.SaveNew(head);
+        JobCard later;
+        Shop::order(later.JobRows, "Shirt", 500);
+        later.SaveNew(Shop::head(2, "Asha", 500));
+        shop->addClient("Never Came");
+        shop->addWorker("Left Long Ago");
+        for (const char* old :
+             {"JOBS set DATE='2020-03-01' where Id=1",
+              "JOBS_DETAIL set DATE='2020-03-01', DoneByWorker=2, DelToCustDate='2020-03-02' where JobID=1",
+              "postings set Date='2020-03-01' where VID=1"})
+            Shop::run(QString("Update ") + old);
+        prompts->expect("Make new books now, the old ones to end with 31-Jan-2024?", Answer::No);
+        prompts->expect("Make new books now, the old ones to end with 31-Jan-2024?", Answer::Yes);
+        prompts->expect("The new books are made. The old ones, to 31-Jan-2024, are listed with the copies of "
+                        "the shop, on "
+                        "the Backup page.\r\nPlease restart application.");
+        inModal<frmSettings>([](frmSettings& screen) {
+            onNextModal<frmNewBooks>([](frmNewBooks& books) {
+                forms::ListView& list = listView(books, "lvIdle");
+                QCOMPARE(focused(books), "lvIdle");
+                QCOMPARE(rowText(books, 0, "lvIdle"), "Left Long Ago|Worker|never|");
+                QCOMPARE(rowText(books, 1, "lvIdle"), "Never Came|Client|never|");
+                press(Qt::Key_Down);
+                press(Qt::Key_Return);
+                QCOMPARE(rowText(books, 1, "lvIdle"), "Never Came|Client|never|Yes");
+                date(books, "LastDay").setValue(QDate(2024, 1, 15));
+                click(books, "cmdMake"); // shows that day first
+                QVERIFY(books.isVisible() && list.cell(1, 3).isEmpty());
+                date(books, "LastDay").setValue(QDate(2024, 1, 31));
+                click(books, "cmdView");
+                list.selectRow(1);
+                press(Qt::Key_Return);
+                click(books, "cmdMake");
+                QVERIFY(books.isVisible());
+                click(books, "cmdMake");
+            });
+            click(screen, "cmdNewBooks");
+        });
+        shop->reopen();
+        QCOMPARE(Shop::rows("Select Title from Accounts where Type<2 order by Id"),
+                 QStringList({"Asha", "Never Came"}));
+        QCOMPARE(GetBalance(qint16(GetAccountID("Asha")), session.WorkingDate), -800.0);
+        QCOMPARE(Shop::rows("Select JobID from JOBS_DETAIL"), QStringList("2"));
     }
 };
 

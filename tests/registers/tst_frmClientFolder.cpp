@@ -1,3 +1,4 @@
+#include "core/shell/Look.h"
 #include "jobcards/frmEditJOB.h"
 #include "masters/ClientFolder.h"
 #include "masters/frmClients.h"
@@ -148,6 +149,31 @@ private Q_SLOTS:
         });
         onNextModal<frmEditClients>([&](frmEditClients&) { folderOpens(); });
         frmEditClients().Edit(qint16(client));
+    }
+
+    /// What was ordered before the new books is a key away, in the old ones.
+    void olderOrdersAreInTheOldBooks()
+    {
+        setOldBooks(lookIntoBooks);
+        addLine(1, u"2020-01-05"_s, u"Length"_s, u"30"_s);
+        shop->addJob(1, client);
+        QVERIFY(QFile::copy(session.databasePath(), shop->folder() + u"/data.books-to-2024-01-31.mdb"_s));
+        Shop::run(u"Delete from Jobs_Detail"_s);
+        shop->addClient(u"Bela"_s);
+        prompts->expect(u"Bela is not in these old books."_s);
+        inFolder(u"D’Souza"_s, [](Folder& folder) {
+            QCOMPARE(measures(folder), QStringList());
+            QCOMPARE(control<QPushButton>(folder, "cmdOldBooks").text(),
+                     u"&Older Orders: books to 31-Jan-2024"_s);
+            onNextModal<Folder>([](Folder& old) {
+                QVERIFY(!measures(old).isEmpty() && !session.LookedAt.isEmpty());
+                QVERIFY(!control<QPushButton>(old, "cmdOldBooks").isVisible());
+                press(Qt::Key_Escape);
+            });
+            press(Qt::Key_O, Qt::AltModifier);
+            QCOMPARE(session.LookedAt, QString());
+        });
+        inFolder(u"Bela"_s, [](Folder& folder) { click(folder, "cmdOldBooks"); });
     }
 
     /// One client with 2,000 cards: as many columns as a screen can use, and all of them counted.

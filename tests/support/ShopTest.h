@@ -7,6 +7,7 @@
 #include "support/Shop.h"
 
 #include <QTest>
+#include <QTimer>
 #include <memory>
 
 /// A test whose functions each begin in a fresh shop and must meet every prompt and screen that they expect.
@@ -20,9 +21,17 @@ protected:
     /// Lays what all functions of the test need.
     virtual void lay() {}
 
+    /// After a restore the program is told to end, and opens no screen any more until it begins anew.
+    static void forgetExit()
+    {
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
+        QCoreApplication::exec();
+    }
+
 private Q_SLOTS:
     void init()
     {
+        forgetExit();
         shop = std::make_unique<Shop>();
         prompts = std::make_unique<Prompts>();
         lay();

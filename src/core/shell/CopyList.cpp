@@ -23,6 +23,8 @@ QString dayText(const copies::Copy& copy)
 {
     if (copy.day.isValid())
         return dateText(copy.day);
+    if (const QDate lastDay = copies::lastDayOfBooks(copy.path); lastDay.isValid())
+        return u"Old books to %1"_s.arg(dateText(lastDay));
     return u"%1 (%2)"_s.arg(QFileInfo(copy.path).completeBaseName(), dateText(copy.changed.date()));
 }
 

@@ -5,11 +5,14 @@
 #include "core/store/Copies.h"
 #include "core/store/DE.h"
 #include "core/store/LivingShop.h"
+#include "core/store/Lookups.h"
+#include "core/store/NewBooks.h"
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
 #include "core/store/Startup.h"
 #include "core/store/Texts.h"
 #include "jobcards/UnsavedCards.h"
+#include "masters/ClientFolder.h"
 #include "platform/ado/Integrity.h"
 #include "platform/forms/BackgroundTask.h"
 
@@ -67,20 +70,35 @@ void openToLook(const copies::Copy& copy)
         "today."_s.arg(session.LookedAt));
 }
 
-} // namespace
-
-void lookInto(const QString& path)
+/// Shows something of the shop as a file has it, and comes back to the living one.
+void look(const QString& path, const std::function<void()>& show)
 {
     const copies::Copy copy = copies::read(path);
     ShopSwitch other;
     try {
         openToLook(copy);
-        frmMain().showModal();
+        show();
     } catch (...) {
         other.end();
         throw;
     }
     other.end();
+}
+
+} // namespace
+
+void lookInto(const QString& path)
+{
+    look(path, [] { frmMain().showModal(); });
+}
+
+void lookIntoBooks(const QString& path, const QString& client)
+{
+    look(path, [&client] {
+        if (idOfAccount(client) == 0)
+            throw OperatorError(u"%1 is not in these old books."_s.arg(client));
+        showClientFolder(client);
+    });
 }
 
 void showDifferences(QWidget* parent)
@@ -89,6 +107,10 @@ void showDifferences(QWidget* parent)
         throw OperatorError(
             u"This is a copy of another shop: it cannot be compared with this one, and nothing "
             "of it comes back into it."_s);
+    if (newbooks::lastDayBefore(current().path) != newbooks::lastDayBefore(session.databasePath()))
+        throw OperatorError(
+            u"New books have been made since that day: what is closed here is in their opening "
+            "balances, and nothing comes back into them."_s);
     std::vector<differences::Difference> found;
     forms::runInBackground(parent, u"What Differs From Today"_s, [&found](const Progress& progress) {
         progress.step(u"comparing both shops"_s, [&] {

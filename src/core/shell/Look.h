@@ -11,6 +11,9 @@ class QWidget;
 /// the living shop open again, when that screen is left. Throws OperatorError when the file is no shop's.
 void lookInto(const QString& path);
 
+/// The same of old books, on the folder of a client; the folder closed, the look ends.
+void lookIntoBooks(const QString& path, const QString& client);
+
 /// Compares the shop that is looked at with the living one, and shows what differs. Throws OperatorError for
 /// a copy of another shop.
 void showDifferences(QWidget* parent);

@@ -178,7 +178,8 @@ void frmGlance::showRoom()
         button->style()->polish(button);
         isShort = isShort || room.isShort();
     }
-    ui->lblRoom->setText(isShort ? u"The shop's file is nearly full:"_s : u"Used of the shop's file:"_s);
+    ui->lblRoom->setText(isShort ? u"Nearly full: New Books (Settings, Backup) make room."_s
+                                 : u"Used of the shop's file:"_s);
 }
 
 // The lists behind the figures

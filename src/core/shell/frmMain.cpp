@@ -19,6 +19,7 @@
 #include "platform/forms/Icons.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
+#include "registers/ShopFigures.h"
 #include "registers/frmWorkerJobRegister.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/modLang.h"
@@ -132,6 +133,8 @@ void frmMain::showLastBackup()
     QString text = lastBackupText(lastBackupDay(), QDate::currentDate()).replace(u"backup"_s, u"&backup"_s);
     if (!session.CopyTrouble.isEmpty())
         text += u"  ·  No copy of the shop"_s;
+    if (const figures::Room room = figures::scarcestRoom(); room.isShort())
+        text += u"  ·  %1% of the shop's numbers are used: New Books"_s.arg(room.percent());
     ui->cmdLastBackup->setText(text);
     ui->cmdLastBackup->setToolTip(session.CopyTrouble.isEmpty()
                                       ? u"Opens the backup in the settings"_s

@@ -57,6 +57,7 @@ frmSettings::frmSettings()
     on(ui->cmdLook, &QPushButton::clicked, &frmSettings::look);
     on(ui->cmdRestoreCopy, &QPushButton::clicked, &frmSettings::restoreCopy);
     on(ui->cmdCheck, &QPushButton::clicked, &frmSettings::checkShop);
+    on(ui->cmdNewBooks, &QPushButton::clicked, &frmSettings::makeNewBooks);
 }
 
 frmSettings::~frmSettings() = default;

@@ -49,6 +49,7 @@ private:
     QString chosenCopy();
     void restoreFrom(const QString& archive);
     void checkShop();
+    void makeNewBooks();
     void showLastBackup();
     void goTo(QWidget& field);
     void showWhetherHindi();

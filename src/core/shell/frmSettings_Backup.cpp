@@ -3,6 +3,7 @@
 #include "core/shell/CopyList.h"
 #include "core/shell/Look.h"
 #include "core/shell/frmCheckShop.h"
+#include "core/shell/frmNewBooks.h"
 #include "core/store/Backup.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
@@ -153,6 +154,17 @@ void frmSettings::checkShop()
     forms::runInBackground(this, u"Check the Shop"_s,
                            [&report](const Progress& progress) { report = shopcheck::run(progress); });
     frmCheckShop(std::move(report)).showModal();
+}
+
+/// The program ends with the new books, as it does with a restored shop.
+void frmSettings::makeNewBooks()
+{
+    frmNewBooks books;
+    books.showModal();
+    if (!books.isMade())
+        return;
+    setNotice(true);
+    QCoreApplication::exit();
 }
 
 void frmSettings::showLastBackup()

@@ -1,5 +1,6 @@
 #include "core/shell/modMain.h"
 
+#include "core/shell/Look.h"
 #include "core/shell/frmMain.h"
 #include "core/store/Backup.h"
 #include "core/store/DE.h"
@@ -42,6 +43,7 @@ bool openDatabase()
 bool Main()
 {
     setClientFolder([](const QString& client) { frmClientFolder().ShowClient(client); });
+    setOldBooks(lookIntoBooks);
     try {
         return openDatabase() && frmMain::start();
     } catch (const OperatorError& error) {

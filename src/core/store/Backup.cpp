@@ -245,10 +245,10 @@ void Restore::copyPictures(const Progress& progress) const
 
 void Restore::takePlace(const Progress& progress) { replaceShop(m_unpacked->path(), progress); }
 
-void replaceShop(const QString& proved, const Progress& progress)
+void replaceShop(const QString& proved, const Progress& progress, const QString& keptAs)
 {
     const QString database = session.databasePath();
-    const QString aside = freeName();
+    const QString aside = keptAs.isEmpty() ? freeName() : keptAs;
     bool kept = false;
     orSay(shopStands, [&] {
         try {
@@ -277,7 +277,8 @@ void replaceShop(const QString& proved, const Progress& progress)
 
 void clearLeftovers(const QString& backupFolder)
 {
-    QStringList places{restoringPath(), proofPath(), session.appFolder + u'/' + files::unfinishedCopy};
+    QStringList places{restoringPath(), proofPath(), session.appFolder + u"/data.new-books.mdb"_s,
+                       session.appFolder + u'/' + files::unfinishedCopy};
     for (const copies::Copy& aside : copies::putAside()) // a second name of the shop's file, no more
         if (files::identity(aside.path) == files::identity(session.databasePath()))
             places << aside.path;

@@ -68,7 +68,7 @@ private:
 /// Puts a proved file in the place of the shop's, which is kept as `data.before-restore.mdb` (then `-2` and
 /// so on), and closes the connection. At any time, also after a power cut, one of both stands under the
 /// shop's name. Throws OperatorError: the shop is as it was then.
-void replaceShop(const QString& proved, const Progress& progress = {});
+void replaceShop(const QString& proved, const Progress& progress = {}, const QString& keptAs = {});
 
 /// Removes what a backup, a restore or a copy that was killed has left, beside the shop and in the backup
 /// folder. What another program is at stays.

@@ -125,7 +125,16 @@ Copy read(const QString& path)
 
 QList<Copy> inFolder(const QString& folder) { return filesIn(folder, u"*.mdb"_s); }
 
-QList<Copy> putAside() { return filesIn(session.appFolder, u"data.before-restore*.mdb"_s); }
+QList<Copy> putAside() { return filesIn(session.appFolder, u"data.before-restore*.mdb"_s) + oldBooks(); }
+
+QList<Copy> oldBooks() { return filesIn(session.appFolder, u"data.books-to-*.mdb"_s); }
+
+QDate lastDayOfBooks(const QString& path)
+{
+    const QString name = QFileInfo(path).completeBaseName();
+    const QString before = u"data.books-to-"_s;
+    return name.startsWith(before) ? QDate::fromString(name.mid(before.size()), Qt::ISODate) : QDate();
+}
 
 QSet<QDate> kept(const QList<QDate>& days, const QDate& today)
 {

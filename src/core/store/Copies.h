@@ -38,8 +38,12 @@ std::optional<std::pair<QDate, QDate>> readFileName(const QString& name);
 Copy read(const QString& path);
 /// The copies in a folder, the newest first; those of other names behind them.
 QList<Copy> inFolder(const QString& folder);
-/// The shop's files that a restore has put aside, the newest first.
+/// The shop's files that a restore has put aside, the newest first, and behind them the old books.
 QList<Copy> putAside();
+/// The shop's old books, the newest first.
+QList<Copy> oldBooks();
+/// Their last day; invalid for any other file.
+QDate lastDayOfBooks(const QString& path);
 
 /// The days whose copies stay: the last seven, the last of each of four weeks (from Monday) before those, the
 /// last of each of twelve months before those. Days are counted as they are there, so that a long rest takes

@@ -42,6 +42,7 @@ inline constexpr Setting SmsJobRegistered{24, ""_L1};    ///< draft; its readers
 inline constexpr Setting SmsJobFinished{25, ""_L1};      ///< draft; its readers name the factory text
 inline constexpr Setting SmsDueBalance{26, ""_L1};       ///< draft; its readers name the factory text
 inline constexpr Setting UndeliveredClientsOnly{28, "0"_L1}; ///< switch of the client search
+inline constexpr Setting OldBooksTo{40, ""_L1};              ///< last day of the books before these; none yet
 inline constexpr Setting LastBackup{29, ""_L1};              ///< the day of it, by the system's date
 
 } // namespace settings

@@ -59,7 +59,10 @@ public:
     {
         if (m_count > mostOfAKind)
             m_all.push_back({u"... and %1 more of this kind."_s.arg(m_count - mostOfAKind),
-                             u"They are named when those above are put right."_s});
+                             u"They are named when those above are put right."_s,
+                             nullptr,
+                             {},
+                             m_all.back().mayBeMeant});
     }
 
 private:
@@ -71,8 +74,9 @@ private:
 class Reader
 {
 public:
-    explicit Reader(const Progress& progress)
+    Reader(const Progress& progress, const QString& database)
         : m_progress(progress)
+        , m_database(database.isEmpty() ? session.databasePath() : database)
     {
     }
 
@@ -93,7 +97,7 @@ private:
     void open()
     {
         m_connection = std::make_unique<ado::Connection>();
-        m_connection->open(session.databasePath(), databasePassword(), ado::Connection::Mode::ReadOnly);
+        m_connection->open(m_database, databasePassword(), ado::Connection::Mode::ReadOnly);
         m_connection->endWhenAsked(m_progress.stop);
         m_connection->Execute(u"BEGIN"_s); // all that is read is of one moment
     }
@@ -160,7 +164,7 @@ private:
     {
         if (m_damaged)
             return {filled(check.what, row), u"Restore the last backup."_s};
-        return {filled(check.what, row), filled(check.remedy, row), &check, row};
+        return {filled(check.what, row), filled(check.remedy, row), &check, row, check.mayBeMeant};
     }
 
     void lookAtPictures()
@@ -184,10 +188,14 @@ private:
         if (shownPicture(link).isEmpty())
             findings.add(
                 {u"A picture of %1/%2 is gone: %3"_s.arg(line["JobID"].text(), line["ItemSr"].text(), link),
-                 u"\"Restore Database\" brings back pictures that a backup has. Or open the card, press Enter on the garment, take the picture anew or press Clear, then OK, and save."_s});
+                 u"\"Restore Database\" brings back pictures that a backup has. Or open the card, press Enter on the garment, take the picture anew or press Clear, then OK, and save."_s,
+                 nullptr,
+                 {},
+                 true});
     }
 
     const Progress& m_progress;
+    const QString m_database;
     std::unique_ptr<ado::Connection> m_connection;
     Report m_report;
     bool m_damaged = false;
@@ -208,7 +216,7 @@ bool stillFinds(const Finding& finding)
 
 bool Finding::canBeMended() const { return check && !check->mend.isEmpty(); }
 
-Report run(const Progress& progress) { return Reader(progress).look(); }
+Report run(const Progress& progress, const QString& database) { return Reader(progress, database).look(); }
 
 void mend(const Finding& finding)
 {

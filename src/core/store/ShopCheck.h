@@ -18,6 +18,7 @@ struct Finding
     QString remedy;               ///< what the operator can do about it, or what a mend will do
     const Check* check = nullptr; ///< that found it
     QStringList row = {};         ///< the row that it found
+    bool mayBeMeant = false;      ///< no fault of the books: the shop can go on with it
     /// True where mend() puts it right.
     bool canBeMended() const;
 };
@@ -36,7 +37,8 @@ inline constexpr int mostOfAKind = 20;
 
 /// Slow: two seconds in a full shop. For any thread. A damaged file is a finding, and what can still be read
 /// of it is looked over; nothing of it can be mended. Throws OperatorError and Cancelled.
-Report run(const Progress& progress);
+/// `database` is another file of a shop, with the pictures of the open one; the open shop for an empty path.
+Report run(const Progress& progress, const QString& database = {});
 
 /// Does what the finding's remedy says, whole or not at all. Throws OperatorError, with nothing written, when
 /// the shop is no longer as it was found.

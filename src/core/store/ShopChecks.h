@@ -19,6 +19,7 @@ struct Check
     /// Statements that do what the remedy says; none where the operator follows it on the shop's screens.
     /// What they put back comes from the shop's own rows.
     QStringList mend = {};
+    bool mayBeMeant = false; ///< the operator may have done so on purpose
 };
 
 /// What every other record points at: accounts, items, and dates that can be read. Comes first, as a card

@@ -122,7 +122,9 @@ const std::vector<Check>& wageChecks()
         {u"Select JobID, ItemSr, WorkerName from JOBS_DETAIL where MarkAsPaid>0 and PayrollID=0"_s,
          u"%1/%2 (%3) is marked as paid without a payroll."_s,
          u"If it was not marked by hand, and its card did not come back from a copy of the shop, open it in "
-         "the JOB Register, take the mark off, and save."_s},
+         "the JOB Register, take the mark off, and save."_s,
+         {},
+         true},
         {u"Select JobID, ItemSr, PayrollID, Id from JOBS_DETAIL as l where PayrollID>0 and not exists "_s +
              payroll,
          u"%1/%2 was paid by payroll %3, which is not in the books."_s,
