@@ -8,17 +8,22 @@
 #include "accounts/frmWorkerWagesRegister.h"
 #include "accounts/rptAccountsBooks.h"
 #include "accounts/rptWagesRegister.h"
+#include "core/shell/Look.h"
 #include "core/shell/frmAbout.h"
 #include "core/shell/frmCheckShop.h"
+#include "core/shell/frmDifferences.h"
 #include "core/shell/frmGlance.h"
 #include "core/shell/frmLogin.h"
 #include "core/shell/frmMain.h"
 #include "core/shell/frmMasters.h"
 #include "core/shell/frmMenu.h"
+#include "core/shell/frmNewBooks.h"
 #include "core/shell/frmSettings.h"
 #include "core/shell/frmShopINFO.h"
+#include "core/store/Copies.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
+#include "core/store/Schema.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
 #include "core/store/ShopChecks.h"
@@ -209,6 +214,33 @@ void message(const char* text, int kind, const char* language)
     SetSetting(0, session.Language);
 }
 
+/// Copies of three days, the shop of the last one, and what has been lost since.
+void takeThoseOfCopies()
+{
+    copies::finishDay();
+    const QString made = copies::inFolder(copies::folder()).first().path;
+    for (int ago = 0; ago < 3; ++ago) {
+        const QDate past = day.addDays(-ago);
+        QFile::copy(made, copies::folder() + u'/' + copies::fileName(past, past));
+    }
+    QFile::remove(made);
+    JobCard lost;
+    lost.CurrentJobID = showpiece();
+    lost.Delete();
+    picture("copies", [] { frmSettings().ShowBackup(); });
+    picture("new-books", [] { frmNewBooks().showModal(); });
+    const QString copy = copies::inFolder(copies::folder()).first().path;
+    ado::Connection then;
+    then.open(copy, databasePassword(), ado::Connection::Mode::ReadOnly);
+    const auto found = differences::between(then, DE.connection());
+    then.close();
+    picture(
+        "look", [&copy] { lookInto(copy); },
+        [&found](forms::Screen&) {
+            picture("differences", [&found] { frmDifferences(found).showModal(); });
+        });
+}
+
 void takeAll()
 {
     picture("masters", [] { frmMasters().showModal(); });
@@ -349,6 +381,7 @@ void takeAll()
     picture("question-hindi", [] {
         message("This Job has been registered.\r\nWould you like to Inform Client via SMS?", 2, "Hindi");
     });
+    takeThoseOfCopies();
     // Last: the program ends with its main screen.
     picture("main", [] {
         frmMain screen;

@@ -1,5 +1,6 @@
 // New books: what the shop still needs comes along, numbered afresh, and both files agree; else the shop
 // stands.
+#include "core/store/Backup.h"
 #include "core/store/Copies.h"
 #include "core/store/NewBooks.h"
 #include "core/store/Schema.h"
@@ -8,6 +9,7 @@
 #include "jobcards/LastOrder.h"
 #include "platform/values/Errors.h"
 #include "sample/SampleShop.h"
+#include "support/DeadlyWrites.h"
 #include "support/Files.h"
 #include "support/Refusal.h"
 #include "support/Shop.h"
@@ -49,6 +51,12 @@ QStringList faults()
         if (!finding.mayBeMeant)
             found << finding.what;
     return found;
+}
+
+void removeAll(const QStringList& paths)
+{
+    for (const QString& path : paths)
+        QFile::remove(path);
 }
 
 QString refusalOf(const QDate& lastDay)
@@ -217,6 +225,66 @@ private Q_SLOTS:
 
         writeFile(newbooks::oldBooksPath(day), "taken");
         QVERIFY(refusalOf(day).startsWith("There are old books to 10-Feb-2024 already."));
+    }
+
+    /// The program is killed at each write, name and length that new books give: then the shop is the old
+    /// one, as it was, or the new one with the old books beside it; and the next start leaves nothing
+    /// half-made.
+    void killedAtAnyWrite()
+    {
+        Shop shop;
+        const qint32 asha = shop.addClient("Asha");
+        shop.addVoucher(1, asha, GetAccountID("Cash"), 100);
+        const QDate day(2024, 2, 10);
+        const QString live = session.databasePath();
+        const QString kept = newbooks::oldBooksPath(day);
+        DE.close();
+        const QByteArray old = contents(live);
+        const auto make = [&] {
+            DE.open(live);
+            newbooks::Making books(newbooks::plan(day));
+            books.make({});
+            books.takePlace();
+        };
+        const auto again = [&](int deadly) {
+            removeAll({live, kept, copies::lockPath(), session.appFolder + "/data.backup.lock"});
+            writeFile(live, old);
+            return deadlywrites::live(make, deadly);
+        };
+        const QByteArray changes = again(-1);
+        QVERIFY2(changes.count('r') == 1 && changes.count('p') > 20, changes);
+        int newOnes = 0;
+        for (const int deadly : deadlywrites::places(changes)) {
+            QCOMPARE(again(deadly).size(), deadly);
+            clearLeftovers({}); // the next start
+            QVERIFY(!QFileInfo::exists(session.appFolder + "/data.new-books.mdb"));
+            if (contents(live) == old) {
+                QVERIFY(!QFileInfo::exists(kept));
+                continue;
+            }
+            ++newOnes;
+            QVERIFY(contents(kept) == old);
+            DE.open(live);
+            QCOMPARE(GetSetting(settings::OldBooksTo), day.toString(Qt::ISODate));
+            QCOMPARE(GetBalance(qint16(GetAccountID("Asha")), day), 100.0);
+            QCOMPARE(faults(), QStringList());
+            DE.close();
+        }
+        QVERIFY(newOnes > 0);
+        shop.reopen();
+    }
+
+    /// What is saved while the new file is made is not lost: the new file is given up.
+    void savedMeanwhile()
+    {
+        Shop shop;
+        shop.addVoucher(1, shop.addClient("Asha"), GetAccountID("Cash"), 100);
+        newbooks::Making books(newbooks::plan(QDate(2024, 2, 10)));
+        books.make({});
+        shop.addClient("Bala");
+        QVERIFY(refusal([&] { books.takePlace(); }).endsWith("Make them again."));
+        QCOMPARE(Shop::count("Select * from Accounts where Title='Bala'"), 1);
+        QVERIFY(DE.connection().isOpen());
     }
 };
 

@@ -259,7 +259,7 @@ void replaceShop(const QString& proved, const Progress& progress, const QString&
                     throw OperatorError(u"%1 cannot be made."_s.arg(QDir::toNativeSeparators(aside)));
                 files::sync(session.appFolder);
             });
-            progress.step(u"putting the restored file in its place"_s, [&] {
+            progress.step(u"putting the new file in its place"_s, [&] {
                 // The journal that a damaged file may have would be played back into this one.
                 if (QFileInfo(ado::journalOf(database)).size() > 0)
                     QFile::rename(ado::journalOf(database), ado::journalOf(aside));
@@ -279,7 +279,7 @@ void clearLeftovers(const QString& backupFolder)
 {
     QStringList places{restoringPath(), proofPath(), session.appFolder + u"/data.new-books.mdb"_s,
                        session.appFolder + u'/' + files::unfinishedCopy};
-    for (const copies::Copy& aside : copies::putAside()) // a second name of the shop's file, no more
+    for (const copies::Copy& aside : copies::putAside() + copies::oldBooks()) // the shop's file's second name
         if (files::identity(aside.path) == files::identity(session.databasePath()))
             places << aside.path;
     if (!backupFolder.isEmpty())

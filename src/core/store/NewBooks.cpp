@@ -128,6 +128,7 @@ Making::~Making() = default;
 void Making::make(const Progress& progress)
 {
     try {
+        m_changed = QFileInfo(session.databasePath()).lastModified();
         refuseFaults(session.databasePath(), u"the shop"_s, progress);
         m_file = std::make_unique<archive::Scratch>(makingPath());
         const auto old = readShop(session.databasePath(), progress.stop);
@@ -158,6 +159,8 @@ void Making::make(const Progress& progress)
 
 void Making::takePlace(const Progress& progress)
 {
+    if (QFileInfo(session.databasePath()).lastModified() != m_changed)
+        throw OperatorError(shopStands + u"\nIt has been changed meanwhile. Make them again."_s);
     replaceShop(m_file->path(), progress, oldBooksPath(m_plan.lastDay));
 }
 

@@ -3,7 +3,7 @@
 #include "core/store/Codes.h"
 #include "platform/values/Progress.h"
 
-#include <QDate>
+#include <QDateTime>
 #include <QString>
 #include <memory>
 #include <vector>
@@ -67,6 +67,7 @@ public:
 
 private:
     const Plan m_plan;
+    QDateTime m_changed; ///< the shop's file, before it was copied
     std::unique_ptr<archive::Scratch> m_file;
 };
 
