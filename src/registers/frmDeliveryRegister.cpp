@@ -25,7 +25,7 @@ frmDeliveryRegister::frmDeliveryRegister()
     ui->lvSummary->setColumns({{u"Del. Date"_s, 11, Qt::AlignLeft, 118},
                                {u"Date"_s, 11, Qt::AlignLeft, 118},
                                {u"Days"_s, 11, Qt::AlignLeft, 128},
-                               {u"JOB ID"_s, 7, Qt::AlignLeft, 78},
+                               {u"JOB ID"_s, 7, Qt::AlignLeft, 92},
                                {u"Client Name"_s, 15, Qt::AlignLeft, 126},
                                {u"Item Name"_s, 13, Qt::AlignLeft, 106},
                                {u"Remark"_s, 11, Qt::AlignLeft, 76},

@@ -35,7 +35,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
                  .balances = true});
     // What the shares leave is the balance's. A column never gets too narrow for what it mostly holds.
     ui->lvSummary->setColumns({{u"Date"_s, 10, Qt::AlignLeft, 118},
-                               {u"JOB ID"_s, 5, Qt::AlignLeft, 76},
+                               {u"JOB ID"_s, 5, Qt::AlignLeft, 92},
                                {u"Client Name"_s, 12, Qt::AlignLeft, 130},
                                {u"Item Name"_s, 12, Qt::AlignLeft, 110},
                                {u"Remark"_s, 7, Qt::AlignLeft, 80},

@@ -132,9 +132,9 @@ void frmMain::showLastBackup()
     }
     QString text = lastBackupText(lastBackupDay(), QDate::currentDate()).replace(u"backup"_s, u"&backup"_s);
     if (!session.CopyTrouble.isEmpty())
-        text += u"  ·  No copy of the shop"_s;
+        text += u"\nNo copy of the shop"_s;
     if (const figures::Room room = figures::scarcestRoom(); room.isShort())
-        text += u"  ·  %1% of the shop's numbers are used: New Books"_s.arg(room.percent());
+        text += u"\n%1% of numbers used: New Books"_s.arg(room.percent());
     ui->cmdLastBackup->setText(text);
     ui->cmdLastBackup->setToolTip(session.CopyTrouble.isEmpty()
                                       ? u"Opens the backup in the settings"_s
