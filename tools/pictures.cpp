@@ -42,6 +42,7 @@
 #include "media/frmCam.h"
 #include "media/frmHandNote.h"
 #include "media/frmPreview.h"
+#include "messaging/frmByPhone.h"
 #include "planning/frmDDP.h"
 #include "planning/frmFeedBack.h"
 #include "planning/frmRatings.h"
@@ -378,6 +379,13 @@ void takeAll()
     picture("notice", [] { message("New Job Created.", 1, "English"); });
     picture("question", [] { message("Are you sure to exit?", 2, "English"); });
     picture("notice-hindi", [] { message("New Job Created.", 1, "Hindi"); });
+    picture("by-phone", [] {
+        ShowByPhone(
+            nullptr, u"9829012345"_s,
+            u"Dear Customer Your Job ID # 530 has been completed. Please visit our shop to collect clothes."
+            "\r\rRangoli"_s);
+    });
+    picture("sms-question", [] { AskSms(u"Send SMS Now?"_s); });
     picture("question-hindi", [] {
         message("This Job has been registered.\r\nWould you like to Inform Client via SMS?", 2, "Hindi");
     });

@@ -45,7 +45,8 @@ frmAccountBook::frmAccountBook()
     on(ui->Command4, &QPushButton::clicked, &frmAccountBook::view);
     on(ui->Command3, &QPushButton::clicked, &frmAccountBook::addEntry);
     on(ui->Command5, &QPushButton::clicked, &frmAccountBook::printStatement);
-    on(ui->Command2, &QPushButton::clicked, &frmAccountBook::sendBalance);
+    on(ui->Command2, &QPushButton::clicked, [this] { sendBalance(SmsWay::Modem); });
+    on(ui->cmdByPhone, &QPushButton::clicked, [this] { sendBalance(SmsWay::Phone); });
     on(ui->Command1, &QPushButton::clicked, &frmAccountBook::openWages);
     on(ui->Command6, &QPushButton::clicked, &frmAccountBook::openDayBook);
 }
@@ -180,16 +181,16 @@ void frmAccountBook::openWages()
 }
 
 /// Tells the client the balance at the end of the days, with its sign: what is owed is negative.
-void frmAccountBook::sendBalance()
+void frmAccountBook::sendBalance(SmsWay way)
 {
     if (ui->cmbAccount->Text().isEmpty() || !accountChosen())
         return;
     const QString title = ui->cmbAccount->Text();
     const QDate day = period.to();
     const double balance = GetBalance(values::toInt16(GetAccountID(title)), day);
-    SendSmsToClient(*swSMS1, title, 0,
-                    MakeDueBalanceSms(values::CStr(balance)) + u" ("_s + dateText(day) + u")\r\r"_s +
-                        GetSetting(settings::SmsTitle));
+    TellClient(*swSMS1, way, title,
+               MakeDueBalanceSms(values::CStr(balance)) + u" ("_s + dateText(day) + u")\r\r"_s +
+                   GetSetting(settings::SmsTitle));
     ui->lvSummary->setFocus();
 }
 

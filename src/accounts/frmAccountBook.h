@@ -6,6 +6,7 @@
 #include <memory>
 
 class swSMS;
+enum class SmsWay;
 namespace Ui {
 class frmAccountBook;
 }
@@ -39,7 +40,7 @@ private:
     void addEntry();
     void openWages();
     void openDayBook();
-    void sendBalance();
+    void sendBalance(SmsWay way);
     void printStatement();
 
     const std::unique_ptr<Ui::frmAccountBook> ui;

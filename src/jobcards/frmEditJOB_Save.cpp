@@ -100,10 +100,11 @@ void frmEditJOB::offerSms()
 {
     if (!IsOn(settings::SmsAfterRegistration))
         return;
-    if (!ShowMsg(u"This Job has been registered.\r\nWould you like to Inform Client via SMS?"_s, 2))
+    const SmsWay way = AskSms(u"This Job has been registered.\r\nWould you like to Inform Client via SMS?"_s);
+    if (way == SmsWay::None)
         return;
-    SendSmsToClient(*swSMS1, ui->cmbClient->text(), 0,
-                    MakeJobRegisteredSms(m_card.CurrentJobID, values::Val(ui->txtAmount->text())));
+    TellClient(*swSMS1, way, ui->cmbClient->text(),
+               MakeJobRegisteredSms(m_card.CurrentJobID, values::Val(ui->txtAmount->text())));
 }
 
 /// A card that isn't stored has no paper yet: nothing comes.

@@ -274,9 +274,10 @@ void frmEditWorkerAssign::giveFeedback()
 /// Does nothing as long as a line of the card is not completed.
 void frmEditWorkerAssign::offerSms()
 {
-    if (!AllItemsCompleted(jobID()) || !ShowMsg(u"Send SMS Now?"_s, 2))
+    if (!AllItemsCompleted(jobID()))
         return;
-    SendSmsToClient(*swSMS1, ui->txtClient->text(), 0, MakeJobFinishedSms(jobID(), 0));
+    if (const SmsWay way = AskSms(u"Send SMS Now?"_s); way != SmsWay::None)
+        TellClient(*swSMS1, way, ui->txtClient->text(), MakeJobFinishedSms(jobID(), 0));
 }
 
 void frmEditWorkerAssign::showWages(bool shown)

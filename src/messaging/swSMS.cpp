@@ -3,11 +3,11 @@
 #include "core/store/Contacts.h"
 #include "core/store/LivingShop.h"
 #include "core/store/Settings.h"
+#include "messaging/frmByPhone.h"
 #include "messaging/modSMS.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Numbers.h"
-#include "ui/ModOtherFUN.h"
 
 #include <cmath>
 
@@ -34,13 +34,15 @@ swSMS::swSMS(QWidget* screen)
 
 void swSMS::SendSMS(qint16 port, const QString& number, const QString& message)
 {
+    const QString name = devices::serialPortName(port, m_deviceFolder);
     try {
-        m_port.open(devices::serialPortName(port, m_deviceFolder));
+        m_port.open(name);
         m_port.write("AT+CMGF=1\r");
         m_port.write("AT+CMGS=\"" + dialled(number) + "\"\r");
         m_port.write(TextAsSent(message).toLatin1() + EndOfMessage);
     } catch (const OperatorError& error) {
-        forms::plainMessage(m_screen, error.text());
+        const QString advice = m_port.isOpen() ? QString() : devices::serialPortAdvice(name);
+        forms::plainMessage(m_screen, advice.isEmpty() ? error.text() : error.text() + u"\n\n"_s + advice);
     }
 }
 
@@ -69,4 +71,12 @@ bool SendSmsToNumber(swSMS& sms, const QString& number, const QString& text)
 bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString& text)
 {
     return SendSmsToNumber(sms, GetClientMobile(title, id), text);
+}
+
+void TellClient(swSMS& sms, SmsWay way, const QString& title, const QString& text)
+{
+    if (way == SmsWay::Phone)
+        ShowByPhone(sms.screen(), GetClientMobile(title, 0), text);
+    else
+        SendSmsToClient(sms, title, 0, text);
 }

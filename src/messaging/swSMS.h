@@ -2,6 +2,7 @@
 
 #include "platform/devices/SerialPort.h"
 #include "platform/values/Literals.h"
+#include "ui/ModOtherFUN.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -18,7 +19,8 @@ public:
 
     /// Sends one message and returns as soon as it stands in the port's buffer. Of the number the leading
     /// digits go out, without a "+" or zeros before them. Any failure, also a port that an earlier message
-    /// left open, is shown in one plain box with the system's text; the caller cannot tell it from success.
+    /// left open, is shown in one plain box with the system's text and what to do about it; the caller cannot
+    /// tell it from success.
     void SendSMS(qint16 port, const QString& number, const QString& message);
 
     QWidget* screen() const { return m_screen; }
@@ -40,3 +42,5 @@ private:
 bool SendSmsToNumber(swSMS& sms, const QString& number, const QString& text);
 /// The same to the mobile number of a client, by title or by id as GetClientMobile takes them.
 bool SendSmsToClient(swSMS& sms, const QString& title, qint16 id, const QString& text);
+/// Tells a client, by title, in the way that the operator has chosen.
+void TellClient(swSMS& sms, SmsWay way, const QString& title, const QString& text);

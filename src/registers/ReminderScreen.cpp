@@ -1,6 +1,7 @@
 #include "registers/ReminderScreen.h"
 
 #include "core/store/Session.h"
+#include "messaging/frmByPhone.h"
 #include "messaging/swSMS.h"
 #include "platform/forms/MessageBox.h"
 #include "ui/modLang.h"
@@ -29,6 +30,7 @@ void ReminderScreen::setControls(const Controls& controls)
     on(controls.show, &QPushButton::clicked, &ReminderScreen::show);
     on(controls.save, &QPushButton::clicked, [this] { SetSetting(m_text, m_controls.message->Text()); });
     on(controls.send, &QPushButton::clicked, &ReminderScreen::send);
+    on(controls.byPhone, &QPushButton::clicked, &ReminderScreen::showByPhone);
 }
 
 void ReminderScreen::Form_Load()
@@ -65,4 +67,10 @@ void ReminderScreen::send()
         return;
     if (SendSmsToNumber(*swSMS1, m_controls.list->cell(row, numberColumn), m_controls.message->Text()))
         forms::plainMessage(this, u"Message Sent"_s);
+}
+
+void ReminderScreen::showByPhone()
+{
+    if (const int row = m_controls.list->selectedRow(); row >= 0)
+        ShowByPhone(this, m_controls.list->cell(row, numberColumn), m_controls.message->Text());
 }

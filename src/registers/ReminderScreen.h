@@ -21,6 +21,7 @@ protected:
         swTextBoxMultiLine* message;
         QPushButton* save;
         QPushButton* send;
+        QPushButton* byPhone;
     };
 
     ReminderScreen(const Setting& text, const QString& greeting);
@@ -43,6 +44,7 @@ protected:
 private:
     void show();
     void send();
+    void showByPhone();
 
     const Setting m_text;
     const QString m_default;

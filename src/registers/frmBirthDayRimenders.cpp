@@ -24,7 +24,7 @@ frmBirthDayRimenders::frmBirthDayRimenders()
     , ui(std::make_unique<Ui::frmBirthDayRimenders>())
 {
     ui->setupUi(this);
-    setControls({ui->lvSummary, ui->Command1, ui->txtMessage, ui->Command3, ui->Command2});
+    setControls({ui->lvSummary, ui->Command1, ui->txtMessage, ui->Command3, ui->Command2, ui->cmdByPhone});
     ui->lvSummary->setColumns({{u"Name"_s, forms::ListView::rest, Qt::AlignLeft, 150},
                                {u"DOB"_s, 24, Qt::AlignLeft, 118},
                                {u"Contact"_s, 28, Qt::AlignLeft, 120}});

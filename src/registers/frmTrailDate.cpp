@@ -18,7 +18,7 @@ frmTrailDate::frmTrailDate()
     , ui(std::make_unique<Ui::frmTrailDate>())
 {
     ui->setupUi(this);
-    setControls({ui->lvSummary, ui->Command1, ui->txtMessage, ui->Command3, ui->Command2});
+    setControls({ui->lvSummary, ui->Command1, ui->txtMessage, ui->Command3, ui->Command2, ui->cmdByPhone});
     period = {ui->DateFrom, ui->DateTo, Period::Of::PromisedDays};
     ui->lvSummary->setColumns({{u"Name"_s, forms::ListView::rest, Qt::AlignLeft, 150},
                                {u"Trial Date"_s, 16, Qt::AlignLeft, 118},

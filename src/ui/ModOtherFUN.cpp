@@ -128,3 +128,12 @@ bool ShowMsg(const QString& message, int kind)
     frmMsg().ShowMessage(message, kind, result);
     return result != 0;
 }
+
+SmsWay AskSms(const QString& question)
+{
+    qint16 result = 0;
+    frmMsg dialog;
+    dialog.offerPhone();
+    dialog.ShowMessage(question, 2, result);
+    return SmsWay(result);
+}

@@ -33,3 +33,9 @@ void ListSearch(forms::ListBox& list, int& key);
 /// Shows a message in the message dialog; kind 1 has an OK button, kind 2 asks with Yes and No. True for OK
 /// and Yes.
 bool ShowMsg(const QString& message, int kind = 1);
+
+/// How a client is to be told something: not at all, by the modem, or by the shop's phone.
+enum class SmsWay { None, Modem, Phone };
+
+/// Asks in the message dialog whether a client is to be told: Yes is the modem.
+SmsWay AskSms(const QString& question);

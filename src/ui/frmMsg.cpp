@@ -19,6 +19,7 @@ namespace {
 
 constexpr qint32 withOK = 1;
 constexpr qint32 withYesNo = 2;
+constexpr qint16 byPhone = 2;
 
 const QString hindi = u"Hindi"_s;
 const QString english = u"English"_s;
@@ -54,6 +55,7 @@ frmMsg::frmMsg(QWidget* parent)
     on(ui->cmdOK, &QPushButton::clicked, [this] { answer(1); });
     on(ui->cmdYes, &QPushButton::clicked, [this] { answer(1); });
     on(ui->cmdNo, &QPushButton::clicked, [this] { answer(0); });
+    on(ui->cmdByPhone, &QPushButton::clicked, [this] { answer(byPhone); });
 }
 
 frmMsg::~frmMsg() = default;
@@ -82,6 +84,7 @@ void frmMsg::ShowMessage(const QString& text, qint32 kind, qint16& result)
         ui->cmdOK->setVisible(kind == withOK);
         ui->cmdYes->setVisible(kind == withYesNo);
         ui->cmdNo->setVisible(kind == withYesNo);
+        ui->cmdByPhone->setVisible(kind == withYesNo && m_phoneOffered);
         (kind == withOK ? ui->cmdOK : ui->cmdYes)->setFocus();
     }
     showModal();
@@ -122,14 +125,17 @@ void frmMsg::layOut()
     label.resize(natural.width() + 2, natural.height() + 2);
 
     QSize button(twips(1350), 0);
-    for (QPushButton* each : {ui->cmdOK, ui->cmdYes, ui->cmdNo})
+    const auto buttons = {ui->cmdOK, ui->cmdYes, ui->cmdNo, ui->cmdByPhone};
+    for (QPushButton* each : buttons)
         button = button.expandedTo(each->sizeHint());
-    for (QPushButton* each : {ui->cmdOK, ui->cmdYes, ui->cmdNo})
+    for (QPushButton* each : buttons)
         each->resize(button);
 
     constexpr int titleBar = twips(420); // the form's height counts it
     const int formHeight = button.height() + label.height() + twips(1500) - titleBar;
-    const int formWidth = qMax(label.width() + twips(500), twips(4650));
+    constexpr int gap = twips(50);
+    const int threeButtons = m_phoneOffered ? 3 * button.width() + 2 * gap + 2 * twips(200) : 0;
+    const int formWidth = std::max({label.width() + twips(500), twips(4650), threeButtons});
     const int top = label.height() + twips(900);
     const int last = formWidth - (button.width() + twips(200));
     setFixedSize(formWidth, formHeight);
@@ -137,16 +143,20 @@ void frmMsg::layOut()
     ui->Shape1->resize(formWidth - 2 * margin, top - 2 * margin);
     ui->cmdOK->move(last, top);
     ui->cmdNo->move(last, top);
-    ui->cmdYes->move(last - button.width() - twips(50), top);
+    ui->cmdYes->move(last - button.width() - gap, top);
+    ui->cmdByPhone->move(last - 2 * (button.width() + gap), top);
 }
 
-/// Y and N answer a question.
+/// Y and N answer a question, and P where the phone is offered.
 void frmMsg::Form_KeyPress(int& key)
 {
     const char32_t letter = QChar::toLower(char32_t(key));
     if (ui->cmdYes->isVisible() && (letter == U'y' || letter == U'n')) {
         key = 0;
         answer(letter == U'y' ? 1 : 0);
+    } else if (ui->cmdByPhone->isVisible() && letter == U'p') {
+        key = 0;
+        answer(byPhone);
     } else {
         Screen::Form_KeyPress(key);
     }

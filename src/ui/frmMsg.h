@@ -22,6 +22,9 @@ public:
     /// No. Throws DatabaseError when the language is "Hindi" and Lang.mdb cannot be read.
     void ShowMessage(const QString& text, qint32 kind, qint16& result);
 
+    /// A question gets a third button, "By Phone", whose result is 2. To be called before ShowMessage.
+    void offerPhone() { m_phoneOffered = true; }
+
 protected:
     void Form_Load() override;
     void Form_KeyPress(int& key) override;
@@ -35,6 +38,7 @@ private:
 
     std::unique_ptr<Ui::frmMsg> ui;
     qint16 MsgResult = 0;
+    bool m_phoneOffered = false;
 };
 
 /// Captions in the font "Kruti Dev 010", whose letters read as Hindi, and in the plain font.

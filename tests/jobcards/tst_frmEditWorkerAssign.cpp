@@ -1,6 +1,7 @@
 #include "jobcards/PictureBox.h"
 #include "jobcards/frmEditWorkerAssign.h"
 #include "media/frmPreview.h"
+#include "messaging/frmByPhone.h"
 #include "platform/ado/DatabaseError.h"
 #include "platform/report/Preview.h"
 #include "platform/values/Errors.h"
@@ -142,9 +143,19 @@ private Q_SLOTS:
             prompts->expect("Send SMS Now?", Answer::Esc);
             save();
             QVERIFY2(screen.isVisible(), "Esc leaves the question, not the screen");
+            prompts->expect("Send SMS Now?", Answer::Phone);
+            onNextModal<frmByPhone>([](frmByPhone& code) {
+                QVERIFY(control<QPlainTextEdit>(code, "txtMessage")
+                            .toPlainText()
+                            .contains("has been completed."));
+                press(Qt::Key_Escape);
+            });
+            click(screen, "Command4");
             for (const auto& [port, outcome] :
                  {std::pair("70000", "Overflow: Com port 70000 is too large. The highest possible is 32767."),
-                  std::pair("usb", "No such file or directory")}) { // port 0
+                  std::pair("usb",
+                            "No such file or directory\n\nThere is no /dev/ttyS-1. Is the modem plugged in, "
+                            "and is its number right (Settings, SMS)?")}) { // port 0
                 SetSetting(4, port);
                 prompts->expect("Send SMS Now?", Answer::Yes);
                 prompts->expect(outcome);

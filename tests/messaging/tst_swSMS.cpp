@@ -1,13 +1,16 @@
 #include "core/store/Contacts.h"
 #include "jobcards/JobProgress.h"
+#include "messaging/frmByPhone.h"
 #include "messaging/modSMS.h"
 #include "messaging/swSMS.h"
 #include "support/Modem.h"
 #include "support/ShopTest.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QUrl>
 
 /// The wording of messages, what they look up, and their way through a real line to a modem that only
 /// listens.
@@ -80,7 +83,8 @@ private Q_SLOTS:
     /// A modem that goes in the middle of a message is told of once, however often the system reports it.
     void failuresAreToldOnce()
     {
-        prompts->expect("No such file or directory");
+        prompts->expect("No such file or directory\n\nThere is no " + device("ttyS-6") +
+                        ". Is the modem plugged in, and is its number right (Settings, SMS)?");
         sender()->SendSMS(-5, "98", "nobody hears");
         auto modem = std::make_unique<Modem>(device("ttyUSB0"));
         swSMS* sms = sender();
@@ -89,6 +93,79 @@ private Q_SLOTS:
         prompts->expect("Input/output error");
         modem.reset();
         QTRY_VERIFY(!sms->isOpen() && prompts->allMet());
+    }
+
+    /// A port that another program has open: it is named.
+    void whoHoldsThePort()
+    {
+        writeFile(device("ttyS0"), {});
+        QProcess holder;
+        holder.setStandardInputFile(device("ttyS0"));
+        holder.start("sleep", {"60"});
+        QVERIFY(holder.waitForStarted());
+        QTRY_COMPARE(devices::serialPortAdvice(device("ttyS0")),
+                     "The program \"sleep\" holds the port. Close it, then send again.");
+        holder.kill();
+        holder.waitForFinished();
+        QCOMPARE(devices::serialPortAdvice(device("ttyS0")), "");
+    }
+
+    /// What the phone's camera reads from the screen is what would have been sent, letter by letter.
+    void phoneReadsTheScreen_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("read");
+        const QString hindi = QString::fromUtf8("नमस्ते जी, आपके कपड़े तैयार हैं। ₹1,250 बाकी।");
+        const auto longText = [](const QString& part, int size) -> QString {
+            return part.repeated(size / part.size() + 1).left(size - 1) + "x";
+        };
+        QTest::newRow("plain") << "Dear Customer\r Job ID # 7\r\rRangoli"
+                               << "SMS"
+                               << "SMSTO:9829012345:Dear Customer\n Job ID # 7\n\nRangoli";
+        for (const int size : {160, 500}) {
+            const QString plain = longText("Your clothes are ready; 100% & more: a+b=c? ", size);
+            const QString inHindi = longText(hindi, size);
+            QTest::addRow("%d letters", size) << plain << "SMS"
+                                              << "SMSTO:9829012345:" + plain;
+            QTest::addRow("%d letters, Hindi", size) << inHindi << "SMS"
+                                                     << "SMSTO:9829012345:" + inHindi;
+            QTest::addRow("%d letters, chat", size)
+                << plain << "Chat (wa.me)"
+                << "https://wa.me/919829012345?text=" + QString(QUrl::toPercentEncoding(plain));
+        }
+        QTest::newRow("160 letters, Hindi, chat")
+            << longText(hindi, 160) << "Chat (wa.me)"
+            << "https://wa.me/919829012345?text=" + QString(QUrl::toPercentEncoding(longText(hindi, 160)));
+    }
+    void phoneReadsTheScreen()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, kind);
+        QFETCH(QString, read);
+        SetSetting(settings::ByPhone, kind);
+        const QString picture = shop->folder() + "/code.png";
+        onNextModal<frmByPhone>([&picture](frmByPhone& screen) {
+            QVERIFY(screen.grab().save(picture));
+            press(Qt::Key_Return);
+        });
+        ShowByPhone(m_screen.get(), "+91 98290-12345", text);
+        QProcess reader;
+        reader.start("zbarimg", {"-q", "--raw", picture});
+        QVERIFY(reader.waitForFinished());
+        QString found = QString::fromUtf8(reader.readAllStandardOutput());
+        found.chop(1);
+        QCOMPARE(found, read);
+    }
+
+    void phoneCannotTakeAll()
+    {
+        prompts->expect("Mobile Number Not Found!\r\nSMS Sending has been Failed.");
+        ShowByPhone(m_screen.get(), {}, "hello");
+        const QString text(2000, QChar(0x928));
+        prompts->expect(
+            "2017 letters are too many for one QR code. Of plain letters 2953 fit, of Hindi about 984.");
+        ShowByPhone(m_screen.get(), "9829012345", text);
     }
 
     void messageToAClient()

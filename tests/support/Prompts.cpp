@@ -84,9 +84,9 @@ Prompts::Expected Prompts::answerTo(const QString& text)
 
 void Prompts::look()
 {
-    static const QString names[] = {u"cmdOK"_s, u"cmdYes"_s, u"cmdNo"_s, {}};
-    static constexpr QMessageBox::StandardButton buttons[] = {QMessageBox::Ok, QMessageBox::Yes,
-                                                              QMessageBox::No, QMessageBox::NoButton};
+    static const QString names[] = {u"cmdOK"_s, u"cmdYes"_s, u"cmdNo"_s, {}, u"cmdByPhone"_s};
+    static constexpr QMessageBox::StandardButton buttons[] = {
+        QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No, QMessageBox::NoButton, QMessageBox::NoButton};
     QWidget* front = QApplication::activeModalWidget();
     if (!front || !front->isVisible())
         return;

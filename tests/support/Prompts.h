@@ -4,7 +4,7 @@
 #include <QTimer>
 #include <deque>
 
-enum class Answer { Ok, Yes, No, Esc };
+enum class Answer { Ok, Yes, No, Esc, Phone };
 
 /// Answers the prompts of the program under test: the message dialog, plain message and input boxes, in the
 /// order in which they are expected. A prompt that is unexpected, of another text, or without the button of

@@ -36,6 +36,7 @@ frmSettings::frmSettings()
         combo->AddItems({u"Yes"_s, u"No"_s});
         onKeyPress(combo, [combo](int& key) { key = AutoSearchCombo(*combo, key); });
     }
+    ui->cmbByPhone->AddItems({settings::ByPhone.standard, byPhoneAsChat});
     for (QLineEdit* box : {ui->txtDelMargin, ui->txtStartNum}) {
         onKeyPress(box, [box](int& key) { key = NumbersOnly(*box, key); });
         onGotFocus(box, [box] { box->selectAll(); });
@@ -69,6 +70,7 @@ void frmSettings::Form_Load()
     ui->cmbSendAutoSMS->setText(GetSetting(settings::SmsWhenFinished));
     ui->cmbSMSJobID->setText(GetSetting(settings::SmsAfterRegistration));
     ui->cmbSMSPort->setText(GetSetting(settings::ModemPort));
+    ui->cmbByPhone->setText(GetSetting(settings::ByPhone));
     ui->txtLogo->setText(GetSetting(settings::Logo));
     ui->txtTagLine->setText(GetSetting(settings::TagLine));
     ui->txtSMSTitle->setText(GetSetting(settings::SmsTitle));
@@ -224,6 +226,8 @@ void frmSettings::showWhetherHindi() { ui->chHindiSlip->setEnabled(ui->cmbLangua
 void frmSettings::writeSettings()
 {
     SetSetting(settings::ModemPort, ui->cmbSMSPort->text());
+    if (ui->cmbByPhone->text() != GetSetting(settings::ByPhone))
+        SetSetting(settings::ByPhone, ui->cmbByPhone->text());
     SetSetting(settings::SmsWhenFinished, ui->cmbSendAutoSMS->text());
     SetSetting(settings::SmsAfterRegistration, ui->cmbSMSJobID->text());
     SetSetting(settings::Logo, ui->txtLogo->text());

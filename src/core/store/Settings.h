@@ -43,9 +43,13 @@ inline constexpr Setting SmsJobFinished{25, ""_L1};      ///< draft; its readers
 inline constexpr Setting SmsDueBalance{26, ""_L1};       ///< draft; its readers name the factory text
 inline constexpr Setting UndeliveredClientsOnly{28, "0"_L1}; ///< switch of the client search
 inline constexpr Setting OldBooksTo{40, ""_L1};              ///< last day of the books before these; none yet
+inline constexpr Setting ByPhone{41, "SMS"_L1};              ///< what the shop's phone opens: "SMS" or a chat
 inline constexpr Setting LastBackup{29, ""_L1};              ///< the day of it, by the system's date
 
 } // namespace settings
+
+/// The value of settings::ByPhone for links of wa.me.
+inline constexpr auto byPhoneAsChat = QLatin1StringView("Chat (wa.me)");
 
 /// Whether a switch is on: "Yes" or "1".
 bool IsOn(const Setting& setting);

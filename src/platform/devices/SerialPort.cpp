@@ -2,11 +2,56 @@
 
 #include "platform/values/Errors.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 namespace devices {
+
+namespace {
+
+#ifndef Q_OS_WIN
+/// The name of another program that has the file open, as far as the system shows them; else empty.
+QString holderOf(const QString& file)
+{
+    const QString wanted = QFileInfo(file).canonicalFilePath();
+    const QString own = QString::number(QCoreApplication::applicationPid());
+    for (const QString& process : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
+        const QString folder = u"/proc/"_s + process;
+        if (process == own)
+            continue;
+        for (const QFileInfo& open : QDir(folder + u"/fd"_s).entryInfoList(QDir::Files | QDir::System))
+            if (open.symLinkTarget() == wanted) {
+                QFile name(folder + u"/comm"_s);
+                return name.open(QIODevice::ReadOnly) ? QString::fromUtf8(name.readAll()).trimmed() : process;
+            }
+    }
+    return {};
+}
+#endif
+
+} // namespace
+
+QString serialPortAdvice(const QString& name)
+{
+#ifdef Q_OS_WIN
+    return u"Is the modem plugged in, is %1 its port, and is no other program using it?"_s.arg(name);
+#else
+    const QFileInfo port(name);
+    if (!port.exists())
+        return u"There is no %1. Is the modem plugged in, and is its number right (Settings, SMS)?"_s.arg(
+            name);
+    if (const QString program = holderOf(name); !program.isEmpty())
+        return u"The program \"%1\" holds the port. Close it, then send again."_s.arg(program);
+    if (!port.isWritable())
+        return u"Only the group \"%1\" may use the port. Whoever looks after this computer adds you to it "
+               "(sudo usermod -aG %1 %2); then log in anew."_s.arg(port.group(),
+                                                                   qEnvironmentVariable("USER"));
+    return {};
+#endif
+}
 
 QString serialPortName(int number, const QString& folder)
 {

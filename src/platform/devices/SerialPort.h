@@ -11,6 +11,10 @@ namespace devices {
 /// so that opening it tells why.
 QString serialPortName(int number, const QString& folder);
 
+/// What to do when the system refuses a port: plug it in, close the program that holds it (by name), or join
+/// the group that may use it. Empty when nothing of this is the cause.
+QString serialPortAdvice(const QString& name);
+
 /// A serial line that is only written to: 9600 baud, 8 data bits, no parity, 1 stop bit. Nothing here waits
 /// for the line: what the system's buffer does not take at once goes out while the screens live on.
 class SerialPort : public QObject
