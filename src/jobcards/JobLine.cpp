@@ -101,6 +101,18 @@ void Assignment::write(qint32 line, const QDate& day) const
     });
 }
 
+QStringList placesUsedLately(int most)
+{
+    constexpr int linesLookedAt = 3000;
+    QStringList places;
+    each(u"Select Loc, max(max(ifnull(CompletedDate, ''), ifnull(AltDate, ''))) as used, max(ID) as line "
+         "from (Select * from Jobs_Detail order by ID desc limit %1) where trim(Loc)<>'' "
+         "group by Loc order by used desc, line desc limit %2"_s.arg(linesLookedAt)
+             .arg(most),
+         [&places](ado::Recordset& row) { places << row["Loc"].text(); });
+    return places;
+}
+
 void markCut(qint32 line, const QDate& day)
 {
     changeRow(lineQuery(line), [&day](ado::Recordset& row) {

@@ -73,6 +73,10 @@ struct Assignment
     void write(qint32 line, const QDate& day) const;
 };
 
+/// Where the shop hung the garments of its newest lines, the place used last first, each once in any spelling
+/// of its case; at most `most`. Throws ado::DatabaseError.
+QStringList placesUsedLately(int most);
+
 /// Marks of the registers on one line; each throws like JobLine::read().
 void markCut(qint32 line, const QDate& day);
 /// An empty location leaves the line's.

@@ -14,6 +14,12 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int mostPlaces = 8; // as many as the question shows without scrolling
+
+} // namespace
+
 // Keys of the screen
 
 void frmWorkerJobRegister::Form_KeyPress(int& key)
@@ -72,7 +78,7 @@ bool frmWorkerJobRegister::asked(const QString& question) const { return ShowMsg
 
 QString frmWorkerJobRegister::askLocation()
 {
-    return forms::inputBox(this, u"Please specify location!"_s, u"KORVANE"_s);
+    return forms::inputBox(this, u"Please specify location!"_s, u"KORVANE"_s, placesUsedLately(mostPlaces));
 }
 
 // The state of a line. None of the actions asks what it was before.

@@ -12,7 +12,9 @@ class tst_frmSearchClient : public ShopTest
     {
         for (const QString name : {"Ravi Roy", "D'Souza", "100% Cotton", "मीरा देवी", "Roy Das"})
             shop->addClient(name, u"98290%1"_s.arg(name.size()));
+        const qint32 kiran = shop->addClient("Kiran", "+91 98111-22333");
         shop->addWorker("Royston");
+        shop->addJob(290, kiran);
     }
 
 private Q_SLOTS:
@@ -25,6 +27,15 @@ private Q_SLOTS:
             {"txtName", "1_0%c", "100% Cotton", -1},
             {"txtName", "मीरा", "मीरा देवी", 0},
             {"txtMobile", "907", "D'Souza|Roy Das", -1},
+            {"txtMobile", "98-29 08", "Ravi Roy", -1},
+            {"txtMobile", "+91-982908", "Ravi Roy", -1},
+            {"txtMobile", "9811122", "Kiran", -1}, // as the number is stored, with blanks in it
+            {"txtName", "2 908", "Ravi Roy", -1},
+            {"txtName", "0 9829-011", "100% Cotton", -1},
+            {"txtName", "07", "", -1}, // two digits are in every other number
+            {"txtName", "290/2", "Kiran", -1},
+            {"txtName", "290", "Kiran|Ravi Roy|D'Souza|100% Cotton|मीरा देवी|Roy Das", -1}, // card first
+            {"txtCity", "290", "", -1},
             {"txtCity", "x", "", -1}};
         inModal<frmSearchClient>([&](frmSearchClient& search) {
             for (const auto& [field, text, found, selected] : searches) {

@@ -280,6 +280,22 @@ private Q_SLOTS:
             for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
                 press(key);
             QCOMPARE(stored("DoneByWorker, AltDate, Loc", 2), "3 2024-02-12 B2");
+            Shop::run("Update Jobs_Detail set Loc=' ' where ID=1");
+            Shop::run("Update Jobs_Detail set Loc='b2', CompletedDate='2024-02-01' where ID=3");
+            prompts->expect("Mark Item as Completed?", Answer::Yes);
+            prompts->expectInput("Please specify location!", [](QWidget& question) {
+                const auto& typed = *question.findChild<QLineEdit*>();
+                QCOMPARE(listBox(question, "lstEarlier").ListCount(), 2); // no blanks, and a place once
+                for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Up, Qt::Key_Down})
+                    press(key);
+                QCOMPARE(typed.text(), "A1");
+                typeText("C3"); // in place of what was chosen
+                QCOMPARE(typed.text(), "C3");
+                press(Qt::Key_Up);
+                QCOMPARE(typed.text().toUpper(), "B2"); // used last
+            });
+            act(1, Qt::Key_F7);
+            QCOMPARE(stored("DoneByWorker, upper(Loc)", 2), "1 B2");
             QCOMPARE(lines(screen).selectedRow(), 1);
             prompts->expect("Mark Item as Delivered to Client?", Answer::Yes);
             act(1, Qt::Key_F8);

@@ -51,6 +51,11 @@ void Prompts::expectInput(const QString& prompt, const QString& typed, Answer an
     m_expected.push_back({prompt, answer, typed});
 }
 
+void Prompts::expectInput(const QString& prompt, std::function<void(QWidget& box)> act)
+{
+    m_expected.push_back({prompt, Answer::Ok, {}, std::move(act)});
+}
+
 void Prompts::expectAll(const QStringList& notices)
 {
     for (const QString& text : notices)
@@ -98,6 +103,8 @@ void Prompts::look()
         press(*box, box->button(buttons[int(given)]), given);
     } else if (auto* input = qobject_cast<QInputDialog*>(front)) {
         const Expected given = answerTo(input->labelText());
+        if (given.act)
+            given.act(*input);
         QTest::keyClicks(input->findChild<QLineEdit*>(), given.typed);
         QTest::keyClick(input, given.answer == Answer::Ok ? Qt::Key_Return : Qt::Key_Escape);
     }

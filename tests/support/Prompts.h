@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QTimer>
 #include <deque>
+#include <functional>
 
 enum class Answer { Ok, Yes, No, Esc, Phone };
 
@@ -19,6 +20,8 @@ public:
     void expect(const QString& text, Answer answer = Answer::Ok);
     /// Expects an input box; types the text and presses OK, or leaves by Esc.
     void expectInput(const QString& prompt, const QString& typed, Answer answer = Answer::Ok);
+    /// Expects an input box, does that in it, and presses OK.
+    void expectInput(const QString& prompt, std::function<void(QWidget& box)> act);
     /// Expects notices, each left by OK.
     void expectAll(const QStringList& notices);
     /// True when every expected prompt has come, and every act of onNextModal has met its screen. Tells what
@@ -33,6 +36,7 @@ private:
         QString text;
         Answer answer;
         QString typed;
+        std::function<void(QWidget& box)> act = {};
     };
 
     void look();

@@ -42,4 +42,11 @@ std::optional<LineCode> readLineCode(const QString& text)
     return LineCode{*job, *item};
 }
 
+qint32 cardNumber(const QString& text)
+{
+    if (const std::optional<LineCode> code = readLineCode(text))
+        return code->job;
+    return readSerialNumber(text.trimmed()).value_or(0);
+}
+
 QString sqlText(const QString& text) { return QString(text).replace(u'\'', "''"_L1); }

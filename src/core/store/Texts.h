@@ -34,6 +34,8 @@ QString lineCodeText(const LineCode& code);
 QString lineCodeText(const QString& job, const QString& item);
 /// Reads one, blanks around it left out; nothing for any other text.
 std::optional<LineCode> readLineCode(const QString& text);
+/// The card that a typed number, or a code, means; 0 for any other text.
+qint32 cardNumber(const QString& text);
 
 /// Text as it goes between apostrophes in a statement: each apostrophe in it twice.
 QString sqlText(const QString& text);

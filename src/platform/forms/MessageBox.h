@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <optional>
 
 class QWidget;
@@ -14,7 +14,10 @@ void criticalMessage(QWidget* parent, const QString& text);
 bool askPlain(QWidget* parent, const QString& text);
 /// The same with Cancel, which Esc is; nothing for that.
 std::optional<bool> askPlainOrCancel(QWidget* parent, const QString& text);
-/// Asks for a line of text; "" on Cancel and Esc.
-QString inputBox(QWidget* parent, const QString& prompt, const QString& title);
+/// Asks for a line of text; "" on Cancel and Esc. What was answered before can be chosen from a list below
+/// the box, with Up and Down while the keys stay in the box, or by the mouse; a double click takes it at
+/// once.
+QString inputBox(QWidget* parent, const QString& prompt, const QString& title,
+                 const QStringList& earlier = {});
 
 } // namespace forms
