@@ -31,6 +31,7 @@
 #include "jobcards/JobCard.h"
 #include "jobcards/MODPrintJOBCARD.h"
 #include "jobcards/frmAddItem.h"
+#include "jobcards/frmClothColor.h"
 #include "jobcards/frmEditJOB.h"
 #include "jobcards/frmEditWorkerAssign.h"
 #include "masters/frmClients.h"
@@ -375,6 +376,7 @@ void takeAll()
         QDate to(2024, 2, 29);
         frmSelectDate().SelectDate(from, to, 2);
     });
+    picture("cloth-color", [] { frmClothColor().choose(0); });
     picture("select-file", [] { frmSelectFile().SelFile(); });
     picture("notice", [] { message("New Job Created.", 1, "English"); });
     picture("question", [] { message("Are you sure to exit?", 2, "English"); });

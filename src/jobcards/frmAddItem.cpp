@@ -9,6 +9,7 @@
 #include "jobcards/LastOrder.h"
 #include "jobcards/PictureFiles.h"
 #include "jobcards/clsJobCardData.h"
+#include "jobcards/frmClothColor.h"
 #include "media/frmCam.h"
 #include "media/frmHandNote.h"
 #include "media/frmPreview.h"
@@ -19,7 +20,6 @@
 #include "ui/modLang.h"
 #include "ui_frmAddItem.h"
 
-#include <QColorDialog>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -226,14 +226,10 @@ void frmAddItem::typeClientRemark(int& key)
 
 // Colour and pictures
 
-/// Black is no cloth's colour here: it is ignored.
 void frmAddItem::chooseColor()
 {
-    const QColor chosen = QColorDialog::getColor(ui->picColor->color(), this, u"Cloth Color"_s,
-                                                 QColorDialog::DontUseNativeDialog);
-    activateWindow();
-    if (chosen.isValid() && itemcolor::toNumber(chosen) >= 1)
-        ui->picColor->setNumber(itemcolor::toNumber(chosen));
+    if (const std::optional<qint32> chosen = frmClothColor().choose(ui->picColor->number()))
+        ui->picColor->setNumber(*chosen);
 }
 
 /// A camera that gave nothing leaves the place as it is.

@@ -4,6 +4,7 @@
 #include "jobcards/PictureBox.h"
 #include "jobcards/PictureFiles.h"
 #include "jobcards/frmAddItem.h"
+#include "jobcards/frmClothColor.h"
 #include "media/frmHandNote.h"
 #include "platform/values/Errors.h"
 #include "support/ShopTest.h"
@@ -128,12 +129,34 @@ private Q_SLOTS:
             QCOMPARE(focused(line), "txtQnt");
             fillIn(line, "txtQnt", "2.5");
             fillIn(line, "txtFees", "100.25");
-            onNextModal<QColorDialog>([](QColorDialog& dialog) {
-                dialog.setCurrentColor({1, 2, 3});
-                dialog.accept();
+            auto& color = control<ColorBox>(line, "picColor");
+            color.setFocus();
+            onNextModal<frmClothColor>([](frmClothColor& swatches) {
+                QCOMPARE(label(swatches, "lblColor"), "White"); // what the line has
+                for (const Qt::Key key :
+                     {Qt::Key_Up, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Right})
+                    press(key);
+                QCOMPARE(label(swatches, "lblColor"), "Bottle green");
+                press(Qt::Key_Return);
             });
-            control<ColorBox>(line, "picColor").setFocus();
-            press(Qt::Key_Space);
+            press(Qt::Key_Return);
+            QCOMPARE(color.color(), QColor(0x0F, 0x5A, 0x3C));
+            const auto other = [](const QColor& taken, bool leaves) {
+                onNextModal<frmClothColor>([=](frmClothColor& swatches) {
+                    QCOMPARE(label(swatches, "lblColor"), "Bottle green");
+                    onNextModal<QColorDialog>([=](QColorDialog& dialog) {
+                        dialog.setCurrentColor(taken);
+                        dialog.accept();
+                    });
+                    press(Qt::Key_O, Qt::AltModifier);
+                    QCOMPARE(!swatches.isVisible(), leaves);
+                });
+                press(Qt::Key_Space);
+            };
+            QVERIFY2(color.hasFocus(), "the keys come back to the colour");
+            other(Qt::black, false); // no cloth's colour: the swatches stay
+            QCOMPARE(color.color(), QColor(0x0F, 0x5A, 0x3C));
+            other({1, 2, 3}, true);
             click(line, "Command1");
         };
         QVERIFY(!editLine(correct, 2));
