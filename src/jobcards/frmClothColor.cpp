@@ -19,8 +19,8 @@ struct Cloth
     QRgb color;
 };
 
-/// What comes over the counter most, from light to dark. Black is a very dark grey: a line whose colour is
-/// number 0 has none.
+/// What comes over the counter most. Black is a very dark grey: true black has the number 0, which is never
+/// taken for the colour of a cloth.
 constexpr Cloth cloths[] = {
     {"White", 0xFFFFFF},      {"Ivory", 0xFFFDE7},        {"Cream", 0xF5E9C8},     {"Beige", 0xE3CFA4},
     {"Light grey", 0xCFD4D8}, {"Sky blue", 0xA9D3F0},     {"Pink", 0xF6B8C8},      {"Yellow", 0xF7DC4E},

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int mostPlaces = 8; // as many as the question shows without scrolling
+constexpr int mostPlaces = 6; // as many as the question shows without scrolling
 
 } // namespace
 

@@ -8,6 +8,7 @@
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
 #include "platform/forms/BackgroundTask.h"
+#include "platform/forms/FileDialogIcons.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/values/Dates.h"
 #include "ui_frmSettings.h"
@@ -41,7 +42,7 @@ void frmSettings::selectBackupFolder()
     QFileDialog dialog(this, u"Select a Folder"_s, ui->txtBackuppath->text());
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    forms::useOwnIcons(dialog);
     if (dialog.exec() != QDialog::Accepted)
         return;
     const QString folder = QDir::toNativeSeparators(dialog.selectedFiles().value(0));

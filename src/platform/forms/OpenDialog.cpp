@@ -1,5 +1,7 @@
 #include "platform/forms/OpenDialog.h"
 
+#include "platform/forms/FileDialogIcons.h"
+
 #include <QDir>
 #include <QFileDialog>
 #include <QStandardPaths>
@@ -10,7 +12,7 @@ QString askOpenPath(QWidget* parent, const QString& title, const QString& kinds)
 {
     QFileDialog dialog(parent, title, {}, kinds);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    useOwnIcons(dialog);
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     dialog.setDirectory(QDir(documents).exists() ? documents : QDir::homePath());
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();

@@ -1,5 +1,6 @@
 #include "platform/forms/Theme.h"
 
+#include "platform/forms/FileDialogIcons.h"
 #include "platform/forms/Palette.h"
 
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QFontDatabase>
 #include <QPalette>
 #include <QRegularExpression>
-#include <QStyleFactory>
 
 using namespace Qt::StringLiterals;
 
@@ -65,7 +65,7 @@ QString expandStyleSheet(const QString& sheet)
 void applyTheme(QApplication& application, const QString& fontFolder)
 {
     loadFonts(fontFolder);
-    application.setStyle(QStyleFactory::create(u"Fusion"_s));
+    application.setStyle(new OwnStyle);
     application.setPalette(colours());
     QFont base(u"Inter"_s);
     base.setPointSizeF(basePointSize);

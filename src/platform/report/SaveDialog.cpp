@@ -1,5 +1,7 @@
 #include "platform/report/SaveDialog.h"
 
+#include "platform/forms/FileDialogIcons.h"
+
 #include <QDir>
 #include <QFileDialog>
 #include <QRegularExpression>
@@ -27,7 +29,7 @@ QString askSavePath(QWidget* parent, const QString& title, const QString& name, 
 {
     QFileDialog dialog(parent, title, {}, kinds);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    forms::useOwnIcons(dialog);
     dialog.setDefaultSuffix(suffix);
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     dialog.setDirectory(QDir(documents).exists() ? documents : QDir::homePath());
