@@ -7,6 +7,7 @@
 #include "accounts/frmTransiction.h"
 #include "accounts/frmWorkerWagesRegister.h"
 #include "accounts/rptAccountsBooks.h"
+#include "accounts/rptReceipt.h"
 #include "accounts/rptWagesRegister.h"
 #include "core/shell/Look.h"
 #include "core/shell/frmAbout.h"
@@ -159,6 +160,24 @@ std::unique_ptr<report::Report> statement(bool withRemark)
     const QString account = busyAccount(AccountType::Client);
     return StatementPaper(AccountBook(GetAccountID(account), from, session.WorkingDate), account,
                           dateText(from) + u" To "_s + dateText(session.WorkingDate), withRemark);
+}
+
+/// Takes some money of a client who owes, and gives the receipt's posting.
+qint32 newReceipt()
+{
+    const qint32 job = value(u"Select max(JobID) from Jobs_Detail"_s).toInt();
+    const qint32 account = value(u"Select ClintID from Jobs where id=%1"_s.arg(job)).toInt();
+    PairRows rows;
+    DE.connection().writeBatch([&] {
+        rows = Voucher(VoucherType::Entry, Voucher::NextEntryNumber())
+                   .AddPair({.particulars = u"Receipt"_s,
+                             .date = session.WorkingDate,
+                             .account = account,
+                             .opposite = GetAccountID(u"Cash"_s),
+                             .amount = Currency::fromDouble(350),
+                             .remark = u"Job Card # %1"_s.arg(job)});
+    });
+    return rows.first;
 }
 
 /// Calls `open`, which shows a screen modally; takes the picture of the screen in front, and closes it.
@@ -318,6 +337,12 @@ void takeAll()
         SetSetting(settings::Language, u"English"_s);
     });
     picture("paper-label", [] { PrintLabel(shownLine()); });
+    SetSetting(settings::PaymentAddress, u"upi://pay?pa=rangoli@bank&pn=Rangoli Tailors"_s);
+    picture("paper-job-card-paid-by-phone", [] { PrintJobCard(showpiece()); });
+    const qint32 receipt = newReceipt();
+    picture("paper-receipt", [receipt] { PrintReceipt(receipt); });
+    SetSetting(settings::TwoReceipts, u"1"_s);
+    picture("paper-receipt-twice", [receipt] { PrintReceipt(receipt); });
     picture("garment-picture", [] {
         frmPreview().ShowImage(value(u"Select Img2 from Jobs_Detail where Img2<>''"_s).toString());
     });

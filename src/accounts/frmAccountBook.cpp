@@ -5,6 +5,7 @@
 #include "accounts/frmTransiction.h"
 #include "accounts/frmWorkerWagesRegister.h"
 #include "accounts/rptAccountsBooks.h"
+#include "accounts/rptReceipt.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/Settings.h"
@@ -47,6 +48,7 @@ frmAccountBook::frmAccountBook()
     on(ui->Command5, &QPushButton::clicked, &frmAccountBook::printStatement);
     on(ui->Command2, &QPushButton::clicked, [this] { sendBalance(SmsWay::Modem); });
     on(ui->cmdByPhone, &QPushButton::clicked, [this] { sendBalance(SmsWay::Phone); });
+    on(ui->cmdReceipt, &QPushButton::clicked, &frmAccountBook::printReceipt);
     on(ui->Command1, &QPushButton::clicked, &frmAccountBook::openWages);
     on(ui->Command6, &QPushButton::clicked, &frmAccountBook::openDayBook);
 }
@@ -202,5 +204,15 @@ void frmAccountBook::printStatement()
     const auto paper = StatementPaper(*m_book, shown ? m_account : ui->cmbAccount->Text(),
                                       shown ? m_period : period.text(), withRemark);
     report::Preview(*paper).showModal();
+    ui->lvSummary->setFocus();
+}
+
+void frmAccountBook::printReceipt()
+{
+    const int row = ui->lvSummary->selectedRow();
+    if (row >= 0 && m_book->lines[size_t(row)].isPosting())
+        PrintReceipt(m_book->lines[size_t(row)].posting);
+    else
+        forms::plainMessage(this, u"Select the row of a receipt in the list first."_s);
     ui->lvSummary->setFocus();
 }

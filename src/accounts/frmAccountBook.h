@@ -42,6 +42,7 @@ private:
     void openDayBook();
     void sendBalance(SmsWay way);
     void printStatement();
+    void printReceipt();
 
     const std::unique_ptr<Ui::frmAccountBook> ui;
     swSMS* const swSMS1;

@@ -2,6 +2,7 @@
 
 #include "accounts/Payroll.h"
 #include "accounts/frmPayrollDetails.h"
+#include "accounts/rptReceipt.h"
 #include "core/store/DE.h"
 #include "core/store/Lookups.h"
 #include "core/store/SerialNumber.h"
@@ -59,6 +60,7 @@ frmTransiction::frmTransiction()
     on(ui->Command3, &QPushButton::clicked, [this] { unload(); });
     on(ui->Command4, &QPushButton::clicked,
        [this] { frmPayrollDetails().ExecuteSQL(ui->cmbAccount->text(), EntryID); });
+    on(ui->cmdReceipt, &QPushButton::clicked, &frmTransiction::printReceipt);
 }
 
 frmTransiction::~frmTransiction() = default;
@@ -248,4 +250,15 @@ void frmTransiction::remove()
     session.RefreshLists = true;
     EntrySaved = -1;
     unload();
+}
+
+/// What is printed is what is stored, never what only stands on the screen.
+void frmTransiction::printReceipt()
+{
+    if (EntryMode == RecordMode::Stored)
+        applyLabels();
+    if (EntryMode != RecordMode::Stored || Voucher::Read(m_rows).pair != pair())
+        forms::plainMessage(this, u"Save the voucher first, then print its receipt."_s);
+    else
+        PrintReceipt(m_rows.first);
 }

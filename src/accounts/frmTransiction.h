@@ -49,6 +49,7 @@ private:
     bool settleNumber();
     PostingPair pair() const;
     void remove();
+    void printReceipt();
 
     const std::unique_ptr<Ui::frmTransiction> ui;
     RecordMode EntryMode = RecordMode::New;

@@ -1,6 +1,7 @@
 #include "jobcards/MODPrintJOBCARD.h"
 
 #include "core/store/DE.h"
+#include "core/store/PaymentLink.h"
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
@@ -16,6 +17,7 @@
 #include "platform/report/Preview.h"
 #include "platform/report/Printing.h"
 #include "platform/values/Errors.h"
+#include "platform/values/Numbers.h"
 
 using namespace Qt::StringLiterals;
 
@@ -93,6 +95,9 @@ std::unique_ptr<report::Report> JobCardPaper(qint32 JobID)
     card->section(u"Section7"_s).label(u"lblForCompany"_s).Caption = u"For "_s + session.ShopName;
     card->section(u"Section3"_s).label(u"lblPage"_s).Caption = u"Job Card # %1 · Page %p of %P"_s.arg(JobID);
     card->closeUpHeading();
+    const double due = values::Val(card->rows().front().value(u"Amount"_s).toString());
+    if (const QString link = paymentLink(GetSetting(settings::PaymentAddress), due); !link.isEmpty())
+        card->addPayment(link);
     card->Subject = u"Job Card %1 %2"_s.arg(JobID).arg(card->rows().front().value(u"Name"_s).toString());
     return card;
 }

@@ -193,6 +193,16 @@ void rptJOBCARD::designFoot()
     house.Alignment = Qt::AlignHCenter;
 }
 
+void rptJOBCARD::addPayment(const QString& link)
+{
+    constexpr int edge = mm(31);
+    Section& foot = section(u"Section7"_s);
+    Shape& samples = foot.shape(u"Shape3"_s);
+    paper::qrCode(foot, u"Payment"_s, link, u"Scan to pay what is due"_s, samples.Left + samples.Width - edge,
+                  samples.Top, edge);
+    samples.Width -= edge + Gap;
+}
+
 void rptJOBCARD::closeUpHeading()
 {
     Section& head = section(u"Section6"_s);

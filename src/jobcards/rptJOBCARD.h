@@ -13,6 +13,9 @@ public:
     /// Moves the lines of the heading together where some are empty, and the rest of the head up to them.
     /// Call once, when the heading is filled.
     void closeUpHeading();
+    /// Puts the code by which the client pays what is due beside the place for the cloth samples, which gets
+    /// narrower for it.
+    void addPayment(const QString& link);
 
 private:
     void designHead();

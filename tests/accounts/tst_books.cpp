@@ -4,7 +4,10 @@
 #include "accounts/frmTransiction.h"
 #include "accounts/frmWorkerWagesRegister.h"
 #include "accounts/rptAccountsBooks.h"
+#include "accounts/rptReceipt.h"
 #include "core/shell/frmMenu.h"
+#include "core/store/AmountInWords.h"
+#include "core/store/PaymentLink.h"
 #include "jobcards/frmEditJOB.h"
 #include "messaging/swSMS.h"
 #include "platform/report/Preview.h"
@@ -263,6 +266,141 @@ private Q_SLOTS:
 
     /// As its file is read: heads and number on each page, the totals with a row above them, every posting
     /// once.
+    /// What came in, for which cards, and what is still due at the end of that day, to be paid by phone.
+    void theReceiptOnPaper()
+    {
+        session.ShopName = "Rangoli Tailors";
+        session.ShopContacts = "98290 12345";
+        shop->addJob(7, asha);
+        shop->addJob(8, cash);                                          // another's
+        Shop::run("Update Postings set Date='2024-02-11' where VID=2"); // after the receipt's day
+        shop->addVoucher(4, cash, asha, 1450.5);
+        Shop::run("Update Postings set Remark='cash for cards 7, 8 and 9' where VID=3");
+        const qint32 row = Shop::value("Select ID from Postings where VID=3 and Sr=1").toInt();
+        SetSetting(42, "https://pay.example/a b?to=\"us\"");
+        const QString link = "https://pay.example/a%20b?to=%22us%22&amount=1250.50";
+        const QString page = shop->folder() + "/page.png";
+        for (const qint32 posting : {row, row + 1}) { // as the client's book has it, and as cash has it
+            const auto paper = ReceiptPaper(posting);
+            QCOMPARE(
+                readBack(*paper),
+                QStringList("Rangoli Tailors 98290 12345 Receipt # 3 10-Feb-2024 Received from : Asha For "
+                            "Job Card # : 7 Amount Rs. 200.00 Rupees Two Hundred Only Still Due : Rs. "
+                            "1,250.50 For Rangoli Tailors Auth Sig Scan to pay what is due"));
+            QCOMPARE(scanned(*paper, page), link);
+        }
+        SetSetting(43, "1"); // twice, to be cut
+        const auto both = ReceiptPaper(row);
+        QCOMPARE(both->PageSize, QSizeF(210, 148));
+        QCOMPARE(readBack(*both).join(u'|').count("Rupees Two Hundred Only"), 2);
+        QCOMPARE(scanned(*both, page), link + u'\n' + link);
+        Shop::run("Update Postings set Amount=-Amount*10 where VID=4");
+        SetSetting(43, "0");
+        const QString ahead = readBack(*ReceiptPaper(row)).join(u' ');
+        QVERIFY2(ahead.contains("Paid in Advance : Rs. 14,705.00 For"), qPrintable(ahead));
+        QCOMPARE(scanned(*ReceiptPaper(row), page), "");
+    }
+
+    void theReceiptFromTheScreens()
+    {
+        SetSetting(15, "1");
+        const auto printsReceipt = [](const QString& subject) {
+            onNextModal<report::Preview>(
+                [subject](report::Preview& shown) { QCOMPARE(shown.report().Subject, subject); });
+            press(Qt::Key_R, Qt::AltModifier);
+        };
+        onNextModal<frmAccountBook>([&](frmAccountBook& book) {
+            rows(book).selectRow(0);
+            printsReceipt("Receipt 3 Asha");
+            rows(book).selectRow(1); // the total
+            prompts->expect("Select the row of a receipt in the list first.");
+            press(Qt::Key_R, Qt::AltModifier);
+            onNextModal<frmTransiction>([&](frmTransiction& voucher) {
+                printsReceipt("Receipt 3 Asha");
+                box(voucher, "txtAmount").setText("260");
+                prompts->expect("Save the voucher first, then print its receipt.");
+                press(Qt::Key_R, Qt::AltModifier);
+                prompts->expect("Entry Updated.");
+                save();
+                printsReceipt("Receipt 3 Asha");
+                combo(voucher, "cmbParticulars").setText("Payment");
+                prompts->expect("Entry Updated.");
+                save();
+                prompts->expect("Only a voucher of the type Receipt has a receipt to print.");
+                press(Qt::Key_R, Qt::AltModifier);
+            });
+            rows(book).selectRow(0);
+            press(Qt::Key_Return);
+            Shop::run("Delete from Postings");
+            prompts->expect("This receipt is no longer there.");
+            rows(book).selectRow(0);
+            press(Qt::Key_R, Qt::AltModifier);
+        });
+        Shop::run("Delete from Postings where VID=2");
+        frmAccountBook().ShowAccount("Asha");
+        prompts->expect("Save the voucher first, then print its receipt.");
+        onNextModal<frmTransiction>([](frmTransiction&) { press(Qt::Key_R, Qt::AltModifier); });
+        qint16 saved = 0;
+        frmTransiction().ShowAddNew("Asha", saved);
+    }
+
+    /// The money that was taken with a card has a receipt too; money given back has none.
+    void theReceiptOfACard()
+    {
+        shop->addItem("Shirt");
+        JobCard card;
+        Shop::order(card.JobRows, "Shirt", 900);
+        JobCardHead head = Shop::head(7, "Asha", 900, 300);
+        head.ReceiptAccount = "Cash";
+        card.SaveNew(head);
+        const QString paper =
+            readBack(*ReceiptPaper(Shop::value("Select ID from Postings where vType=1 and Sr=3").toInt()))
+                .join(u' ');
+        QVERIFY2(paper.contains("Receipt # Job Card 7 10-Feb-2024 Received from : Asha For Job Card # : 7 "
+                                "Amount Rs. 300.00"),
+                 qPrintable(paper));
+        shop->addVoucher(9, asha, cash, -50);
+        for (const qint32 posting : {Shop::value("Select ID from Postings where VID=9 and Sr=1").toInt(),
+                                     Shop::value("Select ID from Postings where VID=9 and Sr=2").toInt()})
+            QVERIFY_THROWS_EXCEPTION(OperatorError, receiptOf(posting));
+    }
+
+    void wordsOfAReceipt()
+    {
+        for (const auto& [amount, words] :
+             {std::pair(0.0, "Rupees Zero Only"), std::pair(0.5, "Fifty Paise Only"),
+              std::pair(-1.0, "Minus Rupees One Only"), std::pair(19.999, "Rupees Twenty Only"),
+              std::pair(110.07, "Rupees One Hundred Ten and Seven Paise Only"),
+              std::pair(1'20'00'045.0, "Rupees One Crore Twenty Lakh Forty-Five Only"),
+              std::pair(12'34'567.89, "Rupees Twelve Lakh Thirty-Four Thousand Five Hundred Sixty-Seven and "
+                                      "Eighty-Nine Paise Only"),
+              std::pair(1e12, "Rupees One Lakh Crore Only")})
+            QCOMPARE(amountInWords(amount), words);
+        const std::pair<const char*, std::vector<qint32>> remarks[] = {
+            {"Job Card # :12", {12}},
+            {"against job no. 12/2, 14 & #15 by cheque 445566", {12, 14, 15}},
+            {"cards 7 and 8, 500 in cash", {7, 8, 500}}, // only those that are this client's are printed
+            {"credit card 4711, by card 12", {}},
+            {"#3; jobs 4;5 and job 4", {3, 4, 5}},
+            {"450 for the jobs, card 99999999999", {}},
+        };
+        for (const auto& [remark, cards] : remarks)
+            QCOMPARE(cardsNamed(remark), cards);
+        const std::tuple<const char*, const char*> links[] = {
+            {"upi://pay?pa=a@b", "upi://pay?pa=a@b&am=12.50&cu=INR"},
+            {" \"upi://pay?cu=EUR&pa=a@b&am=9\" ", "upi://pay?pa=a@b&am=12.50&cu=INR"},
+            {"https://pay.example/{amount}/INR?x=1", "https://pay.example/12.50/INR?x=1"},
+            {"https://pay.example/shop", "https://pay.example/shop?amount=12.50"},
+            {"upi://pay?pn=Rangoli", ""}, // to whom?
+            {"rangoli@bank", ""},
+            {"https://", ""},
+        };
+        for (const auto& [address, link] : links)
+            QCOMPARE(paymentLink(address, 12.5), link);
+        QCOMPARE(paymentLink("upi://pay?pa=a@b", 0.001) + paymentLink("upi://pay?pa=a@b", -5), "");
+        QVERIFY(!isPaymentAddress("https://pay.example/" + QString(1000, 'x')));
+    }
+
     void theStatementOnPaper()
     {
         session.ShopName = "Needle & Co";

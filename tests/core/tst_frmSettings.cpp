@@ -85,6 +85,33 @@ private Q_SLOTS:
             QCOMPARE(stored(number), value);
     }
 
+    void takesAPaymentAddress()
+    {
+        const QString address = "upi://pay?pa=rangoli@bank&pn=O'Neil \"Fine\" Tailors";
+        inModal<frmSettings>([&](frmSettings& screen) {
+            field(screen, "txtPaymentAddress").setText("pay at the counter");
+            prompts->expect("The payment address must be a link, such as upi://pay?pa=name@bank or "
+                            "https://pay.example/shop, of up to 1000 letters.\n\nNothing has been saved.");
+            save();
+            QCOMPARE(focused(screen), "txtPaymentAddress");
+            QCOMPARE(stored(42) + stored(43), "nonenone");
+            field(screen, "txtPaymentAddress").setText(' ' + address);
+            press(Qt::Key_Return);
+            press(Qt::Key_Space);
+            prompts->expect("Settings Updated.");
+            save();
+        });
+        QCOMPARE(stored(42) + stored(43), address + "1");
+        inModal<frmSettings>([&](frmSettings& screen) {
+            QCOMPARE(field(screen, "txtPaymentAddress").text(), address);
+            QVERIFY(checked(screen, "chTwoReceipts"));
+            field(screen, "txtPaymentAddress").clear(); // back to none
+            prompts->expect("Settings Updated.");
+            save();
+        });
+        QCOMPARE(stored(42), "");
+    }
+
     void refusesWhatWouldStopTheShop()
     {
         prompts->expect(

@@ -28,16 +28,6 @@ static bool hasAll(const QStringList& texts, const QStringList& wanted)
                        [&](const QString& text) { return texts.contains(text); });
 }
 
-/// What a scanner reads on the first page of a printer of 203 dots to the inch.
-static QString scanned(const report::Report& paper, const QString& file)
-{
-    printed(paper, 203).save(file);
-    QProcess reader;
-    reader.start("zbarimg", {"-q", "--raw", file});
-    reader.waitForFinished();
-    return QString::fromUtf8(reader.readAllStandardOutput()).trimmed();
-}
-
 class tst_printing : public ShopTest
 {
     Q_OBJECT
@@ -95,6 +85,19 @@ private Q_SLOTS:
             for (const QString& sum : sums)
                 QVERIFY2(foot.contains(sum), qPrintable(sum + " in " + foot));
         }
+    }
+
+    /// The card asks for what is due on it, and for nothing where nothing is.
+    void cardIsPaidByPhone()
+    {
+        storeCard();
+        const QString page = shop->folder() + "/page.png";
+        QCOMPARE(scanned(*JobCardPaper(7), page), "");
+        SetSetting(42, "upi://pay?pa=rangoli@bank&pn=O'Neil \"Fine\" Tailors&am=1");
+        QCOMPARE(scanned(*JobCardPaper(7), page),
+                 "upi://pay?pa=rangoli@bank&pn=O'Neil%20%22Fine%22%20Tailors&am=1301.50&cu=INR");
+        Shop::run("Update Jobs set AmountPaid=1301.5");
+        QCOMPARE(scanned(*JobCardPaper(7), page), "");
     }
 
     void logoBesideTheHeading()

@@ -35,6 +35,17 @@ inline QImage printed(const report::Report& paper, double resolution)
     return page;
 }
 
+/// What a scanner reads on the first page of a printer of 203 dots to the inch, a code a line; `file` takes
+/// the page's picture.
+inline QString scanned(const report::Report& paper, const QString& file)
+{
+    printed(paper, 203).save(file);
+    QProcess reader;
+    reader.start("zbarimg", {"-q", "--raw", file});
+    reader.waitForFinished();
+    return QString::fromUtf8(reader.readAllStandardOutput()).trimmed();
+}
+
 /// The text of a paper's pages; of each run of blanks one is left.
 inline QStringList readBack(const report::Report& paper)
 {

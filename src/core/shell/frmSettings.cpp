@@ -2,6 +2,7 @@
 
 #include "core/shell/CopyList.h"
 #include "core/store/DE.h"
+#include "core/store/PaymentLink.h"
 #include "core/store/SerialNumber.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
@@ -78,6 +79,8 @@ void frmSettings::Form_Load()
     ui->txtDelMargin->setText(GetSetting(settings::DeliveryMargin));
     check(*ui->chPrintAfterSave, settings::PrintAfterSave);
     check(*ui->chPreview, settings::PrintPreview);
+    ui->txtPaymentAddress->setText(GetSetting(settings::PaymentAddress));
+    check(*ui->chTwoReceipts, settings::TwoReceipts);
     ui->cmbLanguage->setText(GetSetting(settings::Language));
     ui->chHindiSlip->setChecked(IsOn(settings::HindiSlip));
     showWhetherHindi();
@@ -166,7 +169,7 @@ void frmSettings::save()
     for (forms::ComboBox* combo : {ui->cmbSendAutoSMS, ui->cmbSMSJobID})
         if (combo->text().isEmpty())
             combo->setText(u"No"_s);
-    if (!numbersFit() || !draftsArrive())
+    if (!numbersFit() || !paymentArrives() || !draftsArrive())
         return;
     DE.connection().writeBatch([this] { writeSettings(); });
     ShowMsg(u"Settings Updated."_s);
@@ -188,6 +191,19 @@ bool frmSettings::numbersFit()
         return false;
     }
     return true;
+}
+
+/// An address with which no phone could pay is refused before anything is written.
+bool frmSettings::paymentArrives()
+{
+    const QString address = ui->txtPaymentAddress->text().trimmed();
+    if (address.isEmpty() || isPaymentAddress(address))
+        return true;
+    forms::plainMessage(this,
+                        u"The payment address must be a link, such as upi://pay?pa=name@bank or "
+                        "https://pay.example/shop, of up to 1000 letters.\n\nNothing has been saved."_s);
+    goTo(*ui->txtPaymentAddress);
+    return false;
 }
 
 /// Shows what would arrive of a draft with letters that the modem can't carry; the shop may keep it so.
@@ -228,6 +244,11 @@ void frmSettings::writeSettings()
     SetSetting(settings::ModemPort, ui->cmbSMSPort->text());
     if (ui->cmbByPhone->text() != GetSetting(settings::ByPhone))
         SetSetting(settings::ByPhone, ui->cmbByPhone->text());
+    if (const QString address = ui->txtPaymentAddress->text().trimmed();
+        address != GetSetting(settings::PaymentAddress))
+        SetSetting(settings::PaymentAddress, address);
+    if (ui->chTwoReceipts->isChecked() != IsOn(settings::TwoReceipts))
+        SetSetting(settings::TwoReceipts, checkedText(*ui->chTwoReceipts));
     SetSetting(settings::SmsWhenFinished, ui->cmbSendAutoSMS->text());
     SetSetting(settings::SmsAfterRegistration, ui->cmbSMSJobID->text());
     SetSetting(settings::Logo, ui->txtLogo->text());

@@ -38,6 +38,7 @@ private:
     void loadDefaultDrafts();
     void save();
     bool numbersFit();
+    bool paymentArrives();
     bool draftsArrive();
     void selectBackupFolder();
     void openBackupFolder();

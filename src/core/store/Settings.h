@@ -44,6 +44,8 @@ inline constexpr Setting SmsDueBalance{26, ""_L1};       ///< draft; its readers
 inline constexpr Setting UndeliveredClientsOnly{28, "0"_L1}; ///< switch of the client search
 inline constexpr Setting OldBooksTo{40, ""_L1};              ///< last day of the books before these; none yet
 inline constexpr Setting ByPhone{41, "SMS"_L1};              ///< what the shop's phone opens: "SMS" or a chat
+inline constexpr Setting PaymentAddress{42, ""_L1};          ///< a link by which clients pay from a phone
+inline constexpr Setting TwoReceipts{43, "0"_L1};            ///< switch: a receipt twice, on A5
 inline constexpr Setting LastBackup{29, ""_L1};              ///< the day of it, by the system's date
 
 } // namespace settings

@@ -16,6 +16,8 @@ struct PostingPair
     qint32 opposite = 0; ///< the book of an account names its opposite
     Currency amount; ///< of the first posting, negative debits its account; of the second it is the negative
     QString remark;
+
+    bool operator==(const PostingPair&) const = default;
 };
 
 /// What a pair is besides its money.

@@ -1,5 +1,7 @@
 #include "platform/report/PaperDesign.h"
 
+#include "platform/report/QrCode.h"
+
 using namespace Qt::StringLiterals;
 
 namespace paper {
@@ -76,6 +78,19 @@ report::Label& subtitle(report::Section& section, const QString& name, const QSt
     label.Color = palette::quietInk;
     label.Alignment = Qt::AlignHCenter;
     return label;
+}
+
+report::Image& qrCode(report::Section& section, const QString& name, const QString& text,
+                      const QString& purpose, int left, int top, int edge)
+{
+    constexpr int dotsOfAModule = 8; // sharp on any printer
+    report::Image& image = section.addImage(name);
+    image.place(left, top, edge, edge);
+    image.Picture = report::QrCode(text).image(dotsOfAModule);
+    report::Label& below = caption(section, name + u"Caption"_s, purpose, left, top + edge, edge);
+    below.FontSize = 7;
+    below.Alignment = Qt::AlignHCenter;
+    return image;
 }
 
 void table(report::Section& titles, report::Section& lines, const std::vector<Column>& columns,

@@ -26,6 +26,11 @@ report::Shape& rule(report::Section& section, const QString& name, int left, int
 /// A shaded bar behind titles.
 report::Shape& bar(report::Section& section, const QString& name, int left, int top, int width, int height);
 
+/// A text as a QR code, `edge` wide and high with its white, and below it what it is for. Throws
+/// OperatorError for a text that no code can hold.
+report::Image& qrCode(report::Section& section, const QString& name, const QString& text,
+                      const QString& purpose, int left, int top, int edge);
+
 /// A column of a table: its title on a bar, its field in each line.
 struct Column
 {
