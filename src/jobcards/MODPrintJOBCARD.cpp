@@ -2,6 +2,7 @@
 
 #include "core/store/DE.h"
 #include "core/store/PaymentLink.h"
+#include "core/store/Rows.h"
 #include "core/store/Schema.h"
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
@@ -46,6 +47,14 @@ void PlaceLogo(rptJOBCARD& card, const QString& LogoPath)
         throw OperatorError(u"The logo can't be loaded: %1\nNothing has been printed. "
                             "The file is chosen on the Settings screen."_s.arg(LogoPath));
     head.image(u"logo"_s).Picture = logo.toImage();
+}
+
+/// What the client is asked to pay on a card: nothing on a cancelled one.
+double dueOn(const rptJOBCARD& card, qint32 JobID)
+{
+    if (any(u"Select id from Jobs where id=%1 and Status<>0"_s.arg(JobID)))
+        return 0;
+    return values::Val(card.rows().front().value(u"Amount"_s).toString());
 }
 
 /// The row of one line of a job. Throws ado::NoCurrentRecordError for one that is gone.
@@ -95,8 +104,8 @@ std::unique_ptr<report::Report> JobCardPaper(qint32 JobID)
     card->section(u"Section7"_s).label(u"lblForCompany"_s).Caption = u"For "_s + session.ShopName;
     card->section(u"Section3"_s).label(u"lblPage"_s).Caption = u"Job Card # %1 · Page %p of %P"_s.arg(JobID);
     card->closeUpHeading();
-    const double due = values::Val(card->rows().front().value(u"Amount"_s).toString());
-    if (const QString link = paymentLink(GetSetting(settings::PaymentAddress), due); !link.isEmpty())
+    if (const QString link = paymentLink(GetSetting(settings::PaymentAddress), dueOn(*card, JobID));
+        !link.isEmpty())
         card->addPayment(link);
     card->Subject = u"Job Card %1 %2"_s.arg(JobID).arg(card->rows().front().value(u"Name"_s).toString());
     return card;

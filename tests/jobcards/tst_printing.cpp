@@ -96,7 +96,9 @@ private Q_SLOTS:
         SetSetting(42, "upi://pay?pa=rangoli@bank&pn=O'Neil \"Fine\" Tailors&am=1");
         QCOMPARE(scanned(*JobCardPaper(7), page),
                  "upi://pay?pa=rangoli@bank&pn=O'Neil%20%22Fine%22%20Tailors&am=1301.50&cu=INR");
-        Shop::run("Update Jobs set AmountPaid=1301.5");
+        Shop::run("Update Jobs set Status=1"); // cancelled
+        QCOMPARE(scanned(*JobCardPaper(7), page), "");
+        Shop::run("Update Jobs set Status=0, AmountPaid=1301.5");
         QCOMPARE(scanned(*JobCardPaper(7), page), "");
     }
 
