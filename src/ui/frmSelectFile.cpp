@@ -1,6 +1,7 @@
 #include "ui/frmSelectFile.h"
 
 #include "platform/forms/Pictures.h"
+#include "platform/forms/Thumbnails.h"
 #include "ui_frmSelectFile.h"
 
 #include <QDir>
@@ -38,6 +39,11 @@ frmSelectFile::frmSelectFile(QWidget* parent)
     , ui(std::make_unique<Ui::frmSelectFile>())
 {
     ui->setupUi(this);
+    constexpr QSize thumbnail{48, 36};
+    m_thumbnails = new forms::Thumbnails(thumbnail, this);
+    ui->files->setPictures(
+        thumbnail, [this](const QString& name) { return m_thumbnails->of(QDir(m_folder).filePath(name)); });
+    connect(m_thumbnails, &forms::Thumbnails::arrived, ui->files->viewport(), qOverload<>(&QWidget::update));
     on(ui->drv, &forms::ComboBox::clicked, &frmSelectFile::openDrive);
     on(ui->Dir, &forms::ListBox::dblClicked, &frmSelectFile::enterFolder);
     onKeyPress(ui->Dir, [this](int& key) {
@@ -98,6 +104,7 @@ void frmSelectFile::openFolder(const QString& path)
     if (!folder.exists())
         folder = QDir::home();
     m_folder = folder.absolutePath();
+    m_thumbnails->leave();
     ui->lblFolder->setText(QDir::toNativeSeparators(m_folder));
 
     QString drive;

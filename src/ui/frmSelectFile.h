@@ -4,6 +4,9 @@
 
 #include <memory>
 
+namespace forms {
+class Thumbnails;
+}
 namespace Ui {
 class frmSelectFile;
 }
@@ -33,6 +36,7 @@ private:
     void preview(const QString& path);
 
     std::unique_ptr<Ui::frmSelectFile> ui;
+    forms::Thumbnails* m_thumbnails;
     QString m_folder;
     QString m_answer;
 };

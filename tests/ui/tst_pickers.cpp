@@ -46,7 +46,9 @@ private Q_SLOTS:
     {
         const QString pictures = shop->folder() + "/pictures";
         QVERIFY(QDir().mkpath(pictures + "/old"));
-        QVERIFY(QImage(40, 20, QImage::Format_Mono).save(pictures + "/coat.bmp"));
+        QImage coat(40, 20, QImage::Format_RGB32);
+        coat.fill(Qt::red);
+        QVERIFY(coat.save(pictures + "/coat.bmp"));
         QVERIFY(QImage(1600, 800, QImage::Format_Mono).save(pictures + "/wall.jpg"));
         writeFile(pictures + "/broken.bmp", "not a picture");
         qputenv("HOME", pictures.toLocal8Bit());
@@ -62,6 +64,13 @@ private Q_SLOTS:
                 return control<QLabel>(dialog, "pic1").pixmap().deviceIndependentSize().toSize();
             };
             QCOMPARE(files.ListCount(), 3);
+            const auto thumbnail = [&](int index) {
+                const auto shown = files.model()->index(index, 0).data(Qt::DecorationRole).value<QPixmap>();
+                return shown.toImage().pixelColor(shown.width() / 2, shown.height() / 2);
+            };
+            QTRY_COMPARE(thumbnail(1), Qt::red);
+            QTRY_COMPARE(thumbnail(2).alpha(), 255);
+            QCOMPARE(thumbnail(0).alpha(), 0); // no picture
             QVERIFY(preview(0).isEmpty());
             QCOMPARE(preview(1), QSize(40, 20));
             const int width = preview(2).width();

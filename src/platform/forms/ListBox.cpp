@@ -23,9 +23,25 @@ int findPrefix(const QStringList& texts, const QString& prefix, int startAfter)
     return -1;
 }
 
+/// The texts, each with its picture where the list shows any.
+class ListBox::Texts : public QStringListModel
+{
+public:
+    using QStringListModel::QStringListModel;
+
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        if (role == Qt::DecorationRole && pictureOf && index.isValid())
+            return pictureOf(stringList().at(index.row()));
+        return QStringListModel::data(index, role);
+    }
+
+    std::function<QPixmap(const QString& text)> pictureOf{};
+};
+
 ListBox::ListBox(QWidget* parent)
     : QListView(parent)
-    , m_texts(new QStringListModel(this))
+    , m_texts(new Texts(this))
 {
     setModel(m_texts);
     setUniformItemSizes(true);
@@ -82,6 +98,13 @@ QString ListBox::List(int index) const
 }
 
 QString ListBox::Text() const { return List(ListIndex()); }
+
+void ListBox::setPictures(const QSize& size, std::function<QPixmap(const QString& text)> of)
+{
+    setIconSize(size);
+    m_texts->pictureOf = std::move(of);
+    scheduleDelayedItemsLayout();
+}
 
 int ListBox::findString(const QString& prefix, int startAfter) const
 {

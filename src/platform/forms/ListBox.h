@@ -3,8 +3,7 @@
 #include "platform/values/ListTarget.h"
 
 #include <QListView>
-
-class QStringListModel;
+#include <functional>
 
 namespace forms {
 
@@ -31,6 +30,10 @@ public:
     /// tries the entry `startAfter` itself last. -1: none, as for an empty prefix.
     int findString(const QString& prefix, int startAfter = -1) const;
 
+    /// Shows a picture in front of each entry, `size` pixels of the layout large; `of` gets the entry's text.
+    /// It is asked for what is in view, each time this is painted.
+    void setPictures(const QSize& size, std::function<QPixmap(const QString& text)> of);
+
 Q_SIGNALS:
     /// An entry was double-clicked.
     void dblClicked();
@@ -45,7 +48,8 @@ protected:
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
-    QStringListModel* m_texts;
+    class Texts;
+    Texts* m_texts;
 };
 
 /// The prefix search of list boxes and combos.

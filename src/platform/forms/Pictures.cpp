@@ -37,7 +37,7 @@ bool isPicture(const QString& path)
     return reader.canRead();
 }
 
-QPixmap loadPicture(const QString& path, const QSize& within)
+QImage loadImage(const QString& path, const QSize& within)
 {
     QImageReader reader;
     aim(reader, path);
@@ -46,7 +46,12 @@ QPixmap loadPicture(const QString& path, const QSize& within)
         return {};
     if (size.width() > within.width() || size.height() > within.height())
         reader.setScaledSize(size.scaled(within, Qt::KeepAspectRatio).expandedTo({1, 1}));
-    return QPixmap::fromImageReader(&reader);
+    return reader.read();
+}
+
+QPixmap loadPicture(const QString& path, const QSize& within)
+{
+    return QPixmap::fromImage(loadImage(path, within));
 }
 
 } // namespace forms
