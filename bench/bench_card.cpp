@@ -2,7 +2,10 @@
 #include "OnScreen.h"
 #include "core/store/DE.h"
 #include "core/store/Session.h"
+#include "jobcards/ItemDetails.h"
 #include "jobcards/JobCard.h"
+#include "jobcards/clsJobCardData.h"
+#include "jobcards/frmAddItem.h"
 #include "jobcards/frmEditJOB.h"
 #include "platform/forms/ComboBox.h"
 
@@ -25,6 +28,7 @@ constexpr int lines = 5;
 constexpr int account = 5;
 constexpr int sales = 2;
 constexpr int cash = 4;
+constexpr qint32 clientWithoutOrders = 1;
 
 JobCard fiveLines()
 {
@@ -144,9 +148,53 @@ void chooseClient(benchmark::State& state)
         });
 }
 
+/// Measurements typed on through the grid: each a digit that is painted, then Enter, which looks at all of
+/// them again.
+void typeMeasurement(benchmark::State& state)
+{
+    clsJobCardData rows;
+    frmAddItem screen;
+    onScreen(
+        screen, [&] { screen.ItemDetails(rows, clientWithoutOrders); },
+        [&] {
+            auto* item = screen.findChild<forms::ComboBox*>(u"cmbItems"_s);
+            item->setText(FullShop::garments()[2]); // twelve measurements
+            pressKey(*item, Qt::Key_Return);
+            const auto& grid = *screen.findChild<ItemDetails*>();
+            for (int row = 0; auto _ : state) {
+                auto* value = screen.findChild<QWidget*>(u"txtValue_%1"_s.arg(row));
+                pressKey(*value, Qt::Key_9, u"9"_s);
+                screen.repaint();
+                pressKey(*value, Qt::Key_Return);
+                screen.repaint();
+                row = (row + 1) % grid.Count();
+            }
+        });
+}
+
+/// A garment is chosen: its measurements come, and what the shop knows of them.
+void chooseGarment(benchmark::State& state)
+{
+    clsJobCardData rows;
+    frmAddItem screen;
+    onScreen(
+        screen, [&] { screen.ItemDetails(rows, clientWithoutOrders); },
+        [&] {
+            auto* item = screen.findChild<forms::ComboBox*>(u"cmbItems"_s);
+            for (int garment = 0; auto _ : state) {
+                item->setFocus();
+                item->setText(FullShop::garments()[garment = (garment + 7) % 20]);
+                pressKey(*item, Qt::Key_Return);
+                screen.repaint();
+            }
+        });
+}
+
 } // namespace
 
 // The numbers of lines end at 32,767: what the two write must fit in.
 BENCHMARK(bareRows)->Unit(benchmark::kMicrosecond)->Iterations(10)->Repetitions(6);
 BENCHMARK(saveCard)->Unit(benchmark::kMicrosecond)->Iterations(10)->Repetitions(6);
 BENCHMARK(chooseClient)->Unit(benchmark::kMicrosecond)->Iterations(200);
+BENCHMARK(typeMeasurement)->Unit(benchmark::kMicrosecond)->Iterations(200);
+BENCHMARK(chooseGarment)->Unit(benchmark::kMicrosecond)->Iterations(100);

@@ -218,6 +218,17 @@ void editLine()
     frmAddItem().EditItemDetails(card.JobRows, GetAccountID(client()), row);
 }
 
+/// Two digits of a measurement typed the wrong way round.
+void swapDigits(forms::Screen& screen)
+{
+    auto* value = screen.findChild<swTextBox*>(u"txtValue_1"_s);
+    QString typed = value->text();
+    qSwap(typed[0], typed[1]);
+    value->setFocus();
+    value->setText(typed);
+    screen.findChild<QPushButton*>(u"Command1"_s)->setFocus();
+}
+
 /// A completed line with pictures.
 qint32 shownLine()
 {
@@ -357,7 +368,7 @@ void takeAll()
         frmHandNote().TakeSnap(value(u"Select Img2 from Jobs_Detail where Img2<>''"_s).toString(), cancelled);
     });
     picture("new-job-card", [] { frmEditJOB().ShowAddNew(); });
-    picture("item-line", editLine);
+    picture("item-line", editLine, swapDigits);
     picture(
         "find-client",
         [] {

@@ -1,5 +1,6 @@
 #include "jobcards/ItemDetails.h"
 
+#include "jobcards/ValueReason.h"
 #include "platform/forms/Metrics.h"
 #include "platform/values/Errors.h"
 #include "platform/values/Numbers.h"
@@ -112,10 +113,17 @@ void ItemDetails::ListItemText(QString& name, QString& value, qint32 index) cons
     value = row.txtValue->displayText();
 }
 
+void ItemDetails::setReasons(const QStringList& reasons)
+{
+    for (size_t i = 0; i < m_rows.size(); ++i)
+        m_rows[i].reason->setReason(reasons.value(static_cast<qsizetype>(i)));
+}
+
 void ItemDetails::makeRow()
 {
     const size_t index = m_rows.size();
-    Row row{std::make_unique<QLabel>(Picture1), std::make_unique<swTextBox>(Picture1), {}};
+    Row row{std::make_unique<QLabel>(Picture1), std::make_unique<swTextBox>(Picture1), nullptr, {}};
+    row.reason = new ValueReason(row.txtValue.get());
     row.lblCap->setObjectName(u"lblCap_%1"_s.arg(index));
     row.lblCap->setTextFormat(Qt::PlainText);
     row.lblCap->setIndent(CaptionIndent);
@@ -127,7 +135,10 @@ void ItemDetails::makeRow()
         rowGotFocus(index);
         lblGotFocus(*label);
     });
-    connect(box, &swTextBox::LostFocus, label, [label] { lbllostFocus(*label); });
+    connect(box, &swTextBox::LostFocus, label, [this, label] {
+        lbllostFocus(*label);
+        Q_EMIT valueLeft();
+    });
     if (index > 0)
         setTabOrder(m_rows.back().txtValue.get(), box);
     m_rows.push_back(std::move(row));
@@ -139,6 +150,7 @@ void ItemDetails::fillRow(Row& row, const QString& caption, const QString& value
     row.txtValue->setText(value);
     row.txtValue->setCursorPosition(0);
     row.txtValue->setAccessibleName(caption);
+    row.reason->setReason({});
     row.lblCap->show();
     row.txtValue->show();
 }

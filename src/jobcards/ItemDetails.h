@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+class ValueReason;
 class swTextBox;
 
 /// The measurements of one garment: a scrolling column of captions with a box beside each. Rows are numbered
@@ -34,10 +35,17 @@ public:
     /// Hands back the caption of a row, whole, and its value as it shows: a line break pasted into the box
     /// reads as a blank. Throws SubscriptError.
     void ListItemText(QString& name, QString& value, qint32 index) const;
+    /// Shows to each row why its value should be looked at once more, quietly beside it; empty for none. The
+    /// reason goes when its value is typed anew.
+    void setReasons(const QStringList& reasons);
 
     /// Paint a caption as selected (white on black) or plain.
     static void lblGotFocus(QLabel& label);
     static void lbllostFocus(QLabel& label);
+
+Q_SIGNALS:
+    /// The focus has left a value.
+    void valueLeft();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -50,7 +58,8 @@ private:
     {
         std::unique_ptr<QLabel> lblCap;
         std::unique_ptr<swTextBox> txtValue;
-        QString caption; ///< whole; the label may have to shorten it
+        ValueReason* reason; ///< in the box
+        QString caption;     ///< whole; the label may have to shorten it
     };
 
     void makeRow();

@@ -49,6 +49,7 @@ frmAddItem::frmAddItem()
     onGotFocus(ui->cmbItems, [this] { openItems(); });
     onKeyPress(ui->cmbItems, [this](int& key) { typeItem(key); });
     on(ui->cmbItems, &forms::ComboBox::clicked, &frmAddItem::chooseItem);
+    on(ui->ItemDetails1, &::ItemDetails::valueLeft, &frmAddItem::lookAtMeasurements);
     for (QLineEdit* box : {ui->txtQnt, ui->txtFees})
         onKeyPress(box, [box](int& key) { key = EnterAsTab(key) == 0 ? 0 : NumbersOnly(*box, key); });
     onKeyPress(ui->txtRemark, [](int& key) { key = EnterAsTab(key); });
@@ -65,6 +66,8 @@ frmAddItem::frmAddItem()
     on(ui->pic2, &PictureBox::dblClicked, [this] { preview(*ui->picPath2); });
     on(ui->Command2, &QPushButton::clicked, &frmAddItem::clear);
     on(ui->Command1, &QPushButton::clicked, &frmAddItem::accept);
+    onGotFocus(ui->Command1, [this] { ui->lblHelp->setNotice(unusualMeasurements()); });
+    onLostFocus(ui->Command1, [this] { ui->lblHelp->setNotice({}); });
 }
 
 frmAddItem::~frmAddItem() = default;
@@ -112,6 +115,8 @@ void frmAddItem::Form_Activate()
 void frmAddItem::showRow()
 {
     LoadEditItems(JobRows->ItemDetails(RowIndex), JobRows->ItemDetailsValue(RowIndex));
+    m_guard = MeasurementGuard::of(JobRows->ItemID(RowIndex), ClientID, JobRows->Sr(RowIndex));
+    lookAtMeasurements();
     ui->txtFees->setText(values::CStr(JobRows->Fees(RowIndex)));
     ui->txtQnt->setText(QString::number(JobRows->Qty(RowIndex)));
     ui->txtRemark->setText(JobRows->Remarks(RowIndex));
@@ -156,6 +161,8 @@ void frmAddItem::chooseItem()
 {
     const qint32 itemID = GetItemID(ui->cmbItems->text());
     LoadLastConfig(itemID, ClientID);
+    m_guard = MeasurementGuard::of(itemID, ClientID);
+    lookAtMeasurements();
     ui->txtFees->setText(values::CStr(GetItemFees(itemID)));
 }
 
@@ -197,6 +204,21 @@ void frmAddItem::addPair(const QString& line)
 {
     const QStringList parts = line.split(u'=');
     ui->ItemDetails1->AddFeild(parts[0], parts.value(1));
+}
+
+void frmAddItem::lookAtMeasurements()
+{
+    const QStringList doubts = m_guard.doubts(readGrid(*ui->ItemDetails1));
+    ui->ItemDetails1->setReasons(doubts);
+    m_unusual = doubts.size() - doubts.count(QString());
+}
+
+QString frmAddItem::unusualMeasurements() const
+{
+    if (m_unusual == 0)
+        return {};
+    return m_unusual == 1 ? u"1 measurement looks unusual"_s
+                          : u"%1 measurements look unusual"_s.arg(m_unusual);
 }
 
 // Keys

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/store/Codes.h"
+#include "jobcards/MeasurementGuard.h"
 #include "platform/forms/Screen.h"
 
 #include <QHash>
@@ -50,6 +51,8 @@ private:
     void typeItem(int& key);
     void chooseItem();
     void addPair(const QString& line);
+    void lookAtMeasurements();
+    QString unusualMeasurements() const;
 
     void typeClientRemark(int& key);
     void chooseColor();
@@ -74,6 +77,8 @@ private:
     clsJobCardData* JobRows = nullptr;
     qint32 ClientID = 0;
     qint32 RowIndex = 0;
+    MeasurementGuard m_guard;
+    qsizetype m_unusual = 0;                   ///< measurements that the guard doubts
     int LastKey = 0;                           ///< in the client's note
     QHash<const QLabel*, QString> m_lostLinks; ///< of pictures that the shop does not have
 };

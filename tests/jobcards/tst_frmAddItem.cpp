@@ -1,14 +1,18 @@
 #include "core/store/Startup.h"
 #include "jobcards/ColorBox.h"
 #include "jobcards/ItemDetails.h"
+#include "jobcards/MeasurementGuard.h"
 #include "jobcards/PictureBox.h"
 #include "jobcards/PictureFiles.h"
 #include "jobcards/frmAddItem.h"
 #include "jobcards/frmClothColor.h"
 #include "media/frmHandNote.h"
+#include "platform/forms/Palette.h"
 #include "platform/values/Errors.h"
 #include "support/ShopTest.h"
+#include "ui/HelpLine.h"
 #include "ui/frmSelectFile.h"
+#include "ui/swTextBox.h"
 
 #include <QColorDialog>
 #include <QDir>
@@ -30,6 +34,32 @@ static QString measurements(frmAddItem& line)
         all << name + u'=' + value;
     }
     return all.join(u'|');
+}
+
+/// "row: reason" for each that shows.
+static QString reasons(frmAddItem& line)
+{
+    QStringList all;
+    for (int i = 0; i < control<ItemDetails>(line, "ItemDetails1").Count(); ++i)
+        if (const auto& box = control<swTextBox>(line, qPrintable(u"txtValue_%1"_s.arg(i)));
+            !box.accessibleDescription().isEmpty())
+            all << u"%1: %2"_s.arg(i).arg(box.accessibleDescription());
+    return all.join(u'|');
+}
+
+/// How many pixels of a box have about a colour: thin letters blend into their ground.
+static int ink(swTextBox& box, QRgb color)
+{
+    const QImage image = box.grab().toImage();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count +=
+                qAbs(qRed(image.pixel(x, y)) - qRed(color)) + qAbs(qBlue(image.pixel(x, y)) - qBlue(color)) <
+                        100
+                    ? 1
+                    : 0;
+    return count;
 }
 
 static bool hasPicture(frmAddItem& line) { return !control<PictureBox>(line, "pic2").picture().isNull(); }
@@ -163,6 +193,107 @@ private Q_SLOTS:
         QCOMPARE(rows.Qty(2), 2);
         QCOMPARE(written(2), "Shirt; 250.625; blue; Length\r\nChest; 33\r\n41; loose\r\nfit\r\n; 197121");
         QCOMPARE(written(1), "Shirt; 300.75; remark; Length; 30; note; 255");
+    }
+
+    void measuresAreReadInEveryForm_data()
+    {
+        QTest::addColumn<double>("inches"); // below 0: no number
+        const std::pair<const char*, double> forms[] = {
+            {"42", 42},     {" 9.5 ", 9.5},    {"9,5", 9.5},    {"14 1/2", 14.5}, {"14-3/4", 14.75},
+            {"14½", 14.5},  {"14 ¼\"", 14.25}, {"3/4", 0.75},   {"¾", 0.75},      {"42 Inches", 42},
+            {"40 cm", 40},  {"", -1},          {"Regular", -1}, {"16 loose", -1}, {"38/40", 0.95},
+            {"14 1/0", -1}, {"4.", -1},        {"in", -1},      {"-4", -1},       {"141/2", 70.5},
+            {"1 2", -1},
+        };
+        for (const auto& [text, inches] : forms)
+            QTest::newRow(text) << inches;
+    }
+    void measuresAreReadInEveryForm()
+    {
+        QFETCH(double, inches);
+        const QString text = QString::fromUtf8(QTest::currentDataTag());
+        QCOMPARE(MeasurementGuard::measure(text).value_or(-1), inches);
+    }
+
+    /// The reason stands beside the value as soon as it has been left, and OK counts: no key more than
+    /// without.
+    void aSlipInAMeasurementIsMarked()
+    {
+        const QString set = "ItemDetails='Length\r\nChest\r\nCollar', ItemDetailsValue='%1'";
+        shop->addJobLine(client, shirt, 0, set.arg("20\r\n42\r\nHigh"));
+        shop->addJobLine(client, shirt, 0, set.arg("29 1/2\r\n42\r\nHigh"));
+        QVERIFY(!addLine([](frmAddItem& line) {
+            choose(line, "Shirt");
+            QCOMPARE(reasons(line), "");
+            typeFields({"29.75", "24"}); // Collar stays
+            press(Qt::Key_Return);
+            QCOMPARE(reasons(line), "1: last time 42");
+            auto& help = control<HelpLine>(line, "lblHelp");
+            control<QPushButton>(line, "Command1").setFocus();
+            QCOMPARE(help.notice(), "1 measurement looks unusual");
+            auto& chest = control<swTextBox>(line, "txtValue_1");
+            QVERIFY2(ink(chest, palette::notice) > 20, "it can be read");
+            chest.setFocus();
+            QCOMPARE(help.notice(), "");
+            QVERIFY(ink(chest, palette::amber) > 20);
+            typeText("4");
+            QCOMPARE(reasons(line), ""); // what is being typed is not judged
+            press(Qt::Key_Return);
+            QCOMPARE(reasons(line), "1: last time 42");
+            fillIn(line, "txtValue_0", "Long");
+            fillIn(line, "txtQnt", "1");
+            press(Qt::Key_O, Qt::AltModifier);
+        }));
+        QVERIFY(rows.ItemDetailsValue(1) == "Long\r\n4\r\nHigh");
+        // A stored line is compared with what was ordered before it, not with itself.
+        rows.SetSr(1, Shop::value("Select max(ID) from Jobs_Detail").toInt());
+        QVERIFY(editLine([](frmAddItem& line) {
+            QCOMPARE(reasons(line), "1: last time 42");
+            typeFields({"29"});
+            QCOMPARE(reasons(line), "0: last time 20|1: last time 42");
+            control<QPushButton>(line, "Command1").setFocus();
+            QCOMPARE(control<HelpLine>(line, "lblHelp").notice(), "2 measurements look unusual");
+            press(Qt::Key_Escape);
+        }));
+    }
+
+    /// Without an order of the client, those of the shop speak: for somebody of this build, and once there
+    /// are enough.
+    void whatTheShopKnowsOfAGarment()
+    {
+        const auto order = [this](int orders, double size, double sleeve) {
+            const qint32 other = shop->addClient("Other " + QString::number(size));
+            for (int i = 0; i < orders; ++i)
+                shop->addJobLine(other, shirt, 0,
+                                 QString("ItemDetails='Length\r\nChest\r\nWaist\r\nHip\r\nSleeve', "
+                                         "ItemDetailsValue='%1\r\n%2\r\n%3\r\n%4\r\n%5'")
+                                     .arg(30 * size)
+                                     .arg(42 * size)
+                                     .arg(40 * size)
+                                     .arg(44 * size)
+                                     .arg(sleeve * size));
+        };
+        const auto typed = [this](const QStringList& values) {
+            QStringList found;
+            const QStringList names = {"Length", "CHEST ", "Waist", "Hip", "Sleeve"};
+            const QStringList all = MeasurementGuard::of(shirt, client).doubts({names, values});
+            for (const QString& each : all)
+                found << (each.isEmpty() ? u"-"_s : each);
+            return found.join(u'|');
+        };
+        order(7, 1, 24);
+        QCOMPARE(typed({"30", "24", "40", "44", "24"}), "-|-|-|-|-");
+        for (const double size : {0.8, 0.9, 1.0, 1.1, 1.2})
+            order(6, size, 24);
+        order(3, 1, 10);
+        QCOMPARE(typed({"27", "37.5", "36", "39.5", "21.5"}), "-|-|-|-|-"); // a slim client
+        QCOMPARE(typed({"27", "42", "36", "39.5", "9.5"}),
+                 "-|here mostly 37 to 39|-|-|-"); // usual in the shop, not for this one; short sleeves are a
+                                                  // fashion
+        QCOMPARE(typed({"30", "24", "40", "44", "16"}), "-|here mostly 41 to 43|-|-|here mostly 23 to 25");
+        QCOMPARE(typed({{}, "14", {}, "44", {}}), "-|here mostly 23.5 to 60.5|-|-|-"); // build not known
+        QCOMPARE(MeasurementGuard::of(shirt + 1, client).doubts({{"Chest"}, {"1"}}),
+                 QStringList({QString()}));
     }
 
     /// Of several orders the line that was stored last counts; the fee is the catalogue's all the same.

@@ -29,8 +29,9 @@ struct Garment
     QString details() const;
     /// The names alone, as a line of a card keeps them.
     QString names() const;
-    /// The measures of a person: `size` is the percentage of the usual one.
-    QString values(int size) const;
+    /// The measures of a person of a size, in percent of the usual one. Everybody is a little longer here and
+    /// wider there, and changes a little from order to order.
+    QString values(qint32 person, int size, int order) const;
 };
 
 /// The twenty garments, in the order of their numbers (from 1) in the shop's catalogue.

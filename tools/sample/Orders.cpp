@@ -71,13 +71,13 @@ int pickGarment(const Client& client, Random& random)
     return place;
 }
 
-Line order(const Client& client, Random& random)
+Line order(const Client& client, int card, Random& random)
 {
     Line line;
     line.garment = pickGarment(client, random);
     const Garment& item = line.item();
     line.quantity = item.fees > 1000 || random.chance(62) ? 1 : random.between(2, 4);
-    line.values = item.values(client.size);
+    line.values = item.values(client.account, client.size, card);
     line.cloth = cloth(random);
     if (random.chance(60))
         line.remark = remark(item, random);
@@ -155,7 +155,7 @@ std::vector<Card> takeOrders(const Plan& plan, const People& people, Random& ran
             card.date = plan.firstDay().addDays(day);
             card.client = visitor(plan, people, static_cast<int>(cards.size()), random);
             for (int i = 0; i < ordered; ++i)
-                card.lines.push_back(order(*card.client, random));
+                card.lines.push_back(order(*card.client, card.number, random));
             promise(card, random);
             pay(card, random);
             if (random.chance(12))
