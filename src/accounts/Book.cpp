@@ -43,8 +43,9 @@ void Book::Form_Load()
 void Book::show(const Lines& lines, QStringList (*cells)(const BookLine&))
 {
     m_lines = lines;
-    m_list->refreshRows(int(lines->size()), [lines, cells](int row) {
-        const BookLine& line = (*lines)[size_t(row)];
+    const auto titles = std::make_shared<RowTitles>(titlesOf(*lines));
+    m_list->refreshRows(int(lines->size()), [lines, titles, cells](int row) {
+        const BookLine line = withTitle((*lines)[size_t(row)], titles->of(size_t(row)));
         forms::ListView::Row shown{cells(line), line.tag()};
         shown.apart = !line.isPosting();
         for (int column = 0; shown.apart && column < int(shown.cells.size()) - 1; ++column)

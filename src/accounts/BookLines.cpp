@@ -12,29 +12,42 @@ namespace {
 
 const QString blank = u" "_s;
 
-/// Reads postings. `account` is the column of the account that a line names; one that is gone has an empty
-/// title.
+/// Reads postings. `account` is the column of the account that a line names.
 void readPostings(std::vector<BookLine>& lines, const QString& condition, const QString& order,
                   const char* account)
 {
-    const QHash<qint32, QString> titles =
-        GetAccountTitles(u"Select "_s + QLatin1String(account) + u" from Postings where "_s + condition);
-    each(u"Select * from Postings where "_s + condition + order, [&](ado::Recordset& posting) {
-        BookLine line{.posting = posting["ID"].integer(),
-                      .voucher = {posting["VID"].integer(), posting["vType"].code<VoucherType>()},
-                      .date = posting["Date"].date(),
-                      .kind = posting["particulars"].text(),
-                      .title = titles.value(posting[account].integer()),
-                      .remark = posting["Remark"].text()};
-        const double amount = posting["Amount"].number();
-        (amount < 0 ? line.debit : line.credit) = std::abs(amount);
+    ado::Reader postings = readRows(u"Select * from Postings where "_s + condition + order);
+    const auto id = postings["ID"], number = postings["VID"], type = postings["vType"],
+               date = postings["Date"], kind = postings["particulars"], named = postings[account],
+               remark = postings["Remark"], amount = postings["Amount"];
+    while (postings.next()) {
+        BookLine line{.posting = id.integer(),
+                      .voucher = {number.integer(), type.code<VoucherType>()},
+                      .date = date.date(),
+                      .kind = kind.text(),
+                      .account = named.integer(),
+                      .remark = remark.text()};
+        const double sum = amount.number();
+        (sum < 0 ? line.debit : line.credit) = std::abs(sum);
         lines.push_back(std::move(line));
-    });
+    }
 }
 
 QString figure(const std::optional<double>& amount) { return amount ? moneyText(*amount) : blank; }
 
 } // namespace
+
+RowTitles titlesOf(const std::vector<BookLine>& lines)
+{
+    return {lines.size(), [&lines](size_t row) { return lines[row].account; }};
+}
+
+BookLine withTitle(BookLine line, const QString& title)
+{
+    if (line.account != 0)
+        line.title = title;
+    return line;
+}
 
 AccountBook::AccountBook(qint32 account, const QDate& from, const QDate& to)
 {
@@ -97,14 +110,16 @@ void stageStatement(const AccountBook& book)
     DE.connection().writeBatch([&book] {
         DE.connection().Execute(u"Delete * from Accountbook"_s);
         withRows(u"Select * from Accountbook"_s, [&book](ado::Recordset& staged) {
-            for (const BookLine& line : book.lines) {
+            RowTitles titles = titlesOf(book.lines);
+            for (size_t row = 0; row < book.lines.size(); ++row) {
+                const BookLine& line = book.lines[row];
                 if (!line.isPosting())
                     continue;
                 staged.AddNew();
                 staged["Date"] = dateText(line.date);
                 staged["VID"] = line.voucher.number;
                 staged["vaucher"] = line.kind;
-                staged["particulars"] = line.title;
+                staged["particulars"] = titles.of(row);
                 staged["debit"] = shownMoney(line.debit.value_or(0));
                 staged["credit"] = shownMoney(line.credit.value_or(0));
                 staged["Remark"] = line.remark;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "accounts/VoucherTag.h"
+#include "core/store/AccountBlocks.h"
 
 #include <QDate>
 #include <QString>
@@ -15,7 +16,8 @@ struct BookLine
     VoucherTag voucher{};
     QDate date{};
     QString kind{};                ///< "Sales", "Receipt" ...
-    QString title;                 ///< of the account that it names, or what the total is of
+    qint32 account = 0;            ///< that it names
+    QString title{};               ///< what a total is of
     std::optional<double> debit{}; ///< a positive figure, as is the next
     std::optional<double> credit{};
     QString remark{};
@@ -24,6 +26,11 @@ struct BookLine
     /// Empty for a total.
     QString tag() const { return isPosting() ? voucher.text() : QString(); }
 };
+
+/// The titles of the accounts that the lines name, by row. The lines must outlive it.
+RowTitles titlesOf(const std::vector<BookLine>& lines);
+/// A line with the title of its account.
+BookLine withTitle(BookLine line, const QString& title);
 
 /// The book of one account over some days: what was brought forward, the postings, their totals, what is
 /// carried forward. A negative amount is a debit, a positive one a credit.
@@ -43,7 +50,7 @@ public:
     double PeriodPositive = 0; ///< the sum of the credits
     std::vector<BookLine> lines;
 
-    /// The texts of a line, a column each.
+    /// The texts of a line with its title, a column each.
     static QStringList cells(const BookLine& line);
 
 private:

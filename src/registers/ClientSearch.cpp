@@ -45,15 +45,17 @@ QString holdsNumber(const QString& text, qsizetype fewest)
 void addFound(std::vector<FoundClient>& found, const QString& condition)
 {
     const size_t before = found.size();
-    each(u"Select * from Accounts "_s + whereType(AccountType::Client) + u" and ("_s + condition + u")"_s,
-         [&found, before](ado::Recordset& client) {
-             const qint32 id = client["ID"].integer();
-             const auto end = found.begin() + qsizetype(before);
-             if (std::any_of(found.begin(), end, [id](const FoundClient& other) { return other.id == id; }))
-                 return;
-             found.push_back({id, client["Title"].text(), client["Address"].text(), client["City"].text(),
-                              client["Mobile"].text()});
-         });
+    ado::Reader clients = readRows(u"Select * from Accounts "_s + whereType(AccountType::Client) +
+                                   u" and ("_s + condition + u")"_s);
+    const auto id = clients["ID"], title = clients["Title"], address = clients["Address"],
+               city = clients["City"], mobile = clients["Mobile"];
+    while (clients.next()) {
+        const qint32 client = id.integer();
+        const auto end = found.begin() + qsizetype(before);
+        if (std::none_of(found.begin(), end,
+                         [client](const FoundClient& other) { return other.id == client; }))
+            found.push_back({client, title.text(), address.text(), city.text(), mobile.text()});
+    }
 }
 
 } // namespace

@@ -20,9 +20,9 @@ const QString& knownOr(QHash<Key, QString>& known, const Key& key, Ask ask)
     return *found;
 }
 
-} // namespace
+qint32 markOf(const ado::Reader::Column& mark) { return mark.isNull() ? noMark : mark.integer(); }
 
-qint32 markOf(const ado::Field& field) { return field.isNull() ? noMark : field.integer(); }
+} // namespace
 
 QString statusName(qint32 state)
 {
@@ -56,21 +56,23 @@ QString cuttingName(qint32 mark)
 
 QString daysAhead(const QDate& date) { return QString::number(session.WorkingDate.daysTo(date)); }
 
-void LineNames::readAll(const QString& query)
+void LineNames::readClients(const std::vector<RegisterLine>& lines, size_t row)
 {
-    const QString lines = query.left(query.indexOf(u" order by "_s));
-    for (const char* who : {"ClintID", "WorkerID"}) {
-        each(u"Select * from Accounts where ID in (Select %1 from (%2))"_s.arg(QLatin1String(who), lines),
-             [&](ado::Recordset& accounts) {
-                 const qint32 id = accounts["ID"].integer();
-                 m_accounts.insert(id, accounts["Title"].text());
-                 m_contacts.insert(id, ContactOf(accounts));
-             });
-    }
-    if (!m_balancesUpTo.isValid())
+    const QString clients = m_blocks.unread(
+        row, lines.size(), [&lines](size_t line) { return lines[line].client; },
+        [this](qint32 client) { return m_accounts.contains(client); });
+    if (clients.isEmpty())
         return;
-    const QHash<qint32, double> balances =
-        GetBalances(u"Select ClintID from (%1)"_s.arg(lines), m_balancesUpTo);
+    ado::Reader accounts = readRows(u"Select * from Accounts where ID in (%1)"_s.arg(clients));
+    const auto id = accounts["ID"], title = accounts["Title"], mobile = accounts["Mobile"],
+               address = accounts["Address"], city = accounts["City"];
+    while (accounts.next()) {
+        m_accounts.insert(id.integer(), title.text());
+        m_contacts.insert(id.integer(), contactText(mobile.text(), address.text(), city.text()));
+    }
+    if (!tellsBalances())
+        return;
+    const QHash<qint32, double> balances = GetBalances(clients, m_balancesUpTo);
     for (auto balance = balances.cbegin(); balance != balances.cend(); ++balance)
         m_balances.insert(balance.key(), balanceText(balance.value()));
 }
@@ -95,35 +97,48 @@ const QString& LineNames::balance(qint32 client)
 
 const QString& LineNames::date(const QDate& day) { return knownOr(m_dates, day, dateText); }
 
-void LineNames::know(const RegisterLine& line)
+bool LineNames::isAccount(qint32 id)
 {
-    account(line.client);
+    if (m_isAccount.empty()) {
+        m_isAccount.resize(1);
+        ado::Reader accounts = readRows(u"Select ID from Accounts order by Type"_s); // from the index alone
+        for (const auto number = accounts["ID"]; accounts.next();) {
+            const auto place = size_t(number.integer());
+            m_isAccount.resize(std::max(m_isAccount.size(), place + 1));
+            m_isAccount[place] = true;
+        }
+    }
+    return id > 0 && size_t(id) < m_isAccount.size() && m_isAccount[size_t(id)];
+}
+
+void LineNames::require(const RegisterLine& line)
+{
+    if (!isAccount(line.client))
+        account(line.client);
     item(line.item);
     worker(line.worker);
-    if (!tellsBalances())
-        return;
-    balance(line.client);
-    contact(line.client);
-    if (line.worker != 0)
-        contact(line.worker);
 }
 
 void readLines(const QString& query, LineNames& names, const std::function<void(RegisterLine)>& take)
 {
-    names.readAll(query);
-    each(query, [&](ado::Recordset& row) {
-        RegisterLine line{.id = row["ID"].integer(),
-                          .code = {row["JobID"].integer(), row["ItemSr"].integer()},
-                          .booked = row["Date"].date(),
-                          .promised = row["JobDelDate"].date(),
-                          .client = row["ClintID"].integer(),
-                          .item = row["ItemID"].integer(),
-                          .worker = row["WorkerID"].integer(),
-                          .state = markOf(row["DoneByWorker"]),
-                          .cutting = markOf(row["CuttingStatus"]),
-                          .remark = row["Remarks"].text(),
-                          .location = row["Loc"].isNull() ? QString() : row["Loc"].text()};
-        names.know(line);
+    ado::Reader rows = readRows(query);
+    const auto id = rows["ID"], card = rows["JobID"], place = rows["ItemSr"], booked = rows["Date"],
+               promised = rows["JobDelDate"], client = rows["ClintID"], item = rows["ItemID"],
+               worker = rows["WorkerID"], state = rows["DoneByWorker"], cutting = rows["CuttingStatus"],
+               remark = rows["Remarks"], location = rows["Loc"];
+    while (rows.next()) {
+        RegisterLine line{.id = id.integer(),
+                          .code = {card.integer(), place.integer()},
+                          .booked = booked.date(),
+                          .promised = promised.date(),
+                          .client = client.integer(),
+                          .item = item.integer(),
+                          .worker = worker.integer(),
+                          .state = markOf(state),
+                          .cutting = markOf(cutting),
+                          .remark = remark.text(),
+                          .location = location.isNull() ? QString() : location.text()};
+        names.require(line);
         take(std::move(line));
-    });
+    }
 }

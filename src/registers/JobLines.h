@@ -1,20 +1,20 @@
 #pragma once
 
+#include "core/store/AccountBlocks.h"
 #include "core/store/Codes.h"
 #include "core/store/Texts.h"
-#include "platform/ado/Recordset.h"
 #include "platform/values/Literals.h"
 
 #include <QDate>
 #include <QHash>
 #include <QString>
 #include <functional>
+#include <vector>
 
 /// What the registers say of job lines, in words.
 
 /// The value in the code that a line's mark has none of: a null, or a number from elsewhere.
 inline constexpr qint32 noMark = -1;
-qint32 markOf(const ado::Field& field);
 
 /// A line's state (`DoneByWorker`): "Uncompleted", "Completed", "Delivered", "Alteration", "Canceled"; a null
 /// text outside 0 to 4.
@@ -43,8 +43,8 @@ struct RegisterLine
 /// Whole days from the working date; negative when the date has passed.
 QString daysAhead(const QDate& date);
 
-/// The names that the rows of a register repeat, each asked of the file once. It is made anew with the list,
-/// so what it says is never older. Throws like the look-ups themselves.
+/// The names that the rows of a register repeat, each asked of the file once, those of the clients when their
+/// rows are shown. It is made anew with the list. Throws like the look-ups themselves.
 class LineNames
 {
 public:
@@ -54,12 +54,12 @@ public:
     {
     }
 
-    /// Asks at once for all clients and workers of the lines that the query finds, and for the clients'
-    /// balances: a month has a thousand.
-    void readAll(const QString& query);
+    /// Asks for what is not known yet of the clients of a line and of lines behind it: a month has a
+    /// thousand.
+    void readClients(const std::vector<RegisterLine>& lines, size_t row);
 
-    /// Asks for what the line's row needs and is not known yet: after it nothing here throws for the line.
-    void know(const RegisterLine& line);
+    /// Throws where the client, the item or the worker of a line is gone.
+    void require(const RegisterLine& line);
 
     const QString& account(qint32 id);
     const QString& contact(qint32 id);
@@ -74,7 +74,11 @@ public:
 private:
     using Known = QHash<qint32, QString>;
 
+    bool isAccount(qint32 id);
+
     QDate m_balancesUpTo;
+    AccountBlocks m_blocks;
+    std::vector<bool> m_isAccount; ///< by number; empty until it is asked for
     Known m_accounts;
     Known m_contacts;
     Known m_items;
@@ -82,6 +86,6 @@ private:
     QHash<QDate, QString> m_dates;
 };
 
-/// Reads the lines that a query finds, and the names that their rows need. `take` gets one after the other;
+/// Reads the lines that a query finds. `take` gets one after the other;
 /// those before a line at fault have been handed over when this throws.
 void readLines(const QString& query, LineNames& names, const std::function<void(RegisterLine line)>& take);

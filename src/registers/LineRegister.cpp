@@ -194,7 +194,10 @@ void LineRegister::showLines(bool withTotal)
 {
     const size_t count = m_shown->lines.size();
     m_criteria.list->setRows(int(count) + int(withTotal), [this, shown = m_shown, count](int row) {
-        return size_t(row) < count ? rowOf(shown->lines[size_t(row)], shown->names) : totalRow(count);
+        if (size_t(row) >= count)
+            return totalRow(count);
+        shown->names.readClients(shown->lines, size_t(row));
+        return rowOf(shown->lines[size_t(row)], shown->names);
     });
 }
 

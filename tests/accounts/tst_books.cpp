@@ -21,8 +21,10 @@
 static QString texts(const std::vector<BookLine>& lines, QStringList (*cells)(const BookLine&))
 {
     QStringList rows;
+    RowTitles titles = titlesOf(lines);
     for (const BookLine& line : lines)
-        rows << cells(line).join(u'|') + (line.isPosting() ? u" = " + line.tag() : QString());
+        rows << cells(withTitle(line, titles.of(size_t(&line - lines.data())))).join(u'|') +
+                    (line.isPosting() ? u" = " + line.tag() : QString());
     return rows.join(u'\n');
 }
 

@@ -23,15 +23,17 @@ QString GetClientContact(qint16 id)
 {
     QString contact;
     if (id > 0)
-        firstRow(u"Select * from Accounts where ID="_s + QString::number(id),
-                 [&contact](ado::Recordset& account) { contact = ContactOf(account); });
+        firstRow(
+            u"Select * from Accounts where ID="_s + QString::number(id), [&contact](ado::Recordset& account) {
+                contact =
+                    contactText(account["Mobile"].text(), account["Address"].text(), account["City"].text());
+            });
     return contact;
 }
 
-QString ContactOf(ado::Recordset& account)
+QString contactText(const QString& mobile, const QString& address, const QString& city)
 {
-    const QString contact = account["Mobile"].text() + u"   "_s + account["Address"].text() + u"   "_s +
-                            account["City"].text() + u"    "_s;
+    const QString contact = mobile + u"   "_s + address + u"   "_s + city + u"    "_s;
     return contact.trimmed().isEmpty() ? u"No Information Found"_s : contact;
 }
 

@@ -14,8 +14,8 @@ QString GetClientMobile(const QString& title, qint16 id);
 /// when there is no such account.
 QString GetClientContact(qint16 id);
 
-/// The same of the account in the current row.
-QString ContactOf(ado::Recordset& account);
+/// The same of what an account holds.
+QString contactText(const QString& mobile, const QString& address, const QString& city);
 
 /// Title and contact of an account, for a heading; what is empty is left out.
 struct AccountContact

@@ -108,8 +108,10 @@ QString GetItemName(qint32 id)
 QHash<qint32, QString> GetAccountTitles(const QString& accounts)
 {
     QHash<qint32, QString> titles;
-    each(u"Select ID, Title from Accounts where ID in ("_s + accounts + u')',
-         [&](ado::Recordset& rows) { titles.insert(rows[0].integer(), rows[1].text()); });
+    ado::Reader rows = readRows(u"Select ID, Title from Accounts where ID in ("_s + accounts + u')');
+    const auto id = rows["ID"], title = rows["Title"];
+    while (rows.next())
+        titles.insert(id.integer(), title.text());
     return titles;
 }
 
@@ -162,9 +164,12 @@ double GetBalance(qint16 account, const QDate& date)
 QHash<qint32, double> GetBalances(const QString& accounts, const QDate& date)
 {
     QHash<qint32, double> balances;
-    each(u"Select accID, sum(Amount) from Postings where accID in (%1) and %2 group by accID"_s.arg(
-             accounts, countsUpTo(date)),
-         [&](ado::Recordset& rows) { balances.insert(rows[0].integer(), rows[1].number()); });
+    ado::Reader rows = readRows(
+        u"Select accID, sum(Amount) as Balance from Postings where accID in (%1) and %2 group by accID"_s.arg(
+            accounts, countsUpTo(date)));
+    const auto id = rows["accID"], balance = rows["Balance"];
+    while (rows.next())
+        balances.insert(id.integer(), balance.number());
     return balances;
 }
 

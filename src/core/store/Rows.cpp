@@ -19,6 +19,8 @@ void each(const QString& sql, const UseRow& take)
     });
 }
 
+ado::Reader readRows(const QString& sql) { return {DE.connection(), sql}; }
+
 qint32 one(const QString& sql)
 {
     qint32 number = 0;

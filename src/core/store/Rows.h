@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ado/Reader.h"
 #include "platform/ado/Recordset.h"
 
 #include <functional>
@@ -12,6 +13,9 @@ using UseRow = std::function<void(ado::Recordset& row)>;
 
 /// Hands over the rows of a query, one after the other.
 void each(const QString& sql, const UseRow& take);
+
+/// Rows of a query to be read once, a few of their columns, for long lists.
+ado::Reader readRows(const QString& sql);
 
 /// The integer in the first row and column of a query; 0 for none and for a null.
 qint32 one(const QString& sql);

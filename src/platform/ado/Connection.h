@@ -75,6 +75,7 @@ public:
 
 private:
     friend class FileCopy;
+    friend class Reader;
     friend class Recordset;
     struct Private;
     void openFile(const QString& path, const QString& password, int flags);

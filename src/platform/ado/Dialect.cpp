@@ -108,6 +108,13 @@ QString reversedOrder(const Tokens& tokens, size_t first)
     return terms.join(u", "_s);
 }
 
+/// The order of a plain select. Equals come in order of insertion too, whatever index serves the order.
+QString orderOf(const Tokens& tokens, const Clauses& clauses)
+{
+    return clauses.order != none ? join(tokens, clauses.order, tokens.size()) + u", rowid"_s
+                                 : u"ORDER BY rowid"_s;
+}
+
 Statement translateSelect(const Tokens& tokens)
 {
     const Clauses clauses(tokens);
@@ -123,12 +130,9 @@ Statement translateSelect(const Tokens& tokens)
         statement.table = tokens[clauses.from + 1].unquoted();
         head = u"SELECT rowid, * "_s + join(tokens, clauses.from, clauses.body);
     }
-    // Equals come in order of insertion too, whatever index serves the order.
-    const bool ordered = clauses.order != none;
-    statement.sql =
-        head + u' ' +
-        (ordered ? join(tokens, clauses.order, tokens.size()) + u", rowid"_s : u"ORDER BY rowid"_s);
-    const QString turned = ordered ? reversedOrder(tokens, clauses.order + 2) + u", "_s : QString();
+    statement.sql = head + u' ' + orderOf(tokens, clauses);
+    const QString turned =
+        clauses.order != none ? reversedOrder(tokens, clauses.order + 2) + u", "_s : QString();
     statement.reversed = head + u" ORDER BY "_s + turned + u"rowid DESC LIMIT 1"_s;
     statement.countSql = u"SELECT count(*) "_s + join(tokens, clauses.from, clauses.body);
     return statement;
@@ -163,6 +167,15 @@ QString expandTableName(const QString& command)
     const Tokens tokens = tokensOf(command);
     const bool table = tokens.size() == 1 && tokens[0].kind != Token::Kind::Symbol;
     return table ? u"SELECT * FROM "_s + command : command;
+}
+
+QString withColumns(const QString& select, const QStringList& columns)
+{
+    const Tokens tokens = tokensOf(select);
+    if (const Clauses clauses(tokens); tokens[0].is("select"_L1) && clauses.all)
+        return u"SELECT "_s + columns.join(u',') + u' ' + join(tokens, clauses.from, clauses.body) + u' ' +
+               orderOf(tokens, clauses);
+    return translate(select).sql;
 }
 
 QString withCondition(const QString& select, const QString& condition)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 /// The one place that knows how the system's SQL differs from the engine's.
@@ -23,6 +24,9 @@ Statement translate(const QString& sql);
 
 /// A statement as it stands, or the select of all rows where the text is the mere name of a table.
 QString expandTableName(const QString& command);
+
+/// The select in the engine's dialect, with these columns alone where it gives all columns of one table.
+QString withColumns(const QString& select, const QStringList& columns);
 
 /// The select with one more condition on its rows.
 QString withCondition(const QString& select, const QString& condition);

@@ -2,6 +2,8 @@
 
 #include "platform/forms/EmptyText.h"
 #include "platform/forms/Palette.h"
+#include "platform/forms/Screen.h"
+#include "platform/forms/ShapedTexts.h"
 
 #include <QAbstractTableModel>
 #include <QCache>
@@ -61,10 +63,12 @@ public:
         painter->setFont(cell.font);
         painter->setPen(
             cell.palette.color(QPalette::Active, chosen ? QPalette::HighlightedText : QPalette::Text));
-        painter->drawText(room, int(cell.displayAlignment) | Qt::TextSingleLine,
-                          cell.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
+        m_texts.draw(*painter, room, cell.displayAlignment, text);
         painter->restore();
     }
+
+private:
+    mutable ShapedTexts m_texts;
 };
 
 } // namespace
@@ -131,7 +135,7 @@ public:
             return &m_rows[size_t(row)];
         if (const Row* made = m_made.object(row))
             return made;
-        auto* made = new Row(m_make(row));
+        auto* made = new Row(make(row));
         m_made.insert(row, made);
         return made;
     }
@@ -180,6 +184,7 @@ private:
         m_rows.clear();
         m_made.clear();
         m_make = nullptr;
+        m_failed = false;
     }
     void makeAll()
     {
@@ -187,9 +192,26 @@ private:
             return;
         m_rows.reserve(size_t(m_count));
         for (int row = 0; row < m_count; ++row)
-            m_rows.push_back(m_make(row));
+            m_rows.push_back(make(row));
         m_made.clear();
         m_make = nullptr;
+    }
+    /// Rows are made while the list is painted: the message has to wait for that.
+    Row make(int row) const
+    {
+        try {
+            return m_make(row);
+        } catch (...) {
+            auto* list = qobject_cast<QWidget*>(QObject::parent());
+            if (!std::exchange(m_failed, true))
+                QMetaObject::invokeMethod(
+                    list,
+                    [list, fault = std::current_exception()] {
+                        guarded(list, [&fault] { std::rethrow_exception(fault); });
+                    },
+                    Qt::QueuedConnection);
+            return {};
+        }
     }
     static QString oneLine(QString text)
     {
@@ -222,6 +244,7 @@ private:
     std::vector<Row> m_rows; ///< empty while rows are made one by one
     int m_count = 0;         ///< of the rows that `m_make` makes
     std::function<Row(int)> m_make;
+    mutable bool m_failed = false; ///< the operator knows
     mutable QCache<int, Row> m_made{rowsKept};
 };
 

@@ -61,8 +61,9 @@ public:
     /// Puts other rows in place of all, at once; none is selected then.
     void setRows(std::vector<Row> rows);
     /// Puts `count` rows in place of all, each made when it is shown, searched or leaves the list: a list of
-    /// every line of six years opens at once. `make` gets the row's number. It must not throw, and say the
-    /// same each time; what it reads lives until the list gets other rows.
+    /// every line of six years opens at once. `make` gets the row's number, and says the same each time; what
+    /// it reads lives until the list gets other rows. Where it throws the row is empty, and the operator
+    /// reads why, once.
     void setRows(int count, std::function<Row(int row)> make);
     /// The same, but the row that was selected stays so, by its tag, the second of a tag the second; where
     /// the tag is gone or empty, the one in its place.
