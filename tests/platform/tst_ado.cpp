@@ -1,4 +1,5 @@
 #include "platform/ado/Connection.h"
+#include "platform/ado/Reader.h"
 #include "platform/ado/Recordset.h"
 #include "platform/values/Errors.h"
 
@@ -84,6 +85,52 @@ private Q_SLOTS:
         QCOMPARE(rows["Remark"].text(), QString("Remark"));
         rows.UpdateBatch();
         QCOMPARE(texts("Select VID from Postings where Amount=5 and Remark='Later'"), QString("32"));
+    }
+
+    /// A reader of some columns gives what a recordset's fields do, in the same order, whatever lies in the
+    /// file.
+    void readersAgreeWithRecordsets()
+    {
+        addAmounts(20);
+        run("CREATE INDEX Postings_Date ON Postings (Date)");
+        run("Update Postings set VID='12', Wages=0.1+0.2, Remark='' where Id=3");
+        run("Update Postings set VID=7.5, Date='2024-02-30' where Id=4");
+        run("Update Postings set Date='2024-01-05 10:30:00', Amount=1.25, Wages='many' where Id=5");
+        run("Update Postings set Date='5/1/2024', VID=9999999999, Remark=4.5 where Id=6");
+        const auto told = [](auto read) {
+            try {
+                return QVariant(read()).toString();
+            } catch (const std::exception& fault) {
+                return QString(fault.what());
+            }
+        };
+        const auto values = [&told](const auto& vid, const auto& date, const auto& remark,
+                                    const auto& wages) {
+            return QStringList{told([&] { return vid.integer(); }), told([&] { return vid.text(); }),
+                               told([&] { return date.date(); }),   told([&] { return date.text(); }),
+                               told([&] { return remark.text(); }), told([&] { return wages.number(); }),
+                               told([&] { return wages.isNull(); })};
+        };
+        for (const char* sql : {"Select * from Postings where VID>0 order by Date desc",
+                                "Select Id, Wages, remark, DATE, Vid from Postings",
+                                "Select * from (Select * from Postings)"}) {
+            Recordset expected(*m_connection);
+            expected.Open(sql);
+            ado::Reader rows(*m_connection, sql);
+            const auto date = rows["Date"], wages = rows["wages"], vid = rows["VID"], remark = rows["Remark"];
+            for (; rows.next(); expected.MoveNext())
+                QCOMPARE(values(vid, date, remark, wages),
+                         values(expected["VID"], expected["Date"], expected["Remark"], expected["Wages"]));
+            QVERIFY(expected.AtEOF());
+            QVERIFY(!rows.next());
+        }
+        for (const char* sql :
+             {"Select * from Postings", "Select Id from Postings", "Select * from Nowhere"}) {
+            ado::Reader rows(*m_connection, sql);
+            (void)rows["Bonus"];
+            QVERIFY_THROWS_EXCEPTION(DatabaseError, rows.next());
+        }
+        run("Delete from Postings where Id=1"); // nothing is locked
     }
 
     void orderOfInsertion()

@@ -1,3 +1,4 @@
+#include "platform/ado/DatabaseError.h"
 #include "platform/forms/BarChart.h"
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/DatePicker.h"
@@ -71,6 +72,27 @@ private Q_SLOTS:
               std::tuple("D\u2019so", -1, 4), std::tuple("jay", -1, -1),
               std::tuple("", -1, -1)}) // wraps round
             QCOMPARE(list.findString(prefix, behind), found);
+    }
+
+    /// What a row has to ask the file for may fail: the row is empty, the message comes once, the list goes
+    /// on.
+    void aRowThatCannotBeMadeSaysSoOnce()
+    {
+        Prompts prompts;
+        ListView view;
+        view.setColumns({{"Client", ListView::rest}});
+        const auto make = [](int row) {
+            if (row == 1 || row == 2)
+                throw ado::DatabaseError("disk I/O error");
+            return ListView::Row{{QString::number(row)}};
+        };
+        for (int filled = 0; filled < 2; ++filled) {
+            prompts.expect("disk I/O error");
+            view.setRows(4, make);
+            view.show();
+            QTRY_COMPARE(prompts.pending(), 0);
+            QCOMPARE(view.cell(0, 0) + view.cell(1, 0) + view.cell(3, 0), "03");
+        }
     }
 
     void rowsAreLaidFilteredAndAskedForAMenu()

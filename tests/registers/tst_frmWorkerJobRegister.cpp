@@ -344,6 +344,31 @@ private Q_SLOTS:
         });
     }
 
+    /// The clients of a long list are read in blocks as their rows are asked for, from any end.
+    void everyRowOfALongListTellsItsOwnClient()
+    {
+        constexpr int count = 300;
+        Shop::run("Delete from Jobs_Detail");
+        for (int i = 0; i < count; ++i) {
+            const qint32 client = shop->addClient(u"Client %1"_s.arg(i), QString::number(i));
+            shop->addJobLine(client, m_shirt, 0,
+                             "Date='2024-01-05', CuttingStatus=0, JobID=" + QString::number(10 + i));
+            shop->addVoucher(10 + i, 1, client, i);
+        }
+        onNextModal<Register>([](Register& screen) {
+            const forms::ListView& list = lines(screen);
+            QCOMPARE(list.rowCount(), count + 1);
+            for (int i = 0; i < count; ++i) {
+                const int row = i % 2 == 0 ? count - 1 - i : i;
+                QCOMPARE(list.cell(row, 2), u"Client %1"_s.arg(row));
+                QCOMPARE(list.cell(row, 10), row == 0 ? u"None"_s : u"%1.00 Dr"_s.arg(row));
+                QVERIFY(list.look(row, 2).toolTip.startsWith(QString::number(row) + u"  "));
+            }
+            press(Qt::Key_Escape);
+        });
+        frmWorkerJobRegister().ShowLines({.from = {2024, 1, 5}, .to = session.WorkingDate});
+    }
+
     void faultsLeaveTheRegisterUsable()
     {
         const QString noRow = "No current record: the query found no row, or all have been passed.";
