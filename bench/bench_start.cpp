@@ -39,7 +39,7 @@ void mainScreen(benchmark::State& state)
     race(state, u"start_shop"_s, {shopFolder, QString::fromUtf8(PROGRAM_FOLDER "/../bin/fonts")});
 }
 
-/// With the named screen open over the main screen.
+/// With the job card ("card") open over the main screen, or the register with the lines of so many days.
 void residentMemory(benchmark::State& state, const char* screen)
 {
     for (auto _ : state) {
@@ -57,7 +57,8 @@ void residentMemory(benchmark::State& state, const char* screen)
 BENCHMARK(bareWindow)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(4)->Repetitions(8);
 BENCHMARK(mainScreen)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(4)->Repetitions(8);
 BENCHMARK_CAPTURE(residentMemory, card, "card")->Iterations(1)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(residentMemory, month, "register")->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(residentMemory, month, "30")->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(residentMemory, allLines, "7300")->Iterations(1)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char* argv[])
 {

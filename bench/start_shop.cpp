@@ -30,14 +30,15 @@ void openCard()
     card.ShowAddNew();
 }
 
-/// The register, showing the shop's last 30 days.
-void openRegister()
+/// The register, showing the shop's last days.
+void openRegister(int days)
 {
     frmWorkerJobRegister screen;
     onScreen(
         screen, [&] { screen.showModal(); },
         [&] {
-            screen.findChild<forms::DatePicker*>(u"DateFrom"_s)->setValue(session.WorkingDate.addDays(-29));
+            screen.findChild<forms::DatePicker*>(u"DateFrom"_s)
+                ->setValue(session.WorkingDate.addDays(1 - days));
             screen.findChild<QPushButton*>(u"Command4"_s)->click();
             paint();
             std::printf("%.1f\n", residentMegabytes());
@@ -53,10 +54,14 @@ class EndWithFirstPicture : public QObject
             return false;
         qApp->removeEventFilter(this);
         const QString then = QCoreApplication::arguments().value(3);
-        QTimer::singleShot(0, qApp,
-                           then == "card"_L1       ? &openCard
-                           : then == "register"_L1 ? &openRegister
-                                                   : &QCoreApplication::quit);
+        QTimer::singleShot(0, qApp, [then] {
+            if (then == "card"_L1)
+                openCard();
+            else if (const int days = then.toInt(); days > 0)
+                openRegister(days);
+            else
+                QCoreApplication::quit();
+        });
         return false;
     }
 };
@@ -69,6 +74,7 @@ int main(int argc, char* argv[])
     EndWithFirstPicture end;
     application.installEventFilter(&end);
     session.appFolder = QCoreApplication::arguments().value(1);
+    openShopAhead();
     forms::applyTheme(application, QCoreApplication::arguments().value(2));
     return Main() ? QApplication::exec() : 1;
 }

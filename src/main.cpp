@@ -24,6 +24,7 @@ int main(int argc, char* argv[])
     QApplication::setQuitOnLastWindowClosed(false);
 
     FindFolders(QCoreApplication::applicationDirPath());
+    openShopAhead();
     forms::applyTheme(application, session.partsFolder + u"/fonts"_s);
     ado::setBusyNotice([](bool waiting) {
         waiting ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();

@@ -3,7 +3,6 @@
 #include "core/store/Settings.h"
 #include "masters/ClientFolder.h"
 #include "platform/values/Titles.h"
-#include "registers/ClientSearch.h"
 #include "ui/modLang.h"
 #include "ui_frmSearchClient.h"
 
@@ -66,24 +65,24 @@ bool frmSearchClient::allJobs() const { return ui->opShowAllUndel->isChecked(); 
 
 void frmSearchClient::SearchText(const QString& text, const QString& field)
 {
+    m_found = std::make_shared<std::vector<FoundClient>>();
     ui->lvResults->Clear();
     if (text.isEmpty())
         return;
-    std::vector<forms::ListView::Row> rows;
-    for (const FoundClient& client : searchClients(field, text))
-        rows.push_back({{client.title, client.address, client.city, client.mobile}});
-    ui->lvResults->setRows(std::move(rows));
+    m_found = std::make_shared<std::vector<FoundClient>>(searchClients(field, text));
+    ui->lvResults->setRows(int(m_found->size()), [found = m_found](int row) {
+        const FoundClient& client = (*found)[size_t(row)];
+        return forms::ListView::Row{{client.title, client.address, client.city, client.mobile}};
+    });
 }
 
 void frmSearchClient::FindListItem(const QString& text)
 {
     const QString wanted = values::foldedTitle(text.trimmed());
-    forms::ListView& list = *ui->lvResults;
-    int row = 0;
-    while (row < list.rowCount() &&
-           values::foldedTitle(list.cell(row, 0).left(text.size()).trimmed()) != wanted)
-        ++row;
-    list.selectRow(row);
+    const auto row = std::ranges::find_if(*m_found, [&](const FoundClient& client) {
+        return values::foldedTitle(client.title.left(text.size()).trimmed()) == wanted;
+    });
+    ui->lvResults->selectRow(int(row - m_found->begin()));
 }
 
 void frmSearchClient::ScrollLV(int& key)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/Screen.h"
+#include "registers/ClientSearch.h"
 
 #include <memory>
 
@@ -39,6 +40,7 @@ private:
     void choose();
 
     const std::unique_ptr<Ui::frmSearchClient> ui;
+    std::shared_ptr<std::vector<FoundClient>> m_found = std::make_shared<std::vector<FoundClient>>();
     QString m_chosen;
 };
 

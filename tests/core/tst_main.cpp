@@ -58,6 +58,7 @@ private Q_SLOTS:
             onNextModal<QMessageBox>([&](QMessageBox& notice) {
                 QVERIFY(notice.text().contains(file.size() > 99 ? "Can not Run with this Database!" : path));
             });
+            openShopAhead();
             QVERIFY(!Main());
             prompts = std::make_unique<Prompts>();
             DE.close();
@@ -238,6 +239,7 @@ int main(int argc, char* argv[])
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == "--start-in") { // as the program itself, for one of those that start at once
         session.appFolder = arguments.value(2);
+        openShopAhead();
         const bool started = Main();
         delete forms::Screen::front();
         return started ? 0 : 1;

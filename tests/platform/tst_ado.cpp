@@ -133,6 +133,41 @@ private Q_SLOTS:
         run("Delete from Postings where Id=1"); // nothing is locked
     }
 
+    /// What was opened ahead is taken for that file and password alone; all else is as without it.
+    void openedAhead()
+    {
+        const QString path = m_folder->filePath("keyed.mdb"), other = m_folder->filePath("other.mdb");
+        for (const QString& made : {path, other}) {
+            Connection shop;
+            shop.create(made, "secret");
+            shop.Execute("CREATE TABLE Notes (Note LONGTEXT)");
+        }
+        const auto opens = [](const QString& file, const QString& password) {
+            Connection shop;
+            try {
+                shop.open(file, password);
+                shop.Execute("Insert into Notes (Note) values ('x')");
+            } catch (const DatabaseError& error) {
+                return error.text();
+            }
+            return QString();
+        };
+        const QString refused = opens(path, "wrong");
+        QVERIFY(refused.startsWith(path));
+        for (const char* ahead : {"secret", "wrong"}) {
+            ado::openAhead(path, ahead);
+            QCOMPARE(opens(path, "secret"), QString());
+            ado::openAhead(path, ahead);
+            QCOMPARE(opens(path, "wrong"), refused);
+            ado::openAhead(path, ahead);
+            QCOMPARE(opens(other, "secret"), QString());
+        }
+        ado::openAhead(path, "secret");
+        ado::openAhead(m_folder->filePath("gone.mdb"), "secret");
+        QCOMPARE(opens(path, "secret"), QString());
+        QVERIFY(!QFile::exists(m_folder->filePath("gone.mdb")));
+    }
+
     void orderOfInsertion()
     {
         run("Insert into Jobs (Id, Note) values (5, '95'), (3, '97'), (9, '91'), (1, '99')");

@@ -53,21 +53,23 @@ void Wallpaper::paintEvent(QPaintEvent*)
         painter.drawPixmap((width() - m_picture.width()) / 2, (height() - m_picture.height()) / 2, m_picture);
         return;
     }
-    if (m_builtIn.isNull() || m_builtIn.deviceIndependentSize().toSize() != size())
-        drawBuiltIn();
-    painter.drawPixmap(0, 0, m_builtIn);
+    const QSize drawn = m_builtIn.deviceIndependentSize().toSize();
+    if (drawn.width() < width() || drawn.height() < height())
+        drawBuiltIn(drawn.expandedTo(size()));
+    const QSizeF all = m_builtIn.deviceIndependentSize();
+    painter.drawPixmap(QPointF((width() - all.width()) / 2, (height() - all.height()) / 2), m_builtIn);
 }
 
-void Wallpaper::drawBuiltIn()
+void Wallpaper::drawBuiltIn(const QSize& size)
 {
     const qreal ratio = devicePixelRatioF();
-    m_builtIn = QPixmap(size() * ratio);
+    m_builtIn = QPixmap(size * ratio);
     m_builtIn.setDevicePixelRatio(ratio);
     m_builtIn.fill(palette().color(QPalette::Window));
     QSvgRenderer drawing(u":/wallpaper.svg"_s);
-    const QSizeF covering = QSizeF(drawing.defaultSize()).scaled(size(), Qt::KeepAspectRatioByExpanding);
+    const QSizeF covering = QSizeF(drawing.defaultSize()).scaled(size, Qt::KeepAspectRatioByExpanding);
     QRectF target(QPointF(), covering);
-    target.moveCenter(QRectF(rect()).center());
+    target.moveCenter(QRectF(QPointF(), size).center());
     QPainter painter(&m_builtIn);
     drawing.render(&painter, target);
 }

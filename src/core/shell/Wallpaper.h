@@ -18,7 +18,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void drawBuiltIn();
+    void drawBuiltIn(const QSize& size);
 
     QPixmap m_picture;
     QPixmap m_builtIn;

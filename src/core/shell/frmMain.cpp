@@ -26,6 +26,7 @@
 #include "ui_frmMain.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
@@ -36,11 +37,18 @@ constexpr qint64 scannerPause = 1000; // ms, the longest between two characters
 
 } // namespace
 
-bool frmMain::start()
+/// Painted once unseen, fonts, icons and the wall are ready.
+void frmMain::prepare()
+{
+    resize(QWidget::screen()->availableSize());
+    (void)grab();
+}
+
+bool frmMain::start(std::unique_ptr<frmMain> made)
 {
     if (IsOn(settings::LoginRequired) && !frmLogin().Login())
         return false;
-    auto* screen = new frmMain;
+    frmMain* screen = made.release();
     connect(qApp, &QCoreApplication::aboutToQuit, screen, [screen] { delete screen; });
     screen->showModeless();
     screen->m_copyAtStart->begin();

@@ -20,8 +20,10 @@ public:
     frmMain();
     ~frmMain() override;
 
-    /// Asks for the login where one is set, then shows the main screen. False when no login was made.
-    static bool start();
+    /// Does beforehand what the first showing would take time for and no shop is needed for.
+    void prepare();
+    /// Asks for the login where one is set, then shows the screen. False when no login was made.
+    static bool start(std::unique_ptr<frmMain> screen);
 
 protected:
     void Form_Load() override;

@@ -40,12 +40,20 @@ bool openDatabase()
 
 } // namespace
 
+void openShopAhead()
+{
+    if (QFileInfo(session.databasePath()).isFile())
+        ado::openAhead(session.databasePath(), databasePassword());
+}
+
 bool Main()
 {
     setClientFolder([](const QString& client) { frmClientFolder().ShowClient(client); });
     setOldBooks(lookIntoBooks);
     try {
-        return openDatabase() && frmMain::start();
+        auto screen = std::make_unique<frmMain>();
+        screen->prepare(); // while the file is being opened
+        return openDatabase() && frmMain::start(std::move(screen));
     } catch (const OperatorError& error) {
         forms::criticalMessage(nullptr, error.text());
         return false;

@@ -1,10 +1,10 @@
-#define SQLITE_HAS_CODEC
 #include "platform/ado/Connection.h"
 
 #include "platform/ado/ConnectionPrivate.h"
 #include "platform/ado/Dialect.h"
 #include "platform/ado/FileCopy.h"
 #include "platform/ado/Functions.h"
+#include "platform/ado/OpenAhead.h"
 #include "platform/ado/RecordsetPrivate.h"
 #include "platform/devices/Files.h"
 
@@ -211,18 +211,11 @@ void Connection::openToLook(const QString& path, const QString& password, const 
 
 void Connection::openFile(const QString& path, const QString& password, int flags)
 {
-    const int code =
-        sqlite3_open_v2(path.toUtf8().constData(), &d->database, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    d->database = takeOpenedAhead(path, password, flags);
     try {
-        if (code != SQLITE_OK)
+        if (!d->database && openHandle(path, password, flags, &d->database) != SQLITE_OK)
             throw DatabaseError(engineText(d->database));
         sqlite3_busy_handler(d->database, &Private::waitForLock, d.get());
-        if (!password.isEmpty()) {
-            const QByteArray key = password.toUtf8();
-            if (sqlite3_key(d->database, key.constData(), static_cast<int>(key.size())) != SQLITE_OK)
-                throw DatabaseError(engineText(d->database));
-            d->run(u"PRAGMA cipher_page_size=4096"_s);
-        }
         // Only this first read proves the password.
         d->firstValue(u"SELECT count(*) FROM sqlite_master"_s);
         if (flags & SQLITE_OPEN_READWRITE)

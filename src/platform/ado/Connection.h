@@ -25,6 +25,10 @@ inline QString journalOf(const QString& database) { return database + u"-journal
 /// wait is over; it lasts 5 seconds at most.
 void setBusyNotice(std::function<void(bool waiting)> notice);
 
+/// Begins to open a file in the background: nearly all of that time goes into the key that is made of the
+/// password. The next Connection::open() of the file goes on from there; it finds what is wrong with it, too.
+void openAhead(const QString& path, const QString& password);
+
 /// One handle on one database file. Not to be shared between threads.
 class Connection
 {

@@ -94,7 +94,12 @@ bool Reader::Column::isNull() const
 
 QString Reader::Column::text() const
 {
-    return toText(m_reader.m_types[m_place], m_reader.m_statement->column(m_reader.place(m_place)));
+    sqlite3_stmt* row = m_reader.m_statement->handle();
+    const int place = m_reader.place(m_place);
+    if (sqlite3_column_type(row, place) != SQLITE_TEXT)
+        return toText(m_reader.m_types[m_place], m_reader.m_statement->column(place));
+    const auto* stored = reinterpret_cast<const char*>(sqlite3_column_text(row, place));
+    return QString::fromUtf8(stored, sqlite3_column_bytes(row, place));
 }
 
 qint32 Reader::Column::integer() const
@@ -109,7 +114,12 @@ qint32 Reader::Column::integer() const
 
 double Reader::Column::number() const
 {
-    return toNumber(m_reader.m_statement->column(m_reader.place(m_place)));
+    sqlite3_stmt* row = m_reader.m_statement->handle();
+    const int place = m_reader.place(m_place);
+    const int type = sqlite3_column_type(row, place);
+    if (type == SQLITE_INTEGER || type == SQLITE_FLOAT)
+        return sqlite3_column_double(row, place);
+    return toNumber(m_reader.m_statement->column(place));
 }
 
 Currency Reader::Column::money() const
