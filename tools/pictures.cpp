@@ -58,6 +58,7 @@
 #include "platform/forms/Theme.h"
 #include "platform/report/ListPaper.h"
 #include "platform/report/Preview.h"
+#include "platform/report/PrintDialog.h"
 #include "registers/frmBirthDayRimenders.h"
 #include "registers/frmClientFolder.h"
 #include "registers/frmDeliveryRegister.h"
@@ -341,6 +342,10 @@ void takeAll()
     picture("assign-job", [] { frmEditWorkerAssign().ShowEdit(shownLine()); });
     picture("paper-job-card", [] { PrintJobCard(showpiece()); });
     picture("paper-slip", [] { PrintWorkerSlip(shownLine()); });
+    picture("print-box", [] {
+        const auto paper = LabelPaper(shownLine());
+        report::PrintDialog(*paper, report::Pages(*paper)).showModal();
+    });
     picture("paper-slip-hindi", [] {
         SetSetting(settings::Language, u"Hindi"_s);
         SetSetting(settings::HindiSlip, u"Yes"_s);

@@ -6,6 +6,7 @@
 #include "core/store/Texts.h"
 #include "platform/report/PaperDesign.h"
 #include "platform/values/Numbers.h"
+#include "ui/PaperPrinters.h"
 
 using namespace Qt::StringLiterals;
 
@@ -67,6 +68,7 @@ rptAccountsBooks::rptAccountsBooks(bool withRemark)
     : Report(u"Account Statement"_s)
     , m_withRemark(withRemark)
 {
+    Kind = int(PaperKind::Statement);
     designShop();
     designHead();
     designPosting();

@@ -8,6 +8,7 @@
 #include "platform/report/PaperDesign.h"
 #include "platform/report/Preview.h"
 #include "platform/report/Printing.h"
+#include "ui/PaperPrinters.h"
 
 #include <QStringList>
 #include <cmath>
@@ -48,6 +49,7 @@ rptReceipt::rptReceipt(const Receipt& receipt, const QString& payment, bool twic
     , m_payment(payment)
     , m_page(addSection(u"Section1"_s, Band::ReportHead))
 {
+    Kind = int(PaperKind::Receipt);
     PageSize = twice ? a5Across : a6;
     LeftMargin = RightMargin = TopMargin = BottomMargin = Margin;
     Subject = u"Receipt %1 %2"_s.arg(receipt.number, receipt.payer);

@@ -3,6 +3,7 @@
 #include "core/store/Rows.h"
 #include "core/store/Session.h"
 #include "platform/report/PaperDesign.h"
+#include "ui/PaperPrinters.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +35,7 @@ const std::vector<paper::Column> columns = {
 rptWagesRegister::rptWagesRegister()
     : Report(u"Wages Register"_s)
 {
+    Kind = int(PaperKind::Wages);
     LeftMargin = RightMargin = Margin;
     addSection(u"Section4"_s, Band::ReportHead);
 

@@ -1,6 +1,7 @@
 #include "jobcards/rptJOBCARD.h"
 
 #include "platform/report/PaperDesign.h"
+#include "ui/PaperPrinters.h"
 
 #include <algorithm>
 
@@ -47,6 +48,7 @@ const Column columns[] = {
 rptJOBCARD::rptJOBCARD()
     : Report(u"Print Job Card"_s)
 {
+    Kind = int(PaperKind::Card);
     LeftMargin = RightMargin = (pageWidth() - DesignWidth) / 2;
     addSection(u"Section4"_s, Band::ReportHead);
     addSection(u"Section2"_s, Band::PageHead);

@@ -2,6 +2,7 @@
 
 #include "jobcards/LineCodeBars.h"
 #include "platform/report/PaperDesign.h"
+#include "ui/PaperPrinters.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +20,7 @@ constexpr int RowHeight = 300;
 rptLabel::rptLabel()
     : Report(u"Print Label"_s)
 {
+    Kind = int(PaperKind::Label);
     PageSize = LabelSize;
     LeftMargin = RightMargin = mm(5);
     TopMargin = BottomMargin = mm(3);

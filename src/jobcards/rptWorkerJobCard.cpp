@@ -4,6 +4,7 @@
 #include "jobcards/LineCodeBars.h"
 #include "platform/report/BandLayout.h"
 #include "platform/report/PaperDesign.h"
+#include "ui/PaperPrinters.h"
 
 #include <algorithm>
 
@@ -31,6 +32,7 @@ const QString Day = u"dd-MMM-yyyy"_s;
 rptWorkerJobCard::rptWorkerJobCard()
     : Report(u"Job Order"_s)
 {
+    Kind = int(PaperKind::Slip);
     PageSize = A5;
     LeftMargin = RightMargin = TopMargin = BottomMargin = mm(12);
 

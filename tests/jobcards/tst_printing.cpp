@@ -3,10 +3,15 @@
 #include "jobcards/frmEditJOB.h"
 #include "platform/ado/DatabaseError.h"
 #include "platform/report/Preview.h"
+#include "platform/report/PrintDialog.h"
+#include "platform/report/Printing.h"
 #include "platform/values/Errors.h"
 #include "support/Pdf.h"
+#include "support/PrintSystem.h"
 #include "support/ShopTest.h"
+#include "ui/PaperPrinters.h"
 
+#include <QComboBox>
 #include <QFontDatabase>
 #include <QScopeGuard>
 
@@ -139,12 +144,8 @@ private Q_SLOTS:
 
     void printsAtOnceAfterTheSaveOfANewCard()
     {
-        const QString lp = writeFile(shop->folder() + "/lp",
-                                     "#!/bin/sh\ncat > " + shop->folder().toLocal8Bit() + "/printed\n");
-        QVERIFY(QFile::setPermissions(lp, QFile::ReadOwner | QFile::ExeOwner));
-        const QByteArray path = qgetenv("PATH");
-        qputenv("PATH", shop->folder().toLocal8Bit() + ":" + path);
-        const auto pathBack = qScopeGuard([&] { qputenv("PATH", path); });
+        PrintSystem system;
+        system.program("lp", "cat > '" + system.path("printed").toLocal8Bit() + "'\n");
         SetSetting(14, "1");
         SetSetting(15, "0");
         onNextModal<frmEditJOB>([&](frmEditJOB& job) {
@@ -159,9 +160,51 @@ private Q_SLOTS:
             click(job, "Command4");
             prompts->expect("New Job Created.");
             save();
-            QTRY_VERIFY(contents(shop->folder() + "/printed").contains("%%EOF"));
+            QTRY_VERIFY(contents(system.path("printed")).contains("%%EOF"));
         });
         frmEditJOB().ShowAddNew();
+    }
+
+    /// Each kind of paper has its own printer and sheet in the settings; all else goes where lists go.
+    void eachPaperHasItsPrinter()
+    {
+        rememberPrinters();
+        const auto forget = qScopeGuard([] { report::setPrinterMemory({}); });
+        PrintSystem system;
+        system.program("lpstat", "echo Office; echo Zebra\n");
+        system.program("lpoptions", "echo 'PageSize/Media Size: *Letter A4 A5 w283h170'\n");
+        const QString how = system.path("how");
+        system.program("lp", "echo \"$@\" >> '" + how.toLocal8Bit() + "'\n");
+        storeCard();
+        SetSetting(15, "0");
+        SetSetting(44, "Lists Letter");
+        SetSetting(45, "Office A4");
+        SetSetting(46, "Office A5");
+        PrintJobCard(7);
+        report::printDirect(*WorkerSlipPaper(line));
+        report::printDirect(report::Report("Sheet"));
+        report::finishPrinting();
+        for (const char* sent : {"Card -n 1 -d Office -o media=A4 ", "Order -n 1 -d Office -o media=A5 ",
+                                 "Sheet -n 1 -d Lists -o media=Letter -o print-scaling=fit"})
+            QVERIFY2(contents(how).contains(sent), contents(how));
+        onNextModal<report::Preview>([&](report::Preview&) {
+            onNextModal<report::PrintDialog>([&](report::PrintDialog& box) {
+                QTRY_COMPARE(control<QComboBox>(box, "cmbPrinter").count(), 3);
+                control<QComboBox>(box, "cmbPrinter").setCurrentIndex(2);
+                QTRY_COMPARE(control<QComboBox>(box, "cmbMedium").count(), 4);
+                control<QComboBox>(box, "cmbMedium").setCurrentIndex(3);
+                press(Qt::Key_Return);
+            });
+            press(Qt::Key_P, Qt::ControlModifier);
+        });
+        PrintLabel(line);
+        report::finishPrinting();
+        QCOMPARE(GetSetting(47, "none"), "Zebra w283h170");
+        QCOMPARE(GetSetting(45, "none"), "Office A4");
+        session.LookedAt = "copy";
+        const auto back = qScopeGuard([] { session.LookedAt.clear(); });
+        report::keepPrinter(3, {});
+        QCOMPARE(GetSetting(47, "none"), "Zebra w283h170");
     }
 
     void slipKeepsValuesBesideNames()

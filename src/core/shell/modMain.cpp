@@ -13,6 +13,7 @@
 #include "platform/devices/Files.h"
 #include "platform/forms/MessageBox.h"
 #include "registers/frmClientFolder.h"
+#include "ui/PaperPrinters.h"
 
 #include <QFileInfo>
 
@@ -50,6 +51,7 @@ bool Main()
 {
     setClientFolder([](const QString& client) { frmClientFolder().ShowClient(client); });
     setOldBooks(lookIntoBooks);
+    rememberPrinters();
     try {
         auto screen = std::make_unique<frmMain>();
         screen->prepare(); // while the file is being opened

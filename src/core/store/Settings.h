@@ -46,7 +46,15 @@ inline constexpr Setting OldBooksTo{40, ""_L1};              ///< last day of th
 inline constexpr Setting ByPhone{41, "SMS"_L1};              ///< what the shop's phone opens: "SMS" or a chat
 inline constexpr Setting PaymentAddress{42, ""_L1};          ///< a link by which clients pay from a phone
 inline constexpr Setting TwoReceipts{43, "0"_L1};            ///< switch: a receipt twice, on A5
-inline constexpr Setting LastBackup{29, ""_L1};              ///< the day of it, by the system's date
+// The printer and the sheet that a paper was last sent to: "Office A4".
+inline constexpr Setting ListPrinter{44, ""_L1};
+inline constexpr Setting CardPrinter{45, ""_L1};
+inline constexpr Setting SlipPrinter{46, ""_L1};
+inline constexpr Setting LabelPrinter{47, ""_L1};
+inline constexpr Setting StatementPrinter{48, ""_L1};
+inline constexpr Setting WagesPrinter{49, ""_L1};
+inline constexpr Setting ReceiptPrinter{50, ""_L1};
+inline constexpr Setting LastBackup{29, ""_L1}; ///< the day of it, by the system's date
 
 } // namespace settings
 

@@ -165,7 +165,7 @@ void Preview::Form_KeyDown(int& key, Qt::KeyboardModifiers)
     }
 }
 
-void Preview::print() { PrintDialog(m_report.Title, m_pages, this).showModal(); }
+void Preview::print() { PrintDialog(m_report, m_pages, this).showModal(); }
 
 void Preview::saveAsPdf()
 {

@@ -50,58 +50,100 @@ QString withoutProgram(QString complaint)
     return complaint.remove(program);
 }
 
-void tellEnd(SpoolerRun::End end, const QString& title, const QString& complaint)
+PrinterMemory memory;
+int direct = 0; ///< papers whose sheet is being asked for
+
+/// What became of a paper, where that is not what was asked for; empty otherwise.
+QString failure(SpoolerRun::End end, const PrintJob& job, const QString& complaint)
 {
+    const QString notPrinted = u"\"%1\" was not printed"_s.arg(job.title);
+    const auto says = [&](QLatin1StringView what) { return complaint.contains(what, Qt::CaseInsensitive); };
     switch (end) {
     case SpoolerRun::End::Done:
-        return;
+        return {};
     case SpoolerRun::End::Missing:
-        tellFailure(u"\"%1\" was not printed: this computer has no print system (the program "
-                    "\"lp\" is missing)."_s.arg(title));
-        return;
-    case SpoolerRun::End::Refused:
-        if (complaint.contains("no default destination"_L1, Qt::CaseInsensitive)) {
-            tellFailure(
-                u"\"%1\" was not printed: this computer has no printer, or none of its printers is the "
-                "default one.\n\nSet up a printer in the computer's settings and make it the default "
-                "one. In the preview, \"Print\" lets you choose among the printers and \"Save as PDF\" "
-                "keeps the paper as a file."_s.arg(title));
-            return;
-        }
-        tellFailure(u"\"%1\" was not printed.\n\n%2"_s.arg(
-            title, complaint.isEmpty() ? u"The print system gives no reason."_s : withoutProgram(complaint)));
-        return;
+        return notPrinted +
+               u", for this computer has no print system (CUPS): in the preview, \"Save as PDF\" "
+               "keeps the paper as a file."_s;
     case SpoolerRun::End::Silent:
-        tellFailure(u"The printer does not answer. \"%1\" may not have been printed."_s.arg(title));
-        return;
+        return u"The printer does not answer. \"%1\" may not have been printed."_s.arg(job.title);
+    case SpoolerRun::End::Refused:
+        break;
     }
+    if (says("no default destination"_L1))
+        return notPrinted +
+               u", for this computer has no printer that is its default one: in the preview, "
+               "\"Print\" lets you choose another, and \"Save as PDF\" keeps the paper as a file."_s;
+    if (!job.where.printer.isEmpty() && says("does not exist"_L1))
+        return notPrinted +
+               u", for the printer \"%1\" is gone: the next time this paper goes to the default "
+               "printer, unless you choose another with \"Print\" in the preview."_s.arg(job.where.printer);
+    return notPrinted + (complaint.isEmpty() ? u", and the print system gives no reason."_s
+                                             : u": "_s + withoutProgram(complaint).simplified());
+}
+
+void tellEnd(SpoolerRun::End end, const PrintJob& job, const QString& complaint)
+{
+    const QString text = failure(end, job, complaint);
+    if (text.isEmpty())
+        return;
+    if (complaint.contains("does not exist"_L1, Qt::CaseInsensitive) &&
+        recallPrinter(job.kind).printer == job.where.printer)
+        keepPrinter(job.kind, {});
+    tellFailure(text);
 }
 
 } // namespace
 
 void setPrintPatience(int milliseconds) { patience = milliseconds; }
 
+void setPrinterMemory(PrinterMemory keeper) { memory = std::move(keeper); }
+
+Destination recallPrinter(int kind) { return memory.recall ? memory.recall(kind) : Destination(); }
+
+void keepPrinter(int kind, const Destination& where)
+{
+    if (memory.keep)
+        memory.keep(kind, where);
+}
+
 void finishPrinting()
 {
     QEventLoop loop;
-    while (SpoolerRun::anyTakesPaper() || !waiting.isEmpty())
+    while (SpoolerRun::anyTakesPaper() || direct > 0 || !waiting.isEmpty())
         loop.processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void print(const PrintJob& job)
 {
     QStringList arguments{u"-t"_s, job.title, u"-n"_s, QString::number(job.copies)};
-    if (!job.printer.isEmpty())
-        arguments << u"-d"_s << job.printer;
+    if (!job.where.printer.isEmpty())
+        arguments << u"-d"_s << job.where.printer;
+    for (const QString& option : placing(job.where.medium, job.paper))
+        arguments << u"-o"_s << option;
+    PrintJob sent = job;
+    sent.pdf.clear();
     new SpoolerRun(u"lp"_s, arguments, job.pdf,
-                   [title = job.title](SpoolerRun::End end, const QByteArray&, const QString& complaint) {
-                       tellEnd(end, title, complaint);
+                   [sent](SpoolerRun::End end, const QByteArray&, const QString& complaint) {
+                       tellEnd(end, sent, complaint);
                    });
 }
 
 void printDirect(const Report& report)
 {
-    print({.pdf = pdf(Pages(report), report.Title), .title = report.Title});
+    PrintJob job{.pdf = pdf(Pages(report), report.Title),
+                 .title = report.Title,
+                 .kind = report.Kind,
+                 .paper = report.PageSize,
+                 .where = recallPrinter(report.Kind)};
+    ++direct;
+    const QString printer = job.where.printer;
+    askMedia(qApp, printer, [job = std::move(job)](const std::vector<Medium>& media) mutable {
+        --direct;
+        const int chosen = chooseMedium(media, job.where.medium);
+        job.where.medium = chosen < 0 ? QString() : media[size_t(chosen)].name;
+        forms::guarded(forms::Screen::front(), [&job] { print(job); });
+    });
 }
 
 void printPicture(const QString& path, int left, int top)

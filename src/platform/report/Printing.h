@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/report/Media.h"
+
 #include <QByteArray>
 #include <QString>
 #include <functional>
@@ -13,7 +15,9 @@ struct PrintJob
 {
     QByteArray pdf;
     QString title;
-    QString printer = {}; ///< as the print system calls it; empty: the default one
+    int kind = 0;      ///< Report::Kind
+    QSizeF paper = {}; ///< its size, in millimetres
+    Destination where = {};
     int copies = 1;
 };
 
@@ -22,7 +26,19 @@ struct PrintJob
 /// reported in a plain box over the screen then in front. Success is not reported: the paper shows it.
 void print(const PrintJob& job);
 
-/// Prints a report on the default printer without asking anything.
+/// Where each kind of paper was last sent.
+struct PrinterMemory
+{
+    std::function<Destination(int kind)> recall;
+    std::function<void(int kind, const Destination& where)> keep;
+};
+/// Who remembers that; without it every paper goes to the default printer. A printer that the print system
+/// turns out not to have is forgotten.
+void setPrinterMemory(PrinterMemory memory);
+Destination recallPrinter(int kind);
+void keepPrinter(int kind, const Destination& where);
+
+/// Prints a report where its kind was last sent, without asking anything.
 void printDirect(const Report& report);
 
 /// Prints the picture of a file on a page of its own, `left` and `top` twips from the page's corner: at its

@@ -172,7 +172,10 @@ public:
     const std::vector<Row>& rows() const { return m_rows; }
 
     QString Title;
-    QString Subject;              ///< what a file of it is about, for its name; empty: the title
+    QString Subject; ///< what a file of it is about, for its name; empty: the title
+    /// Which of the papers it is, as those count them who remember where each goes; 0 for all without a
+    /// place of their own.
+    int Kind = 0;
     QSizeF PageSize = {210, 297}; ///< millimetres
     int LeftMargin = 720;
     int TopMargin = 720;
