@@ -151,8 +151,32 @@ void frmAccountBook::addEntry()
     frmTransiction entry;
     qint16 saved = 0;
     entry.ShowAddNew(ui->cmbAccount->Text(), saved);
-    if (saved == 0)
+    if (saved != 0)
+        showSaved(entry);
+}
+
+/// What the account owes, as a receipt.
+void frmAccountBook::takeMoney()
+{
+    if (!accountChosen())
         return;
+    frmTransiction entry;
+    qint16 saved = 0;
+    entry.ShowReceipt(ui->cmbAccount->Text(), saved);
+    if (saved != 0)
+        showSaved(entry);
+}
+
+void frmAccountBook::Form_KeyDown(int& key, Qt::KeyboardModifiers)
+{
+    if (key != forms::key::F5)
+        return;
+    key = 0;
+    takeMoney();
+}
+
+void frmAccountBook::showSaved(const frmTransiction& entry)
+{
     refresh();
     select(VoucherTag{entry.number(), VoucherType::Entry}.text());
     ui->lvSummary->setFocus();

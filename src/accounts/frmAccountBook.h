@@ -5,6 +5,7 @@
 
 #include <memory>
 
+class frmTransiction;
 class swSMS;
 enum class SmsWay;
 namespace Ui {
@@ -31,6 +32,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
     void openSelected() override;
 
 private:
@@ -38,6 +40,8 @@ private:
     bool accountChosen();
     void view();
     void addEntry();
+    void takeMoney();
+    void showSaved(const frmTransiction& entry);
     void openWages();
     void openDayBook();
     void sendBalance(SmsWay way);

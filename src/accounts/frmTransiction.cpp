@@ -52,6 +52,7 @@ frmTransiction::frmTransiction()
         onKeyPress(combo, [combo](int& key) { key = EnterAsTab(AutoSearchCombo(*combo, key)); });
     }
     onLostFocus(ui->cmbParticulars, [this] { applyLabels(); });
+    ui->txtRemark->setNextOnSecondEnter(ui->Command1);
     on(ui->txtAmount, &swTextBox::Change, &frmTransiction::mirrorAmount);
     on(ui->txtAmount2, &swTextBox::Change, &frmTransiction::mirrorAmount);
 
@@ -67,6 +68,28 @@ frmTransiction::~frmTransiction() = default;
 
 void frmTransiction::ShowAddNew(const QString& accountTitle, qint16& saved)
 {
+    startNew(accountTitle);
+    open(RecordMode::New, u"Add New Entry"_s);
+    saved = EntrySaved;
+}
+
+void frmTransiction::ShowReceipt(const QString& accountTitle, qint16& saved)
+{
+    startNew(accountTitle);
+    ui->cmbParticulars->setText(u"Receipt"_s);
+    applyLabels();
+    ui->cmbRefAcc->setText(cashAccount);
+    const double balance =
+        GetBalance(values::toInt16(idOfAccount(accountTitle), u"Account number"_s), session.WorkingDate);
+    ui->txtAmount->setText(values::formatMoneyText(QString::number(std::max(0.0, -balance), 'f', 2)));
+    mirrorAmount();
+    ui->txtAmount->setFocus();
+    open(RecordMode::New, u"Add New Entry"_s);
+    saved = EntrySaved;
+}
+
+void frmTransiction::startNew(const QString& accountTitle)
+{
     EntrySaved = 0;
     fillAccounts();
     qint32 number = 0;
@@ -75,8 +98,6 @@ void frmTransiction::ShowAddNew(const QString& accountTitle, qint16& saved)
     EntryAccount = accountTitle;
     EntryIsPayroll = 0;
     ui->VcDate->setValue(session.WorkingDate);
-    open(RecordMode::New, u"Add New Entry"_s);
-    saved = EntrySaved;
 }
 
 void frmTransiction::ShowEdit(qint32 vid, qint16& saved, qint32 posting)

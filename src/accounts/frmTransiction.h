@@ -25,6 +25,9 @@ public:
 
     /// Opens a new voucher of an account. `saved` is -1 when something was saved or deleted, else 0.
     void ShowAddNew(const QString& accountTitle, qint16& saved);
+    /// Opens a new receipt of an account: what it owes on the working date into the shop's cash, all of it to
+    /// be changed. `saved` as above.
+    void ShowReceipt(const QString& accountTitle, qint16& saved);
     /// Opens an entry voucher or payroll by its number; of several that were given the same number, the one
     /// that has the posting. Throws ado::NoCurrentRecordError when there is none.
     void ShowEdit(qint32 vid, qint16& saved, qint32 posting = 0);
@@ -41,6 +44,7 @@ protected:
     void Form_Load() override;
 
 private:
+    void startNew(const QString& accountTitle);
     void open(RecordMode mode, const QString& title);
     void fillAccounts();
     void mirrorAmount();

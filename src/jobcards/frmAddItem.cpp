@@ -53,8 +53,7 @@ frmAddItem::frmAddItem()
     for (QLineEdit* box : {ui->txtQnt, ui->txtFees})
         onKeyPress(box, [box](int& key) { key = EnterAsTab(key) == 0 ? 0 : NumbersOnly(*box, key); });
     onKeyPress(ui->txtRemark, [](int& key) { key = EnterAsTab(key); });
-    onGotFocus(ui->txtClientRemark, [this] { LastKey = 0; });
-    onKeyPress(ui->txtClientRemark, [this](int& key) { typeClientRemark(key); });
+    ui->txtClientRemark->setNextOnSecondEnter(ui->Command1, swTextBoxMultiLine::BlankLine::Stays);
     on(ui->picColor, &ColorBox::clicked, &frmAddItem::chooseColor);
     on(ui->Command3, &QPushButton::clicked, [this] { takePicture(*ui->pic1, *ui->picPath1, 1); });
     on(ui->Command4, &QPushButton::clicked, [this] { takePicture(*ui->pic2, *ui->picPath2, 2); });
@@ -77,6 +76,8 @@ frmAddItem::~frmAddItem() = default;
 bool frmAddItem::ItemDetails(clsJobCardData& rows, qint32 clientID)
 {
     prepare(RecordMode::New, rows, clientID);
+    ui->lblHelp->setText(u"Esc all garments in: to the money  ·  "_s +
+                         ui->lblHelp->text().section(u"  ·  "_s, 0, -2));
     showModal();
     return LineCancelled;
 }
@@ -233,17 +234,6 @@ void frmAddItem::Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers)
         return;
     }
     key = ArrowsAsTab(key);
-}
-
-/// A second Enter straight after the first ends the note.
-void frmAddItem::typeClientRemark(int& key)
-{
-    const bool ends = key == forms::key::Enter && LastKey == forms::key::Enter;
-    LastKey = ends ? 0 : key;
-    if (ends) {
-        key = 0;
-        ui->Command1->setFocus();
-    }
 }
 
 // Colour and pictures

@@ -54,7 +54,6 @@ private:
     void lookAtMeasurements();
     QString unusualMeasurements() const;
 
-    void typeClientRemark(int& key);
     void chooseColor();
     void takePicture(PictureBox& pic, QLabel& picPath, int number);
     void drawNote();
@@ -79,6 +78,5 @@ private:
     qint32 RowIndex = 0;
     MeasurementGuard m_guard;
     qsizetype m_unusual = 0;                   ///< measurements that the guard doubts
-    int LastKey = 0;                           ///< in the client's note
     QHash<const QLabel*, QString> m_lostLinks; ///< of pictures that the shop does not have
 };

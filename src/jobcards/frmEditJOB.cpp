@@ -252,7 +252,20 @@ void frmEditJOB::Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers)
         showClientFolder(ui->cmbClient->text());
         return;
     }
+    if (key == forms::key::F5 || key == forms::key::F11) {
+        std::exchange(key, 0) == forms::key::F5 ? goToMoney() : void(frmDDP().showModal());
+        return;
+    }
     key = ArrowsAsTab(key);
+}
+
+/// To the amount received, which goes into the shop's cash where no account has been chosen.
+void frmEditJOB::goToMoney()
+{
+    if (ui->cmbAccount->text().isEmpty() && ui->cmbAccount->findText(cashAccount) >= 0)
+        ui->cmbAccount->setText(cashAccount);
+    ui->txtAmountPaid->setFocus();
+    ui->txtAmountPaid->selectAll();
 }
 
 void frmEditJOB::typeClient(int& key)

@@ -69,6 +69,7 @@ private:
     void print();
     void startNewCard();
     void addLine();
+    void goToMoney();
     void removeLine();
     void clearLines();
     void remove();

@@ -30,8 +30,7 @@ frmEditItem::frmEditItem()
 {
     ui->setupUi(this);
     setControls({ui->lblTitle, ui->txtName, ui->Command1, ui->Command2});
-    onKeyDown(ui->txtItemDetails, [this](int& key) { templateKey(key); });
-    onGotFocus(ui->txtItemDetails, [this] { m_afterEnter = false; });
+    ui->txtItemDetails->setNextOnSecondEnter(ui->txtFees);
     onLostFocus(ui->txtItemDetails, [this] { tidyTemplateBox(); });
 }
 
@@ -61,18 +60,6 @@ void frmEditItem::Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers)
         return;
     key = 0;
     ui->txtFees->setFocus();
-}
-
-/// A second Enter straight after the first ends the template instead of adding a blank line.
-void frmEditItem::templateKey(int& key)
-{
-    const bool isEnter = key == forms::key::Enter;
-    const bool endsEntry = isEnter && m_afterEnter;
-    m_afterEnter = isEnter && !endsEntry;
-    if (endsEntry) {
-        key = 0;
-        ui->txtFees->setFocus();
-    }
 }
 
 void frmEditItem::tidyTemplateBox() { ui->txtItemDetails->setText(tidyTemplate(ui->txtItemDetails->Text())); }

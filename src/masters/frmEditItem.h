@@ -26,9 +26,7 @@ private:
     void write(ado::Recordset& row) override;
     bool isInUse(qint16 id) override;
 
-    void templateKey(int& key);
     void tidyTemplateBox();
 
     const std::unique_ptr<Ui::frmEditItem> ui;
-    bool m_afterEnter = false; ///< the last key in the template box was Enter
 };

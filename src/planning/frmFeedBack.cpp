@@ -27,6 +27,7 @@ frmFeedBack::frmFeedBack(qint32 lineId, qint16 readOnly)
         pictures[score]->setPixmap(stars(score, heightOfStars));
         pictures[score]->hide();
     }
+    ui->txtFeedback->setNextOnSecondEnter(ui->Command1);
     ui->Command1->setEnabled(readOnly != 1);
 
     on(ui->cmbScore, &forms::ComboBox::changed, &frmFeedBack::ChangeStars);

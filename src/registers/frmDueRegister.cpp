@@ -1,6 +1,7 @@
 #include "registers/frmDueRegister.h"
 
 #include "accounts/frmAccountBook.h"
+#include "accounts/frmTransiction.h"
 #include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "platform/forms/ListView.h"
@@ -37,6 +38,17 @@ void frmDueRegister::ExcuteSQl()
     for (const Due& due : readDues(session.WorkingDate))
         rows.push_back({{due.title, moneyText(due.amount.toDouble())}, QString::number(due.client)});
     ui->lvSummary->refreshRows(std::move(rows));
+}
+
+/// F5 takes what the client of the row owes, or a part of it.
+void frmDueRegister::Form_KeyDown(int& key, Qt::KeyboardModifiers)
+{
+    if (key != forms::key::F5)
+        return;
+    key = 0;
+    qint16 saved = 0;
+    if (const int row = ui->lvSummary->selectedRow(); row >= 0)
+        frmTransiction().ShowReceipt(ui->lvSummary->cell(row, 0), saved);
 }
 
 void frmDueRegister::openAccount()

@@ -22,6 +22,7 @@ public:
 protected:
     void Form_Load() override;
     void Form_Activate() override;
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
 
 private:
     void openAccount();

@@ -56,6 +56,7 @@ private:
     void openJobCard();
     void openClientAccount();
     void openClientFolder();
+    void takeMoney();
     QString selectedClient() const;
     qint32 selectedJob() const;
     QString askLocation();

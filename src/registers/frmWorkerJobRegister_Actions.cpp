@@ -1,4 +1,5 @@
 #include "accounts/frmAccountBook.h"
+#include "accounts/frmTransiction.h"
 #include "core/store/DE.h"
 #include "core/store/Session.h"
 #include "jobcards/JobLine.h"
@@ -42,6 +43,9 @@ void frmWorkerJobRegister::Form_KeyDown(int& key, Qt::KeyboardModifiers)
         break;
     case forms::key::F3:
         openClientFolder();
+        break;
+    case forms::key::F5:
+        takeMoney();
         break;
     case forms::key::F6:
         markCuttingDone();
@@ -172,6 +176,14 @@ void frmWorkerJobRegister::openClientAccount()
 {
     if (const QString client = selectedClient(); !client.isEmpty())
         openOnRow([&client] { frmAccountBook().ShowAccount(client); });
+}
+
+/// What the line's client owes, as a receipt.
+void frmWorkerJobRegister::takeMoney()
+{
+    qint16 saved = 0;
+    if (const QString client = selectedClient(); !client.isEmpty())
+        openOnRow([&] { frmTransiction().ShowReceipt(client, saved); });
 }
 
 void frmWorkerJobRegister::openClientFolder()

@@ -3,9 +3,11 @@
 #include "platform/forms/FocusWatch.h"
 
 #include <QPlainTextEdit>
+#include <QPointer>
 
-/// The field for notes of several lines. Enter is a line break, the Tab key leaves the field. Its text has a
-/// carriage return and a line feed between lines, as the shop's tables keep it.
+/// The field for notes of several lines. Enter is a line break, the Tab key leaves the field, and a second
+/// Enter straight after the first too, where it is told to which. Its text has a carriage return and a line
+/// feed between lines, as the shop's tables keep it.
 class swTextBoxMultiLine : public QPlainTextEdit
 {
     Q_OBJECT
@@ -19,6 +21,10 @@ public:
     void setText(const QString& text);
     int BoxType() const { return m_boxType; }
     void setBoxType(int boxType);
+    /// Whether the blank line that the first of two Enters began is part of the text.
+    enum class BlankLine { Goes, Stays };
+    /// A second Enter straight after the first goes on to `next` instead of adding another blank line.
+    void setNextOnSecondEnter(QWidget* next, BlankLine blankLine = BlankLine::Goes);
 
 Q_SIGNALS:
     void Change();
@@ -36,6 +42,12 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    bool isSecondEnter(const QKeyEvent& event);
+    void leave();
+
+    QPointer<QWidget> m_next;
+    BlankLine m_blankLine = BlankLine::Goes;
+    bool m_afterEnter = false; ///< the last key was an Enter
     forms::FocusWatch m_focus;
     int m_boxType = 0;
 };

@@ -51,7 +51,8 @@ frmGlance::frmGlance()
     on(ui->cmdTrials, &QPushButton::clicked, [] { frmTrailDate().showModal(); });
     on(ui->cmdBirthdays, &QPushButton::clicked, [] { frmBirthDayRimenders().showModal(); });
     on(ui->cmdTaken, &QPushButton::clicked, &frmGlance::openTaken);
-    on(ui->cmdCards, &QPushButton::clicked, [] { frmWorkerJobRegister().showModal(); });
+    on(ui->cmdCards, &QPushButton::clicked,
+       [this] { frmWorkerJobRegister().ShowLines({.from = m_day, .to = m_day}); });
     on(ui->chDue, &forms::BarChart::opened, &frmGlance::openDueDay);
     on(ui->chMoney, &forms::BarChart::opened, &frmGlance::openWeek);
     on(ui->chDues, &forms::BarChart::opened, [] { frmDueRegister().showModal(); });
@@ -77,7 +78,7 @@ void frmGlance::Form_Activate() { fill(); }
 
 void frmGlance::fill()
 {
-    m_day = session.WorkingDate;
+    m_day = session.WorkingDate.addDays(-m_daysBack);
     m_shop = figures::read(m_day);
     ui->lblDay->setText(longDay(m_day));
     showDay();
@@ -105,6 +106,10 @@ void frmGlance::showDay()
         accounts << taken.account + u' ' + money(taken.amount);
     }
     ui->cmdTaken->show(money(all), accounts.isEmpty() ? u"from clients"_s : accounts.join(u", "_s));
+    for (forms::FigureButton* figure :
+         {ui->cmdDue, ui->cmdTrials, ui->cmdBirthdays, ui->cmdTaken, ui->cmdCards})
+        figure->setCaption(figure->caption().section(u' ', 0, figure == ui->cmdCards ? 1 : 0) +
+                           (m_daysBack == 0 ? u" today"_s : u" that day"_s));
     ui->cmdCards->show(count(m_shop.newCards), u"job cards"_s);
 }
 
@@ -209,7 +214,7 @@ void frmGlance::openTaken()
     if (m_shop.taken.size() == 1)
         return open(m_shop.taken.front().account);
     if (m_shop.taken.empty())
-        return frmDayBook().showModal();
+        return frmDayBook().ShowDays(m_day, m_day);
     std::vector<Way> ways;
     for (const figures::Taken& taken : m_shop.taken)
         ways.push_back({taken.account + u"  "_s + money(taken.amount),
@@ -269,7 +274,16 @@ void frmGlance::openWorker()
                                       .condition = u"Uncompleted"_s});
 }
 
-// On paper
+// Keys, paper
+
+/// Page Up shows the day before, Page Down the day after, up to the working date.
+void frmGlance::Form_KeyDown(int& key, Qt::KeyboardModifiers)
+{
+    if (key != forms::key::PageUp && key != forms::key::PageDown)
+        return;
+    m_daysBack = std::max(0, m_daysBack + (std::exchange(key, 0) == forms::key::PageUp ? 1 : -1));
+    fill();
+}
 
 void frmGlance::Form_KeyPress(int& key)
 {

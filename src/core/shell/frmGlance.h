@@ -26,6 +26,7 @@ protected:
     void Form_Load() override;
     void Form_Activate() override;
     void Form_KeyPress(int& key) override;
+    void Form_KeyDown(int& key, Qt::KeyboardModifiers modifiers) override;
 
 private:
     void showDay();
@@ -55,4 +56,5 @@ private:
     const std::unique_ptr<Ui::frmGlance> ui;
     figures::Shop m_shop;
     QDate m_day;
+    int m_daysBack = 0; ///< from the working date to the day that is shown
 };

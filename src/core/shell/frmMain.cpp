@@ -16,6 +16,7 @@
 #include "core/store/ShopProfile.h"
 #include "core/store/Texts.h"
 #include "jobcards/frmEditJOB.h"
+#include "planning/frmDDP.h"
 #include "platform/forms/Icons.h"
 #include "platform/values/Dates.h"
 #include "platform/values/Numbers.h"
@@ -209,6 +210,10 @@ void frmMain::Form_KeyDown(int& key, Qt::KeyboardModifiers)
         m_dateTaken = false;
         ui->TodayDate->setFocus();
         ui->TodayDate->selectAll();
+    }
+    if (key == forms::key::F11) {
+        key = 0;
+        frmDDP().showModal();
     }
     if (key != forms::key::Enter)
         return;

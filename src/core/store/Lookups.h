@@ -33,6 +33,8 @@ QVariant FieldValueExists(const QString& value, const QString& keyField, const Q
 /// The id of the account of this title; 0 for one that is gone, and for an empty title. Apostrophes are no
 /// trouble.
 qint32 idOfAccount(const QString& title);
+/// The title of the account that money comes into unless another is chosen; every new shop has it.
+inline constexpr auto cashAccount = QLatin1StringView("Cash");
 
 /// The condition of FillList for the accounts of one type.
 QString whereType(AccountType type);

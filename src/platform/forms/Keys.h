@@ -32,9 +32,11 @@ inline constexpr int Delete = 46;
 inline constexpr int F1 = 112; // F2 is 113, and so on
 inline constexpr int F2 = F1 + 1;
 inline constexpr int F3 = F1 + 2;
+inline constexpr int F5 = F1 + 4;
 inline constexpr int F6 = F1 + 5;
 inline constexpr int F7 = F1 + 6;
 inline constexpr int F8 = F1 + 7;
+inline constexpr int F11 = F1 + 10;
 } // namespace key
 
 /// The character code of a key event (Unicode beyond the control codes); 0 when the key makes no character.
