@@ -17,6 +17,7 @@
 #include "support/Pdf.h"
 #include "support/Refusal.h"
 #include "support/ShopTest.h"
+#include "ui/HelpLine.h"
 
 static QString texts(const std::vector<BookLine>& lines, QStringList (*cells)(const BookLine&))
 {
@@ -107,6 +108,7 @@ private Q_SLOTS:
         inModal<frmMenu>([&](frmMenu&) {
             onNextModal<frmDueRegister>([&](frmDueRegister& dues) {
                 QCOMPARE(column(dues, 0) + column(dues, 1), "Almost|Asha0.00|300.50");
+                QCOMPARE(control<HelpLine>(dues, "lblHelp").notice(), "Total 300.50: to 30 days 300.50");
                 press(Qt::Key_Down);
                 onNextModal<frmAccountBook>([&](frmAccountBook& book) {
                     QCOMPARE(combo(book, "cmbType").text() + combo(book, "cmbAccount").text(), "ClientsAsha");
