@@ -4,9 +4,13 @@
 #include "core/shell/frmShopINFO.h"
 #include "core/shell/modMain.h"
 #include "core/store/Schema.h"
+#include "core/store/Texts.h"
 #include "jobcards/UnsavedCards.h"
 #include "masters/frmClients.h"
+#include "platform/forms/ListSheet.h"
+#include "platform/report/ListPaper.h"
 #include "registers/frmWorkerJobRegister.h"
+#include "support/Pdf.h"
 #include "support/ShopTest.h"
 
 #include <QDir>
@@ -43,6 +47,11 @@ private Q_SLOTS:
         QCOMPARE(label(*main, "lblShopName"), "KORVANE");
         QVERIFY(session.ShopName.isEmpty());
         delete main;
+        forms::ListSheet sheet;
+        sheet.title = "Dues";
+        sheet.columns = {{"Client"}};
+        QVERIFY(readBack(*report::listPaper(sheet))[0].contains("KORVANE \u00B7 " +
+                                                                dateText(session.WorkingDate)));
     }
 
     /// A file that is there but not ours is told by name, and never taken for a first run.

@@ -202,6 +202,12 @@ private Q_SLOTS:
             QVERIFY(pages[0].startsWith("Dues Agra Client Due Since Asha \"A\", Agra -12.50 09-Feb-2024"));
             QVERIFY(pages[1].startsWith("Dues Agra Client Due Since Ravi") && pages[1].endsWith("2 of 2"));
 
+            report::setListHeading([] { return "Needle & Co  \u00B7  10-Feb-2024"; });
+            for (const QString& page : readBack(*report::listPaper(sheetOf(*view))))
+                QVERIFY2(page.startsWith("Dues Needle & Co \u00B7 10-Feb-2024 Agra Client"),
+                         qPrintable(page));
+            report::setListHeading({});
+
             ListSheet wide;
             wide.columns = {{"JOB ID"}, {"Remark"}};
             wide.rows.push_back({{"1/1", QString("Velvet collar ").repeated(40)}, {}});

@@ -9,9 +9,11 @@
 #include "core/store/Session.h"
 #include "core/store/Settings.h"
 #include "core/store/Startup.h"
+#include "core/store/Texts.h"
 #include "masters/ClientFolder.h"
 #include "platform/devices/Files.h"
 #include "platform/forms/MessageBox.h"
+#include "platform/report/ListPaper.h"
 #include "registers/frmClientFolder.h"
 #include "ui/PaperPrinters.h"
 
@@ -52,6 +54,8 @@ bool Main()
     setClientFolder([](const QString& client) { frmClientFolder().ShowClient(client); });
     setOldBooks(lookIntoBooks);
     rememberPrinters();
+    report::setListHeading(
+        [] { return u"%1  ·  %2"_s.arg(session.ShownShopName, dateText(session.WorkingDate)); });
     try {
         auto screen = std::make_unique<frmMain>();
         screen->prepare(); // while the file is being opened

@@ -62,9 +62,13 @@ void fit(std::vector<int>& widths, int room)
         width = std::min(width, cap);
 }
 
+std::function<QString()> listHeading;
+
 QString fieldName(size_t column, bool bold) { return (bold ? u"total%1"_s : u"cell%1"_s).arg(column); }
 
 } // namespace
+
+void setListHeading(std::function<QString()> heading) { listHeading = std::move(heading); }
 
 std::unique_ptr<Report> listPaper(const forms::ListSheet& sheet)
 {
@@ -76,10 +80,15 @@ std::unique_ptr<Report> listPaper(const forms::ListSheet& sheet)
 
     Section& head = paper->addSection(u"Head"_s, Band::PageHead);
     Label& title = head.addLabel(u"lblTitle"_s, sheet.title);
-    title.place(0, 0, paper->width(), 400);
+    title.place(0, 0, paper->width() * 3 / 5, 400);
     title.FontSize = 14;
     title.Bold = true;
     title.Color = palette::ink;
+    Label& heading = head.addLabel(u"lblHeading"_s, listHeading ? listHeading() : QString());
+    heading.place(paper->width() * 3 / 5, 90, paper->width() * 2 / 5, 260);
+    heading.FontSize = typeSize;
+    heading.Color = palette::quietInk;
+    heading.Alignment = Qt::AlignRight;
     Label& criteria = head.addLabel(u"lblCriteria"_s, sheet.criteria.join(u"  ·  "_s));
     criteria.place(0, 420, paper->width(), 260);
     criteria.FontSize = typeSize;
