@@ -8,7 +8,9 @@
 #include "platform/forms/Screen.h"
 #include "platform/report/ListKeys.h"
 #include "platform/report/ListPaper.h"
+#include "platform/report/Workbook.h"
 #include "support/Fields.h"
+#include "support/Files.h"
 #include "support/Modal.h"
 #include "support/Pdf.h"
 #include "support/Prompts.h"
@@ -18,6 +20,7 @@
 #include <QContextMenuEvent>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QProcess>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -53,6 +56,16 @@ public:
 protected:
     void Form_KeyPress(int& key) override { keys += key; }
 };
+
+/// What a spreadsheet file holds, a cell a line.
+static QStringList readSheet(const QString& path)
+{
+    QProcess reader;
+    reader.start("python3", {QFINDTESTDATA("../support/read_sheet.py"), path});
+    reader.waitForFinished();
+    return QString::fromUtf8(reader.readAllStandardOutput() + reader.readAllStandardError())
+        .split('\n', Qt::SkipEmptyParts);
+}
 
 class tst_lists : public QObject
 {
@@ -215,23 +228,82 @@ private Q_SLOTS:
 
             const QTemporaryDir folder;
             Prompts prompts;
-            for (const char* path : {"/list.csv", "/none/list.csv"}) {
+            for (const char* path :
+                 {"/list.csv", "/LIST.CSV", "/none/list.csv", "/list.xlsx", "/none/list.xlsx"}) {
                 const QString file = folder.path() + path;
                 const bool works = QFileInfo(QFileInfo(file).path()).isDir();
                 prompts.expect(QString(works ? "The list was saved for a spreadsheet:\n\n%1"
                                              : "%1\n\nNo such file or directory")
                                    .arg(file));
                 onNextModal<QFileDialog>([&file](QFileDialog& dialog) {
-                    control<QLineEdit>(dialog, "fileNameEdit").setText(file);
+                    auto& name = control<QLineEdit>(dialog, "fileNameEdit");
+                    QCOMPARE(name.text(), "Dues.xlsx");
+                    dialog.filterSelected(dialog.nameFilters()[1]);
+                    QCOMPARE(name.text(), "Dues.csv");
+                    QCOMPARE(dialog.defaultSuffix(), "csv");
+                    name.setText(file);
                     QMetaObject::invokeMethod(&dialog, "accept");
                 });
                 city->setFocus(); // wherever the focus is
                 press(Qt::Key_F12);
                 QCOMPARE(QFileInfo::exists(file), works);
+                if (works)
+                    QCOMPARE(contents(file).startsWith("PK"), file.endsWith("xlsx"));
             }
             QVERIFY(prompts.allMet());
         });
         screen.showModal();
+    }
+
+    /// Figures, balances and days are what they are; codes and telephone numbers keep their letters.
+    void aSpreadsheetComputes()
+    {
+        ListSheet sheet{"JOB Register: 1/2", {"From: 10-Feb-2024", "Client: Asha & Bela"}, {}, {}};
+        sheet.columns = {{"Date"}, {"JOB ID"}, {"Mobile"}, {"QTY", true}, {"Balance", true, 14}, {"Remark"}};
+        sheet.rows = {{{"10-Feb-2024", "1/2", "09829012345", "3", "650.00 Dr", "=1+1"}, {}},
+                      {{"late", "12", "12.50", "007", "None", "<\u0939>"}, {}},
+                      {{"", "", "", "-4", "12.50 Cr", ""}, {}},
+                      {{"Total", "", "", "1.5", "-637.50", ""}, {true, false, false, true, true}}};
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("list.xlsx");
+        writeFile(path, report::workbook(sheet));
+        QCOMPARE(readSheet(path), QStringList({"A1|text|Date|bold",
+                                               "B1|text|JOB ID|bold",
+                                               "C1|text|Mobile|bold",
+                                               "D1|text|QTY|bold",
+                                               "E1|text|Balance (Dr is minus)|bold",
+                                               "F1|text|Remark|bold",
+                                               "A2|number dd-mmm-yyyy|45332",
+                                               "B2|text|1/2",
+                                               "C2|text|09829012345",
+                                               "D2|number General|3",
+                                               "E2|number 0.00|-650",
+                                               "F2|text|=1+1", //
+                                               "A3|text|late",
+                                               "B3|text|12",
+                                               "C3|text|12.50",
+                                               "D3|text|007",
+                                               "E3|number 0.00|0",
+                                               "F3|text|<\u0939>", //
+                                               "D4|number General|-4",
+                                               "E4|number 0.00|12.5", //
+                                               "A5|text|Total|bold",
+                                               "D5|number 0.00|1.5|bold",
+                                               "E5|number 0.00|-637.5|bold",
+                                               "frozen|1",
+                                               "width|1|12",
+                                               "width|2|12",
+                                               "width|3|12",
+                                               "width|4|12",
+                                               "width|5|23",
+                                               "width|6|12",
+                                               "title|JOB Register: 1/2",
+                                               "subject|From: 10-Feb-2024, Client: Asha & Bela"}));
+
+        sheet.columns = {{}, {}}; // without titles only an amount is a figure
+        sheet.rows = {{{"9829012345", "250.00"}, {}}};
+        writeFile(path, report::workbook(sheet));
+        QCOMPARE(readSheet(path).mid(0, 2), QStringList({"A1|text|9829012345", "B1|number 0.00|250"}));
     }
 
     void comboKeepsItsTextWhenFilled()

@@ -5,7 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
-#include <QDate>
+#include <QFontMetricsF>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
@@ -69,7 +69,7 @@ QString harmless(const QString& cell)
 QString field(const QString& cell)
 {
     QString text = harmless(cell);
-    if (const QDate date = QLocale::c().toDate(text, u"dd-MMM-yyyy"_s); date.isValid())
+    if (const QDate date = shownDay(text); date.isValid())
         return date.toString(Qt::ISODate);
     if (text.contains(u',') || text.contains(u'"') || text.contains(u'\n') || text.contains(u'\r'))
         return u'"' + text.replace(u"\""_s, u"\"\""_s) + u'"';
@@ -77,6 +77,8 @@ QString field(const QString& cell)
 }
 
 } // namespace
+
+QDate shownDay(const QString& cell) { return QLocale::c().toDate(cell, u"dd-MMM-yyyy"_s); }
 
 QStringList ListSheet::titles() const
 {
@@ -95,12 +97,13 @@ ListSheet sheetOf(const QAbstractItemView& list)
             if (const QString said = saying(*field); !said.isEmpty())
                 sheet.criteria << said;
     const QAbstractItemModel& model = *list.model();
-    const bool hasTitles = qobject_cast<const ListView*>(&list) != nullptr;
+    const auto* view = qobject_cast<const ListView*>(&list);
+    const double digit = QFontMetricsF(list.font()).horizontalAdvance(u'0');
     for (int column = 0; column < model.columnCount(); ++column) {
         const auto side =
             model.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).value<Qt::Alignment>();
-        sheet.columns.push_back({hasTitles ? model.headerData(column, Qt::Horizontal).toString() : QString(),
-                                 bool(side & Qt::AlignRight)});
+        sheet.columns.push_back({view ? model.headerData(column, Qt::Horizontal).toString() : QString(),
+                                 bool(side & Qt::AlignRight), view ? view->columnWidth(column) / digit : 0});
     }
     for (int row = 0; row < model.rowCount(); ++row) {
         ListSheet::Row line;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -9,13 +10,15 @@ class QByteArray;
 
 namespace forms {
 
-/// What a list shows, as it leaves the program: for the clipboard, a file of comma-separated values, paper.
+/// What a list shows, as it leaves the program: for the clipboard, a spreadsheet, a file of comma-separated
+/// values, paper.
 struct ListSheet
 {
     struct Column
     {
-        QString title; ///< empty in a list without titles
-        bool isRight = false;
+        QString title;        ///< empty in a list without titles
+        bool isRight = false; ///< holds figures
+        double letters = 0;   ///< its width on the screen, in digits; 0: not known
     };
     struct Row
     {
@@ -34,6 +37,9 @@ struct ListSheet
 
 /// The list of a screen, all of its rows.
 ListSheet sheetOf(const QAbstractItemView& list);
+
+/// The day that a cell shows ("10-Feb-2024"); an invalid one for any other text.
+QDate shownDay(const QString& cell);
 
 /// Rows as a spreadsheet takes them from the clipboard, a tab between two cells.
 QString tabbed(const ListSheet& sheet);

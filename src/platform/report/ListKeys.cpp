@@ -9,6 +9,7 @@
 #include "platform/report/Pdf.h"
 #include "platform/report/Preview.h"
 #include "platform/report/SaveDialog.h"
+#include "platform/report/Workbook.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -64,11 +65,13 @@ void print(QAbstractItemView& list)
 void save(QAbstractItemView& list)
 {
     const forms::ListSheet sheet = forms::sheetOf(list);
-    const QString path = askSavePath(list.window(), u"Save List"_s, sheet.title, u"csv"_s,
-                                     u"Comma-separated values (*.csv)"_s);
+    const QString path = askSavePath(
+        list.window(), u"Save List"_s, sheet.title,
+        {{u"xlsx"_s, u"Spreadsheet (*.xlsx)"_s}, {u"csv"_s, u"Comma-separated values (*.csv)"_s}});
     if (path.isEmpty())
         return;
-    saveFile(forms::commaSeparated(sheet), path);
+    const bool asText = path.endsWith(u".csv"_s, Qt::CaseInsensitive);
+    saveFile(asText ? forms::commaSeparated(sheet) : workbook(sheet), path);
     forms::plainMessage(list.window(),
                         u"The list was saved for a spreadsheet:\n\n"_s + QDir::toNativeSeparators(path));
 }

@@ -171,7 +171,7 @@ void Preview::saveAsPdf()
 {
     const QString path =
         askSavePath(this, u"Save as PDF"_s, m_report.Subject.isEmpty() ? m_report.Title : m_report.Subject,
-                    u"pdf"_s, u"PDF files (*.pdf)"_s);
+                    {{u"pdf"_s, u"PDF files (*.pdf)"_s}});
     if (path.isEmpty())
         return;
     saveFile(pdf(m_pages, m_report.Title), path);
