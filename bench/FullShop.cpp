@@ -34,4 +34,6 @@ FullShop::FullShop()
     s_garments = texts(u"Select Name from Items order by id"_s);
 }
 
+void FullShop::touch() { DE.connection().Execute(u"Update Jobs set ID=ID where ID=1"_s); }
+
 FullShop::~FullShop() { DE.close(); }

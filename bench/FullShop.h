@@ -21,6 +21,9 @@ public:
     static const QStringList& clients() { return s_clients; }
     static const QStringList& garments() { return s_garments; }
 
+    /// Writes something, so that lists are filled anew.
+    static void touch();
+
 private:
     QTemporaryDir m_folder;
     static inline QStringList s_clients;

@@ -1,4 +1,5 @@
 #include "FullShop.h"
+#include "core/store/Backup.h"
 #include "core/store/Copies.h"
 #include "core/store/DE.h"
 #include "core/store/Schema.h"
@@ -8,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QProcess>
 #include <benchmark/benchmark.h>
 
 // The day's copy of the full shop: meant to hold up the end of the program for less than 300 ms; its proof
@@ -64,6 +66,29 @@ void lookFloor(benchmark::State& state)
             DE.open(session.databasePath());
 }
 
+/// A backup into a folder: packed, unpacked again, compared.
+void backup(benchmark::State& state)
+{
+    const QString folder = session.appFolder + QStringLiteral("/backups");
+    QDir().mkpath(folder);
+    for (auto _ : state)
+        Backup(folder).run({});
+}
+
+/// The same bytes through the packing program, and back.
+void backupFloor(benchmark::State& state)
+{
+    const QString packed = session.appFolder + QStringLiteral("/floor.gz");
+    for (auto _ : state) {
+        QProcess program;
+        program.setStandardInputFile(session.databasePath());
+        program.setStandardOutputFile(packed);
+        program.start(QStringLiteral("gzip"), {QStringLiteral("-c")});
+        program.waitForFinished(-1);
+        QProcess::execute(QStringLiteral("gzip"), {QStringLiteral("-t"), packed});
+    }
+}
+
 /// All cards and vouchers of two full shops compared.
 void compareShops(benchmark::State& state)
 {
@@ -82,6 +107,8 @@ BENCHMARK(copyPagesFloor)->Unit(benchmark::kMillisecond);
 BENCHMARK(copyProvedAndInPlace)->Unit(benchmark::kMillisecond);
 BENCHMARK(look)->Unit(benchmark::kMillisecond);
 BENCHMARK(lookFloor)->Unit(benchmark::kMillisecond);
+BENCHMARK(backup)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(backupFloor)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(compareShops)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char* argv[])

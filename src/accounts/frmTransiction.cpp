@@ -141,8 +141,9 @@ void frmTransiction::open(RecordMode mode, const QString& title)
 
 void frmTransiction::fillAccounts()
 {
-    for (forms::ComboBox* combo : {ui->cmbRefAcc, ui->cmbAccount})
-        FillList(u"Title"_s, u"Accounts"_s, QString(), *combo, DE.rsaccounts);
+    FillList(u"Title"_s, u"Accounts"_s, QString(), *ui->cmbRefAcc, DE.rsaccounts);
+    ui->cmbAccount->Clear();
+    ui->cmbAccount->AddItems(ui->cmbRefAcc->texts());
 }
 
 void frmTransiction::GetNewNum(qint32& n) { n = Voucher::NextEntryNumber(); }

@@ -171,10 +171,9 @@ QString LineRegister::searchText() const
 void LineRegister::ExecuteSQL()
 {
     m_criteria.period.order();
-    m_criteria.help->setNotice(m_inShop ? u"Only what is still in the shop: Alt+V shows all"_s : QString());
+    noteFilled(); // also if it fails: the message comes once, not at each activation
+    m_filling.reset();
     explainEmpty({});
-    session.RefreshLists = false; // also if it fails: the message comes once, not at each activation
-    m_filledAt = session.RefreshLists.count();
     m_shown = std::make_shared<Shown>();
     m_shown->names = LineNames(m_criteria.balances ? period().to() : QDate());
     try {
@@ -228,15 +227,77 @@ void LineRegister::applyCondition(const QString& condition) { RemoveUnwanted(con
 
 void LineRegister::conditionStep()
 {
-    ExecuteSQL();
-    if (const QString condition = m_criteria.condition->text(); condition != m_criteria.condition->List(0)) {
-        applyCondition(condition);
-        explainEmpty(condition);
+    m_criteria.period.order();
+    if (m_filling && m_filling == filling()) {
+        noteFilled();
+    } else {
+        ExecuteSQL();
+        narrow();
+        m_filling = filling();
     }
-    forms::ListView& list = *m_criteria.list;
-    list.setTopRow(std::exchange(m_topRow, -1));
-    if (isLine(ReturnIndex - 1))
-        list.selectRow(ReturnIndex - 1);
+    showPosition();
+}
+
+/// What the list would be filled from now; nothing where that cannot be said, as of a worker who is gone.
+std::optional<LineRegister::Filling> LineRegister::filling() const
+{
+    try {
+        return Filling{ShopMoment::now(), searchText(), m_criteria.balances ? period().to() : QDate(),
+                       m_criteria.condition->text(), m_inShop};
+    } catch (const OperatorError&) {
+        return std::nullopt;
+    }
+}
+
+void LineRegister::noteFilled()
+{
+    m_criteria.help->setNotice(m_inShop ? u"Only what is still in the shop: Alt+V shows all"_s : QString());
+    session.RefreshLists = false;
+    m_filledAt = session.RefreshLists.count();
+}
+
+/// Takes the lines off the list that the condition does not want.
+void LineRegister::narrow()
+{
+    const QString condition = m_criteria.condition->text();
+    if (condition == m_criteria.condition->List(0))
+        return;
+    applyCondition(condition);
+    explainEmpty(condition);
+}
+
+void LineRegister::showPosition()
+{
+    m_criteria.list->setTopRow(std::exchange(m_topRow, -1));
+    m_criteria.list->selectRow(isLine(ReturnIndex - 1) ? ReturnIndex - 1 : -1);
+}
+
+void LineRegister::changeLine(qint32 line, const std::function<void()>& write)
+{
+    keepPosition();
+    const bool wasTrue = m_filling && m_filling == filling();
+    write();
+    if (!wasTrue || !readAgain(line))
+        return conditionStep();
+    narrow();
+    m_filling = filling();
+    showPosition();
+}
+
+/// Puts a line that is on the list in place of itself as it was. False where it is no longer one.
+bool LineRegister::readAgain(qint32 line)
+{
+    std::vector<RegisterLine> now;
+    readLines(allLines + u"id=%1"_s.arg(line), m_shown->names,
+              [&now](RegisterLine read) { now.push_back(std::move(read)); });
+    const auto before = std::ranges::find(m_shown->lines, line, &RegisterLine::id);
+    if (now.size() != 1 || before == m_shown->lines.end())
+        return false;
+    noteFilled();
+    m_criteria.list->Clear();
+    *before = std::move(now.front());
+    keepLines([this](const RegisterLine& kept) { return !m_inShop || isInShop(LineState(kept.state)); });
+    return true;
 }
 
 QString LineRegister::daysText() const

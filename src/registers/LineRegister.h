@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/store/ShopMoment.h"
 #include "platform/forms/ListView.h"
 #include "platform/forms/Screen.h"
 #include "platform/values/Literals.h"
@@ -7,6 +8,7 @@
 #include "ui/Period.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class HelpLine;
@@ -93,7 +95,8 @@ protected:
     /// Keeps the lines that `stays` wants, and counts them anew.
     void keepLines(const std::function<bool(const RegisterLine& line)>& stays);
 
-    /// Rebuilds the list under its condition and comes back to the row kept in ReturnIndex. Where the last
+    /// Rebuilds the list under its condition, unless it shows what it would show then, and comes back to the
+    /// row kept in ReturnIndex. Where the last
     /// line has left the list none is selected: a key must not work on a line that nobody chose.
     void conditionStep();
     /// Shows the lines of the worker chosen, and puts the keys there; refuses criteria that make no sense.
@@ -104,6 +107,9 @@ protected:
     void enterList();
     /// Keeps where the selected row is, in the list and on the screen, for the next refresh.
     void keepPosition();
+    /// Calls `write`, which changes this one line, and shows the line as it is then; the list is read anew
+    /// only if it was out of date before. The position stays.
+    void changeLine(qint32 line, const std::function<void()>& write);
     /// Opens another screen that works on the selected row's line, and refreshes the list after it, once.
     void openOnRow(const std::function<void()>& open);
     /// The line of the selected row; null for the total row, and for none.
@@ -123,6 +129,17 @@ protected:
     qint16 ReturnIndex = 0;        ///< position to select after a refresh, from 1; 0: none
 
 private:
+    /// What the list was filled from.
+    struct Filling
+    {
+        ShopMoment moment;
+        QString search;
+        QDate balancesUpTo;
+        QString condition;
+        bool inShop = false;
+        bool operator==(const Filling&) const = default;
+    };
+
     void resetCriteria();
     void findJob();
     int rowOfCode(const QString& typed) const;
@@ -130,6 +147,11 @@ private:
     void openLine();
     void explainEmpty(const QString& condition);
     void showLines(bool withTotal);
+    std::optional<Filling> filling() const;
+    void narrow();
+    void showPosition();
+    bool readAgain(qint32 line);
+    void noteFilled();
     bool isLine(int row) const { return row >= 0 && size_t(row) < m_shown->lines.size(); }
     forms::ListView::Row totalRow(size_t lines) const;
 
@@ -142,8 +164,9 @@ private:
         LineNames names{{}};
     };
     std::shared_ptr<Shown> m_shown = std::make_shared<Shown>();
-    quint64 m_filledAt = 0; ///< count of the changes that the list shows
-    bool m_inShop = false;  ///< lines that are delivered or canceled are left out
-    int m_topRow = -1;      ///< of the list as it stood on the screen; -1: from its beginning
-    bool m_opening = false; ///< the refresh after a screen above is under way already
+    quint64 m_filledAt = 0;             ///< count of the changes that the list shows
+    std::optional<Filling> m_filling{}; ///< none while a fault has kept lines off the list
+    bool m_inShop = false;              ///< lines that are delivered or canceled are left out
+    int m_topRow = -1;                  ///< of the list as it stood on the screen; -1: from its beginning
+    bool m_opening = false;             ///< the refresh after a screen above is under way already
 };

@@ -85,6 +85,8 @@ void frmClientFolder::Form_Load()
 /// Back from a card the folder shows it as it is now.
 void frmClientFolder::Form_Activate()
 {
+    if (m_shown == ShopMoment::now())
+        return;
     const qint32 id = GetAccountID(m_client);
     m_garments = history::garmentsOf(id);
     const AccountContact contact = AccountContact::of(id);
@@ -95,6 +97,7 @@ void frmClientFolder::Form_Activate()
     ui->lblBalance->setText(u"Balance: "_s + balanceText(balance));
     showCards();
     showGarments();
+    m_shown = ShopMoment::now();
 }
 
 /// Orders of before the new books are in the old ones.

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "core/store/ShopMoment.h"
 #include "platform/forms/Screen.h"
 #include "registers/ClientHistory.h"
 
 #include <memory>
+#include <optional>
 
 class QPushButton;
 namespace Ui {
@@ -42,5 +44,6 @@ private:
     QString m_client;
     std::vector<history::Garment> m_garments;
     std::vector<QPushButton*> m_pictures;
+    std::optional<ShopMoment> m_shown;
     QString m_oldBooks; ///< the file of the newest; empty: there are none
 };

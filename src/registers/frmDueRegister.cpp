@@ -47,7 +47,11 @@ void frmDueRegister::Form_Load()
 }
 
 /// Back from an account the list shows what is owed now, on the client that was opened.
-void frmDueRegister::Form_Activate() { ExcuteSQl(); }
+void frmDueRegister::Form_Activate()
+{
+    if (m_shown != ShopMoment::now())
+        ExcuteSQl();
+}
 
 void frmDueRegister::ExcuteSQl()
 {
@@ -61,6 +65,7 @@ void frmDueRegister::ExcuteSQl()
             byAge[age] += due.byAge[age];
     }
     ui->lvSummary->refreshRows(std::move(rows));
+    m_shown = ShopMoment::now();
     ui->lblHelp->setNotice(total > Currency() ? totalText(total, byAge) : QString());
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "core/store/ShopMoment.h"
 #include "platform/forms/Screen.h"
 
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class frmDueRegister;
@@ -28,4 +30,5 @@ private:
     void openAccount();
 
     const std::unique_ptr<Ui::frmDueRegister> ui;
+    std::optional<ShopMoment> m_shown;
 };

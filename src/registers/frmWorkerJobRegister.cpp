@@ -50,6 +50,7 @@ frmWorkerJobRegister::frmWorkerJobRegister()
                                 u"Canceled"_s, u"Assigned"_s, u"Not Assigned"_s, u"Cutting Done"_s,
                                 u"Cutting Not Done"_s});
     on(ui->opDt2, &QRadioButton::toggled, [this](bool byDelivery) {
+        DateField = byDelivery ? u"JobDelDate"_s : u"Date"_s;
         period().isOf(byDelivery ? Period::Of::PromisedDays : Period::Of::PastDays);
     });
     m_details = new DetailsPanel(ui->picDetails, ui->lvSummary, ui->Command1, ui->Image1);
@@ -90,7 +91,6 @@ QString frmWorkerJobRegister::searchText() const
 
 void frmWorkerJobRegister::ExecuteSQL()
 {
-    DateField = ui->opDt1->isChecked() ? u"Date"_s : u"JobDelDate"_s;
     LineRegister::ExecuteSQL();
     fillDetails();
 }

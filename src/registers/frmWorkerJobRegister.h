@@ -62,6 +62,7 @@ private:
     QString askLocation();
     bool asked(const QString& question) const;
     void writeDelivered(qint32 job);
+    void mark(qint32 line, LineState state, const QString& location = {});
     void refreshAfterMark();
 
     const std::unique_ptr<Ui::frmWorkerJobRegister> ui;

@@ -92,8 +92,8 @@ void frmWorkerJobRegister::markCuttingDone()
     const qint32 line = selectedLine();
     if (line == 0 || !asked(u"Mark Item as Cutting Done?"_s))
         return;
-    markCut(line, session.WorkingDate);
-    refreshAfterMark();
+    changeLine(line, [line] { markCut(line, session.WorkingDate); });
+    ui->lvSummary->setFocus();
 }
 
 void frmWorkerJobRegister::markCompleted()
@@ -101,8 +101,7 @@ void frmWorkerJobRegister::markCompleted()
     const qint32 line = selectedLine();
     if (line == 0 || !asked(u"Mark Item as Completed?"_s))
         return;
-    markState(line, LineState::Completed, session.TodayDate, askLocation());
-    refreshAfterMark();
+    mark(line, LineState::Completed, askLocation());
 }
 
 void frmWorkerJobRegister::markAlteration()
@@ -110,8 +109,7 @@ void frmWorkerJobRegister::markAlteration()
     const qint32 line = selectedLine();
     if (line == 0 || !asked(u"Mark Item as Alteration?"_s))
         return;
-    markState(line, LineState::Alteration, session.TodayDate, askLocation());
-    refreshAfterMark();
+    mark(line, LineState::Alteration, askLocation());
 }
 
 void frmWorkerJobRegister::markDelivered()
@@ -119,8 +117,13 @@ void frmWorkerJobRegister::markDelivered()
     const qint32 line = selectedLine();
     if (line == 0 || !asked(u"Mark Item as Delivered to Client?"_s))
         return;
-    markState(line, LineState::Delivered, session.TodayDate);
-    refreshAfterMark();
+    mark(line, LineState::Delivered);
+}
+
+void frmWorkerJobRegister::mark(qint32 line, LineState state, const QString& location)
+{
+    changeLine(line, [&] { markState(line, state, session.TodayDate, location); });
+    ui->lvSummary->setFocus(); // the keys stay with the list
 }
 
 // The whole card

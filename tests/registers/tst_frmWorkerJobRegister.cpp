@@ -1,5 +1,6 @@
 #include "accounts/frmAccountBook.h"
 #include "core/shell/frmMain.h"
+#include "core/store/Schema.h"
 #include "jobcards/frmEditJOB.h"
 #include "jobcards/frmEditWorkerAssign.h"
 #include "planning/frmWorkerReport2.h"
@@ -341,6 +342,42 @@ private Q_SLOTS:
             onNextModal<frmEditJOB>([](frmEditJOB& card) { QCOMPARE(field(card, "txtJOBID").text(), "2"); });
             press(Qt::Key_F1);
             QCOMPARE(lines(screen).selectedRow(), 2);
+        });
+    }
+
+    /// A mark reads its own line again, and a list with nothing new is left as it is; but what has been
+    /// written meanwhile, by anybody, shows.
+    void aListIsNeverStale()
+    {
+        inModal<Register>([this](Register& screen) {
+            forms::ListView& list = lines(screen);
+            const auto onRow = [&list](int row, Qt::Key key) {
+                list.setFocus();
+                list.selectRow(row);
+                press(key);
+            };
+            prompts->expect("Mark Item as Cutting Done?", Answer::Yes);
+            onRow(1, Qt::Key_F6);
+            QCOMPARE(list.cell(1, 7), "Done");
+            QCOMPARE(list.cell(2, 7), "Not Done");
+
+            Shop::run("Update Jobs_Detail set Remarks='Short' where ID=3");
+            prompts->expect("Mark Item as Cutting Done?", Answer::Yes);
+            onRow(1, Qt::Key_F6);
+            QCOMPARE(list.cell(2, 4), "Short");
+
+            ado::Connection other;
+            other.open(session.databasePath(), databasePassword());
+            other.Execute(u"Update Jobs_Detail set Remarks='Long' where ID=3"_s);
+            other.close();
+            QSignalSpy refilled(list.model(), &QAbstractItemModel::modelReset);
+            for (const int count : {1, 1}) {
+                onNextModal<frmAccountBook>([](frmAccountBook&) {});
+                onRow(1, Qt::Key_F2);
+                QCOMPARE(list.cell(2, 4), "Long");
+                QCOMPARE(list.selectedRow(), 1);
+                QCOMPARE(refilled.count(), count);
+            }
         });
     }
 

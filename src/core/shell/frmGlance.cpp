@@ -74,7 +74,11 @@ void frmGlance::Form_Load()
     ui->cmdDue->setFocus();
 }
 
-void frmGlance::Form_Activate() { fill(); }
+void frmGlance::Form_Activate()
+{
+    if (m_filledAt != ShopMoment::now())
+        fill();
+}
 
 void frmGlance::fill()
 {
@@ -87,6 +91,7 @@ void frmGlance::fill()
     showDues();
     showWorkers();
     showRoom();
+    m_filledAt = ShopMoment::now();
 }
 
 void frmGlance::showDay()

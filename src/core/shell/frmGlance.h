@@ -1,10 +1,12 @@
 #pragma once
 
+#include "core/store/ShopMoment.h"
 #include "platform/forms/Screen.h"
 #include "registers/ShopFigures.h"
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class frmGlance;
@@ -56,5 +58,6 @@ private:
     const std::unique_ptr<Ui::frmGlance> ui;
     figures::Shop m_shop;
     QDate m_day;
+    std::optional<ShopMoment> m_filledAt;
     int m_daysBack = 0; ///< from the working date to the day that is shown
 };

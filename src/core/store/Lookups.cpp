@@ -49,19 +49,21 @@ double numberOfFirst(const QString& sql, const char* field)
     return fromFirst(sql, [field](ado::Recordset& rows) { return rows[field].number(); });
 }
 
-void fill(const QString& sql, ListTarget& control, ado::Recordset& recordset)
-{
-    control.Clear();
-    recordset.Open(sql);
-    QStringList texts;
-    for (; !recordset.AtEOF(); recordset.MoveNext())
-        texts << recordset[0].text();
-    control.AddItems(texts);
-    recordset.Close();
-}
-
 /// The order of titles: without regard to case in every script, so that "éva" stands beside "Éva".
 QString byTitle(const QString& field) { return u" order by titlekey("_s + field + u')'; }
+
+/// A shop has thousands of names: they are read past the recordset, which is left closed.
+void fill(const QString& field, const QString& source, ListTarget& control, ado::Recordset& recordset)
+{
+    control.Clear();
+    recordset.Close();
+    QStringList texts;
+    ado::Reader rows = readRows(u"Select "_s + field + u" from "_s + source + byTitle(field));
+    const auto text = rows[field.toLatin1()];
+    while (rows.next())
+        texts << text.text();
+    control.AddItems(texts);
+}
 
 /// A null sum, that of no rows, reads as 0.
 double sum(const QString& sql)
@@ -141,13 +143,13 @@ QString whereType(AccountType type) { return u" where Type=%1"_s.arg(qint32(type
 
 void FillCombo(const QString& field, const QString& table, ListTarget& control, ado::Recordset& recordset)
 {
-    fill(u"Select "_s + field + u" from "_s + table + byTitle(field), control, recordset);
+    fill(field, table, control, recordset);
 }
 
 void FillList(const QString& field, const QString& table, const QString& condition, ListTarget& control,
               ado::Recordset& recordset)
 {
-    fill(u"Select "_s + field + u" from "_s + table + condition + byTitle(field), control, recordset);
+    fill(field, table + condition, control, recordset);
 }
 
 QString countsUpTo(const QDate& date)

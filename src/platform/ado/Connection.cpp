@@ -9,6 +9,7 @@
 #include "platform/devices/Files.h"
 
 #include <QFileInfo>
+#include <atomic>
 #include <sqlcipher/sqlite3.h>
 
 using namespace Qt::StringLiterals;
@@ -211,6 +212,8 @@ void Connection::openToLook(const QString& path, const QString& password, const 
 
 void Connection::openFile(const QString& path, const QString& password, int flags)
 {
+    static std::atomic<quint64> openings = 0;
+    d->opening = ++openings;
     d->database = takeOpenedAhead(path, password, flags);
     try {
         if (!d->database && openHandle(path, password, flags, &d->database) != SQLITE_OK)
@@ -269,6 +272,13 @@ void Connection::letGo()
 {
     if (d->database && sqlite3_get_autocommit(d->database) == 0)
         Execute(u"ROLLBACK"_s);
+}
+
+Connection::Version Connection::version() const
+{
+    return {.opening = d->opening,
+            .ownWrites = sqlite3_total_changes(d->openHandle()),
+            .othersWrites = d->firstValue(u"PRAGMA data_version"_s).toLongLong()};
 }
 
 sqlite3* Connection::handle() const { return d->database; }

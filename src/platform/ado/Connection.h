@@ -74,6 +74,17 @@ public:
     /// Ends holdAlone(), or a transaction that was begun by a statement.
     void letGo();
 
+    /// Tells states of the file apart: it differs when something has been written meanwhile, through this
+    /// handle or another, or the file was opened anew. Throws DatabaseError.
+    struct Version
+    {
+        quint64 opening = 0;
+        qint64 ownWrites = 0;
+        qint64 othersWrites = 0;
+        bool operator==(const Version&) const = default;
+    };
+    Version version() const;
+
     /// The engine's handle, for its benches and tests. Null when not open.
     sqlite3* handle() const;
 

@@ -15,6 +15,7 @@ struct Connection::Private
     sqlite3* database = nullptr;
     QString path;
     QByteArray fileIdentity;
+    quint64 opening = 0; // which one of the program's
     bool waiting = false; // for another program's lock
     StatementCache statements;
     std::vector<Recordset*> recordsets; // those open

@@ -18,21 +18,18 @@ ComboBox::ComboBox(QWidget* parent)
     : QComboBox(parent)
     , m_texts(new QStringListModel(this))
 {
-    setEditable(true);
+    auto* line = new QLineEdit(this);
+    line->setPalette(palette());
+    setLineEdit(line); // setEditable() would make the list, too, which most boxes are never asked for
     setInsertPolicy(NoInsert);
     setCompleter(nullptr);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(12);
     setMaxVisibleItems(12);
     setModel(m_texts);
-    if (auto* list = qobject_cast<QListView*>(view()))
-        list->setUniformItemSizes(true);
-    // The focus stays with the box while the list is open.
-    view()->setFocusProxy(this);
     // A typed text that happens to be an entry is no choice of that entry.
-    disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
-    lineEdit()->installEventFilter(this);
-    view()->window()->installEventFilter(this); // the list's own window
+    disconnect(line, &QLineEdit::editingFinished, this, nullptr);
+    line->installEventFilter(this);
     connect(this, &QComboBox::activated, this, [this] {
         select(0, int(text().size())); // typing replaces the choice
         Q_EMIT clicked();
@@ -62,6 +59,8 @@ void ComboBox::AddItems(const QStringList& texts)
 
 void ComboBox::AddItem(const QString& text) { AddItems({text}); }
 
+QStringList ComboBox::texts() const { return m_texts->stringList(); }
+
 int ComboBox::ListIndex() const { return itemText(currentIndex()) == currentText() ? currentIndex() : -1; }
 
 void ComboBox::setListIndex(int index)
@@ -71,7 +70,7 @@ void ComboBox::setListIndex(int index)
     if (isEditable())
         setText(itemText(entry)); // also when that entry is the current one, but the box has another text
     if (isDroppedDown())
-        view()->setCurrentIndex(m_texts->index(entry));
+        m_list->setCurrentIndex(m_texts->index(entry));
 }
 
 int ComboBox::findString(const QString& prefix, int startAfter) const
@@ -121,26 +120,38 @@ void ComboBox::closeUp()
         hidePopup();
 }
 
-bool ComboBox::isDroppedDown() const { return view()->isVisible(); }
+bool ComboBox::isDroppedDown() const { return m_list && m_list->isVisible(); }
+
+/// The first time that it is opened.
+void ComboBox::makeList()
+{
+    m_list = view();
+    if (auto* list = qobject_cast<QListView*>(m_list))
+        list->setUniformItemSizes(true);
+    m_list->setFocusProxy(this); // the focus stays with the box while the list is open
+    m_list->window()->installEventFilter(this);
+}
 
 void ComboBox::showPopup()
 {
     m_dropOnRelease = false;
+    if (!m_list)
+        makeList();
     QComboBox::showPopup();
     if (!isEditable() || !isDroppedDown())
         return;
     if (ListIndex() < 0)
-        view()->setCurrentIndex({});
+        m_list->setCurrentIndex({});
     QFocusEvent stillTyping(QEvent::FocusIn, Qt::PopupFocusReason); // keeps the caret in sight
     QCoreApplication::sendEvent(lineEdit(), &stillTyping);
 }
 
 bool ComboBox::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == view()->window() && event->type() == QEvent::MouseButtonPress) {
+    if (m_list && watched == m_list->window() && event->type() == QEvent::MouseButtonPress) {
         const auto& press = static_cast<QMouseEvent&>(*event);
-        if (!view()->window()->geometry().contains(press.globalPosition().toPoint())) {
-            passOnPress(*view()->window(), press);
+        if (!m_list->window()->geometry().contains(press.globalPosition().toPoint())) {
+            passOnPress(*m_list->window(), press);
             return true;
         }
     }

@@ -23,6 +23,8 @@ public:
     void AddItems(const QStringList& texts) override;
     void AddItem(const QString& text);
     int ListCount() const { return count(); }
+    /// All entries.
+    QStringList texts() const;
     /// The text of an entry; empty outside the list.
     QString List(int index) const { return itemText(index); }
     /// The entry whose text stands in the box by choice or search; -1 when the text is another.
@@ -62,9 +64,11 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    void makeList();
     void walk(int index);
 
     QStringListModel* m_texts;
+    QAbstractItemView* m_list = nullptr; ///< made when it is opened first
     bool m_dropOnRelease = false;
     bool m_selectOnRelease = false;
 };

@@ -43,10 +43,7 @@ public:
         initStyleOption(&cell, index);
         const QString text = std::exchange(cell.text, {}).left(longestShown);
         painter->fillRect(cell.rect, cell.backgroundBrush);
-        cell.icon = {};                        // the style would tint it, and without room for it in vain
-        cell.state &= ~QStyle::State_HasFocus; // its frame would tint the row, which is marked as it is
-        cell.features &= ~(QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration);
-        cell.widget->style()->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+        drawGround(*painter, cell);
 
         QRect room = cell.rect.adjusted(paddingOfCell / 2, 0, -paddingOfCell / 2, 0);
         const auto picture = index.data(Qt::DecorationRole).value<QPixmap>();
@@ -68,6 +65,21 @@ public:
     }
 
 private:
+    /// A cell that is neither chosen nor pointed at has the rule below it alone: the style, which would look
+    /// its rules up for each cell, is asked for the others.
+    static void drawGround(QPainter& painter, QStyleOptionViewItem& cell)
+    {
+        if (!(cell.state & (QStyle::State_Selected | QStyle::State_MouseOver))) {
+            painter.fillRect(cell.rect.left(), cell.rect.bottom(), cell.rect.width(), 1,
+                             QColor(palette::rowRule));
+            return;
+        }
+        cell.icon = {};                        // the style would tint it, and without room for it in vain
+        cell.state &= ~QStyle::State_HasFocus; // its frame would tint the row, which is marked as it is
+        cell.features &= ~(QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration);
+        cell.widget->style()->drawControl(QStyle::CE_ItemViewItem, &cell, &painter, cell.widget);
+    }
+
     mutable ShapedTexts m_texts;
 };
 

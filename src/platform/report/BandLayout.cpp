@@ -2,7 +2,9 @@
 
 #include "platform/report/Barcode.h"
 
+#include <QCache>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QTextLayout>
 
 using namespace Qt::StringLiterals;
@@ -13,14 +15,61 @@ namespace {
 
 constexpr int twipsPerPoint = 20;
 
-QFont fontOf(const TextControl& control, const Report& report)
+/// How a text is set. A list's paper has thousands of cells in one type: what the type says is asked once.
+struct Type
 {
-    QFont font(control.FontFamily.isEmpty() ? report.FontFamily : control.FontFamily);
-    font.setPixelSize(int(control.FontSize * twipsPerPoint + 0.5));
-    font.setBold(control.Bold);
-    font.setItalic(control.Italic);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
+    QString family;
+    double size = 0; ///< points
+    bool bold = false;
+    bool italic = false;
+    bool operator==(const Type&) const = default;
+};
+size_t qHash(const Type& type, size_t seed = 0)
+{
+    return qHashMulti(seed, type.family, type.size, type.bold, type.italic);
+}
+
+struct SetType
+{
+    explicit SetType(const Type& type)
+        : font(type.family)
+    {
+        font.setPixelSize(int(type.size * twipsPerPoint + 0.5));
+        font.setBold(type.bold);
+        font.setItalic(type.italic);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        height = QFontMetricsF(font).height();
+    }
+    QFont font;
+    double height = 0; ///< twips, from line to line
+};
+
+Type typeOf(const TextControl& control, const Report& report)
+{
+    return {control.FontFamily.isEmpty() ? report.FontFamily : control.FontFamily, control.FontSize,
+            control.Bold, control.Italic};
+}
+
+const SetType& setType(const Type& type)
+{
+    static QHash<Type, std::shared_ptr<const SetType>> known;
+    std::shared_ptr<const SetType>& set = known[type];
+    if (!set)
+        set = std::make_shared<SetType>(type);
+    return *set;
+}
+
+/// A text to be broken into lines.
+struct Lines
+{
+    QString text;
+    Type type;
+    int width = 0; ///< twips
+    bool operator==(const Lines&) const = default;
+};
+size_t qHash(const Lines& lines, size_t seed)
+{
+    return qHashMulti(seed, lines.text, lines.type, lines.width);
 }
 
 QStringList paragraphs(QString text)
@@ -167,15 +216,14 @@ double BandLayout::place(const Control& control, double top)
 
 double BandLayout::place(const TextControl& control, const QString& text, bool counted, double top)
 {
-    const QFont font = fontOf(control, m_report);
-    const QFontMetricsF metrics(font);
-    const QStringList lines =
-        control.CanGrow ? linesOf(text, control, m_report)
-                        : QStringList(metrics.elidedText(text.simplified(), Qt::ElideRight, control.Width));
-    const double lineHeight = control.LineHeight > 0 ? control.LineHeight : metrics.height();
+    const SetType& type = setType(typeOf(control, m_report));
+    const QStringList lines = control.CanGrow ? linesOf(text, control, m_report)
+                                              : QStringList(QFontMetricsF(type.font).elidedText(
+                                                    text.simplified(), Qt::ElideRight, control.Width));
+    const double lineHeight = control.LineHeight > 0 ? control.LineHeight : type.height;
     double y = top;
     for (const QString& line : lines) {
-        m_band.pieces.push_back(TextPiece{QRectF(control.Left, y, control.Width, lineHeight), line, font,
+        m_band.pieces.push_back(TextPiece{QRectF(control.Left, y, control.Width, lineHeight), line, type.font,
                                           control.Color, control.Alignment, counted});
         y += lineHeight;
     }
@@ -191,7 +239,13 @@ PlacedBand layOut(const Section& section, const Row& row, const Report& report, 
 
 QStringList linesOf(const QString& text, const TextControl& control, const Report& report)
 {
-    return brokenToWidth(text, fontOf(control, report), control.Width);
+    const Lines wanted{text, typeOf(control, report), control.Width};
+    static QCache<Lines, QStringList> known(4000); // names and days come again and again
+    if (const QStringList* lines = known.object(wanted))
+        return *lines;
+    QStringList lines = brokenToWidth(text, setType(wanted.type).font, control.Width);
+    known.insert(wanted, new QStringList(lines));
+    return lines;
 }
 
 } // namespace report

@@ -6,6 +6,7 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 #include <algorithm>
 #include <numeric>
 
@@ -29,11 +30,18 @@ std::vector<int> wanted(const forms::ListSheet& sheet, const QString& family)
     font.setBold(true);
     const QFontMetricsF metrics(font);
     const double twips = twipsPerInch / 72.0 * typeSize * 10 / QFontInfo(font).pixelSize() / 10;
+    QHash<QString, double> known; // names and days come again and again
+    const auto widthOf = [&](const QString& text) {
+        auto found = known.constFind(text);
+        if (found == known.constEnd())
+            found = known.insert(text, metrics.horizontalAdvance(text));
+        return *found;
+    };
     std::vector<int> widths;
     for (size_t column = 0; column < sheet.columns.size(); ++column) {
-        double width = metrics.horizontalAdvance(sheet.columns[column].title);
+        double width = widthOf(sheet.columns[column].title);
         for (const forms::ListSheet::Row& row : sheet.rows)
-            width = std::max(width, metrics.horizontalAdvance(row.cells.value(int(column))));
+            width = std::max(width, widthOf(row.cells.value(int(column))));
         widths.push_back(std::max(least, int(width * twips) + slack + gap));
     }
     return widths;
