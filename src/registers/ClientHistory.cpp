@@ -112,18 +112,21 @@ std::vector<Card> cardsOf(qint32 client)
     const QString id = QString::number(client);
     const QHash<qint32, Progress> progress = progressOf(id);
     std::vector<Card> found;
-    each(u"Select * from JOBS where ClintID="_s + id + u" order by Date desc, Id desc"_s,
-         [&](ado::Recordset& cards) {
-             const qint32 number = cards["Id"].integer();
-             const bool canceled = cards["Status"].integer() != 0;
-             found.push_back({.number = number,
-                              .booked = cards["Date"].date(),
-                              .delivery = cards["DeliveryDate"].date(),
-                              .state = canceled ? statusName(qint32(LineState::Canceled))
-                                                : stateText(progress.value(number)),
-                              .amount = cards["AmountDue"].number(),
-                              .paid = cards["AmountPaid"].number()});
-         });
+    ado::Reader cards =
+        readRows(u"Select * from JOBS where ClintID="_s + id + u" order by Date desc, Id desc"_s);
+    const auto card = cards["Id"], status = cards["Status"], booked = cards["Date"],
+               delivery = cards["DeliveryDate"], due = cards["AmountDue"], paid = cards["AmountPaid"];
+    while (cards.next()) {
+        const qint32 number = card.integer();
+        const bool canceled = status.integer() != 0;
+        found.push_back(
+            {.number = number,
+             .booked = booked.date(),
+             .delivery = delivery.date(),
+             .state = canceled ? statusName(qint32(LineState::Canceled)) : stateText(progress.value(number)),
+             .amount = due.number(),
+             .paid = paid.number()});
+    }
     return found;
 }
 
@@ -131,27 +134,30 @@ std::vector<Garment> garmentsOf(qint32 client)
 {
     std::vector<Garment> garments;
     QHash<QString, size_t> places;
-    each(u"Select * from JOBS_DETAIL where ClintID="_s + QString::number(client) +
-             u" order by Date desc, JobID desc, ItemSr"_s,
-         [&](ado::Recordset& lines) {
-             const QString item = lines["ItemName"].text();
-             const auto place = places.constFind(item.toCaseFolded());
-             if (place == places.constEnd()) {
-                 places.insert(item.toCaseFolded(), garments.size());
-                 garments.push_back({item, {}, {}});
-             }
-             Order order{.code = lineCodeText(lines["JobID"].text(), lines["ItemSr"].text()),
-                         .booked = lines["Date"].date(),
-                         .values = {},
-                         .remark = lines["Remarks"].text(),
-                         .note = lines["ClientRemarks"].text(),
-                         .pictures = {}};
-             for (const char* column : {"Img1", "Img2"})
-                 if (const QString link = lines[column].text(); !link.isEmpty())
-                     order.pictures << shownPicture(link);
-             add(garments[places.value(item.toCaseFolded())], std::move(order),
-                 rowsOf(lines["ItemDetails"].text()), rowsOf(lines["ItemDetailsValue"].text()));
-         });
+    ado::Reader lines = readRows(u"Select * from JOBS_DETAIL where ClintID="_s + QString::number(client) +
+                                 u" order by Date desc, JobID desc, ItemSr"_s);
+    const auto card = lines["JobID"], place = lines["ItemSr"], garment = lines["ItemName"],
+               booked = lines["Date"], remark = lines["Remarks"], note = lines["ClientRemarks"],
+               picture1 = lines["Img1"], picture2 = lines["Img2"], names = lines["ItemDetails"],
+               values = lines["ItemDetailsValue"];
+    while (lines.next()) {
+        const QString item = garment.text();
+        const QString key = item.toCaseFolded();
+        if (!places.contains(key)) {
+            places.insert(key, garments.size());
+            garments.push_back({item, {}, {}});
+        }
+        Order order{.code = lineCodeText(card.text(), place.text()),
+                    .booked = booked.date(),
+                    .values = {},
+                    .remark = remark.text(),
+                    .note = note.text(),
+                    .pictures = {}};
+        for (const QString& link : {picture1.text(), picture2.text()})
+            if (!link.isEmpty())
+                order.pictures << shownPicture(link);
+        add(garments[places.value(key)], std::move(order), rowsOf(names.text()), rowsOf(values.text()));
+    }
     return garments;
 }
 

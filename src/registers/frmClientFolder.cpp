@@ -17,6 +17,7 @@
 #include "ui_frmClientFolder.h"
 
 #include <QPushButton>
+#include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
 
@@ -132,9 +133,12 @@ void frmClientFolder::showGarments()
         rows.push_back(
             {{garment.item, QString::number(garment.orders.size()), dateText(garment.orders.front().booked)},
              garment.item});
-    ui->lvGarments->refreshRows(std::move(rows));
-    if (ui->lvGarments->selectedRow() < 0)
-        ui->lvGarments->selectRow(0);
+    {
+        const QSignalBlocker quiet(ui->lvGarments); // the measurements are shown once, below
+        ui->lvGarments->refreshRows(std::move(rows));
+        if (ui->lvGarments->selectedRow() < 0)
+            ui->lvGarments->selectRow(0);
+    }
     showMeasurements();
 }
 

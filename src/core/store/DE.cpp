@@ -48,6 +48,8 @@ void DataEnvironment::ensureIndexes()
         {"Jobs_Detail_Item", "JOBS_DETAIL (ItemID, DATE, WorkerID, QNT, DoneByWorker)"},
         {"Jobs_Detail_Payroll", "JOBS_DETAIL (PayrollID)"},
         {"Jobs_Detail_Score", "JOBS_DETAIL (WorkerID, Score)"},
+        {"Jobs_Detail_State", "JOBS_DETAIL (DoneByWorker, WorkerID, DATE, JobDelDate)"},
+        {"Jobs_Detail_Completed", "JOBS_DETAIL (CompletedDate, WorkerID)"},
         {"Jobs_Detail_Worker", "JOBS_DETAIL (WorkerID, DATE)"},
         {"Postings_Balance", "postings (AccID, Status, Date, Amount)"},
         {"Postings_Reference", "postings (RefID)"},
