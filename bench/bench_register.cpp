@@ -3,7 +3,9 @@
 #include "OnScreen.h"
 #include "core/store/Session.h"
 #include "platform/forms/DatePicker.h"
+#include "platform/forms/ListSheet.h"
 #include "platform/forms/ListView.h"
+#include "platform/report/Workbook.h"
 #include "registers/frmDeliveryRegister.h"
 #include "registers/frmWorkerJobRegister.h"
 
@@ -96,6 +98,21 @@ void deliveryFloor(benchmark::State& state)
         state.counters["lines"] = bare::run(sql.constData());
 }
 
+/// F12 in the list of all years: every row made, and laid into a spreadsheet. Meant to take less than 2 s.
+void spreadsheet(benchmark::State& state)
+{
+    frmWorkerJobRegister screen;
+    onScreen(
+        screen, [&] { screen.showModal(); },
+        [&] {
+            chooseDays(screen, allYears);
+            showDays(screen);
+            for (auto _ : state)
+                state.counters["bytes"] = double(
+                    report::workbook(forms::sheetOf(control<forms::ListView>(screen, "lvSummary"))).size());
+        });
+}
+
 /// Answers every question that comes: Yes, and a place where one is asked. The clock starts anew at each
 /// answer, so that the operator's thinking is not counted.
 class Answers : public QObject
@@ -160,6 +177,7 @@ BENCHMARK(showRegister<frmDeliveryRegister>)
     ->Arg(month)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(deliveryFloor)->Arg(month)->Unit(benchmark::kMillisecond);
+BENCHMARK(spreadsheet)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(mark, F6, Qt::Key_F6)->UseManualTime()->Iterations(40)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(mark, F7, Qt::Key_F7)->UseManualTime()->Iterations(40)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(mark, F8, Qt::Key_F8)->UseManualTime()->Iterations(40)->Unit(benchmark::kMillisecond);

@@ -7,8 +7,10 @@
 #include "planning/frmDDP.h"
 #include "planning/frmFeedBack.h"
 #include "platform/forms/FigureButton.h"
+#include "platform/report/Preview.h"
 #include "registers/frmDueRegister.h"
 #include "registers/frmWorkerJobRegister.h"
+#include "support/Pdf.h"
 #include "support/ShopTest.h"
 #include "ui/swTextBoxMultiLine.h"
 
@@ -148,6 +150,10 @@ private Q_SLOTS:
                     QVERIFY2(taken.figure().contains("150.00"), qPrintable(taken.figure()));
                     QCOMPARE(taken.caption(), "Taken that day");
                     const int needed = pressed;
+                    onNextModal<report::Preview>([](report::Preview& paper) {
+                        QVERIFY(readBack(paper.report()).join(u' ').contains("Taken that day"));
+                    });
+                    press(Qt::Key_P, Qt::ControlModifier);
                     QVERIFY2(needed <= 6, qPrintable(QString::number(needed)));
                     key(Qt::Key_PageDown);
                     key(Qt::Key_PageDown); // not beyond the working date

@@ -318,6 +318,7 @@ private Q_SLOTS:
         const QSizeF label(100, 60);
         QTest::newRow("slip on its own sheet") << QSizeF(148, 210) << "A5" << QSizeF(420, 595) << true << 1.0;
         QTest::newRow("slip fills A4") << QSizeF(148, 210) << "A4" << a4 << true << 1.36;
+        QTest::newRow("receipt on A4 keeps its size") << QSizeF(105, 148) << "A4" << a4 << true << 1.0;
         QTest::newRow("label on A4 is not turned") << label << "A4" << a4 << true << 1.0;
         QTest::newRow("label on its own") << label << "w283h170" << QSizeF(283, 170) << true << 1.0;
         QTest::newRow("label on a narrow roll") << label << "w170h283" << QSizeF(170, 283) << false << 1.0;

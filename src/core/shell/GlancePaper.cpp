@@ -33,7 +33,7 @@ GlancePaper::GlancePaper(const figures::Shop& shop, const QDate& day)
 {
     Subject = u"Shop at a Glance "_s + dateText(day);
     addHead(day);
-    const int tables = addFigures(shop, 900);
+    const int tables = addFigures(shop, when(day), 900);
     const int half = (width() - Gap) / 2;
     const Place left{0, half, tables};
     const Place right{half + Gap, half, tables};
@@ -63,7 +63,7 @@ void GlancePaper::addHead(const QDate& day)
 }
 
 /// The six figures of the day, three beside each other.
-int GlancePaper::addFigures(const figures::Shop& shop, int top)
+int GlancePaper::addFigures(const figures::Shop& shop, const QString& when, int top)
 {
     Currency taken;
     QStringList accounts;
@@ -73,13 +73,13 @@ int GlancePaper::addFigures(const figures::Shop& shop, int top)
     }
     const figures::InShop& today = shop.due.front();
     const std::tuple<QString, QString, QString> tiles[] = {
-        {u"Due today"_s, count(today.all()), inWords(today)},
+        {u"Due "_s + when, count(today.all()), inWords(today)},
         {u"Overdue"_s, count(shop.overdue.uncompleted),
          u"%1 in alteration, %2 not fetched"_s.arg(shop.overdue.alteration).arg(shop.overdue.ready)},
-        {u"Trials today"_s, count(shop.trials.all), u"%1 not appeared"_s.arg(shop.trials.notAppeared)},
-        {u"Birthdays today"_s, count(shop.birthdays), u"clients"_s},
-        {u"Taken today"_s, money(taken), accounts.isEmpty() ? u"from clients"_s : accounts.join(u", "_s)},
-        {u"New cards today"_s, count(shop.newCards), u"job cards"_s}};
+        {u"Trials "_s + when, count(shop.trials.all), u"%1 not appeared"_s.arg(shop.trials.notAppeared)},
+        {u"Birthdays "_s + when, count(shop.birthdays), u"clients"_s},
+        {u"Taken "_s + when, money(taken), accounts.isEmpty() ? u"from clients"_s : accounts.join(u", "_s)},
+        {u"New cards "_s + when, count(shop.newCards), u"job cards"_s}};
     constexpr int columns = 3;
     const int tileWidth = width() / columns;
     int number = 0;

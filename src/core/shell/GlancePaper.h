@@ -26,7 +26,7 @@ private:
     };
 
     void addHead(const QDate& day);
-    int addFigures(const figures::Shop& shop, int top);
+    int addFigures(const figures::Shop& shop, const QString& when, int top);
     int addDue(const figures::Shop& shop, const QDate& day, Place place);
     int addDues(const figures::Shop& shop, Place place);
     int addMoney(const figures::Shop& shop, Place place);

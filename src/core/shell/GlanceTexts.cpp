@@ -1,5 +1,6 @@
 #include "core/shell/GlanceTexts.h"
 
+#include "core/store/Session.h"
 #include "core/store/Texts.h"
 #include "platform/values/Literals.h"
 #include "platform/values/Numbers.h"
@@ -17,6 +18,8 @@ QString money(Currency amount) { return values::Format(amount.toDouble(), u"#,##
 QString shortDay(const QDate& day) { return QLocale::c().toString(day, u"d MMM"_s); }
 
 QString longDay(const QDate& day) { return QLocale::c().toString(day, u"dddd"_s) + u", "_s + dateText(day); }
+
+QString when(const QDate& day) { return day == session.WorkingDate ? u"today"_s : u"that day"_s; }
 
 QString inWords(const figures::InShop& lines)
 {

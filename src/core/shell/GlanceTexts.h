@@ -16,6 +16,8 @@ QString money(Currency amount);
 QString shortDay(const QDate& day);
 /// "Saturday, 10-Feb-2024".
 QString longDay(const QDate& day);
+/// What captions call the day: "today", or "that day" for another than the working date.
+QString when(const QDate& day);
 /// How far the lines in the shop are: "2 uncompleted, 1 ready"; those of which there are none are left out.
 QString inWords(const figures::InShop& lines);
 /// "up to 30 days old".

@@ -113,8 +113,8 @@ void frmGlance::showDay()
     ui->cmdTaken->show(money(all), accounts.isEmpty() ? u"from clients"_s : accounts.join(u", "_s));
     for (forms::FigureButton* figure :
          {ui->cmdDue, ui->cmdTrials, ui->cmdBirthdays, ui->cmdTaken, ui->cmdCards})
-        figure->setCaption(figure->caption().section(u' ', 0, figure == ui->cmdCards ? 1 : 0) +
-                           (m_daysBack == 0 ? u" today"_s : u" that day"_s));
+        figure->setCaption(figure->caption().section(u' ', 0, figure == ui->cmdCards ? 1 : 0) + u' ' +
+                           when(m_day));
     ui->cmdCards->show(count(m_shop.newCards), u"job cards"_s);
 }
 

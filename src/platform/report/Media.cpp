@@ -14,7 +14,8 @@ namespace {
 
 constexpr double mmPerInch = 25.4;
 constexpr double mmPerPoint = mmPerInch / 72;
-constexpr double slack = 1.5; ///< millimetres by which names of one sheet differ
+constexpr double largestGrowth = 1.5; ///< one size up, A5 to A4; a receipt (A6) does not fill A4
+constexpr double slack = 1.5;         ///< millimetres by which names of one sheet differ
 /// In a list of options: any size can be asked for.
 constexpr auto anySize = "Custom.WIDTHxHEIGHT"_L1;
 
@@ -111,7 +112,8 @@ QStringList placing(const QString& medium, QSizeF paper)
     if (sheet.isEmpty() || paper.isEmpty())
         return options;
     const bool sameSize = hasRoom(sheet, paper) && hasRoom(paper, sheet);
-    if (isShapedAs(sheet, paper) && !sameSize)
+    const bool isNearlyAsLarge = sheet.width() < paper.width() * largestGrowth;
+    if (isShapedAs(sheet, paper) && !sameSize && isNearlyAsLarge)
         return options << u"print-scaling=fit"_s;
     if (hasRoom(sheet, paper))
         return options << asItIs << upright;

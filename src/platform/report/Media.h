@@ -41,8 +41,8 @@ int chooseMedium(const std::vector<Medium>& media, const QString& remembered);
 QString mediumTitle(const Medium& medium);
 
 /// The print system's options that lay a paper of a size (millimetres) on a sheet. Paper of the sheet's shape
-/// fills it; what has room on it upright is not turned and keeps its size; what has room only when it is
-/// turned is turned; all else is made smaller.
+/// and up to one size smaller fills it; what has room on it upright is not turned and keeps its size; what
+/// has room only when it is turned is turned; all else is made smaller.
 QStringList placing(const QString& medium, QSizeF paper);
 
 /// Asks the print system for the sheets of a printer (empty: of the default one). `answer` gets them when
