@@ -128,6 +128,7 @@ void ItemDetails::makeRow()
     row.lblCap->setTextFormat(Qt::PlainText);
     row.lblCap->setIndent(CaptionIndent);
     row.txtValue->setObjectName(u"txtValue_%1"_s.arg(index));
+    row.txtValue->setAccessibleName(u"Measurement"_s);
 
     QLabel* label = row.lblCap.get();
     swTextBox* box = row.txtValue.get();

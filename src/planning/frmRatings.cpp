@@ -47,7 +47,10 @@ void frmRatings::GetRank()
         const QString position = QString::number(rows.size() + 1);
         forms::ListView::Row row{{position, position, rank.worker, rank.score, QString()}};
         if (const auto rating = size_t(rank.rating); rating < ImageList1.size())
-            row.looks[RatingColumn].picture = ImageList1[rating];
+            row.looks[RatingColumn] = {.toolTip = u"%1 of 5 stars"_s.arg(rank.rating),
+                                       .picture = ImageList1[rating],
+                                       .bold = false,
+                                       .colour = {}};
         rows.push_back(std::move(row));
     }
     ui->lvSummary->setRows(std::move(rows));

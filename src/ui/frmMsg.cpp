@@ -9,6 +9,7 @@
 #include "platform/forms/Metrics.h"
 #include "ui_frmMsg.h"
 
+#include <QAccessible>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -52,6 +53,10 @@ frmMsg::frmMsg(QWidget* parent)
 {
     ui->setupUi(this);
     setNotice(true);
+    // Hindi stands there in letters of its font, which no screen reader can say.
+    ui->cmdOK->setAccessibleName(u"Ok"_s);
+    ui->cmdYes->setAccessibleName(u"Yes"_s);
+    ui->cmdNo->setAccessibleName(u"No"_s);
     on(ui->cmdOK, &QPushButton::clicked, [this] { answer(1); });
     on(ui->cmdYes, &QPushButton::clicked, [this] { answer(1); });
     on(ui->cmdNo, &QPushButton::clicked, [this] { answer(0); });
@@ -72,6 +77,7 @@ void frmMsg::Form_Load()
 void frmMsg::ShowMessage(const QString& text, qint32 kind, qint16& result)
 {
     MsgResult = 0;
+    setAccessibleName(text);
     load();
     if (session.Language == hindi) {
         LoadHindiText(text, kind);
@@ -89,6 +95,14 @@ void frmMsg::ShowMessage(const QString& text, qint32 kind, qint16& result)
     }
     showModal();
     result = MsgResult;
+}
+
+/// A screen reader says a message as soon as it stands there.
+void frmMsg::showEvent(QShowEvent* event)
+{
+    Screen::showEvent(event);
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 /// A message without Hindi stands in English; so does each when the texts can't be read, which the operator

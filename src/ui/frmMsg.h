@@ -28,6 +28,7 @@ public:
 protected:
     void Form_Load() override;
     void Form_KeyPress(int& key) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     /// Puts the Hindi of a text on the dialog; a sentence that Lang.mdb lacks shows in English.

@@ -3,6 +3,7 @@
 #include "platform/forms/Palette.h"
 #include "platform/values/Literals.h"
 
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -21,11 +22,38 @@ constexpr double widestBar = 34;
 constexpr double shareOfGroup = 0.72; ///< that its bars take
 constexpr double rounding = 2;
 
+/// A chart as a screen reader has it: its value is what all bars mean, its description what the chosen one
+/// does.
+class SpokenChart : public QAccessibleWidget
+{
+public:
+    explicit SpokenChart(BarChart* chart)
+        : QAccessibleWidget(chart, QAccessible::Chart)
+    {
+    }
+    QString text(QAccessible::Text what) const override
+    {
+        if (what != QAccessible::Value)
+            return QAccessibleWidget::text(what);
+        QStringList bars;
+        for (const BarChart::Group& group : static_cast<const BarChart*>(widget())->groups())
+            bars << group.meaning;
+        return bars.join(u"; "_s);
+    }
+
+    static QAccessibleInterface* of(const QString&, QObject* object)
+    {
+        auto* chart = qobject_cast<BarChart*>(object);
+        return chart ? new SpokenChart(chart) : nullptr;
+    }
+};
+
 } // namespace
 
 BarChart::BarChart(QWidget* parent)
     : QWidget(parent)
 {
+    [[maybe_unused]] static const bool spoken = (QAccessible::installFactory(&SpokenChart::of), true);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

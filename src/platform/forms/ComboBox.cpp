@@ -2,6 +2,7 @@
 
 #include "platform/forms/ListBox.h"
 #include "platform/forms/PopupPress.h"
+#include "platform/forms/SpokenName.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -128,6 +129,7 @@ void ComboBox::makeList()
     m_list = view();
     if (auto* list = qobject_cast<QListView*>(m_list))
         list->setUniformItemSizes(true);
+    m_list->setAccessibleName(spokenName(*this));
     m_list->setFocusProxy(this); // the focus stays with the box while the list is open
     m_list->window()->installEventFilter(this);
 }

@@ -114,7 +114,11 @@ public:
         if (role == Qt::BackgroundRole && shown.apart)
             return QBrush(QColor(palette::shade));
         const auto look = shown.looks.constFind(index.column());
-        return look == shown.looks.cend() ? QVariant() : data(*look, role);
+        if (look == shown.looks.cend())
+            return {};
+        if (role == Qt::AccessibleTextRole) // a picture alone is told by what stands below the pointer
+            return shown.cells.value(index.column()).isEmpty() ? look->toolTip : QString();
+        return data(*look, role);
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {

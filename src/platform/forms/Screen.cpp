@@ -1,5 +1,7 @@
 #include "platform/forms/Screen.h"
 
+#include "platform/forms/SpokenName.h"
+
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/KeyPreview.h"
 #include "platform/forms/MessageBox.h"
@@ -153,6 +155,7 @@ void Screen::present()
     if (!focusWidget())
         focusNextPrevChild(true);
     showBand();
+    nameControls(*this);
     if (!testAttribute(Qt::WA_Resized))
         adjustSize();
     fitDisplay();

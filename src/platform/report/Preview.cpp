@@ -33,6 +33,7 @@ Preview::Preview(const Report& report, QWidget* parent)
     , m_view(new PageView(m_pages, this))
 {
     setObjectName(u"Preview"_s);
+    m_view->setAccessibleName(report.Title);
     setWindowTitle(report.Title);
     auto* tools = new QHBoxLayout;
     tools->setSpacing(4);
