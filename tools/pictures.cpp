@@ -1,4 +1,5 @@
-// Renders every screen, filled with believable data, to PNG: `pictures <folder> [font folder]`.
+// Renders every screen, filled with believable data, to PNG: `pictures <folder> <program folder> [text size]
+// [look]`.
 #include "accounts/frmAccountBook.h"
 #include "accounts/frmAccountsList.h"
 #include "accounts/frmDayBook.h"
@@ -76,6 +77,7 @@
 #include <QDir>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -192,6 +194,8 @@ void picture(const char* name, const std::function<void()>& open, const Prepare&
         if (prepare)
             prepare(*screen);
         QTimer::singleShot(settle, screen, [=] {
+            if (screen->size().boundedTo(screen->screen()->availableSize()) != screen->size())
+                qCritical("%s is larger than the display", name);
             screen->grab().save(folder.filePath(QString::fromLatin1(name) + u".png"_s));
             while (QWidget* popup = QApplication::activePopupWidget())
                 popup->close();
@@ -274,7 +278,8 @@ void takeThoseOfCopies()
         });
 }
 
-void takeAll()
+/// Menus, and what is set up once.
+void takeThoseOfTheShop()
 {
     picture("masters", [] { frmMasters().showModal(); });
     picture("reports", [] { frmMenu().showModal(); });
@@ -289,6 +294,11 @@ void takeAll()
                 auto* tabs = screen.findChild<QTabWidget*>(u"SSTab1"_s);
                 tabs->setCurrentWidget(tabs->findChild<QWidget*>(u"page"_s + QLatin1String(tab)));
             });
+}
+
+/// Clients, workers, items and accounts.
+void takeThoseOfMasters()
+{
     picture(
         "clients", [] { frmClients().showModal(); }, selectInList);
     picture("client", [] { frmEditClients().Edit(static_cast<qint16>(GetAccountID(client()))); });
@@ -300,6 +310,11 @@ void takeAll()
     picture("item", [] { frmEditItem().Edit(1); });
     picture("accounts", [] { frmAccountsList().showModal(); });
     picture("account", [] { frmEditAccount().ShowEdit(4); });
+}
+
+/// Vouchers and wages.
+void takeThoseOfMoney()
+{
     picture("voucher", [] {
         qint16 saved = 0;
         frmTransiction().ShowAddNew(client(), saved);
@@ -315,6 +330,11 @@ void takeAll()
         report::Preview(*wagesPaper(wages::read(wages::linesOfPayroll(payrollShown())), payrollWorker()))
             .showModal();
     });
+}
+
+/// The card, the registers and the books.
+void takeRegisters()
+{
     picture("job-card", [] { frmEditJOB().ShowEdit(showpiece()); });
     picture(
         "job-register", [] { frmWorkerJobRegister().showModal(); }, showDueLines);
@@ -331,6 +351,11 @@ void takeAll()
         [](forms::Screen& screen) { showDays(screen, 180); });
     picture(
         "day-book", [] { frmDayBook().showModal(); }, [](forms::Screen& screen) { showDays(screen, 3); });
+}
+
+/// What is printed.
+void takePapers()
+{
     picture("paper-list", [] {
         frmDueRegister dues;
         dues.load();
@@ -359,6 +384,11 @@ void takeAll()
     picture("paper-receipt", [receipt] { PrintReceipt(receipt); });
     SetSetting(settings::TwoReceipts, u"1"_s);
     picture("paper-receipt-twice", [receipt] { PrintReceipt(receipt); });
+}
+
+/// A garment and its pictures, the client who orders.
+void takeThoseOfOrders()
+{
     picture("garment-picture", [] {
         frmPreview().ShowImage(value(u"Select Img2 from Jobs_Detail where Img2<>''"_s).toString());
     });
@@ -392,6 +422,11 @@ void takeAll()
             value(u"Select ClintName from JOBS_DETAIL group by ClintID, ItemID order by count(*) desc"_s)
                 .toString());
     });
+}
+
+/// The shop as a whole, and small pickers.
+void takeThoseOfPlanning()
+{
     picture("glance", [] { frmGlance().showModal(); });
     picture("check-shop", [] {
         frmCheckShop(
@@ -419,6 +454,11 @@ void takeAll()
     });
     picture("cloth-color", [] { frmClothColor().choose(0); });
     picture("select-file", [] { frmSelectFile().SelFile(); });
+}
+
+/// Messages and questions.
+void takeMessages()
+{
     picture("notice", [] { message("New Job Created.", 1, "English"); });
     picture("question", [] { message("Are you sure to exit?", 2, "English"); });
     picture("notice-hindi", [] { message("New Job Created.", 1, "Hindi"); });
@@ -432,6 +472,18 @@ void takeAll()
     picture("question-hindi", [] {
         message("This Job has been registered.\r\nWould you like to Inform Client via SMS?", 2, "Hindi");
     });
+}
+
+void takeAll()
+{
+    takeThoseOfTheShop();
+    takeThoseOfMasters();
+    takeThoseOfMoney();
+    takeRegisters();
+    takePapers();
+    takeThoseOfOrders();
+    takeThoseOfPlanning();
+    takeMessages();
     takeThoseOfCopies();
     // Last: the program ends with its main screen.
     picture("main", [] {
@@ -454,6 +506,8 @@ int main(int argc, char* argv[])
     folder.mkpath(u"."_s);
     const QString program = arguments[2];
     forms::applyTheme(application, program + u"/fonts"_s);
+    forms::setAppearance({arguments.value(4) == darkLook ? palette::Look::Dark : palette::Look::Light,
+                          arguments.value(3, settings::TextSize.standard).toInt()});
     const QTemporaryDir temporary;
     sample::layShop(sample::demo(day), temporary.path());
     QFile::copy(program + u"/Lang.mdb"_s, session.languageDatabasePath());

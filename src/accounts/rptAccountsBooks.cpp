@@ -83,7 +83,7 @@ void rptAccountsBooks::designShop()
     paper::company(shop, 0, 0, Width, 20);
     Label& address = shop.addLabel(u"lblAddress"_s, {});
     address.place(0, 520, Width, 270);
-    address.Color = palette::ink;
+    address.Color = palette::onPaper::ink;
     address.Alignment = Qt::AlignHCenter;
     address.CanGrow = true;
     paper::subtitle(shop, u"lblReport"_s, Title, 860, Width, 13).Bold = true;
@@ -93,7 +93,7 @@ void rptAccountsBooks::designShop()
 void rptAccountsBooks::designHead()
 {
     Section& head = addSection(u"Section2"_s, Band::PageHead);
-    paper::rule(head, u"Line1"_s, 0, 0, Width, palette::ink).Weight = 25;
+    paper::rule(head, u"Line1"_s, 0, 0, Width, palette::onPaper::ink).Weight = 25;
     struct Line
     {
         const char* caption;
@@ -113,7 +113,7 @@ void rptAccountsBooks::designHead()
         Label& value = head.addLabel(QLatin1String(line.name), {});
         value.place(left + captionWidth, line.top,
                     (line.left == right ? Width - Gap : right - Gap) - left - captionWidth, 270);
-        value.Color = palette::ink;
+        value.Color = palette::onPaper::ink;
         value.Bold = true;
         value.CanGrow = true;
         if (line.left == right)
@@ -127,7 +127,7 @@ void rptAccountsBooks::designHead()
         title.place(column.left, top + 70, column.width, 240);
         title.FontSize = 9;
         title.Bold = true;
-        title.Color = palette::ink;
+        title.Color = palette::onPaper::ink;
         if (column.money)
             title.Alignment = Qt::AlignRight;
     }
@@ -161,7 +161,7 @@ void rptAccountsBooks::designTotals()
         label.place(left, 100, width, 260);
         label.FontSize = 9;
         label.Bold = true;
-        label.Color = palette::ink;
+        label.Color = palette::onPaper::ink;
         label.CanGrow = true;
         return label;
     };

@@ -62,7 +62,7 @@ rptReceipt::rptReceipt(const Receipt& receipt, const QString& payment, bool twic
     }
     m_page.Height = m_top;
     if (twice) {
-        Shape& cut = paper::rule(m_page, u"Cut"_s, mm(105) - Margin, 0, 0, palette::quietInk);
+        Shape& cut = paper::rule(m_page, u"Cut"_s, mm(105) - Margin, 0, 0, palette::onPaper::quietInk);
         cut.Height = m_top;
         cut.Dashed = true;
     }
@@ -75,7 +75,7 @@ Label& rptReceipt::addText(const QString& name, const QString& text, int left, i
     Label& label = m_page.addLabel(name, text);
     label.place(left, m_top, width, int(size * lineHeight));
     label.FontSize = size;
-    label.Color = palette::ink;
+    label.Color = palette::onPaper::ink;
     label.CanGrow = true;
     m_top += label.Height;
     return label;
@@ -87,10 +87,10 @@ void rptReceipt::designShop(int left)
     for (const QString& line :
          {session.ShopAddress1, session.ShopAddress2, session.ShopAddress3, session.ShopContacts}) {
         if (!line.isEmpty())
-            addText(u"lblAddress"_s, line, left, Width, 8).Color = palette::quietInk;
+            addText(u"lblAddress"_s, line, left, Width, 8).Color = palette::onPaper::quietInk;
     }
     m_top += 80;
-    paper::rule(m_page, u"Line1"_s, left, m_top, Width, palette::ink).Weight = 20;
+    paper::rule(m_page, u"Line1"_s, left, m_top, Width, palette::onPaper::ink).Weight = 20;
     m_top += 100;
 }
 
@@ -99,7 +99,7 @@ void rptReceipt::designMoney(int left)
     paper::caption(m_page, u"Label1"_s, u"Receipt #"_s, left, m_top, CaptionWidth);
     Label& day = paper::caption(m_page, u"lblDate"_s, dateText(m_receipt.date), left, m_top, Width);
     day.Alignment = Qt::AlignRight;
-    day.Color = palette::ink;
+    day.Color = palette::onPaper::ink;
     Label& number =
         addText(u"lblNumber"_s, m_receipt.number, left + CaptionWidth, Width - CaptionWidth - 1300, 11);
     number.Bold = true;
@@ -154,7 +154,7 @@ void rptReceipt::designFoot(int left)
     shop.Alignment = Qt::AlignRight;
     m_top = top + CodeEdge - 240;
     paper::rule(m_page, u"Line3"_s, left + signatureLeft + 700, m_top, signatureWidth - 700,
-                palette::quietInk);
+                palette::onPaper::quietInk);
     paper::caption(m_page, u"Label5"_s, u"Auth Sig"_s, left + signatureLeft, m_top + 30, signatureWidth)
         .Alignment = Qt::AlignRight;
     m_top = top + CodeEdge + 260;

@@ -42,13 +42,13 @@ rptWagesRegister::rptWagesRegister()
     Section& head = addSection(u"Section2"_s, Band::PageHead, 1980);
     paper::company(head, 0, 0, Width, 16);
     paper::subtitle(head, u"lblTitle"_s, Title, 440, Width, 11);
-    paper::rule(head, u"Line1"_s, 0, 820, Width, palette::ink).Weight = 20;
+    paper::rule(head, u"Line1"_s, 0, 820, Width, palette::onPaper::ink).Weight = 20;
     paper::caption(head, u"Label1"_s, u"Worker Name :"_s, Gap, 980, 1350);
     Label& worker = head.addLabel(u"lblWorkerName"_s, {});
     worker.place(Gap + 1350, 950, Width - 1350 - Gap, 320);
     worker.FontSize = 13;
     worker.Bold = true;
-    worker.Color = palette::ink;
+    worker.Color = palette::onPaper::ink;
 
     constexpr int titles = 1440;
     paper::bar(head, u"Shape1"_s, 0, titles, Width, 380);

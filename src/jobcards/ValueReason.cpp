@@ -56,12 +56,11 @@ void ValueReason::place()
     update();
 }
 
-/// The box that has the focus is black.
 void ValueReason::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setFont(smallFont());
-    painter.setPen(QColor(m_box.hasFocus() ? palette::amber : palette::notice));
+    painter.setPen(QColor(m_box.hasFocus() ? QRgb(palette::focusNotice) : QRgb(palette::notice)));
     painter.drawText(rect(), Layout,
                      m_fits ? m_reason : painter.fontMetrics().elidedText(m_reason, Qt::ElideRight, width()));
 }

@@ -69,7 +69,7 @@ void rptJOBCARD::designHead()
     for (const char* name : {"lblAddress1", "lblAddress2", "lblAddress3", "lblContact"}) {
         Label& line = head.addLabel(QLatin1String(name), {});
         line.place(HeadingLeft, top, Width + Left - HeadingLeft, 270);
-        line.Color = palette::ink;
+        line.Color = palette::onPaper::ink;
         line.Alignment = Qt::AlignHCenter;
         line.CanGrow = true;
         top += 270;
@@ -77,12 +77,12 @@ void rptJOBCARD::designHead()
     Label& tag = head.addLabel(u"lblTag"_s, {});
     tag.place(Left, HeadingHeight + 60, Width, 280);
     tag.Italic = true;
-    tag.Color = palette::quietInk;
+    tag.Color = palette::onPaper::quietInk;
     tag.Alignment = Qt::AlignHCenter;
     tag.CanGrow = true;
 
     top = HeadingHeight + 440;
-    paper::rule(head, u"Line1"_s, Left, top, Width, palette::ink).Weight = 25;
+    paper::rule(head, u"Line1"_s, Left, top, Width, palette::onPaper::ink).Weight = 25;
 
     top += 160;
     constexpr int rowHeight = 340;
@@ -119,7 +119,7 @@ void rptJOBCARD::designHead()
         title.place(column.left, top + 70, column.width, 240);
         title.FontSize = 9;
         title.Bold = true;
-        title.Color = palette::ink;
+        title.Color = palette::onPaper::ink;
         title.Alignment = column.alignment;
         title.Repeats = true;
     }
@@ -176,7 +176,7 @@ void rptJOBCARD::designFoot()
     samples.place(Left, 220, 5400, boxHeight);
     samples.Frame = true;
     samples.Dashed = true;
-    samples.Color = palette::quietInk;
+    samples.Color = palette::onPaper::quietInk;
     Label& staple =
         paper::caption(foot, u"Label15"_s, u"Staple Cloth Samples here..."_s, Left + 160, 320, 5000);
     staple.Italic = true;
@@ -184,9 +184,10 @@ void rptJOBCARD::designFoot()
     Label& company = foot.addLabel(u"lblForCompany"_s, {});
     company.place(right, 1500, Left + Width - right - Gap, 260);
     company.Alignment = Qt::AlignRight;
-    company.Color = palette::ink;
+    company.Color = palette::onPaper::ink;
     company.CanGrow = true;
-    paper::rule(foot, u"Line3"_s, right + 1400, 2620, Left + Width - right - Gap - 1400, palette::quietInk);
+    paper::rule(foot, u"Line3"_s, right + 1400, 2620, Left + Width - right - Gap - 1400,
+                palette::onPaper::quietInk);
     paper::caption(foot, u"Label9"_s, u"Auth Sig"_s, right, 2660, Left + Width - right - Gap).Alignment =
         Qt::AlignRight;
     Label& house =

@@ -27,7 +27,7 @@ rptLabel::rptLabel()
 
     Section& line = addSection(u"Section1"_s, Band::Detail);
     paper::company(line, 0, 0, Width, 12);
-    paper::rule(line, u"Line1"_s, 0, 340, Width, palette::ink).Weight = 15;
+    paper::rule(line, u"Line1"_s, 0, 340, Width, palette::onPaper::ink).Weight = 15;
     const auto row = [&](const char* label, const char* caption, const char* field, const char* dataField,
                          int top, int width) -> Field& {
         paper::caption(line, QLatin1String(label), QLatin1String(caption), 0, top, CaptionWidth);
@@ -47,7 +47,7 @@ rptLabel::rptLabel()
     Shape& tag = line.addShape(u"Shape1"_s);
     tag.place(CaptionWidth + 960, top - 25, 460, 290);
     tag.Frame = true;
-    tag.Color = palette::ink;
+    tag.Color = palette::onPaper::ink;
     Field& item = paper::value(line, u"Text1"_s, u"ItemSr"_s, tag.Left, top, tag.Width);
     item.Bold = true;
     item.Alignment = Qt::AlignHCenter;

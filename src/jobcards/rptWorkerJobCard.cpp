@@ -38,7 +38,7 @@ rptWorkerJobCard::rptWorkerJobCard()
 
     Section& head = addSection(u"Section2"_s, Band::PageHead, 620);
     paper::company(head, 0, 0, Width, 16);
-    paper::rule(head, u"Line1"_s, 0, 480, Width, palette::ink).Weight = 20;
+    paper::rule(head, u"Line1"_s, 0, 480, Width, palette::onPaper::ink).Weight = 20;
 
     Section& line = addSection(u"Section1"_s, Band::Detail);
     const auto left = [&](const char* label, const char* caption, const char* field, const char* dataField,
@@ -83,7 +83,7 @@ rptWorkerJobCard::rptWorkerJobCard()
     paper::bar(line, u"Shape1"_s, 0, top, Width, 360);
     Label& specifications = paper::caption(line, u"Label8"_s, u"Specifications"_s, 120, top + 50, 3000);
     specifications.Bold = true;
-    specifications.Color = palette::ink;
+    specifications.Color = palette::onPaper::ink;
     top += 440;
     Field& names = paper::value(line, u"txtItemDetails"_s, u"ItemDetails"_s, 120, top, NameWidth);
     names.FontSize = 11;

@@ -84,13 +84,13 @@ void swSnap::tell(const QString& text)
 void swSnap::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor(palette::ink));
+    painter.fillRect(rect(), QColor(palette::panel));
     if (!m_seen.isNull()) {
         QRect place(QPoint(), m_seen.size().scaled(size(), Qt::KeepAspectRatio));
         place.moveCenter(rect().center());
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(place, m_seen);
     }
-    painter.setPen(QColor(palette::shade));
+    painter.setPen(QColor(palette::panelInk));
     painter.drawText(rect().adjusted(16, 16, -16, -16), int(Qt::AlignCenter) | Qt::TextWordWrap, m_note);
 }

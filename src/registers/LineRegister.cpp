@@ -27,8 +27,8 @@ const QString allWorkers = u"*All"_s;
 constexpr int totalColumn = 2;
 
 /// Of the dots: waiting, ready, gone, back on the table, void.
-constexpr QRgb stateColours[] = {palette::amber, palette::green, palette::grey, palette::rust,
-                                 palette::slate};
+constexpr const palette::Tone* stateColours[] = {&palette::amber, &palette::green, &palette::grey,
+                                                 &palette::rust, &palette::slate};
 
 } // namespace
 
@@ -53,8 +53,8 @@ QPixmap statusDot(qint32 state)
     dot.fill(Qt::transparent);
     QPainter painter(&dot);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(palette::white), 1)); // a ring, for a chosen row has a colour of its own
-    painter.setBrush(QColor(stateColours[state]));
+    painter.setPen(QPen(QColor(palette::ring), 1)); // a ring, for a chosen row has a colour of its own
+    painter.setBrush(QColor(*stateColours[state]));
     painter.drawEllipse(QRectF(0.5, 0.5, size - 1, size - 1));
     painter.end();
     key = QPixmapCache::insert(dot);
@@ -214,7 +214,7 @@ forms::ListView::Row LineRegister::totalRow(size_t lines) const
         total.cells << u" "_s;
     total.total = true;
     total.cells[totalColumn] = u"Total JOBS : %1"_s.arg(lines);
-    total.looks[totalColumn] = {{}, {}, true, QColor(palette::emphasis)};
+    total.looks[totalColumn] = {{}, {}, true, &palette::emphasis};
     return total;
 }
 

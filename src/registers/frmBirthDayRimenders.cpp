@@ -14,7 +14,7 @@ namespace {
 void dim(forms::ListView::Row& row)
 {
     for (int column = 0; column < int(row.cells.size()); ++column)
-        row.looks[column].colour = QColor(palette::faint);
+        row.looks[column].colour = &palette::quietInk;
 }
 
 } // namespace

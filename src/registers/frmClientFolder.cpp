@@ -165,7 +165,7 @@ void frmClientFolder::showMeasurements()
             for (size_t order = 0; order < orders; ++order) {
                 row.cells << garment->orders[order].values.value(i);
                 if (garment->isChanged(order, i))
-                    row.looks[FirstOrder + int(order)] = {{}, {}, true, QColor(palette::accent)};
+                    row.looks[FirstOrder + int(order)] = {{}, {}, true, &palette::accent};
             }
             rows.push_back(std::move(row));
         }

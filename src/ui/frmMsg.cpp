@@ -138,6 +138,13 @@ void frmMsg::layOut()
         QRect(0, 0, widest, QWIDGETSIZE_MAX), Qt::TextWordWrap | Qt::TextExpandTabs, label.text());
     label.resize(natural.width() + 2, natural.height() + 2);
 
+    // The heading has its place at the common text size; a larger one moves what stands below.
+    QLabel& title = *ui->lblTitle;
+    title.ensurePolished();
+    const int lower = forms::textScale > 1 ? qMax(0, title.sizeHint().height() - title.height()) : 0;
+    title.resize(title.sizeHint().expandedTo(title.size()).width(), title.height() + lower);
+    label.move(label.x(), label.y() + lower);
+
     QSize button(twips(1350), 0);
     const auto buttons = {ui->cmdOK, ui->cmdYes, ui->cmdNo, ui->cmdByPhone};
     for (QPushButton* each : buttons)
@@ -146,11 +153,11 @@ void frmMsg::layOut()
         each->resize(button);
 
     constexpr int titleBar = twips(420); // the form's height counts it
-    const int formHeight = button.height() + label.height() + twips(1500) - titleBar;
+    const int formHeight = button.height() + label.height() + lower + twips(1500) - titleBar;
     constexpr int gap = twips(50);
     const int threeButtons = m_phoneOffered ? 3 * button.width() + 2 * gap + 2 * twips(200) : 0;
     const int formWidth = std::max({label.width() + twips(500), twips(4650), threeButtons});
-    const int top = label.height() + twips(900);
+    const int top = label.height() + lower + twips(900);
     const int last = formWidth - (button.width() + twips(200));
     setFixedSize(formWidth, formHeight);
     const int margin = ui->Shape1->x();

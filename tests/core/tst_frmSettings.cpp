@@ -2,7 +2,9 @@
 #include "core/shell/frmSettings.h"
 #include "core/store/Backup.h"
 #include "messaging/modSMS.h"
+#include "platform/forms/Theme.h"
 #include "support/ShopTest.h"
+#include "ui/Appearance.h"
 #include "ui/frmSelectFile.h"
 #include "ui/swTextBoxMultiLine.h"
 
@@ -136,6 +138,37 @@ private Q_SLOTS:
             QCOMPARE(focused(screen), "txtSMS3");
             QCOMPARE(stored(23), "none");
         });
+    }
+
+    /// At once, for the screens that are open too, and again after the next start.
+    void textSizeAndLook()
+    {
+        for (const char* size : {"", "7000", "-1", "150x"}) {
+            SetSetting(settings::TextSize, size);
+            SetSetting(settings::ScreenLook, "Purple");
+            QCOMPARE(GetTextSize(), 100);
+            QVERIFY(!IsDarkLook());
+        }
+        inModal<frmSettings>([this](frmSettings& screen) {
+            QCOMPARE(combo(screen, "cmbTextSize").text() + combo(screen, "cmbLook").text(), "100 %Light");
+            combo(screen, "cmbTextSize").setText("150 %");
+            combo(screen, "cmbLook").setText("Dark");
+            control<QWidget>(screen, "txtDelMargin").setFocus();
+            typeText("12");
+            prompts->expect("Settings Updated.");
+            press(Qt::Key_S, Qt::AltModifier);
+            QCOMPARE(field(screen, "txtDelMargin").text(), "12");
+            QCOMPARE(control<QLabel>(screen, "lblLook").fontInfo().pointSizeF(), 15.75);
+            QCOMPARE(control<QLabel>(screen, "lblLook").palette().color(QPalette::WindowText),
+                     QColor(palette::ink.dark));
+        });
+        QCOMPARE(stored(51) + stored(52), "150Dark");
+        forms::setAppearance({});
+        shop->reopen();
+        ApplyAppearance();
+        QVERIFY(forms::appearance() == forms::Appearance({palette::Look::Dark, 150}));
+        forms::setAppearance({});
+        qApp->setStyleSheet({});
     }
 
     void backsUpAndRestores()

@@ -2,6 +2,7 @@
 #include "jobcards/frmAddItem.h"
 #include "jobcards/frmEditJOB.h"
 #include "platform/ado/DatabaseError.h"
+#include "platform/forms/Theme.h"
 #include "platform/report/Preview.h"
 #include "platform/report/PrintDialog.h"
 #include "platform/report/Printing.h"
@@ -13,6 +14,7 @@
 
 #include <QComboBox>
 #include <QFontDatabase>
+#include <QPainter>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -93,6 +95,33 @@ private Q_SLOTS:
     }
 
     /// The card asks for what is due on it, and for nothing where nothing is.
+    /// To the point, whichever look and text size the screens have.
+    void papersKeepTheirFace()
+    {
+        storeCard();
+        const auto printed = [this] {
+            QList<QImage> pages;
+            std::unique_ptr<report::Report> papers[] = {JobCardPaper(7), WorkerSlipPaper(line),
+                                                        LabelPaper(line)};
+            for (const auto& paper : papers) {
+                const report::Pages laid(*paper);
+                QImage page((laid.size() / 15).toSize(), QImage::Format_RGB32);
+                page.fill(Qt::white);
+                QPainter painter(&page);
+                painter.scale(1 / 15.0, 1 / 15.0);
+                laid.paint(painter, 0);
+                pages << page;
+            }
+            return pages;
+        };
+        const QList<QImage> before = printed();
+        forms::setAppearance({palette::Look::Dark, 160});
+        const QList<QImage> after = printed();
+        forms::setAppearance({});
+        qApp->setStyleSheet({});
+        QCOMPARE(after, before);
+    }
+
     void cardIsPaidByPhone()
     {
         storeCard();

@@ -407,7 +407,7 @@ private Q_SLOTS:
         ListView view;
         view.setColumns({{"Client", 50}, {"City", 50}});
         BarChart chart;
-        chart.setSeries({{"Due", Qt::blue}}, BarChart::Bars::Stacked);
+        chart.setSeries({{"Due", &palette::accent}}, BarChart::Bars::Stacked);
         QSignalSpy clicked(&combo, &ComboBox::clicked);
         QSignalSpy opened(&chart, &BarChart::opened);
         for (QWidget* each : std::initializer_list<QWidget*>{&combo, &fixed, &box, &view, &chart}) {

@@ -1,15 +1,20 @@
+#include "platform/forms/DatePicker.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/forms/Screen.h"
+#include "platform/forms/Theme.h"
 #include "platform/values/Errors.h"
 #include "support/Fields.h"
 #include "support/Modal.h"
 #include "support/Prompts.h"
 
+#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTest>
 #include <QVBoxLayout>
+#include <cmath>
 
 using namespace forms;
 
@@ -71,6 +76,33 @@ protected:
             unload();
     }
 };
+
+static QString styleSheet()
+{
+    QFile sheet(":/style.qss");
+    return sheet.open(QIODevice::ReadOnly) ? QString::fromUtf8(sheet.readAll()) : QString();
+}
+
+/// The palette's name that a rule gives to a property; empty for none.
+static QString colourOf(const QString& property, const QString& rule)
+{
+    const QRegularExpression given("(?:^|[;\\s])" + property + ":\\s*@(\\w+)");
+    return given.match(rule).captured(1);
+}
+
+static double luminance(const QString& tone, palette::Look look)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    for (const palette::Tone* each : palette::tones())
+        if (tone == QLatin1StringView(each->name)) {
+            const QColor colour(each->in(look));
+            return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+                   0.0722 * linear(colour.blueF());
+        }
+    qFatal("No colour %s", qPrintable(tone));
+}
 
 class tst_screen : public QObject
 {
@@ -164,6 +196,106 @@ private Q_SLOTS:
             }
         });
         screen.showModal();
+    }
+
+    /// The style sheet names no colour of its own, and what it writes can be read in both looks.
+    void textStandsOffFromItsGround_data()
+    {
+        using namespace palette;
+        QTest::addColumn<QString>("ink");
+        QTest::addColumn<QString>("ground");
+        const auto pair = [](const QString& text, const QString& ground) {
+            QTest::addRow("%s on %s", qPrintable(text), qPrintable(ground)) << text << ground;
+        };
+        for (const auto& [text, ground] :
+             std::initializer_list<std::pair<Tone, Tone>>{{notice, window},
+                                                          {notice, card},
+                                                          {focusNotice, focusGround},
+                                                          {emphasis, shade},
+                                                          {accent, card},
+                                                          {accent, shade},
+                                                          {ink, shade},
+                                                          {quietInk, shade},
+                                                          {panelInk, panel},
+                                                          {ink, accentSoft},
+                                                          {panelBright, panelMain},
+                                                          {onAccent, accent}})
+            pair(text.name, ground.name);
+        static const QRegularExpression rules("([^{}]+)\\{([^}]*)\\}");
+        for (auto rule = rules.globalMatch(styleSheet()); rule.hasNext();) {
+            const auto found = rule.next();
+            const QString who = found.captured(1);
+            const QString text = colourOf("color", found.captured(2));
+            const QString own = colourOf("background", found.captured(2));
+            if (const QString chosen = colourOf("selection-color", found.captured(2)); !chosen.isEmpty())
+                pair(chosen, own.isEmpty() || who.contains("View")
+                                 ? "accent"
+                                 : colourOf("selection-background-color", found.captured(2)));
+            if (text.isEmpty() || who.contains(":disabled"))
+                continue;
+            if (!own.isEmpty())
+                pair(text, own);
+            else if (who.contains("#Picture2"))
+                pair(text, "panel"), pair(text, "panelHover");
+            else if (who.contains("BannerStrip"))
+                pair(text, "bannerGround");
+            else if (who.contains("QToolButton"))
+                pair(text, "accent");
+            else if (!who.contains(":checked") && !who.contains("QComboBox QLineEdit"))
+                pair(text, "window"), pair(text, "card");
+        }
+    }
+    void textStandsOffFromItsGround()
+    {
+        QFETCH(QString, ink);
+        QFETCH(QString, ground);
+        for (const palette::Look look : {palette::Look::Light, palette::Look::Dark}) {
+            const bool red = ink == "emphasis" && look == palette::Look::Light; // the total's, bold
+            const double contrast = (luminance(ink, look) + 0.05) / (luminance(ground, look) + 0.05);
+            const double ratio = std::max(contrast, 1 / contrast);
+            QVERIFY2(ratio >= (red ? 3 : 4.5),
+                     qPrintable(QString("%1 in look %2").arg(ratio).arg(int(look))));
+        }
+    }
+
+    /// In both looks: nothing is left of the names, and letters grow.
+    void styleSheetOfAnAppearance()
+    {
+        static const QRegularExpression ownColour("#[0-9A-Fa-f]{6}\\b|\\b(white|black)\\s*;");
+        QVERIFY(!styleSheet().contains(ownColour));
+        for (const palette::Look look : {palette::Look::Light, palette::Look::Dark})
+            QVERIFY(!expandStyleSheet(styleSheet(), {look, 100}).contains('@'));
+        QCOMPARE(expandStyleSheet(
+                     "a { color: @inkling; font: 10pt; background: @ink; min-height: 20px; padding: 4px }",
+                     {palette::Look::Dark, 150}),
+                 "a { color: @inkling; font: 15pt; background: #f2f5f7; min-height: 30px; padding: 4px }");
+    }
+
+    /// What is half typed or chosen stays, and the screen grows with its text; and back.
+    void changesItsLookWhileItIsOpen()
+    {
+        inModal<Counter>([](Counter& screen) {
+            DatePicker day(&screen);
+            day.setMaximumWidth(100);
+            screen.layout()->addWidget(&day);
+            day.show();
+            day.setFocus();
+            typeText("12-");
+            const QString typed = day.text();
+            screen.second.setText("half a wor");
+            setAppearance({palette::Look::Dark, 150});
+            QCOMPARE(day.text(), typed);
+            QVERIFY(day.hasFocus());
+            QCOMPARE(day.maximumWidth(), 150);
+            QCOMPARE(screen.second.text(), "half a wor");
+            QCOMPARE(screen.save.palette().color(QPalette::ButtonText), QColor(palette::ink.dark));
+            QCOMPARE(screen.save.fontInfo().pointSizeF(), 15.75);
+            QVERIFY(screen.screen()->geometry().contains(screen.geometry()));
+            setAppearance({});
+            QCOMPARE(day.maximumWidth(), 100);
+            QCOMPARE(screen.save.palette().color(QPalette::ButtonText), QColor(palette::ink.light));
+        });
+        qApp->setStyleSheet({});
     }
 
     void errorsReachTheOperatorAndTheProgramGoesOn()

@@ -147,8 +147,7 @@ private Q_SLOTS:
                 on(day);
                 QStringList seen;
                 for (int row = 0; row < list(screen).rowCount(); ++row)
-                    seen << list(screen).cell(row, 0) +
-                                (list(screen).look(row, 1).colour.isValid() ? u" yes" : u" no");
+                    seen << list(screen).cell(row, 0) + (list(screen).look(row, 1).colour ? u" yes" : u" no");
                 QCOMPARE(seen.join(u", "_s), dimmed);
                 QCOMPARE(control<HelpLine>(screen, "lblHelp").notice().isEmpty(), !dimmed.contains(u"yes"_s));
             }

@@ -51,7 +51,7 @@ Label& GlancePaper::addText(const QString& text, int left, int top, int width, d
     Label& label = m_head.addLabel(newName(), text);
     label.place(left, top, width, RowHeight);
     label.FontSize = fontSize;
-    label.Color = palette::ink;
+    label.Color = palette::onPaper::ink;
     return label;
 }
 
@@ -59,7 +59,7 @@ void GlancePaper::addHead(const QDate& day)
 {
     paper::company(m_head, 0, 0, width(), 16).Caption = session.ShopName;
     paper::subtitle(m_head, newName(), Title + u"  ·  "_s + longDay(day), 440, width(), 11);
-    paper::rule(m_head, newName(), 0, 780, width(), palette::ink).Weight = 20;
+    paper::rule(m_head, newName(), 0, 780, width(), palette::onPaper::ink).Weight = 20;
 }
 
 /// The six figures of the day, three beside each other.
@@ -86,7 +86,7 @@ int GlancePaper::addFigures(const figures::Shop& shop, const QString& when, int 
     for (const auto& [caption, figure, more] : tiles) {
         const int left = number % columns * tileWidth;
         const int tileTop = top + number / columns * TileHeight;
-        addText(caption, left, tileTop, tileWidth - 120, 8).Color = palette::quietInk;
+        addText(caption, left, tileTop, tileWidth - 120, 8).Color = palette::onPaper::quietInk;
         Label& large = addText(figure, left, tileTop + 190, tileWidth - 120, 14);
         large.Height = 340;
         large.Bold = true;
@@ -133,7 +133,8 @@ int GlancePaper::addDue(const figures::Shop& shop, const QDate& day, Place place
     for (size_t i = 0; i < shop.due.size(); ++i) {
         const figures::InShop& lines = shop.due[i];
         addBar(QLocale::c().toString(day.addDays(qint64(i)), u"ddd d MMM"_s),
-               {{double(lines.notReady()), palette::accent}, {double(lines.ready), palette::accentLight}},
+               {{double(lines.notReady()), palette::onPaper::accent},
+                {double(lines.ready), palette::onPaper::accentLight}},
                highest, lines.all() == 0 ? u"nothing"_s : u"%1, %2 ready"_s.arg(lines.all()).arg(lines.ready),
                place);
     }
@@ -152,7 +153,7 @@ int GlancePaper::addDues(const figures::Shop& shop, Place place)
     static const QString labels[figures::Dues::ages] = {u"30 days"_s, u"60 days"_s, u"90 days"_s, u"older"_s};
     for (int age = 0; age < figures::Dues::ages; ++age) {
         const Currency due = shop.dues.byAge[age];
-        addBar(labels[age], {{due.toDouble(), palette::accent}}, highest, money(due), place);
+        addBar(labels[age], {{due.toDouble(), palette::onPaper::accent}}, highest, money(due), place);
     }
     return place.top + 80;
 }
@@ -164,10 +165,10 @@ int GlancePaper::addMoney(const figures::Shop& shop, Place place)
     for (const figures::Week& week : shop.weeks)
         highest = std::max({highest, week.booked.toDouble(), week.taken.toDouble()});
     for (const figures::Week& week : shop.weeks) {
-        addBar(shortDay(week.from), {{week.booked.toDouble(), palette::accentLight}}, highest,
+        addBar(shortDay(week.from), {{week.booked.toDouble(), palette::onPaper::accentLight}}, highest,
                money(week.booked), place);
         place.top -= RowHeight - BarHeight - 50;
-        addBar({}, {{week.taken.toDouble(), palette::accent}}, highest, money(week.taken), place);
+        addBar({}, {{week.taken.toDouble(), palette::onPaper::accent}}, highest, money(week.taken), place);
     }
     return place.top + 80;
 }

@@ -1,5 +1,6 @@
 #include "core/shell/Wallpaper.h"
 
+#include "platform/forms/Palette.h"
 #include "platform/forms/Pictures.h"
 
 #include <QEvent>
@@ -58,6 +59,7 @@ void Wallpaper::paintEvent(QPaintEvent*)
         drawBuiltIn(drawn.expandedTo(size()));
     const QSizeF all = m_builtIn.deviceIndependentSize();
     painter.drawPixmap(QPointF((width() - all.width()) / 2, (height() - all.height()) / 2), m_builtIn);
+    painter.fillRect(rect(), QColor::fromRgba(palette::wallVeil));
 }
 
 void Wallpaper::drawBuiltIn(const QSize& size)
@@ -65,7 +67,7 @@ void Wallpaper::drawBuiltIn(const QSize& size)
     const qreal ratio = devicePixelRatioF();
     m_builtIn = QPixmap(size * ratio);
     m_builtIn.setDevicePixelRatio(ratio);
-    m_builtIn.fill(palette().color(QPalette::Window));
+    m_builtIn.fill(QColor(palette::window.light));
     QSvgRenderer drawing(u":/wallpaper.svg"_s);
     const QSizeF covering = QSizeF(drawing.defaultSize()).scaled(size, Qt::KeepAspectRatioByExpanding);
     QRectF target(QPointF(), covering);

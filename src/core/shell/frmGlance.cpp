@@ -31,15 +31,13 @@ frmGlance::frmGlance()
     : ui(std::make_unique<Ui::frmGlance>())
 {
     ui->setupUi(this);
-    ui->chDue->setSeries({{u"Uncompleted"_s, QColor(palette::accent)},
-                          {u"Alteration"_s, QColor(palette::amber)},
-                          {u"Ready"_s, QColor(palette::accentLight)}},
+    ui->chDue->setSeries({{u"Uncompleted"_s, &palette::accent},
+                          {u"Alteration"_s, &palette::amber},
+                          {u"Ready"_s, &palette::accentLight}},
                          forms::BarChart::Bars::Stacked);
-    ui->chMoney->setSeries(
-        {{u"Booked"_s, QColor(palette::accentLight)}, {u"Taken"_s, QColor(palette::accent)}},
-        forms::BarChart::Bars::SideBySide);
-    ui->chDues->setSeries({{u"Owed by clients"_s, QColor(palette::accent)}},
-                          forms::BarChart::Bars::SideBySide);
+    ui->chMoney->setSeries({{u"Booked"_s, &palette::accentLight}, {u"Taken"_s, &palette::accent}},
+                           forms::BarChart::Bars::SideBySide);
+    ui->chDues->setSeries({{u"Owed by clients"_s, &palette::accent}}, forms::BarChart::Bars::SideBySide);
     ui->lvDues->setColumns({{u"Client"_s, forms::ListView::rest}, {u"Owes"_s, 36, Qt::AlignRight, 96}});
     ui->lvWorkers->setColumns({{u"Worker"_s, forms::ListView::rest, Qt::AlignLeft, 110},
                                {u"In hand"_s, 19, Qt::AlignRight, 62},

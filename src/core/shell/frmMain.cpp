@@ -62,7 +62,7 @@ frmMain::frmMain()
 {
     ui->setupUi(this);
     setWindowFlags(Qt::Window);
-    forms::applyIcons(*this, forms::iconLight);
+    forms::applyIcons(*this, palette::panelBright);
     ui->Image2->setPixmap(forms::picture(u"app"_s, 48));
     MyWall = new Wallpaper(ui->Picture1);
     m_copyAtStart = new CopyAtStart(this);

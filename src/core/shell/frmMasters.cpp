@@ -11,7 +11,7 @@ frmMasters::frmMasters()
     : ui(std::make_unique<Ui::frmMasters>())
 {
     ui->setupUi(this);
-    forms::applyIcons(*this, forms::iconInk);
+    forms::applyIcons(*this);
     opens<frmClients>(ui->cmdCreateNewClint);
     opens<frmWorkers>(ui->Command1);
     opens<frmAccountsList>(ui->Command2);

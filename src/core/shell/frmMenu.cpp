@@ -16,7 +16,7 @@ frmMenu::frmMenu()
     : ui(std::make_unique<Ui::frmMenu>())
 {
     ui->setupUi(this);
-    forms::applyIcons(*this, forms::iconInk);
+    forms::applyIcons(*this);
     opens<frmBirthDayRimenders>(ui->Command1);
     opens<frmDueRegister>(ui->Command2);
     opens<frmAccountBook>(ui->Command3);

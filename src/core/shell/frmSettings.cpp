@@ -9,6 +9,7 @@
 #include "messaging/modSMS.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/values/Numbers.h"
+#include "ui/Appearance.h"
 #include "ui/ModOtherFUN.h"
 #include "ui/frmSelectFile.h"
 #include "ui/modLang.h"
@@ -24,6 +25,8 @@ constexpr int LongestSMSTitle = 10;
 constexpr double longestDelivery = 36'500; ///< a hundred years of days
 
 QString checkedText(const QCheckBox& box) { return QString::number(int(box.isChecked())); }
+
+QString sizeText(int size) { return u"%1 %"_s.arg(size); }
 
 QString numberText(const QLineEdit& box) { return values::CStr(values::Val(box.text())); }
 
@@ -47,6 +50,9 @@ frmSettings::frmSettings()
     on(ui->Command3, &QPushButton::clicked, [this] { selectPicture(*ui->txtWall); });
     on(ui->Command2, &QPushButton::clicked, [this] { selectPicture(*ui->txtLogo); });
     ui->cmbLanguage->AddItems({u"English"_s, u"Hindi"_s});
+    for (const int size : textSizes)
+        ui->cmbTextSize->AddItems({sizeText(size)});
+    ui->cmbLook->AddItems({settings::ScreenLook.standard, darkLook});
     on(ui->cmbLanguage, &forms::ComboBox::currentTextChanged, &frmSettings::showWhetherHindi);
     on(ui->Command8, &QPushButton::clicked, &frmSettings::loadDefaultDrafts);
     on(ui->Command1, &QPushButton::clicked, &frmSettings::save);
@@ -84,6 +90,8 @@ void frmSettings::Form_Load()
     ui->cmbLanguage->setText(GetSetting(settings::Language));
     ui->chHindiSlip->setChecked(IsOn(settings::HindiSlip));
     showWhetherHindi();
+    ui->cmbTextSize->setText(sizeText(GetTextSize()));
+    ui->cmbLook->setText(IsDarkLook() ? darkLook : settings::ScreenLook.standard);
     ui->txtBackuppath->setText(GetSetting(settings::BackupFolder));
     check(*ui->opChangeDateAuto, settings::SystemDateAtStart);
     ui->txtStartNum->setText(GetSetting(settings::FirstJobNumber));
@@ -172,6 +180,7 @@ void frmSettings::save()
     if (!numbersFit() || !paymentArrives() || !draftsArrive())
         return;
     DE.connection().writeBatch([this] { writeSettings(); });
+    ApplyAppearance();
     ShowMsg(u"Settings Updated."_s);
 }
 
@@ -249,6 +258,10 @@ void frmSettings::writeSettings()
         SetSetting(settings::PaymentAddress, address);
     if (ui->chTwoReceipts->isChecked() != IsOn(settings::TwoReceipts))
         SetSetting(settings::TwoReceipts, checkedText(*ui->chTwoReceipts));
+    if (const int size = int(values::Val(ui->cmbTextSize->text())); size != GetTextSize())
+        SetSetting(settings::TextSize, QString::number(size));
+    if ((ui->cmbLook->text() == darkLook) != IsDarkLook())
+        SetSetting(settings::ScreenLook, ui->cmbLook->text());
     SetSetting(settings::SmsWhenFinished, ui->cmbSendAutoSMS->text());
     SetSetting(settings::SmsAfterRegistration, ui->cmbSMSJobID->text());
     SetSetting(settings::Logo, ui->txtLogo->text());

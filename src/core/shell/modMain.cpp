@@ -15,6 +15,7 @@
 #include "platform/forms/MessageBox.h"
 #include "platform/report/ListPaper.h"
 #include "registers/frmClientFolder.h"
+#include "ui/Appearance.h"
 #include "ui/PaperPrinters.h"
 
 #include <QFileInfo>
@@ -37,6 +38,7 @@ bool openDatabase()
     }
     DE.ensureIndexes();
     LoadSessionDefaults();
+    ApplyAppearance();
     clearLeftovers(GetSetting(settings::BackupFolder));
     return true;
 }

@@ -55,3 +55,14 @@ bool IsOn(const Setting& setting)
 }
 
 double GetNumber(const Setting& setting) { return values::Val(GetSetting(setting)); }
+
+int GetTextSize()
+{
+    const QString stored = GetSetting(settings::TextSize);
+    for (const int size : textSizes)
+        if (stored == QString::number(size))
+            return size;
+    return settings::TextSize.standard.toInt();
+}
+
+bool IsDarkLook() { return GetSetting(settings::ScreenLook) == darkLook; }

@@ -54,12 +54,23 @@ inline constexpr Setting LabelPrinter{47, ""_L1};
 inline constexpr Setting StatementPrinter{48, ""_L1};
 inline constexpr Setting WagesPrinter{49, ""_L1};
 inline constexpr Setting ReceiptPrinter{50, ""_L1};
-inline constexpr Setting LastBackup{29, ""_L1}; ///< the day of it, by the system's date
+inline constexpr Setting TextSize{51, "100"_L1};     ///< of the screens, in per cent
+inline constexpr Setting ScreenLook{52, "Light"_L1}; ///< of the screens: "Light" or "Dark"
+inline constexpr Setting LastBackup{29, ""_L1};      ///< the day of it, by the system's date
 
 } // namespace settings
 
 /// The value of settings::ByPhone for links of wa.me.
 inline constexpr auto byPhoneAsChat = QLatin1StringView("Chat (wa.me)");
+
+/// The value of settings::ScreenLook for light letters on dark ground.
+inline constexpr auto darkLook = QLatin1StringView("Dark");
+/// The values of settings::TextSize.
+inline constexpr int textSizes[] = {90, 100, 110, 125, 150, 160};
+
+/// Of the screens, in per cent: one of `textSizes`, 100 for anything else that is stored.
+int GetTextSize();
+bool IsDarkLook();
 
 /// Whether a switch is on: "Yes" or "1".
 bool IsOn(const Setting& setting);

@@ -161,7 +161,7 @@ void BarChart::paintLegend(QPainter& painter) const
     }
     for (const Series& series : m_series) {
         painter.setPen(QPen(QColor(palette::border), 1));
-        painter.setBrush(series.colour);
+        painter.setBrush(QColor(*series.colour));
         painter.drawRect(QRectF(x, line.center().y() - swatch / 2, swatch, swatch));
         x += swatch + gap;
         write(series.name, palette::quietInk, Qt::AlignLeft);
@@ -196,7 +196,7 @@ void BarChart::paintGroup(QPainter& painter, int group, double top) const
         const double height = std::max(0.0, shown.values[i]) / top * place.height();
         if (height > 0) {
             painter.setPen(QPen(QColor(palette::border), 0.5));
-            painter.setBrush(m_series[i].colour);
+            painter.setBrush(QColor(*m_series[i].colour));
             painter.drawRoundedRect(QRectF(x, bottom - height, width, height), rounding, rounding);
         }
         if (stacked)
@@ -219,7 +219,7 @@ void BarChart::paintGroup(QPainter& painter, int group, double top) const
     QFont font = this->font();
     font.setBold(shown.apart);
     painter.setFont(font);
-    painter.setPen(QColor(shown.apart ? palette::ink : palette::quietInk));
+    painter.setPen(QColor(shown.apart ? QRgb(palette::ink) : QRgb(palette::quietInk)));
     painter.drawText(place.adjusted(0, place.height() + gap / 2, place.width() * (step - 1), line + gap),
                      (step > 1 ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignTop, shown.label);
     painter.setFont(this->font());

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QColor>
+#include "platform/forms/Palette.h"
+
 #include <QWidget>
 #include <vector>
 
@@ -17,7 +18,7 @@ public:
     struct Series
     {
         QString name;
-        QColor colour;
+        const palette::Tone* colour;
     };
     struct Group
     {

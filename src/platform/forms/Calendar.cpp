@@ -24,10 +24,6 @@ Calendar::Calendar(QWidget* field)
     m_month->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     m_month->setHorizontalHeaderFormat(QCalendarWidget::ShortDayNames);
     m_month->setDateEditEnabled(false);
-    QTextCharFormat day;
-    day.setForeground(QColor(palette::ink));
-    for (const Qt::DayOfWeek weekend : {Qt::Saturday, Qt::Sunday})
-        m_month->setWeekdayTextFormat(weekend, day);
     connect(m_month, &QCalendarWidget::activated, this, &Calendar::take);
     connect(m_month, &QCalendarWidget::clicked, this, &Calendar::take);
     for (QWidget* each : m_month->findChildren<QWidget*>())
@@ -37,6 +33,10 @@ Calendar::Calendar(QWidget* field)
 
 void Calendar::open(const QDate& date)
 {
+    QTextCharFormat day;
+    day.setForeground(QColor(palette::ink));
+    for (const Qt::DayOfWeek weekend : {Qt::Saturday, Qt::Sunday})
+        m_month->setWeekdayTextFormat(weekend, day);
     m_month->setSelectedDate(date);
     m_month->showSelectedDate();
     adjustSize();

@@ -1,6 +1,7 @@
 #include "platform/forms/DatePicker.h"
 
 #include "platform/forms/Calendar.h"
+#include "platform/forms/Theme.h"
 #include "platform/values/Dates.h"
 
 #include <QApplication>
@@ -227,7 +228,8 @@ void DatePicker::mouseReleaseEvent(QMouseEvent* event)
 void DatePicker::paintEvent(QPaintEvent* event)
 {
     QLineEdit::paintEvent(event);
-    const QIcon chevron(hasFocus() ? u":/icons/chevron-down-light.svg"_s : u":/icons/chevron-down.svg"_s);
+    const QIcon chevron(
+        u":/icons/chevron-down%1.svg"_s.arg(artOn(hasFocus() ? palette::focusGround : palette::card)));
     QPainter painter(this);
     QRect place(0, 0, chevronSize, chevronSize);
     place.moveCenter(arrow().center());

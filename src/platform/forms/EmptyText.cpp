@@ -1,5 +1,7 @@
 #include "platform/forms/EmptyText.h"
 
+#include "platform/forms/Palette.h"
+
 #include <QAbstractItemView>
 #include <QPainter>
 
@@ -10,7 +12,7 @@ void paintEmptyText(const QAbstractItemView& list)
     constexpr int margin = 16;
     QPainter painter(list.viewport());
     painter.setFont(list.font());
-    painter.setPen(list.palette().color(QPalette::PlaceholderText));
+    painter.setPen(QColor(palette::quietInk));
     painter.drawText(list.viewport()->rect().adjusted(margin, margin, -margin, -margin),
                      Qt::AlignCenter | Qt::TextWordWrap, list.property("emptyText").toString());
 }

@@ -44,10 +44,10 @@ public:
     }
 
 private:
-    const QIcon m_folder = lineIcon(u"folder"_s, iconInk);
-    const QIcon m_file = lineIcon(u"file"_s, iconInk);
-    const QIcon m_drive = lineIcon(u"drive"_s, iconInk);
-    const QIcon m_home = lineIcon(u"home"_s, iconInk);
+    const QIcon m_folder = lineIcon(u"folder"_s);
+    const QIcon m_file = lineIcon(u"file"_s);
+    const QIcon m_drive = lineIcon(u"drive"_s);
+    const QIcon m_home = lineIcon(u"home"_s);
 };
 
 /// The drawing for a picture that styles know; empty for those of no file dialog.
@@ -101,7 +101,7 @@ OwnStyle::OwnStyle()
 QIcon OwnStyle::standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const
 {
     const QString drawing = drawingFor(which);
-    return drawing.isEmpty() ? QProxyStyle::standardIcon(which, option, widget) : lineIcon(drawing, iconInk);
+    return drawing.isEmpty() ? QProxyStyle::standardIcon(which, option, widget) : lineIcon(drawing);
 }
 
 } // namespace forms

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QColor>
+#include "platform/forms/Palette.h"
 
 class QIcon;
 class QPixmap;
@@ -12,14 +12,11 @@ namespace forms {
 /// One of the drawings of the resources (":/icons/<name>.svg"), `size` pixels of the layout wide and high.
 QPixmap picture(const QString& name, int size);
 
-/// One of the line icons of the resources (":/icons/<name>.svg"), its lines drawn in `colour`.
-QIcon lineIcon(const QString& name, const QColor& colour);
+/// One of the line icons of the resources (":/icons/<name>.svg"), its lines drawn in the tone that is on.
+QIcon lineIcon(const QString& name, const palette::Tone& tone = palette::icon);
 
-/// Gives each button of `screen` the icon that its property `iconName` names.
-void applyIcons(QWidget& screen, const QColor& colour);
-
-/// Colour of the icons on light and on dark ground.
-inline constexpr QColor iconInk{0x33, 0x41, 0x55};
-inline constexpr QColor iconLight{0xFF, 0xFF, 0xFF};
+/// Gives each button of `screen` the icon that its property `iconName` names, now and whenever the look
+/// changes. On a main button of the common look it has the colour of that button's text.
+void applyIcons(QWidget& screen, const palette::Tone& tone = palette::icon);
 
 } // namespace forms

@@ -1,6 +1,7 @@
 #include "platform/forms/ListView.h"
 
 #include "platform/forms/EmptyText.h"
+#include "platform/forms/Metrics.h"
 #include "platform/forms/Palette.h"
 #include "platform/forms/Screen.h"
 #include "platform/forms/ShapedTexts.h"
@@ -71,7 +72,7 @@ private:
     {
         if (!(cell.state & (QStyle::State_Selected | QStyle::State_MouseOver))) {
             painter.fillRect(cell.rect.left(), cell.rect.bottom(), cell.rect.width(), 1,
-                             QColor(palette::rowRule));
+                             QColor(palette::rowLine));
             return;
         }
         cell.icon = {};                        // the style would tint it, and without room for it in vain
@@ -107,7 +108,7 @@ public:
         if (role == Qt::TextAlignmentRole)
             return alignment(index.column());
         if (role == Qt::SizeHintRole)
-            return QSize(0, heightOfRow);
+            return QSize(0, int(heightOfRow * textScale));
         const Row& shown = *row(index.row());
         if (role == Qt::DisplayRole)
             return oneLine(shown.cells.value(index.column()));
@@ -239,7 +240,7 @@ private:
         case Qt::DecorationRole:
             return look.picture.isNull() ? QVariant() : look.picture;
         case Qt::ForegroundRole:
-            return look.colour.isValid() ? QVariant(look.colour) : QVariant();
+            return look.colour ? QVariant(QColor(*look.colour)) : QVariant();
         case Qt::FontRole: {
             if (!look.bold)
                 return {};
@@ -558,20 +559,21 @@ void ListView::layOutColumns()
 {
     const std::vector<Column>& columns = m_rows->columns();
     const int width = viewport()->width();
-    const auto share = [width](const Column& column) {
-        return std::max(int(width * column.percent / 100), column.least);
+    const auto least = [](const Column& column) { return int(column.least * textScale); };
+    const auto share = [&](const Column& column) {
+        return std::max(int(width * column.percent / 100), least(column));
     };
     int over = -width;
     int spare = 0;
     for (const Column& column : columns) {
         over += share(column);
-        spare += share(column) - column.least;
+        spare += share(column) - least(column);
     }
     const double given = spare > 0 ? std::clamp(double(over) / spare, 0.0, 1.0) : 0;
     for (size_t i = 0; i < columns.size(); ++i) {
         const Column& column = columns[i];
         const bool takesRest = column.percent == rest && over < 0;
-        const int shrunk = share(column) - int(std::ceil((share(column) - column.least) * given));
+        const int shrunk = share(column) - int(std::ceil((share(column) - least(column)) * given));
         header()->resizeSection(int(i), takesRest ? share(column) - over : shrunk);
     }
 }

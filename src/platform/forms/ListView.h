@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QColor>
+#include "platform/forms/Palette.h"
+
 #include <QMap>
 #include <QMetaMethod>
 #include <QPixmap>
@@ -34,7 +35,7 @@ public:
         QString toolTip; ///< it stands below the cell's text when that is cut off
         QPixmap picture; ///< in front of the text
         bool bold = false;
-        QColor colour; ///< of the text; an invalid one is the view's own
+        const palette::Tone* colour = nullptr; ///< of the text; none is the view's own
     };
     struct Row
     {

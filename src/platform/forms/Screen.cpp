@@ -5,13 +5,16 @@
 #include "platform/forms/ComboBox.h"
 #include "platform/forms/KeyPreview.h"
 #include "platform/forms/MessageBox.h"
+#include "platform/forms/Metrics.h"
 #include "platform/values/Errors.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -41,6 +44,17 @@ QString& band()
 {
     static QString text;
     return text;
+}
+
+/// Whether a control's designed size is that of its text: a field, a button, a panel of a fixed width.
+bool holdsText(const QWidget& control)
+{
+    if (qobject_cast<const QFrame*>(&control) && !qobject_cast<const QLabel*>(&control) &&
+        control.minimumWidth() == control.maximumWidth())
+        return true;
+    return qobject_cast<const QLineEdit*>(&control) || qobject_cast<const QComboBox*>(&control) ||
+           qobject_cast<const QPushButton*>(&control) || qobject_cast<const QPlainTextEdit*>(&control) ||
+           qobject_cast<const QTextEdit*>(&control);
 }
 
 void closePopups()
@@ -134,6 +148,7 @@ void Screen::load()
     }
     for (QLabel* label : findChildren<QLabel*>()) // what an operator has typed is never markup
         label->setTextFormat(Qt::PlainText);
+    fitText();
     try {
         Form_Load();
     } catch (...) {
@@ -161,7 +176,13 @@ void Screen::present()
     fitDisplay();
     show();
     activateWindow();
+    const QPointer<Screen> self = this;
     activate();
+    if (!self || !m_loaded)
+        return;
+    const QSize room = screen()->availableSize();
+    if (minimumSizeHint().boundedTo(room) != minimumSizeHint())
+        fitDisplay(); // for what has been filled in
 }
 
 /// The band takes the place of a menu bar: above the content, from edge to edge.
@@ -179,6 +200,38 @@ void Screen::showBand()
     }
     m_band->setText(band());
     m_band->setVisible(!band().isEmpty());
+}
+
+void Screen::refitAll()
+{
+    for (Screen* screen : chain()) {
+        screen->fitText();
+        screen->fitDisplay();
+    }
+}
+
+/// The sizes that screen and controls were designed with grow with the text in them.
+void Screen::fitText()
+{
+    const auto grown = [](int length) {
+        return length == QWIDGETSIZE_MAX ? length : int(length * textScale);
+    };
+    if (m_textScale != textScale && testAttribute(Qt::WA_Resized) && !isMaximized())
+        resize(size() * textScale / m_textScale);
+    if (m_textScale == textScale)
+        return;
+    m_textScale = textScale;
+    constexpr auto designed = "designedSizes";
+    for (QWidget* control : findChildren<QWidget*>()) {
+        if (!holdsText(*control))
+            continue;
+        if (!control->property(designed).isValid())
+            control->setProperty(designed, QRect(QPoint(control->minimumWidth(), 0), control->maximumSize()));
+        const QRect sizes = control->property(designed).toRect();
+        if (sizes.width() != QWIDGETSIZE_MAX)
+            control->setMinimumWidth(grown(sizes.x()));
+        control->setMaximumSize(grown(sizes.width()), grown(sizes.height()));
+    }
 }
 
 /// Makes the screen no larger than the display; content that needs more room moves into a scrolling area.
@@ -207,7 +260,8 @@ void Screen::fitDisplay()
         if (focused)
             focused->setFocus();
     }
-    resize(wanted);
+    if (!isVisible() || !isMaximized())
+        resize(wanted);
 }
 
 /// The room inside the frame of a screen that takes a share of the display. Its frame is not there yet: one

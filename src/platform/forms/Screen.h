@@ -95,6 +95,8 @@ public:
 
     /// What stands across the top of every screen that is shown from now on; empty: nothing.
     static void setBand(const QString& text);
+    /// Gives all open screens the room that their text needs at its size.
+    static void refitAll();
 
     /// The screen in front, or null.
     static Screen* front();
@@ -180,6 +182,7 @@ private:
     void present();
     void showBand();
     void fitDisplay();
+    void fitText();
     QSize shareOfDisplay() const;
     void activate();
     void leaveChain();
@@ -195,6 +198,7 @@ private:
     void focusArrived(QWidget* target);
 
     bool m_loaded = false;
+    double m_textScale = 1; ///< to which the designed sizes have been brought
     bool m_notice = false;
     bool m_usesScreenHeight = false; ///< else it is as large as its content
     QPointer<QEventLoop> m_loop;

@@ -91,16 +91,16 @@ std::unique_ptr<Report> listPaper(const forms::ListSheet& sheet)
     title.place(0, 0, paper->width() * 3 / 5, 400);
     title.FontSize = 14;
     title.Bold = true;
-    title.Color = palette::ink;
+    title.Color = palette::onPaper::ink;
     Label& heading = head.addLabel(u"lblHeading"_s, listHeading ? listHeading() : QString());
     heading.place(paper->width() * 3 / 5, 90, paper->width() * 2 / 5, 260);
     heading.FontSize = typeSize;
-    heading.Color = palette::quietInk;
+    heading.Color = palette::onPaper::quietInk;
     heading.Alignment = Qt::AlignRight;
     Label& criteria = head.addLabel(u"lblCriteria"_s, sheet.criteria.join(u"  ·  "_s));
     criteria.place(0, 420, paper->width(), 260);
     criteria.FontSize = typeSize;
-    criteria.Color = palette::quietInk;
+    criteria.Color = palette::onPaper::quietInk;
     criteria.CanGrow = true;
     if (!sheet.titles().isEmpty())
         paper::bar(head, u"Shape1"_s, 0, 740, paper->width(), 360);
@@ -114,7 +114,7 @@ std::unique_ptr<Report> listPaper(const forms::ListSheet& sheet)
             text.place(left + gap / 2, top, width, 250);
             text.FontSize = typeSize;
             text.Bold = bold;
-            text.Color = palette::ink;
+            text.Color = palette::onPaper::ink;
             text.Alignment = side;
             text.CanGrow = true;
         };

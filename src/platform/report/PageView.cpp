@@ -93,7 +93,7 @@ void PageView::paintEvent(QPaintEvent*)
     painter.fillRect(viewport()->rect(), QColor(palette::desk));
     const QRectF sheet = paper();
     painter.fillRect(sheet.translated(3, 4), QColor::fromRgba(palette::shadow));
-    painter.fillRect(sheet, Qt::white);
+    painter.fillRect(sheet, QColor(palette::onPaper::sheet));
     painter.setClipRect(sheet);
     painter.translate(sheet.topLeft());
     painter.scale(pixelsPerTwip(), pixelsPerTwip());

@@ -22,7 +22,7 @@ report::Label& caption(report::Section& section, const QString& name, const QStr
     report::Label& label = section.addLabel(name, text);
     label.place(left, top + BaseLineGap, width, LineHeight - BaseLineGap);
     label.FontSize = CaptionSize;
-    label.Color = palette::quietInk;
+    label.Color = palette::onPaper::quietInk;
     return label;
 }
 
@@ -32,7 +32,7 @@ report::Field& value(report::Section& section, const QString& name, const QStrin
     report::Field& field = section.addField(name, dataField, format);
     field.place(left, top, width, LineHeight);
     field.FontSize = ValueSize;
-    field.Color = palette::ink;
+    field.Color = palette::onPaper::ink;
     return field;
 }
 
@@ -43,7 +43,7 @@ report::Label& company(report::Section& section, int left, int top, int width, d
     label.place(left, top, width, int(fontSize * lineHeight));
     label.FontSize = fontSize;
     label.Bold = true;
-    label.Color = palette::ink;
+    label.Color = palette::onPaper::ink;
     label.Alignment = Qt::AlignHCenter;
     label.CanGrow = true;
     return label;
@@ -63,8 +63,8 @@ report::Shape& bar(report::Section& section, const QString& name, int left, int 
     report::Shape& shape = section.addShape(name);
     shape.place(left, top, width, height);
     shape.Frame = true;
-    shape.Fill = palette::shade;
-    shape.Color = palette::shade;
+    shape.Fill = palette::onPaper::shade;
+    shape.Color = palette::onPaper::shade;
     return shape;
 }
 
@@ -75,7 +75,7 @@ report::Label& subtitle(report::Section& section, const QString& name, const QSt
     report::Label& label = section.addLabel(name, text);
     label.place(0, top, width, int(fontSize * lineHeight));
     label.FontSize = fontSize;
-    label.Color = palette::quietInk;
+    label.Color = palette::onPaper::quietInk;
     label.Alignment = Qt::AlignHCenter;
     return label;
 }
@@ -101,7 +101,7 @@ void table(report::Section& titles, report::Section& lines, const std::vector<Co
         title.place(column.left, table.titleTop, column.width, TitleHeight);
         title.FontSize = table.titleSize;
         title.Bold = true;
-        title.Color = palette::ink;
+        title.Color = palette::onPaper::ink;
         report::Field& field = value(lines, column.fieldName, column.dataField, column.left, table.fieldTop,
                                      column.width, column.format);
         field.FontSize = table.fieldSize;

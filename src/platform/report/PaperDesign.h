@@ -22,7 +22,7 @@ report::Label& subtitle(report::Section& section, const QString& name, const QSt
                         int width, double fontSize);
 /// A rule across.
 report::Shape& rule(report::Section& section, const QString& name, int left, int top, int width,
-                    QRgb color = palette::hairline);
+                    QRgb color = palette::onPaper::hairline);
 /// A shaded bar behind titles.
 report::Shape& bar(report::Section& section, const QString& name, int left, int top, int width, int height);
 

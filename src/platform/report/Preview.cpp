@@ -84,8 +84,7 @@ Preview::Preview(const Report& report, QWidget* parent)
     all->setSpacing(12);
     all->addLayout(tools);
     all->addWidget(m_view, 1);
-    forms::applyIcons(*this, forms::iconInk);
-    first->setIcon(forms::lineIcon(u"print"_s, forms::iconLight));
+    forms::applyIcons(*this);
     connect(m_view, &PageView::viewChanged, this, &Preview::refresh);
     useScreenHeight();
 }
