@@ -3,6 +3,7 @@
 #include "platform/values/Literals.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -31,9 +32,12 @@ void nameControls(const QWidget& screen)
     for (QAbstractItemView* list : screen.findChildren<QAbstractItemView*>())
         if (list->accessibleName().isEmpty())
             list->setAccessibleName(spokenName(*list));
-    for (const QComboBox* box : screen.findChildren<QComboBox*>())
+    for (const QComboBox* box : screen.findChildren<QComboBox*>()) {
         if (box->isEditable())
             box->lineEdit()->setAccessibleName(spokenName(*box));
+        if (QAccessible::isActive()) // a reader goes into closed lists, too
+            box->view()->setAccessibleName(spokenName(*box));
+    }
 }
 
 } // namespace forms
