@@ -4,6 +4,7 @@
 #include "FullShop.h"
 #include "core/shell/modMain.h"
 #include "core/store/DE.h"
+#include "platform/forms/BackgroundTask.h"
 #include "platform/forms/Theme.h"
 #include "platform/report/ListKeys.h"
 
@@ -111,9 +112,12 @@ public:
         return QApplication::notify(receiver, event);
     }
     double taken() const { return m_taken; }
+    /// Work in a thread of its own, which a box with "Cancel" stands for, is not the loop's: it is waited
+    /// for, and not counted.
     bool isQuiet() const
     {
-        const bool works = m_turn.isValid() && double(m_turn.nsecsElapsed()) / 1e6 > noticeable;
+        const bool works = (m_turn.isValid() && double(m_turn.nsecsElapsed()) / 1e6 > noticeable) ||
+                           qobject_cast<forms::ProgressBox*>(QApplication::activeModalWidget());
         return !works && m_sinceWork.elapsed() >= quiet;
     }
     void restart()

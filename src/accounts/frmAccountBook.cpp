@@ -225,9 +225,9 @@ void frmAccountBook::printStatement()
 {
     const bool withRemark = ShowMsg(u"Print Account Statement with Remark?"_s, 2);
     const bool shown = !m_account.isEmpty();
-    const auto paper = StatementPaper(*m_book, shown ? m_account : ui->cmbAccount->Text(),
-                                      shown ? m_period : period.text(), withRemark);
-    report::Preview(*paper).showModal();
+    auto paper = StatementPaper(*m_book, shown ? m_account : ui->cmbAccount->Text(),
+                                shown ? m_period : period.text(), withRemark);
+    report::showPaper(this, paper->rows().size(), [&paper] { return std::move(paper); });
     ui->lvSummary->setFocus();
 }
 

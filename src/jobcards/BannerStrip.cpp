@@ -12,9 +12,10 @@ namespace {
 constexpr int Tick = 16; // milliseconds: 60 steps a second
 constexpr int Step = 1;  // pixels
 constexpr int Padding = 7;
+constexpr int widestPicture = 2000; // pixels
 
-/// A label that lays out its text once, and not again at each step: a greeting can be thousands of letters
-/// long.
+/// A label that draws its text once, and not again at each of 60 steps a second. Of a greeting that is
+/// thousands of letters long, which would make a huge picture, it lays out the text once.
 class Greeting : public QLabel
 {
 public:
@@ -26,13 +27,43 @@ protected:
         if (m_laidOut.text() != text()) {
             m_laidOut.setTextFormat(Qt::PlainText);
             m_laidOut.setText(text());
+            m_drawn = {};
         }
         QPainter painter(this);
-        painter.drawStaticText(contentsRect().topLeft(), m_laidOut);
+        if (width() > widestPicture) {
+            painter.drawStaticText(contentsRect().topLeft(), m_laidOut);
+            return;
+        }
+        if (m_drawn.isNull())
+            draw();
+        painter.drawPixmap(0, 0, m_drawn);
+    }
+    /// Type and colour change with the look of the screens, the size with the text.
+    void changeEvent(QEvent* event) override
+    {
+        m_drawn = {};
+        QLabel::changeEvent(event);
+    }
+    void resizeEvent(QResizeEvent* event) override
+    {
+        m_drawn = {};
+        QLabel::resizeEvent(event);
     }
 
 private:
+    void draw()
+    {
+        m_drawn = QPixmap(size() * devicePixelRatio());
+        m_drawn.setDevicePixelRatio(devicePixelRatio());
+        m_drawn.fill(Qt::transparent);
+        QPainter painter(&m_drawn);
+        painter.setFont(font());
+        painter.setPen(palette().color(foregroundRole()));
+        painter.drawStaticText(contentsRect().topLeft(), m_laidOut);
+    }
+
     QStaticText m_laidOut;
+    QPixmap m_drawn;
 };
 
 } // namespace

@@ -10,7 +10,7 @@
 #include "media/frmPreview.h"
 #include "platform/forms/ListSheet.h"
 #include "platform/forms/Palette.h"
-#include "platform/forms/Pictures.h"
+#include "platform/forms/Thumbnails.h"
 #include "platform/report/ListPaper.h"
 #include "platform/report/Preview.h"
 #include "ui/modLang.h"
@@ -43,8 +43,10 @@ QString ageText(const QDate& since)
 
 frmClientFolder::frmClientFolder()
     : ui(std::make_unique<Ui::frmClientFolder>())
+    , m_thumbnails(new forms::Thumbnails({pictureSize, pictureSize}, this))
 {
     ui->setupUi(this);
+    connect(m_thumbnails, &forms::Thumbnails::arrived, this, &frmClientFolder::showArrivedPictures);
     for (forms::ListView* list : {ui->lvCards, ui->lvMeasures})
         list->setSeveral(true);
     ui->lvCards->setColumns({{u"Card"_s, 15, Qt::AlignRight, 60},
@@ -198,9 +200,9 @@ void frmClientFolder::showHowMany(size_t orders)
 /// Those of the newest orders.
 void frmClientFolder::showPictures(const history::Garment& garment)
 {
-    for (QPushButton* button : m_pictures) {
-        button->hide();
-        button->deleteLater(); // its click may still be under way
+    for (const Picture& picture : m_pictures) {
+        picture.button->hide();
+        picture.button->deleteLater(); // its click may still be under way
     }
     m_pictures.clear();
     for (const history::Order& order : garment.orders) {
@@ -214,15 +216,22 @@ void frmClientFolder::showPictures(const history::Garment& garment)
                 button->setText(u"gone"_s);
                 button->setEnabled(false);
             } else {
-                button->setIcon(QIcon(forms::loadPicture(path, {pictureSize, pictureSize})));
+                button->setIcon(m_thumbnails->of(path));
             }
             button->setToolTip(order.code + u"  "_s + dateText(order.booked));
             button->setAccessibleName(u"Picture of "_s + order.code);
             on(button, &QPushButton::clicked, [path] { frmPreview().ShowImage(path); });
             ui->layPictures->insertWidget(int(m_pictures.size()), button);
-            m_pictures.push_back(button);
+            m_pictures.push_back({button, path});
         }
     }
+}
+
+void frmClientFolder::showArrivedPictures()
+{
+    for (const Picture& picture : m_pictures)
+        if (!picture.path.isEmpty())
+            picture.button->setIcon(m_thumbnails->of(picture.path));
 }
 
 void frmClientFolder::openCard()

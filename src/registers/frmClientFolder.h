@@ -8,6 +8,9 @@
 #include <optional>
 
 class QPushButton;
+namespace forms {
+class Thumbnails;
+}
 namespace Ui {
 class frmClientFolder;
 }
@@ -37,13 +40,20 @@ private:
     void showMeasurements();
     void showHowMany(size_t orders);
     void showPictures(const history::Garment& garment);
+    void showArrivedPictures();
     void openCard();
     void print();
 
     const std::unique_ptr<Ui::frmClientFolder> ui;
     QString m_client;
     std::vector<history::Garment> m_garments;
-    std::vector<QPushButton*> m_pictures;
+    struct Picture
+    {
+        QPushButton* button;
+        QString path; ///< empty: the file is gone
+    };
+    std::vector<Picture> m_pictures;
+    forms::Thumbnails* m_thumbnails;
     std::optional<ShopMoment> m_shown;
     QString m_oldBooks; ///< the file of the newest; empty: there are none
 };

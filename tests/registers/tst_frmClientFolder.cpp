@@ -85,7 +85,9 @@ private Q_SLOTS:
         Shop::run(u"Update Jobs set AmountDue=500, AmountPaid=200"_s);
         Shop::run(u"Update Jobs set Status=1 where Id=8"_s);
         const QString picture = session.imagesFolder() + u"/one.png"_s;
-        QVERIFY(QDir().mkpath(session.imagesFolder()) && QImage(9, 9, QImage::Format_RGB32).save(picture));
+        QImage red(9, 9, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        QVERIFY(QDir().mkpath(session.imagesFolder()) && red.save(picture));
         addLine(5, u"2024-02-01"_s, u"Length"_s, u"40"_s, u"DoneByWorker=2, Img1='C:\\old\\one.png'"_s);
         addLine(6, u"2024-02-01"_s, u"Length"_s, u"40"_s, u"DoneByWorker=1, Img2='gone.png'"_s);
         addLine(6, u"2024-02-01"_s, u"Length"_s, u"40"_s);
@@ -107,6 +109,8 @@ private Q_SLOTS:
                         gone << button->text();
                 }
             QCOMPARE(gone, QStringList({u"gone"_s})); // not as if none had been taken
+            const auto middle = [&] { return shown->icon().pixmap(64).toImage().pixelColor(32, 32); };
+            QTRY_COMPARE(middle(), QColor(Qt::red)); // it comes when it has been read
             onNextModal<frmPreview>([](frmPreview&) {});
             shown->click();
             onNextModal<frmEditJOB>(

@@ -27,6 +27,6 @@ for pane in page.iter(MAIN + "pane"):
     print("frozen", pane.get("ySplit"), sep="|")
 for each in page.iter(MAIN + "col"):
     print("width", each.get("min"), round(float(each.get("width"))), sep="|")
-for each in part("docProps/core.xml"):
-    if re.sub("{.*}", "", each.tag) in ("title", "subject"):
+for each in [*part("docProps/core.xml"), *part("docProps/app.xml")]:
+    if re.sub("{.*}", "", each.tag) in ("title", "subject", "Company") and each.text:
         print(re.sub("{.*}", "", each.tag), each.text, sep="|")

@@ -8,6 +8,8 @@
 #include "ui/modLang.h"
 #include "ui_frmNewBooks.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -39,7 +41,13 @@ void frmNewBooks::Form_Load()
     SetFormLanguage(*this);
     ui->LastDay->setValue(lastMonthsEnd(session.WorkingDate));
     ui->LastDay->setFocus();
-    forms::guarded(this, [this] { view(); });
+}
+
+/// When the screen first comes, it shows what a month's end would do.
+void frmNewBooks::Form_Activate()
+{
+    if (!std::exchange(m_viewed, true))
+        view();
 }
 
 void frmNewBooks::view()
@@ -47,7 +55,10 @@ void frmNewBooks::view()
     ui->LastDay->settle(); // a date that is still being typed is chosen, too
     m_plan = {};
     showPlan();
-    m_plan = newbooks::plan(ui->LastDay->value());
+    forms::runInBackground(this, u"New Books"_s,
+                           [this, lastDay = ui->LastDay->value()](const Progress& progress) {
+                               m_plan = newbooks::plan(lastDay, progress);
+                           });
     showPlan();
     ui->lvIdle->selectRow(0);
     if (!m_plan.idle.empty())

@@ -24,6 +24,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_Activate() override;
 
 private:
     void view();
@@ -34,5 +35,6 @@ private:
 
     const std::unique_ptr<Ui::frmNewBooks> ui;
     newbooks::Plan m_plan;
+    bool m_viewed = false; ///< at least once, or refused
     bool m_made = false;
 };

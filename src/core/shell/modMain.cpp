@@ -56,8 +56,9 @@ bool Main()
     setClientFolder([](const QString& client) { frmClientFolder().ShowClient(client); });
     setOldBooks(lookIntoBooks);
     rememberPrinters();
-    report::setListHeading(
-        [] { return u"%1  ·  %2"_s.arg(session.ShownShopName, dateText(session.WorkingDate)); });
+    report::setListHeading([] {
+        return report::ListHeading{session.ShownShopName, dateText(session.WorkingDate)};
+    });
     try {
         auto screen = std::make_unique<frmMain>();
         screen->prepare(); // while the file is being opened

@@ -52,17 +52,33 @@ double numberOfFirst(const QString& sql, const char* field)
 /// The order of titles: without regard to case in every script, so that "éva" stands beside "Éva".
 QString byTitle(const QString& field) { return u" order by titlekey("_s + field + u')'; }
 
-/// A shop has thousands of names: they are read past the recordset, which is left closed.
+QStringList textsOf(const QString& sql, const QString& field)
+{
+    QStringList texts;
+    ado::Reader rows = readRows(sql);
+    const auto text = rows[field.toLatin1()];
+    while (rows.next())
+        texts << text.text();
+    return texts;
+}
+
+/// A shop has thousands of names: they are read past the recordset, which is left closed, and again only when
+/// something has been written since.
 void fill(const QString& field, const QString& source, ListTarget& control, ado::Recordset& recordset)
 {
     control.Clear();
     recordset.Close();
-    QStringList texts;
-    ado::Reader rows = readRows(u"Select "_s + field + u" from "_s + source + byTitle(field));
-    const auto text = rows[field.toLatin1()];
-    while (rows.next())
-        texts << text.text();
-    control.AddItems(texts);
+    struct Names
+    {
+        QStringList texts;
+        ado::Connection::Version version;
+    };
+    static QHash<QString, Names> known;
+    const QString sql = u"Select "_s + field + u" from "_s + source + byTitle(field);
+    Names& names = known[sql];
+    if (const auto version = DE.connection().version(); names.version != version)
+        names = {textsOf(sql, field), version};
+    control.AddItems(names.texts);
 }
 
 /// A null sum, that of no rows, reads as 0.

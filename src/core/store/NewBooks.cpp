@@ -56,6 +56,15 @@ void refuseFaults(const QString& file, const QString& where, const Progress& pro
                                 faults.first()));
 }
 
+/// The first day with a card or a posting; an invalid one where there is none.
+QDate firstDay(ado::Connection& shop)
+{
+    ado::Recordset row(shop);
+    row.Open(u"Select min(Day) from (Select min(DATE) as Day from JOBS union all Select min(Date) from "
+             u"postings)"_s);
+    return QDate::fromString(row[0].text(), Qt::ISODate);
+}
+
 void readIdle(ado::Connection& shop, Plan& plan)
 {
     ado::Recordset row(shop);
@@ -87,19 +96,14 @@ QString oldBooksPath(const QDate& lastDay)
     return session.appFolder + u"/data.books-to-%1.mdb"_s.arg(lastDay.toString(Qt::ISODate));
 }
 
-Plan plan(const QDate& lastDay)
+Plan plan(const QDate& lastDay, const Progress& progress)
 {
     if (!session.LookedAt.isEmpty())
         throw OperatorError(
             u"This is the shop as it was on %1, only to be looked at: nothing in it can be changed."_s.arg(
                 session.LookedAt));
-    QDate first;
-    each(u"Select min(DATE) as Day from JOBS union all Select min(Date) from postings"_s,
-         [&](ado::Recordset& row) {
-             const QDate day = QDate::fromString(row[0].text(), Qt::ISODate);
-             if (day.isValid() && (!first.isValid() || day < first))
-                 first = day;
-         });
+    const auto shop = readShop(session.databasePath(), progress.stop);
+    const QDate first = firstDay(*shop);
     if (!first.isValid())
         throw OperatorError(u"There are no job cards and no vouchers yet: these books are new."_s);
     if (lastDay < first)
@@ -110,11 +114,12 @@ Plan plan(const QDate& lastDay)
         throw OperatorError(
             u"There are old books to %1 already. Choose another last day."_s.arg(dateText(lastDay)));
     Plan plan{.lastDay = lastDay, .idle = {}};
-    const auto shop = readShop(session.databasePath(), {});
-    choose(*shop, plan);
-    readIdle(*shop, plan);
-    plan.lines = oneOf(*shop, u"Select count(*) from JOBS_DETAIL"_s);
-    plan.linesStay = oneOf(*shop, u"Select count(*) from keptLines"_s);
+    progress.step(u"finding out who stays behind"_s, [&] {
+        choose(*shop, plan);
+        readIdle(*shop, plan);
+        plan.lines = oneOf(*shop, u"Select count(*) from JOBS_DETAIL"_s);
+        plan.linesStay = oneOf(*shop, u"Select count(*) from keptLines"_s);
+    });
     return plan;
 }
 

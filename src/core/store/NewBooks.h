@@ -40,9 +40,10 @@ struct Plan
     int linesStay = 0;      ///< that come along if nobody idle does
 };
 
-/// What closing the books with a day would do. Reads the open shop. Throws OperatorError for a shop without
-/// cards and postings, and for a last day before the first of them.
-Plan plan(const QDate& lastDay);
+/// What closing the books with a day would do. Reads the shop's file as it is; slow in a large shop; for any
+/// thread. Throws OperatorError for a shop without cards and postings, and for a last day before the first of
+/// them.
+Plan plan(const QDate& lastDay, const Progress& progress = {});
 
 /// The last day of the books before those of a file; empty for a shop's first. Throws ado::DatabaseError.
 QString lastDayBefore(const QString& file);

@@ -10,7 +10,9 @@
 #include <QListView>
 #include <QSignalBlocker>
 #include <QStringListModel>
+#include <QStyleOptionComboBox>
 #include <QWheelEvent>
+#include <algorithm>
 #include <utility>
 
 namespace forms {
@@ -24,8 +26,6 @@ ComboBox::ComboBox(QWidget* parent)
     setLineEdit(line); // setEditable() would make the list, too, which most boxes are never asked for
     setInsertPolicy(NoInsert);
     setCompleter(nullptr);
-    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(12);
     setMaxVisibleItems(12);
     setModel(m_texts);
     // A typed text that happens to be an entry is no choice of that entry.
@@ -59,6 +59,19 @@ void ComboBox::AddItems(const QStringList& texts)
 }
 
 void ComboBox::AddItem(const QString& text) { AddItems({text}); }
+
+QSize ComboBox::sizeHint() const
+{
+    constexpr int letters = 12;
+    constexpr int leastHeight = 14;
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QFontMetrics metrics(fontMetrics());
+    const QSize text(letters * metrics.horizontalAdvance(u'X'), std::max(metrics.height(), leastHeight) + 2);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this);
+}
+
+QSize ComboBox::minimumSizeHint() const { return sizeHint(); }
 
 QStringList ComboBox::texts() const { return m_texts->stringList(); }
 

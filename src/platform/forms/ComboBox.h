@@ -49,6 +49,10 @@ public:
     bool isDroppedDown() const;
 
     void showPopup() override;
+    /// As wide as a name, whatever its entries are: asked of Qt's own, which measures them, it would make the
+    /// list, too.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     /// The operator picked an entry of the list, by mouse or by arrow keys.

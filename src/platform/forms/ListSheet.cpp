@@ -11,6 +11,7 @@
 #include <QLocale>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -76,6 +77,22 @@ QString field(const QString& cell)
     return text;
 }
 
+/// A picture alone is told by what stands below the pointer.
+ListSheet::Row lineOf(ListView::Row&& row)
+{
+    ListSheet::Row line;
+    line.bold.resize(size_t(row.cells.size()));
+    line.cells = std::move(row.cells);
+    for (auto look = row.looks.cbegin(); look != row.looks.cend(); ++look) {
+        if (look.key() >= line.cells.size())
+            continue;
+        line.bold[size_t(look.key())] = look->bold;
+        if (QString& cell = line.cells[look.key()]; cell.isEmpty() && !look->picture.isNull())
+            cell = look->toolTip;
+    }
+    return line;
+}
+
 } // namespace
 
 QDate shownDay(const QString& cell) { return QLocale::c().toDate(cell, u"dd-MMM-yyyy"_s); }
@@ -89,6 +106,13 @@ QStringList ListSheet::titles() const
 }
 
 ListSheet sheetOf(const QAbstractItemView& list)
+{
+    std::vector<int> all(size_t(list.model()->rowCount()));
+    std::iota(all.begin(), all.end(), 0);
+    return sheetOf(list, all);
+}
+
+ListSheet sheetOf(const QAbstractItemView& list, const std::vector<int>& rows)
 {
     ListSheet sheet;
     sheet.title = list.window()->windowTitle();
@@ -105,15 +129,10 @@ ListSheet sheetOf(const QAbstractItemView& list)
         sheet.columns.push_back({view ? model.headerData(column, Qt::Horizontal).toString() : QString(),
                                  bool(side & Qt::AlignRight), view ? view->columnWidth(column) / digit : 0});
     }
-    for (int row = 0; row < model.rowCount(); ++row) {
-        ListSheet::Row line;
-        for (int column = 0; column < model.columnCount(); ++column) {
-            const QModelIndex cell = model.index(row, column);
-            line.cells << cell.data().toString();
-            line.bold.push_back(cell.data(Qt::FontRole).value<QFont>().bold());
-        }
-        sheet.rows.push_back(std::move(line));
-    }
+    sheet.rows.reserve(rows.size());
+    for (const int row : rows)
+        sheet.rows.push_back(view ? lineOf(view->row(row))
+                                  : ListSheet::Row{{model.index(row, 0).data().toString()}, {}});
     return sheet;
 }
 

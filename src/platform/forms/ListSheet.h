@@ -35,8 +35,9 @@ struct ListSheet
     QStringList titles() const; ///< empty where the list has none
 };
 
-/// The list of a screen, all of its rows.
+/// The list of a screen, all of its rows or some, by their numbers.
 ListSheet sheetOf(const QAbstractItemView& list);
+ListSheet sheetOf(const QAbstractItemView& list, const std::vector<int>& rows);
 
 /// The day that a cell shows ("10-Feb-2024"); an invalid one for any other text.
 QDate shownDay(const QString& cell);

@@ -171,6 +171,10 @@ public:
         endInsertRows();
         return number;
     }
+    static QString oneLine(QString text)
+    {
+        return text.contains(u'\n') ? text.remove(u'\r').replace(u'\n', u' ') : text;
+    }
     void changed(int row) { Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1)); }
     void remove(int row)
     {
@@ -229,10 +233,6 @@ private:
                     Qt::QueuedConnection);
             return {};
         }
-    }
-    static QString oneLine(QString text)
-    {
-        return text.contains(u'\n') ? text.remove(u'\r').replace(u'\n', u' ') : text;
     }
     static QVariant data(const Look& look, int role)
     {
@@ -381,6 +381,18 @@ void ListView::setCell(int row, int column, const QString& text)
         found->cells.append(QString());
     found->cells[column] = text;
     m_rows->changed(row);
+}
+
+ListView::Row ListView::row(int row) const
+{
+    const Row* found = m_rows->row(row);
+    if (!found)
+        return {};
+    Row shown = *found;
+    for (QString& cell : shown.cells)
+        cell = Model::oneLine(cell);
+    shown.cells.resize(m_rows->columnCount());
+    return shown;
 }
 
 QString ListView::cell(int row, int column) const

@@ -72,6 +72,8 @@ public:
     void refreshRows(int count, std::function<Row(int row)> make);
     void setRow(int row, const QStringList& cells);
     void setCell(int row, int column, const QString& text);
+    /// A row as it is shown, each cell in one line; empty outside the list.
+    Row row(int row) const;
     /// Empty outside the list, as is the tag.
     QString cell(int row, int column) const;
     QString tag(int row) const;

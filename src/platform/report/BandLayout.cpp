@@ -52,7 +52,8 @@ Type typeOf(const TextControl& control, const Report& report)
 
 const SetType& setType(const Type& type)
 {
-    static QHash<Type, std::shared_ptr<const SetType>> known;
+    thread_local QHash<Type, std::shared_ptr<const SetType>>
+        known; // long papers are laid out beside the screens
     std::shared_ptr<const SetType>& set = known[type];
     if (!set)
         set = std::make_shared<SetType>(type);
@@ -240,7 +241,7 @@ PlacedBand layOut(const Section& section, const Row& row, const Report& report, 
 QStringList linesOf(const QString& text, const TextControl& control, const Report& report)
 {
     const Lines wanted{text, typeOf(control, report), control.Width};
-    static QCache<Lines, QStringList> known(4000); // names and days come again and again
+    thread_local QCache<Lines, QStringList> known(4000); // names and days come again and again
     if (const QStringList* lines = known.object(wanted))
         return *lines;
     QStringList lines = brokenToWidth(text, setType(wanted.type).font, control.Width);

@@ -43,22 +43,20 @@ QAbstractItemView* listOf(QWidget* widget)
 
 void copy(const QAbstractItemView& list)
 {
-    forms::ListSheet sheet = forms::sheetOf(list);
-    QModelIndexList chosen = list.selectionModel()->selectedRows();
-    if (!chosen.isEmpty()) {
-        std::sort(chosen.begin(), chosen.end());
-        std::vector<forms::ListSheet::Row> rows;
-        for (const QModelIndex& each : chosen)
-            rows.push_back(std::move(sheet.rows[size_t(each.row())]));
-        sheet.rows = std::move(rows);
-    }
+    std::vector<int> chosen;
+    for (const QModelIndex& each : list.selectionModel()->selectedRows())
+        chosen.push_back(each.row());
+    std::sort(chosen.begin(), chosen.end());
+    const forms::ListSheet sheet = chosen.empty() ? forms::sheetOf(list) : forms::sheetOf(list, chosen);
     if (!sheet.rows.empty())
         QGuiApplication::clipboard()->setText(forms::tabbed(sheet));
 }
 
 void print(QAbstractItemView& list)
 {
-    Preview(*listPaper(forms::sheetOf(list))).showModal();
+    const forms::ListSheet sheet = forms::sheetOf(list);
+    showPaper(list.window(), sheet.rows.size(),
+              [&sheet, heading = listHeading()] { return listPaper(sheet, heading); });
     list.setFocus();
 }
 
@@ -71,7 +69,7 @@ void save(QAbstractItemView& list)
     if (path.isEmpty())
         return;
     const bool asText = path.endsWith(u".csv"_s, Qt::CaseInsensitive);
-    saveFile(asText ? forms::commaSeparated(sheet) : workbook(sheet), path);
+    saveFile(asText ? forms::commaSeparated(sheet) : workbook(sheet, listHeading().owner), path);
     forms::plainMessage(list.window(),
                         u"The list was saved for a spreadsheet:\n\n"_s + QDir::toNativeSeparators(path));
 }

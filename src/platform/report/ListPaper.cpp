@@ -70,15 +70,26 @@ void fit(std::vector<int>& widths, int room)
         width = std::min(width, cap);
 }
 
-std::function<QString()> listHeading;
+std::function<ListHeading()>& headingNow()
+{
+    static std::function<ListHeading()> heading;
+    return heading;
+}
 
 QString fieldName(size_t column, bool bold) { return (bold ? u"total%1"_s : u"cell%1"_s).arg(column); }
 
 } // namespace
 
-void setListHeading(std::function<QString()> heading) { listHeading = std::move(heading); }
+QString ListHeading::text() const
+{
+    return owner.isEmpty() || day.isEmpty() ? owner + day : u"%1  \u00B7  %2"_s.arg(owner, day);
+}
 
-std::unique_ptr<Report> listPaper(const forms::ListSheet& sheet)
+ListHeading listHeading() { return headingNow() ? headingNow()() : ListHeading(); }
+
+void setListHeading(std::function<ListHeading()> heading) { headingNow() = std::move(heading); }
+
+std::unique_ptr<Report> listPaper(const forms::ListSheet& sheet, const ListHeading& heading)
 {
     auto paper = std::make_unique<Report>(sheet.title);
     std::vector<int> widths = wanted(sheet, paper->FontFamily);
@@ -92,11 +103,11 @@ std::unique_ptr<Report> listPaper(const forms::ListSheet& sheet)
     title.FontSize = 14;
     title.Bold = true;
     title.Color = palette::onPaper::ink;
-    Label& heading = head.addLabel(u"lblHeading"_s, listHeading ? listHeading() : QString());
-    heading.place(paper->width() * 3 / 5, 90, paper->width() * 2 / 5, 260);
-    heading.FontSize = typeSize;
-    heading.Color = palette::onPaper::quietInk;
-    heading.Alignment = Qt::AlignRight;
+    Label& whose = head.addLabel(u"lblHeading"_s, heading.text());
+    whose.place(paper->width() * 3 / 5, 90, paper->width() * 2 / 5, 260);
+    whose.FontSize = typeSize;
+    whose.Color = palette::onPaper::quietInk;
+    whose.Alignment = Qt::AlignRight;
     Label& criteria = head.addLabel(u"lblCriteria"_s, sheet.criteria.join(u"  ·  "_s));
     criteria.place(0, 420, paper->width(), 260);
     criteria.FontSize = typeSize;

@@ -10,12 +10,19 @@ struct ListSheet;
 
 namespace report {
 
-/// A list as a paper: title, criteria, the columns' titles again on each page, totals, numbered pages.
-/// Upright or across, as its columns need.
-std::unique_ptr<Report> listPaper(const forms::ListSheet& sheet);
+/// Whose list it is, and of which day.
+struct ListHeading
+{
+    QString owner;
+    QString day;
+    QString text() const; ///< as it stands above a list on paper, at the right
+};
+/// Nothing until it is set.
+ListHeading listHeading();
+void setListHeading(std::function<ListHeading()> heading);
 
-/// What stands above each list on paper, at the right: whose list it is, and of which day. Nothing until it
-/// is set.
-void setListHeading(std::function<QString()> heading);
+/// A list as a paper: title, `heading`, criteria, the columns' titles again on each page, totals, numbered
+/// pages. Upright or across, as its columns need. For any thread.
+std::unique_ptr<Report> listPaper(const forms::ListSheet& sheet, const ListHeading& heading = listHeading());
 
 } // namespace report

@@ -1,6 +1,7 @@
 #include "platform/report/Pages.h"
 
 #include "platform/report/BandLayout.h"
+#include "platform/values/Progress.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -20,8 +21,9 @@ QRectF& placeOf(Piece& piece)
 class PageFiller
 {
 public:
-    explicit PageFiller(const Report& report)
+    PageFiller(const Report& report, const std::stop_token& stop)
         : m_report(report)
+        , m_stop(stop)
         , m_first(report.rows().empty() ? Row() : report.rows().front())
         , m_foot(compose(Band::PageFoot, m_first))
         , m_bottom(report.pageHeight() - report.BottomMargin - m_foot.height)
@@ -44,6 +46,7 @@ private:
     bool isFlat() const;
 
     const Report& m_report;
+    const std::stop_token m_stop;
     const Row m_first;
     const PlacedBand m_foot;
     double m_bottom;
@@ -83,6 +86,8 @@ std::vector<std::vector<Piece>> PageFiller::fill()
     startPage();
     emitSections(Band::ReportHead, m_first);
     for (const Row& row : m_report.rows()) {
+        if (m_stop.stop_requested())
+            throw Cancelled();
         if (!isFlat())
             emitGroup(row);
         else if (&row == &m_report.rows().back())
@@ -266,9 +271,9 @@ void draw(QPainter& painter, const ShapePiece& piece)
 
 } // namespace
 
-Pages::Pages(const Report& report)
+Pages::Pages(const Report& report, const std::stop_token& stop)
     : m_size(report.pageWidth(), report.pageHeight())
-    , m_pages(PageFiller(report).fill())
+    , m_pages(PageFiller(report, stop).fill())
 {
 }
 

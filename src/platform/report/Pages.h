@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QImage>
 #include <QRectF>
+#include <stop_token>
 #include <variant>
 
 class QPainter;
@@ -43,7 +44,8 @@ using Piece = std::variant<TextPiece, ImagePiece, ShapePiece, BarsPiece>;
 class Pages
 {
 public:
-    explicit Pages(const Report& report);
+    /// For any thread. Throws Cancelled when `stop` is asked for.
+    explicit Pages(const Report& report, const std::stop_token& stop = {});
 
     int count() const { return int(m_pages.size()); }
     /// In twips.

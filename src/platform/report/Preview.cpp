@@ -1,5 +1,6 @@
 #include "platform/report/Preview.h"
 
+#include "platform/forms/BackgroundTask.h"
 #include "platform/forms/Icons.h"
 #include "platform/forms/MessageBox.h"
 #include "platform/report/PageView.h"
@@ -11,6 +12,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QPushButton>
+#include <QThreadPool>
 
 using namespace Qt::StringLiterals;
 
@@ -21,16 +23,16 @@ namespace {
 constexpr double zoomStep = 1.25;
 constexpr int iconButtonWidth = 38;
 constexpr int labelGap = 14;
+constexpr size_t rowsAtOnce = 2000; ///< laid out in about a twentieth of a second
 
 QString pageText(int page, int count) { return u"Page %1 of %2"_s.arg(page).arg(count); }
 
 } // namespace
 
-Preview::Preview(const Report& report, QWidget* parent)
-    : Screen(parent)
-    , m_report(report)
-    , m_pages(report)
-    , m_view(new PageView(m_pages, this))
+Preview::Preview(const Report& report, std::shared_ptr<const Pages> pages)
+    : m_report(report)
+    , m_pages(pages ? std::move(pages) : std::make_shared<const Pages>(report))
+    , m_view(new PageView(*m_pages, this))
 {
     setObjectName(u"Preview"_s);
     m_view->setAccessibleName(report.Title);
@@ -53,13 +55,13 @@ Preview::Preview(const Report& report, QWidget* parent)
     lblPage = new QLabel;
     lblPage->setObjectName(u"lblPage"_s);
     lblPage->setAlignment(Qt::AlignCenter);
-    lblPage->setMinimumWidth(fontMetrics().horizontalAdvance(pageText(m_pages.count(), m_pages.count())) +
+    lblPage->setMinimumWidth(fontMetrics().horizontalAdvance(pageText(m_pages->count(), m_pages->count())) +
                              labelGap);
     tools->addWidget(lblPage);
     cmdNext = add(addButton(u"cmdNext"_s, {}, u"next"_s, u"Next page (Page Down)"_s,
                             [this] { m_view->turnTo(m_view->page() + 1); }));
     cmdLast = add(addButton(u"cmdLast"_s, {}, u"last"_s, u"Last page (End)"_s,
-                            [this] { m_view->turnTo(m_pages.count() - 1); }));
+                            [this] { m_view->turnTo(m_pages->count() - 1); }));
     tools->addStretch();
     add(addButton(u"cmdZoomOut"_s, {}, u"zoom-out"_s, u"Smaller (-)"_s,
                   [this] { m_view->setZoom(m_view->zoom() / zoomStep); }));
@@ -114,10 +116,10 @@ void Preview::Form_Load()
 
 void Preview::refresh()
 {
-    lblPage->setText(pageText(m_view->page() + 1, m_pages.count()));
+    lblPage->setText(pageText(m_view->page() + 1, m_pages->count()));
     lblZoom->setText(u"%1 %"_s.arg(qRound(m_view->zoom() * 100)));
     const bool before = m_view->page() > 0;
-    const bool behind = m_view->page() < m_pages.count() - 1;
+    const bool behind = m_view->page() < m_pages->count() - 1;
     cmdFirst->setEnabled(before);
     cmdPrevious->setEnabled(before);
     cmdNext->setEnabled(behind);
@@ -159,13 +161,13 @@ void Preview::Form_KeyDown(int& key, Qt::KeyboardModifiers)
     case forms::key::Home:
         return m_view->turnTo(0);
     case forms::key::End:
-        return m_view->turnTo(m_pages.count() - 1);
+        return m_view->turnTo(m_pages->count() - 1);
     default:
         key = pressed;
     }
 }
 
-void Preview::print() { PrintDialog(m_report, m_pages, this).showModal(); }
+void Preview::print() { PrintDialog(m_report, *m_pages, this).showModal(); }
 
 void Preview::saveAsPdf()
 {
@@ -174,8 +176,33 @@ void Preview::saveAsPdf()
                     {{u"pdf"_s, u"PDF files (*.pdf)"_s}});
     if (path.isEmpty())
         return;
-    saveFile(pdf(m_pages, m_report.Title), path);
+    saveFile(pdf(*m_pages, m_report.Title), path);
     forms::plainMessage(this, u"The paper was saved as a PDF file:\n\n"_s + QDir::toNativeSeparators(path));
+}
+
+void showPaper(QWidget* over, size_t rows, const std::function<std::unique_ptr<Report>()>& make)
+{
+    struct Paper
+    {
+        std::unique_ptr<Report> report;
+        std::shared_ptr<const Pages> pages;
+    };
+    auto paper = std::make_shared<Paper>();
+    const auto layOut = [&](const std::stop_token& stop) {
+        paper->report = make();
+        paper->pages = std::make_shared<const Pages>(*paper->report, stop);
+    };
+    if (rows <= rowsAtOnce) {
+        layOut({});
+    } else {
+        const QString step = u"laying out %1 rows"_s.arg(rows);
+        forms::runInBackground(over, u"Print"_s, [&](const Progress& progress) {
+            progress.step(step, [&] { layOut(progress.stop); });
+        });
+    }
+    Preview(*paper->report, paper->pages).showModal();
+    // To let go of many pages takes a while, too: the screens do not wait for it.
+    QThreadPool::globalInstance()->start([gone = std::move(paper)] {});
 }
 
 } // namespace report

@@ -3,6 +3,8 @@
 #include "platform/forms/Screen.h"
 #include "platform/report/Pages.h"
 
+#include <functional>
+
 class QLabel;
 class QPushButton;
 
@@ -16,7 +18,8 @@ class Preview : public forms::Screen
 {
     Q_OBJECT
 public:
-    explicit Preview(const Report& report, QWidget* parent = nullptr);
+    /// `pages`: the report's, where they are made already.
+    explicit Preview(const Report& report, std::shared_ptr<const Pages> pages = nullptr);
 
     const Report& report() const { return m_report; }
 
@@ -33,7 +36,7 @@ private:
     void saveAsPdf();
 
     const Report& m_report;
-    const Pages m_pages;
+    const std::shared_ptr<const Pages> m_pages;
     PageView* m_view;
     QLabel* lblPage;
     QLabel* lblZoom;
@@ -42,5 +45,9 @@ private:
     QPushButton* cmdNext;
     QPushButton* cmdLast;
 };
+
+/// Makes a paper, lays it out and shows it. For one of more `rows` than are laid out in a moment both are
+/// done in a thread of their own, and a box over the screen `over` can cancel it: throws Cancelled then.
+void showPaper(QWidget* over, size_t rows, const std::function<std::unique_ptr<Report>()>& make);
 
 } // namespace report

@@ -46,12 +46,20 @@ std::optional<double> figure(const QString& text, bool ofFigures)
     return QLocale::c().toDouble(text);
 }
 
+/// A day, also one with the days that are left behind it: "10-Feb-2024 (3 D)".
+QDate dayOf(const QString& text)
+{
+    static const QRegularExpression daysLeft(u" \\(-?\\d+ D\\)$"_s);
+    return forms::shownDay(QString(text).remove(daysLeft));
+}
+
 /// The file while it is made.
 class Book
 {
 public:
-    Book(const QByteArray& path, const forms::ListSheet& sheet)
+    Book(const QByteArray& path, const forms::ListSheet& sheet, const QString& owner)
         : m_sheet(sheet)
+        , m_owner(owner)
         , m_book(workbook_new(path.constData()))
         , m_page(workbook_add_worksheet(m_book, sheetName(sheet.title).toUtf8().constData()))
         , m_hasTitles(!sheet.titles().isEmpty())
@@ -98,9 +106,11 @@ private:
         };
         QByteArray title = property(m_sheet.title);
         QByteArray criteria = property(m_sheet.criteria.join(u", "_s));
+        QByteArray company = property(m_owner);
         lxw_doc_properties properties{};
         properties.title = title.data();
         properties.subject = criteria.data();
+        properties.company = company.data();
         workbook_set_properties(m_book, &properties);
     }
 
@@ -123,7 +133,7 @@ private:
         const double width =
             std::clamp(std::max(shown.letters, double(title.size()) + 1), leastWidth, mostWidth);
         worksheet_set_column(m_page, place, place, width, nullptr);
-        if (m_hasTitles)
+        if (m_hasTitles && !title.isEmpty())
             worksheet_write_string(m_page, 0, place, title.toUtf8().constData(), m_formats[Text][1]);
     }
 
@@ -154,7 +164,7 @@ private:
         if (const auto number = ofFigures || !m_hasTitles ? figure(text, ofFigures) : std::nullopt) {
             const Kind kind = text.contains(u'.') ? Amount : Number;
             worksheet_write_number(m_page, line, place, *number, m_formats[kind][bold]);
-        } else if (const QDate day = forms::shownDay(text); day.isValid() && day.year() > 1900) {
+        } else if (const QDate day = dayOf(text); day.isValid() && day.year() > 1900) {
             lxw_datetime when{day.year(), day.month(), day.day(), 0, 0, 0};
             worksheet_write_datetime(m_page, line, place, &when, m_formats[Day][bold]);
         } else {
@@ -164,6 +174,7 @@ private:
     }
 
     const forms::ListSheet& m_sheet;
+    const QString m_owner;
     lxw_workbook* m_book;
     lxw_worksheet* m_page;
     bool m_hasTitles;
@@ -173,11 +184,11 @@ private:
 
 } // namespace
 
-QByteArray workbook(const forms::ListSheet& sheet)
+QByteArray workbook(const forms::ListSheet& sheet, const QString& owner)
 {
     const QTemporaryDir folder;
     QFile made(folder.filePath(u"list.xlsx"_s));
-    const lxw_error error = folder.isValid() ? Book(QFile::encodeName(made.fileName()), sheet).fill()
+    const lxw_error error = folder.isValid() ? Book(QFile::encodeName(made.fileName()), sheet, owner).fill()
                                              : LXW_ERROR_CREATING_TMPFILE;
     if (error != LXW_NO_ERROR || !made.open(QIODevice::ReadOnly))
         throw OperatorError(u"The spreadsheet cannot be made: "_s + QString::fromUtf8(lxw_strerror(error)));
