@@ -2,8 +2,10 @@
 
 #include "platform/forms/Palette.h"
 
+#include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QToolTip>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +24,14 @@ void HelpLine::setNotice(const QString& notice)
     m_notice = notice;
     setAccessibleDescription(notice);
     update();
+}
+
+bool HelpLine::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QLabel::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    return true;
 }
 
 void HelpLine::paintEvent(QPaintEvent*)

@@ -3,7 +3,8 @@
 #include <QLabel>
 
 /// The line at the foot of a screen that tells its keys, as "Ctrl+A new client  ·  Esc close". It takes the
-/// room that is there and shows as many of its parts, from the left, as fit into it whole.
+/// room that is there and shows as many of its parts, from the left, as fit into it whole; the pointer on it
+/// shows all.
 class HelpLine : public QLabel
 {
     Q_OBJECT
@@ -16,6 +17,7 @@ public:
     QString notice() const { return m_notice; }
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -36,6 +36,7 @@
 #include "planning/frmRatings.h"
 #include "planning/frmWorkerReport2.h"
 #include "platform/forms/BarChart.h"
+#include "platform/forms/Theme.h"
 #include "platform/report/Pages.h"
 #include "platform/report/PrintDialog.h"
 #include "registers/frmBirthDayRimenders.h"
@@ -53,6 +54,10 @@
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QHeaderView>
+#include <QScopeGuard>
+#include <QScrollArea>
+#include <QTabBar>
 
 using namespace Qt::StringLiterals;
 
@@ -110,28 +115,8 @@ class tst_accessible : public ShopTest
     }
 
     using Open = std::function<void()>;
-    /// Calls `open`, which shows a screen modally; looks at it, and closes it.
-    void look(const QByteArray& name, const Open& open, const std::function<void(QWidget&)>& also = {})
+    void eachScreen(const std::function<void(const char* name, const Open& open)>& row)
     {
-        onNextModal<forms::Screen>([&](forms::Screen& screen) {
-            if (also)
-                also(screen);
-            const QStringList without = nameless(screen);
-            QVERIFY2(without.isEmpty(),
-                     qPrintable(QString::fromLatin1(name) + u":\n"_s + without.join(u'\n')));
-        });
-        try {
-            open();
-        } catch (const std::exception& error) {
-            QFAIL(error.what());
-        }
-    }
-
-private Q_SLOTS:
-    void everyControlHasAName_data()
-    {
-        QTest::addColumn<Open>("open");
-        const auto row = [](const char* name, const Open& open) { QTest::newRow(name) << open; };
         row("masters", [] { frmMasters().showModal(); });
         row("reports", [] { frmMenu().showModal(); });
         row("about", [] { frmAbout().showModal(); });
@@ -208,17 +193,132 @@ private Q_SLOTS:
             report::PrintDialog(*paper, report::Pages(*paper)).showModal();
         });
     }
+
+    /// What is wrong with where a control stands, and with the room for its text; empty: nothing.
+    static QString cutAt(const QWidget& control)
+    {
+        const QFontMetrics metrics(control.fontMetrics());
+        const auto letters = [&](const QString& text) {
+            return metrics.size(Qt::TextShowMnemonic, text).width();
+        };
+        const QWidget& parent = *control.parentWidget();
+        const auto* scrolls = qobject_cast<const QScrollArea*>(parent.parentWidget());
+        const auto* text = qobject_cast<const QLabel*>(&control);
+        const bool elides = control.inherits("HelpLine") ||
+                            (text && !parent.toolTip().isEmpty() && parent.toolTip() == text->text());
+        if (elides || (scrolls && scrolls->widget() == &control) ||
+            control.objectName() == "Picture1") // a grid that scrolls
+            return {};
+        if (!parent.rect().adjusted(-1, -1, 1, 1).contains(control.geometry()))
+            return u"stands outside of "_s + parent.objectName();
+        if (const auto* label = qobject_cast<const QLabel*>(&control)) {
+            const int room = label->contentsRect().width() - 2 * label->margin();
+            if (label->wordWrap() && label->heightForWidth(label->width()) > label->height() + 1)
+                return u"is too low by %1"_s.arg(label->heightForWidth(label->width()) - label->height());
+            if (!label->wordWrap() && !label->text().isEmpty() && letters(label->text()) > room + 1)
+                return u"is too narrow by %1"_s.arg(letters(label->text()) - room);
+            if (!label->text().isEmpty() && label->contentsRect().height() < metrics.height() - 1)
+                return u"is too low for a line"_s;
+        } else if (const auto* button = qobject_cast<const QAbstractButton*>(&control)) {
+            const int icon = button->icon().isNull() ? 0 : button->iconSize().width();
+            if (letters(button->text()) + icon > button->width() || button->height() < metrics.height())
+                return u"is too small"_s;
+        } else if (const auto* titles = qobject_cast<const QHeaderView*>(&control)) {
+            for (int section = 0; titles->orientation() == Qt::Horizontal && section < titles->count();
+                 ++section) {
+                const QString title = titles->model()->headerData(section, Qt::Horizontal).toString();
+                if (letters(title) > titles->sectionSize(section))
+                    return u"cuts "_s + title;
+            }
+        } else if (const auto* tabs = qobject_cast<const QTabBar*>(&control)) {
+            for (int tab = 0; tab < tabs->count(); ++tab)
+                if (letters(tabs->tabText(tab)) > tabs->tabRect(tab).width() ||
+                    tabs->tabRect(tab).right() > tabs->width())
+                    return u"cuts "_s + tabs->tabText(tab);
+        } else if (qobject_cast<const QLineEdit*>(&control) && control.height() < metrics.height()) {
+            return u"is too low for a line"_s;
+        }
+        return {};
+    }
+
+    static QStringList cut(const QWidget& screen)
+    {
+        QStringList found;
+        for (const QWidget* control : screen.findChildren<QWidget*>()) {
+            if (!control->isVisible() || control->window() != &screen)
+                continue;
+            if (const QString how = cutAt(*control); !how.isEmpty())
+                found << u"%1 %2 '%3' %4"_s.arg(
+                    QString::fromLatin1(control->metaObject()->className()), control->objectName(),
+                    told(*const_cast<QWidget*>(control), QAccessible::Name).left(40), how);
+        }
+        return found;
+    }
+
+    /// Calls `open`, which shows a screen modally; looks at it, and closes it.
+    void look(const QByteArray& name, const Open& open, const std::function<void(QWidget&)>& also = {})
+    {
+        onNextModal<forms::Screen>([&](forms::Screen& screen) {
+            if (also)
+                also(screen);
+            const QStringList without = nameless(screen);
+            QVERIFY2(without.isEmpty(),
+                     qPrintable(QString::fromLatin1(name) + u":\n"_s + without.join(u'\n')));
+        });
+        try {
+            open();
+        } catch (const std::exception& error) {
+            QFAIL(error.what());
+        }
+    }
+
+private Q_SLOTS:
+    void everyControlHasAName_data()
+    {
+        QTest::addColumn<Open>("open");
+        eachScreen([](const char* name, const Open& open) { QTest::newRow(name) << open; });
+    }
     void everyControlHasAName()
     {
         QFETCH(Open, open);
         look(QTest::currentDataTag(), open);
     }
 
+    void nothingIsCutInLargeType_data()
+    {
+        QTest::addColumn<Open>("open");
+        QTest::addColumn<int>("size");
+        for (const int size : {100, 150, 160})
+            eachScreen([size](const char* name, const Open& open) {
+                QTest::addRow("%s %d", name, size) << open << size;
+            });
+    }
+    void nothingIsCutInLargeType()
+    {
+        QFETCH(Open, open);
+        QFETCH(int, size);
+        forms::setAppearance({palette::Look::Light, size});
+        const auto back = qScopeGuard([] { forms::setAppearance({}); });
+        QStringList found;
+        onNextModal<forms::Screen>([&](forms::Screen& screen) {
+            found = cut(screen);
+            if (screen.width() > 1366 || screen.height() > 768)
+                found << u"is %1 x %2"_s.arg(screen.width()).arg(screen.height());
+        });
+        open();
+        QVERIFY2(found.isEmpty(), qPrintable(u'\n' + found.join(u'\n')));
+    }
+
     void theMainScreenToo()
     {
         inModal<frmMain>([](frmMain& main) {
-            const QStringList without = nameless(main);
-            QVERIFY2(without.isEmpty(), qPrintable(without.join(u'\n')));
+            QStringList faults = nameless(main);
+            for (const int size : {150, 160, 100}) {
+                forms::setAppearance({palette::Look::Light, size});
+                QCoreApplication::sendPostedEvents();
+                faults += cut(main);
+            }
+            QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
         });
     }
 
@@ -268,5 +368,14 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_accessible)
+/// On the display of a counter, in the program's own look.
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", COUNTER_SCREEN);
+    QApplication application(argc, argv);
+    forms::applyTheme(application, QStringLiteral(PROGRAM_FOLDER "/fonts"));
+    tst_accessible test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_accessible.moc"

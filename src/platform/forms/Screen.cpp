@@ -180,9 +180,23 @@ void Screen::present()
     activate();
     if (!self || !m_loaded)
         return;
+    fitContent();
+}
+
+/// What has been filled in since may need more room than the display has.
+void Screen::fitContent()
+{
     const QSize room = screen()->availableSize();
     if (minimumSizeHint().boundedTo(room) != minimumSizeHint())
-        fitDisplay(); // for what has been filled in
+        fitDisplay();
+}
+
+bool Screen::event(QEvent* event)
+{
+    const bool handled = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest && m_loaded && isVisible())
+        fitContent();
+    return handled;
 }
 
 /// The band takes the place of a menu bar: above the content, from edge to edge.

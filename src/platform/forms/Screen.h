@@ -161,6 +161,7 @@ protected:
     /// box.
     void setNotice(bool notice) { m_notice = notice; }
 
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -181,6 +182,7 @@ private:
 
     void present();
     void showBand();
+    void fitContent();
     void fitDisplay();
     void fitText();
     QSize shareOfDisplay() const;
