@@ -1,8 +1,15 @@
+#include "accounts/BookLines.h"
+#include "accounts/Wages.h"
+#include "accounts/rptAccountsBooks.h"
+#include "accounts/rptReceipt.h"
+#include "accounts/rptWagesRegister.h"
 #include "jobcards/MODPrintJOBCARD.h"
 #include "jobcards/frmAddItem.h"
 #include "jobcards/frmEditJOB.h"
 #include "platform/ado/DatabaseError.h"
+#include "platform/forms/ListSheet.h"
 #include "platform/forms/Theme.h"
+#include "platform/report/ListPaper.h"
 #include "platform/report/Preview.h"
 #include "platform/report/PrintDialog.h"
 #include "platform/report/Printing.h"
@@ -99,10 +106,28 @@ private Q_SLOTS:
     void papersKeepTheirFace()
     {
         storeCard();
-        const auto printed = [this] {
+        const qint32 client = GetAccountID("Asha Rao");
+        shop->addVoucher(1, client, GetAccountID("Cash"), 300);
+        const qint32 receipt =
+            Shop::value(QString("Select max(ID) from Postings where AccID=%1").arg(client)).toInt();
+        const forms::ListSheet list{"Register", {"From: 10-Feb-2024"}, {{"Line"}}, {{{"7/1"}, {true}}}};
+        const auto printed = [&] {
             QList<QImage> pages;
-            std::unique_ptr<report::Report> papers[] = {JobCardPaper(7), WorkerSlipPaper(line),
-                                                        LabelPaper(line)};
+            std::unique_ptr<report::Report> papers[] = {
+                JobCardPaper(7),
+                WorkerSlipPaper(line),
+                LabelPaper(line),
+                ReceiptPaper(receipt),
+                StatementPaper({client, session.WorkingDate, session.WorkingDate}, "Asha Rao", "Today", true),
+                wagesPaper({{.date = session.WorkingDate,
+                             .job = "7 / 1",
+                             .client = {},
+                             .item = {},
+                             .wage = {},
+                             .balance = {},
+                             .completed = {}}},
+                           "Ravi"),
+                report::listPaper(list)};
             for (const auto& paper : papers) {
                 const report::Pages laid(*paper);
                 QImage page((laid.size() / 15).toSize(), QImage::Format_RGB32);
